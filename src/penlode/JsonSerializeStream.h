@@ -1,0 +1,65 @@
+#pragma once
+
+#include "penlode/Export.h"
+#include "penlode/SerializeStream.h"
+#include "penlode/StreamProblem.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace penlode {
+
+/// The keyed stream as JSON (UTF-8): a group is an object, a value a text, a list an array of texts. On load
+/// a number or a boolean is as good as its text. Keys keep their order.
+///
+/// A stream loads from a document or saves into one. Saving into a loaded document keeps what it held under
+/// other keys, so that nothing that a newer version or another program wrote is lost.
+class PENLODE_API CJsonSerializeStream final : public CSerializeStream {
+public:
+    /// An empty document, saving.
+    CJsonSerializeStream();
+    /// Loads `json`. What is not JSON (or nests deeper than 64 levels) is an empty document and one
+    /// Unreadable problem with its line and column. `fileName` is what GetFullFileName answers.
+    explicit CJsonSerializeStream(std::string_view json, std::string fileName = {});
+    CJsonSerializeStream(CJsonSerializeStream&&) noexcept;
+    CJsonSerializeStream& operator=(CJsonSerializeStream&&) noexcept;
+    ~CJsonSerializeStream() override;
+
+    /// From here on values are saved into the document, beginning at its root.
+    void BeginSaving();
+
+    /// The document, indented by two blanks, with a final line feed.
+    std::string Text() const;
+
+    /// What the load met so far, in order.
+    const std::vector<StreamProblem>& Problems() const;
+    /// The keys of the document that no load asked for, in document order, as UnknownKey problems.
+    std::vector<StreamProblem> UnknownKeys() const;
+    /// True when the document itself could not be read.
+    bool IsUnreadable() const;
+
+    using CSerializeStream::Ser;
+    void Ser(const std::string& tag, std::vector<std::string>& values,
+             const std::vector<std::string>& defaults) override;
+    void Ser(const std::string& tag, std::string& value, const std::string& defaultValue) override;
+    int GetSize() override;
+    bool Push(const std::string& tag, int index) override;
+    bool Push(const char* tag, int index) override;
+    void Pop() override;
+    bool IsSaving() const override;
+    std::string GetTag() override;
+    void* GetObjectCreator() override;
+    std::string GetFullFileName() override;
+    void Refuse(const std::string& tag, const std::string& found, const std::string& expected) override;
+
+    /// Is there an entry of this tag in the current group? Asking does not count as loading it.
+    bool Has(const std::string& tag) const;
+
+private:
+    struct Document;
+    std::unique_ptr<Document> m_document;
+};
+
+} // namespace penlode

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "penlode/Color.h"
+#include "penlode/GraphicsTypes.h"
+
+namespace penlode {
+
+/// Dash patterns in multiples of the pen's width: dash 3-1, dot 1-1, dash-dot 3-1-1-1, dash-dot-dot
+/// 3-1-1-1-1-1. Custom carries no pattern here and is drawn solid.
+enum class DashStyle : std::int32_t { Solid = 0, Dash = 1, Dot = 2, DashDot = 3, DashDotDot = 4, Custom = 5 };
+
+enum class PenFillType : std::int32_t { SolidColor = 0 };
+
+/// A line's look: colour, width in page units (0 is the thinnest line that the surface draws) and dash style,
+/// with flat caps. A plain value; an engine makes its platform's pen of it when it draws.
+class Pen {
+public:
+    explicit Pen(penlode::Color color = kBlack, float width = 0.1F, DashStyle dashStyle = DashStyle::Solid)
+        : m_color(color), m_width(width) {
+        SetDashStyle(dashStyle);
+    }
+
+    penlode::Color GetColor() const { return m_color; }
+
+    float GetWidth() const { return m_width; }
+
+    DashStyle GetDashStyle() const { return m_dashStyle; }
+
+    PenFillType GetFillType() const { return PenFillType::SolidColor; }
+
+    void SetColor(penlode::Color color) { m_color = color; }
+
+    void SetWidth(float width) { m_width = width; }
+
+    /// A number outside the named ones is refused: the style stays and the last status becomes
+    /// InvalidParameter.
+    Status SetDashStyle(DashStyle style) {
+        const bool known = style >= DashStyle::Solid && style <= DashStyle::Custom;
+        if (known) {
+            m_dashStyle = style;
+        }
+        return m_lastStatus = known ? Status::Ok : Status::InvalidParameter;
+    }
+
+    /// What the last setter that can refuse answered.
+    Status GetLastStatus() const { return m_lastStatus; }
+
+    /// Compares what is drawn; the last status takes no part.
+    friend bool operator==(const Pen& a, const Pen& b) {
+        return a.m_color == b.m_color && a.m_width == b.m_width && a.m_dashStyle == b.m_dashStyle;
+    }
+
+private:
+    penlode::Color m_color;
+    float m_width;
+    DashStyle m_dashStyle = DashStyle::Solid;
+    Status m_lastStatus = Status::Ok;
+};
+
+} // namespace penlode
