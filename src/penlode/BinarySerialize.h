@@ -21,7 +21,8 @@ namespace penlode {
 ///     font     u8 present; family as text, f32 size, i32 style
 ///     pen      u8 present; u32 ARGB, f32 width, i32 dash style
 ///
-/// Lengths are checked against the bytes that are left before anything is allocated.
+/// Lengths are checked against the bytes that are left before anything is allocated. A write to a stream that
+/// loads does nothing; a read from one that saves fails.
 class PENLODE_API CBinarySerialize final : public ISerialize {
 public:
     /// An empty stream to save into.
@@ -58,6 +59,18 @@ public:
     bool Failed() const override { return m_problem.has_value(); }
 
 private:
+    void WriteWord(std::uint32_t word);
+    bool WritePresence(bool present);
+
+    void Fail(std::size_t offset, std::string found, std::string expected);
+    /// The next `size` bytes, or false and a problem. `what` names the value for the problem's text.
+    bool Take(std::size_t size, const char* what, std::string_view& bytes);
+    bool TakeWord(const char* what, std::uint32_t& word);
+    /// A count of items that take at least `itemSize` bytes each.
+    bool TakeLength(const char* what, std::size_t itemSize, std::uint32_t& length);
+    std::optional<bool> TakePresence();
+    void ReadDashStyle(Pen& pen);
+
     std::string m_bytes;
     std::size_t m_position = 0;
     bool m_saving;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace penlode {
 namespace {
@@ -52,6 +53,13 @@ PointD Mapped(const Matrix& m, PointF p) {
     return Mapped(m, PointD{p.X, p.Y});
 }
 
+/// Alike but for the rounding of a point that was computed in two ways. A line between such points would have
+/// no direction, and its joins would stick out.
+bool IsSamePlace(PointD a, PointD b) {
+    const auto alike = [](double u, double v) { return std::abs(u - v) <= 1e-6 * (1.0 + std::abs(u)); };
+    return alike(a.X, b.X) && alike(a.Y, b.Y);
+}
+
 /// Sends one figure, piece by piece, each joined to the last point.
 class FigureWalk {
 public:
@@ -98,7 +106,7 @@ private:
         if (!m_started) {
             m_sink.MoveTo(point);
             m_started = true;
-        } else if (point.X != m_last.X || point.Y != m_last.Y) {
+        } else if (!IsSamePlace(point, m_last)) {
             m_sink.LineTo(point);
         }
         m_last = point;

@@ -16,6 +16,10 @@ namespace penlode {
 ///
 /// A stream loads from a document or saves into one. Saving into a loaded document keeps what it held under
 /// other keys, so that nothing that a newer version or another program wrote is lost.
+///
+/// Groups of one name are a list of objects, and an index from 0 chooses one of them on load; 0 is also a
+/// lone object. Only the lone group is saved: a save into an index above 0, or deeper than 63 levels, has a
+/// Push that gives false and keeps nothing until its Pop.
 class PENLODE_API CJsonSerializeStream final : public CSerializeStream {
 public:
     /// An empty document, saving.
@@ -33,9 +37,12 @@ public:
     /// The document, indented by two blanks, with a final line feed.
     std::string Text() const;
 
-    /// What the load met so far, in order.
+    /// What the load met so far, in order: at most the first 10000. A group that is missing is one problem
+    /// and each key missing in it another. A key that the document has twice is Refused; its last value
+    /// counts.
     const std::vector<StreamProblem>& Problems() const;
-    /// The keys of the document that no load asked for, in document order, as UnknownKey problems.
+    /// The keys of the document that no load asked for, in document order, as UnknownKey problems; a group
+    /// among them is one. From BeginSaving on, what it was then.
     std::vector<StreamProblem> UnknownKeys() const;
     /// True when the document itself could not be read.
     bool IsUnreadable() const;

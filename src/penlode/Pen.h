@@ -15,7 +15,8 @@ enum class PenFillType : std::int32_t { SolidColor = 0 };
 /// with flat caps. A plain value; an engine makes its platform's pen of it when it draws.
 class Pen {
 public:
-    explicit Pen(penlode::Color color = kBlack, float width = 0.1F, DashStyle dashStyle = DashStyle::Solid)
+    constexpr explicit Pen(penlode::Color color = kBlack, float width = 0.1F,
+                           DashStyle dashStyle = DashStyle::Solid)
         : m_color(color), m_width(width) {
         SetDashStyle(dashStyle);
     }
@@ -34,7 +35,7 @@ public:
 
     /// A number outside the named ones is refused: the style stays and the last status becomes
     /// InvalidParameter.
-    Status SetDashStyle(DashStyle style) {
+    constexpr Status SetDashStyle(DashStyle style) {
         const bool known = style >= DashStyle::Solid && style <= DashStyle::Custom;
         if (known) {
             m_dashStyle = style;

@@ -4,6 +4,7 @@
 #include "penlode/GraphicsPath.h"
 #include "penlode/GraphicsTypes.h"
 
+#include <memory>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -22,7 +23,13 @@ public:
         friend bool operator==(const Nothing&, const Nothing&) = default;
     };
 
-    using Shape = std::variant<Everything, Nothing, RectF, GraphicsPath>;
+    /// A region as the operand of a step.
+    struct Nested {
+        std::shared_ptr<const Region> Area;
+        inline friend bool operator==(const Nested& a, const Nested& b);
+    };
+
+    using Shape = std::variant<Everything, Nothing, RectF, GraphicsPath, Nested>;
 
     struct Step {
         CombineMode Mode;
@@ -57,5 +64,9 @@ public:
 private:
     std::vector<Step> m_steps;
 };
+
+bool operator==(const Region::Nested& a, const Region::Nested& b) {
+    return a.Area == b.Area || (a.Area && b.Area && *a.Area == *b.Area);
+}
 
 } // namespace penlode

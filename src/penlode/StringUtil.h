@@ -32,8 +32,8 @@ public:
     static std::string WideToUtf8(std::wstring_view text);
 
     /// Bytes of the narrow character that begins at `position`: 1, 2 or 4, never past the end; 1 for a stray
-    /// byte. Second bytes may look like ASCII, so a narrow text must be walked with this, not searched
-    /// bytewise.
+    /// byte, 0 from the end on. Second bytes may look like ASCII, so a narrow text must be walked with this,
+    /// not searched bytewise.
     static std::size_t AnsiCharLength(std::string_view text, std::size_t position);
 
     /// Width and height of a text in a font: the widest of its lines, and the font's line height for each of

@@ -15,11 +15,14 @@
 ///     integer    -3
 ///     float      0.1            shortest text that reads back the same, whatever the locale
 ///     colour     #FF336699      #AARRGGBB; #RRGGBB is opaque
-///     pen        #FF000000 0.1 dash-dot     colour, width in mm, then solid (may be left out), dash, dot,
-///     dash-dot,
-///                                           dash-dot-dot or custom
-///     font       宋体 4 bold italic          family, size in mm, then any of bold, italic, underline,
-///     strikeout no pen, no font   none
+///     pen        #FF000000 0.1 dash-dot
+///                               colour, width in mm, then solid (may be left out),
+///                               dash, dot, dash-dot, dash-dot-dot or custom
+///     font       宋体 4 bold italic
+///                               family, size in mm, then any of bold, italic,
+///                               underline, strikeout; other style bits are lost,
+///                               and an empty family is sans-serif
+///     nothing    none           no pen, no font
 ///
 /// Every function turns the value into its text when `toText` is true, else the text into the value. A text
 /// that does not parse as a whole, blanks at its ends aside, leaves the value as it was and gives false.
@@ -27,6 +30,7 @@ namespace penlode {
 
 PENLODE_API bool ser_evaluate(std::int32_t& value, std::string& text, bool toText);
 PENLODE_API bool ser_evaluate(float& value, std::string& text, bool toText);
+PENLODE_API bool ser_evaluate(double& value, std::string& text, bool toText);
 PENLODE_API bool ser_evaluate(Color& value, std::string& text, bool toText);
 PENLODE_API bool ser_evaluate(Owned<Pen>& value, std::string& text, bool toText);
 PENLODE_API bool ser_evaluate(Owned<Font>& value, std::string& text, bool toText);

@@ -1,0 +1,9 @@
+# An interface target that carries the warnings every target of this project is built with.
+add_library(millichart_warnings INTERFACE)
+if(MSVC)
+  target_compile_options(millichart_warnings INTERFACE /W4 /utf-8 $<$<BOOL:${MILLICHART_WERROR}>:/WX>)
+else()
+  target_compile_options(
+    millichart_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+                                  $<$<BOOL:${MILLICHART_WERROR}>:-Werror>)
+endif()

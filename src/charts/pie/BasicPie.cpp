@@ -1,0 +1,80 @@
+#include "charts/pie/BasicPie.h"
+
+namespace millichart {
+
+using penlode::PointF;
+using penlode::RectF;
+
+namespace {
+
+constexpr float kFullSweep = 360.0F;
+constexpr float kLegendSwatchFactor = 1.0F;
+
+} // namespace
+
+void CBasicPie::SetPieProp(const PieProp& prop) {
+    m_prop = prop;
+    m_labelOffsets.resize(m_prop.Basic.ComponentName.size());
+}
+
+void CBasicPie::Layout() {
+    m_layout.Whole = {m_location.X, m_location.Y, 0.0F, 0.0F};
+    m_layout.LegendItemRects.clear();
+    const PieBasicProp& basic = m_prop.Basic;
+    const float diameter = PieDiameter(basic.FixedSize, basic.FixedWidth, basic.BaseValue, basic.BasePieWidth,
+                                       TotalOf(m_values));
+    if (!LayOutFigure({m_location, diameter, basic.StartAngle, kFullSweep, m_values, basic.ComponentName,
+                       m_prop.Label, m_labelOffsets},
+                      m_layout)) {
+        return;
+    }
+    m_layout.Whole = FigureExtent(m_layout.Pie, m_layout.LabelRects);
+    PlaceLegend();
+}
+
+void CBasicPie::PlaceLegend() {
+    if (m_prop.Legend.ShowLegend == 0) {
+        return;
+    }
+    m_layout.LegendItemRects = CLegendOperation::PlaceItems(m_prop.Legend, m_prop.Basic.ComponentName,
+                                                            m_layout.Whole, kLegendSwatchFactor);
+    for (RectF& item : m_layout.LegendItemRects) {
+        item = penlode::Translated(item, m_legendOffset);
+        m_layout.Whole = penlode::Union(m_layout.Whole, item);
+    }
+}
+
+void CBasicPie::GetChildPosition(RectF& pie, std::vector<RectF>& labels, std::vector<RectF>& legend) const {
+    pie = m_layout.Pie;
+    labels = m_layout.LabelRects;
+    legend.clear();
+    if (!m_layout.LegendItemRects.empty()) {
+        legend.push_back(UnionOf(m_layout.LegendItemRects));
+    }
+}
+
+void CBasicPie::SetChildPosition(const RectF&, const std::vector<RectF>& labels,
+                                 const std::vector<RectF>& legend) {
+    AddMoves(m_labelOffsets, m_layout.LabelRects, labels);
+    if (legend.size() == 1 && !m_layout.LegendItemRects.empty()) {
+        const PointF from = UnionOf(m_layout.LegendItemRects).TopLeft();
+        m_legendOffset = m_legendOffset + (legend.front().TopLeft() - from);
+    }
+}
+
+void CBasicPie::GetChildOffset(std::vector<PointF>& labels, std::vector<PointF>& legend) const {
+    labels = m_labelOffsets;
+    legend.clear();
+    if (!m_layout.LegendItemRects.empty()) {
+        legend.push_back(m_legendOffset);
+    }
+}
+
+void CBasicPie::SetChildOffset(const std::vector<PointF>& labels, const std::vector<PointF>& legend) {
+    m_labelOffsets = labels;
+    if (legend.size() == 1) {
+        m_legendOffset = legend.front();
+    }
+}
+
+} // namespace millichart

@@ -1,0 +1,154 @@
+#include "foundation/Legend.h"
+
+#include "foundation/TextPropertyOperation.h"
+#include "penlode/StringUtil.h"
+
+#include <algorithm>
+
+namespace millichart {
+
+using penlode::PointF;
+using penlode::RectF;
+using penlode::SizeF;
+
+namespace {
+
+constexpr float kPlotGap = 2.0F;
+constexpr float kSwatchMargin = 1.0F;
+constexpr float kSwatchFrameWidth = 0.1F;
+constexpr std::int32_t kAlongEachSide = 3;
+
+enum class Side { Left, Right, Top, Bottom };
+
+Side SideOf(std::int32_t position) {
+    return static_cast<Side>(position / kAlongEachSide);
+}
+
+bool IsNamed(std::int32_t position) {
+    return position >= LegendPosition::LeftTop && position <= LegendPosition::BottomRight;
+}
+
+/// Where `length` begins along a side that begins at `start` and is `available` long: 0 at its start, 1 in
+/// the middle, 2 at its end.
+float Aligned(std::int32_t along, float start, float available, float length) {
+    switch (along) {
+    case 0:
+        return start;
+    case 1:
+        return start + (available - length) * 0.5F;
+    default:
+        return start + available - length;
+    }
+}
+
+std::vector<SizeF> ItemSizes(const LegendProp& prop, const std::vector<std::string>& names,
+                             float swatchFactor) {
+    std::vector<SizeF> sizes;
+    sizes.reserve(names.size());
+    for (const std::string& name : names) {
+        const SizeF text = penlode::CStringUtil::MeasureString(name, prop.Font.Get());
+        sizes.push_back({text.Height * swatchFactor + text.Width, text.Height});
+    }
+    return sizes;
+}
+
+/// The items' lengths added up, with the gaps between them.
+float TotalLength(const std::vector<SizeF>& sizes, float SizeF::*length, float gap) {
+    float total = 0.0F;
+    for (const SizeF& size : sizes) {
+        total += size.*length;
+    }
+    return total + static_cast<float>(sizes.size() - 1) * gap;
+}
+
+std::vector<RectF> PlaceRow(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
+    const float width = TotalLength(sizes, &SizeF::Width, prop.ItemDist);
+    const float height = sizes.back().Height;
+    const float top =
+        SideOf(prop.LegendPos) == Side::Top ? plot.Y - height - kPlotGap : plot.Y + plot.Height + kPlotGap;
+    float x = Aligned(prop.LegendPos % kAlongEachSide, plot.X, plot.Width, width);
+    std::vector<RectF> items;
+    for (const SizeF& size : sizes) {
+        items.push_back({x, top, size.Width, size.Height});
+        x += size.Width + prop.ItemDist;
+    }
+    return items;
+}
+
+std::vector<RectF> PlaceColumn(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
+    float width = 0.0F;
+    for (const SizeF& size : sizes) {
+        width = std::max(width, size.Width);
+    }
+    const float height = TotalLength(sizes, &SizeF::Height, prop.ItemDist);
+    const float left =
+        SideOf(prop.LegendPos) == Side::Left ? plot.X - width - kPlotGap : plot.X + plot.Width + kPlotGap;
+    float y = Aligned(prop.LegendPos % kAlongEachSide, plot.Y, plot.Height, height);
+    std::vector<RectF> items;
+    for (const SizeF& size : sizes) {
+        items.push_back({left, y, size.Width, size.Height});
+        y += size.Height + prop.ItemDist;
+    }
+    return items;
+}
+
+} // namespace
+
+RectF UnionOf(const std::vector<RectF>& rects) {
+    RectF all = rects.empty() ? RectF{} : rects.front();
+    for (const RectF& rect : rects) {
+        all = penlode::Union(all, rect);
+    }
+    return all;
+}
+
+std::vector<RectF> CLegendOperation::PlaceItems(const LegendProp& prop, const std::vector<std::string>& names,
+                                                const RectF& plot, float swatchFactor) {
+    if (names.empty() || !IsNamed(prop.LegendPos)) {
+        return std::vector<RectF>(names.size());
+    }
+    const std::vector<SizeF> sizes = ItemSizes(prop, names, swatchFactor);
+    const Side side = SideOf(prop.LegendPos);
+    const bool inRow = side == Side::Top || side == Side::Bottom;
+    return inRow ? PlaceRow(prop, sizes, plot) : PlaceColumn(prop, sizes, plot);
+}
+
+void CLegendOperation::DrawBox(penlode::IGraphicsEngine* engine, const LegendProp& prop,
+                               const std::vector<RectF>& items) {
+    const RectF box = UnionOf(items);
+    if (prop.ShowBackground != 0) {
+        const penlode::SolidBrush brush{prop.BackgroundColor};
+        engine->FillRectangle(&brush, box.X, box.Y, box.Width, box.Height);
+    }
+    if (prop.ShowEdge != 0) {
+        engine->DrawRectangle(prop.PenEdge.Get(), box.X, box.Y, box.Width, box.Height);
+    }
+}
+
+void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& prop,
+                            const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
+                            const std::vector<RectF>& items) {
+    if (prop.ShowLegend == 0 || items.empty()) {
+        return;
+    }
+    DrawBox(engine, prop, items);
+    const penlode::SolidBrush black{penlode::kBlack};
+    const penlode::Pen frame(penlode::kBlack, kSwatchFrameWidth);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const RectF& item = items[i];
+        const float side = item.Height - 2.0F * kSwatchMargin;
+        const PointF corner{item.X + kSwatchMargin, item.Y + kSwatchMargin};
+        if (i < colors.size()) {
+            const penlode::SolidBrush fill{colors[i]};
+            engine->FillRectangle(&fill, corner.X, corner.Y, side, side);
+        }
+        engine->DrawRectangle(&frame, corner.X, corner.Y, side, side);
+        if (i < names.size()) {
+            const std::wstring name = penlode::CStringUtil::AnsiToWideString(names[i]);
+            const RectF place{item.X + item.Height, item.Y, item.Width - item.Height, item.Height};
+            engine->DrawString(name.c_str(), -1, prop.Font.Get(), place, &kCenteredFormat, &black);
+        }
+    }
+}
+
+} // namespace millichart

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "foundation/Export.h"
+#include "penlode/Color.h"
+#include "penlode/Font.h"
+#include "penlode/Geometry.h"
+#include "penlode/IGraphicsEngine.h"
+#include "penlode/Owned.h"
+#include "penlode/Pen.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace millichart {
+
+/// Where a legend stands: the side of the plot, then where along it. Any other number places nothing.
+///
+///                 TopLeft   TopCenter   TopRight
+///     LeftTop     +----------------------------+  RightTop
+///     LeftCenter  |            plot            |  RightCenter
+///     LeftBottom  +----------------------------+  RightBottom
+///               BottomLeft BottomCenter BottomRight
+namespace LegendPosition {
+inline constexpr std::int32_t LeftTop = 0;
+inline constexpr std::int32_t LeftCenter = 1;
+inline constexpr std::int32_t LeftBottom = 2;
+inline constexpr std::int32_t RightTop = 3;
+inline constexpr std::int32_t RightCenter = 4;
+inline constexpr std::int32_t RightBottom = 5;
+inline constexpr std::int32_t TopLeft = 6;
+inline constexpr std::int32_t TopCenter = 7;
+inline constexpr std::int32_t TopRight = 8;
+inline constexpr std::int32_t BottomLeft = 9;
+inline constexpr std::int32_t BottomCenter = 10;
+inline constexpr std::int32_t BottomRight = 11;
+} // namespace LegendPosition
+
+/// The legend that every chart shows: a column of items beside the plot or a row above or below it, each a
+/// colour square and a name.
+struct LegendProp {
+    std::int32_t ShowLegend = 0; ///< non-zero: laid out and drawn
+    std::int32_t LegendPos = LegendPosition::RightCenter;
+    std::int32_t ShowEdge = 1; ///< non-zero: the box is framed with PenEdge
+    penlode::Owned<penlode::Pen> PenEdge = penlode::Pen(penlode::kBlack, 0.1F);
+    std::int32_t ShowBackground = 0; ///< non-zero: the box is filled
+    penlode::Color BackgroundColor = penlode::kWhite;
+    float ItemDist = 0.0F; ///< mm between neighbouring items
+    penlode::Owned<penlode::Font> Font = penlode::Font{};
+
+    friend bool operator==(const LegendProp&, const LegendProp&) = default;
+};
+
+/// Places and draws the legend.
+class MILLICHART_API CLegendOperation {
+public:
+    /// One rectangle for each name, 2 mm off the plot. An item is as high as its text and as wide as its text
+    /// and a square of `swatchFactor` times that height. A position that is not named gives empty rectangles.
+    static std::vector<penlode::RectF> PlaceItems(const LegendProp& prop,
+                                                  const std::vector<std::string>& names,
+                                                  const penlode::RectF& plot, float swatchFactor);
+
+    /// Draws the box, squares and names. Nothing when the legend is off or there are no rectangles; a missing
+    /// colour leaves its square unfilled, a missing name is not written.
+    static void Draw(penlode::IGraphicsEngine* engine, const LegendProp& prop,
+                     const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
+                     const std::vector<penlode::RectF>& items);
+
+    /// The fill and the frame of the legend's box, the union of its items.
+    static void DrawBox(penlode::IGraphicsEngine* engine, const LegendProp& prop,
+                        const std::vector<penlode::RectF>& items);
+};
+
+/// The union of all rectangles; (0, 0, 0, 0) for none.
+MILLICHART_API penlode::RectF UnionOf(const std::vector<penlode::RectF>& rects);
+
+} // namespace millichart

@@ -1,0 +1,18 @@
+#include "foundation/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace millichart {
+
+std::string FixedText(double value, int decimals) {
+    constexpr int kMostDecimals = 400;
+    // The largest double has 309 digits before the point.
+    std::array<char, 320 + kMostDecimals> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::fixed, std::clamp(decimals, 0, kMostDecimals));
+    return {buffer.data(), result.ptr};
+}
+
+} // namespace millichart

@@ -1,0 +1,172 @@
+#include "foundation/SerializeFrame.h"
+
+#include "penlode/StringUtil.h"
+#include "penlode/TextForms.h"
+
+#include <algorithm>
+
+namespace millichart {
+
+using penlode::ser_evaluate;
+
+namespace {
+
+constexpr const char* kTextSeparator = "||";
+
+template <class T> std::string TextOf(T value) {
+    std::string text;
+    ser_evaluate(value, text, true);
+    return text;
+}
+
+/// "2D" or "3D"
+std::string ListedNames(EnumNames names) {
+    std::string text;
+    for (const EnumName& name : names) {
+        text += (text.empty() ? "\"" : ", \"") + std::string(name.Name) + "\"";
+    }
+    return "one of " + text;
+}
+
+std::string NameOf(std::int32_t value, EnumNames names) {
+    const auto found = std::find_if(names.begin(), names.end(),
+                                    [value](const EnumName& name) { return name.Value == value; });
+    return found == names.end() ? TextOf(value) : found->Name;
+}
+
+bool ValueOf(const std::string& text, EnumNames names, std::int32_t& value) {
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&text](const EnumName& name) { return name.Name == text; });
+    if (found == names.end()) {
+        return false;
+    }
+    value = found->Value;
+    return true;
+}
+
+} // namespace
+
+KeyedRecord::KeyedRecord(penlode::CSerializeStream& stream, const char* tag) : m_stream(stream) {
+    m_stream.Push(tag, -1);
+}
+
+KeyedRecord::~KeyedRecord() {
+    m_stream.Pop();
+}
+
+template <class T> void KeyedRecord::Number(const char* key, T& value, T defaultValue, const char* form) {
+    std::string text = TextOf(value);
+    m_stream.Ser(key, text, TextOf(defaultValue));
+    if (!m_stream.IsSaving()) {
+        value = defaultValue;
+        if (!ser_evaluate(value, text, false)) {
+            m_stream.Refuse(key, text, form);
+        }
+    }
+}
+
+void KeyedRecord::Integer(const char* key, std::int32_t& value, std::int32_t defaultValue) {
+    Number(key, value, defaultValue, penlode::kIntegerForm);
+}
+
+void KeyedRecord::Float(const char* key, float& value, float defaultValue) {
+    Number(key, value, defaultValue, penlode::kFloatForm);
+}
+
+void KeyedRecord::Text(const char* key, std::string& value, const std::string& defaultValue) {
+    m_stream.Ser(key, value, defaultValue);
+}
+
+void KeyedRecord::Enumeration(const char* key, std::int32_t& value, EnumNames names,
+                              std::int32_t defaultValue) {
+    std::string text = NameOf(value, names);
+    m_stream.Ser(key, text, NameOf(defaultValue, names));
+    if (!m_stream.IsSaving()) {
+        value = defaultValue;
+        if (!ValueOf(text, names, value)) {
+            m_stream.Refuse(key, text, ListedNames(names));
+        }
+    }
+}
+
+void KeyedRecord::Color(const char* key, penlode::Color& value, penlode::Color defaultValue) {
+    m_stream.Ser(key, value, defaultValue);
+}
+
+void KeyedRecord::Pen(const char* key, penlode::Owned<penlode::Pen>& value,
+                      const penlode::Pen& defaultValue) {
+    penlode::LendToStream(value, m_stream.IsSaving(),
+                          [&](penlode::Pen** pen) { m_stream.Ser(key, pen, defaultValue); });
+}
+
+void KeyedRecord::Font(const std::string& key, penlode::Owned<penlode::Font>& value,
+                       const penlode::Font& defaultValue) {
+    penlode::LendToStream(value, m_stream.IsSaving(),
+                          [&](penlode::Font** font) { m_stream.Ser(key, font, defaultValue); });
+}
+
+void KeyedRecord::TextList(const char* key, std::vector<std::string>& values) {
+    m_stream.Ser(key, values, {});
+}
+
+void KeyedRecord::ColorList(const char* key, std::vector<penlode::Color>& values) {
+    std::vector<std::string> texts;
+    if (m_stream.IsSaving()) {
+        std::transform(values.begin(), values.end(), std::back_inserter(texts), TextOf<penlode::Color>);
+    }
+    m_stream.Ser(key, texts, {});
+    if (m_stream.IsSaving()) {
+        return;
+    }
+    values.assign(texts.size(), penlode::kBlack);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (!ser_evaluate(values[i], texts[i], false)) {
+            m_stream.Refuse(key + std::string("/") + std::to_string(i), texts[i], penlode::kColorForm);
+        }
+    }
+}
+
+void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values) {
+    std::string joined;
+    for (const std::string& value : values) {
+        joined += value + kTextSeparator;
+    }
+    m_stream.Ser(key, joined, {});
+    if (!m_stream.IsSaving()) {
+        values = SplitJoinedTexts(joined);
+    }
+}
+
+void PositionalRecord::Field(std::vector<penlode::Color>& values) {
+    auto count = static_cast<std::int32_t>(values.size());
+    Field(count);
+    if (m_stream.IsSaving()) {
+        std::for_each(values.begin(), values.end(), [this](penlode::Color color) { m_stream.Write(color); });
+        return;
+    }
+    values.clear();
+    for (std::int32_t i = 0; i < count && !m_stream.Failed(); ++i) {
+        penlode::Color color = penlode::kBlack;
+        m_stream.Read(color);
+        if (!m_stream.Failed()) {
+            values.push_back(color);
+        }
+    }
+}
+
+std::vector<std::string> SplitJoinedTexts(const std::string& joined) {
+    std::vector<std::string> texts;
+    std::size_t start = 0;
+    for (std::size_t at = 0; at < joined.size();) {
+        if (joined.compare(at, 2, kTextSeparator) == 0) {
+            texts.push_back(joined.substr(start, at - start));
+            at += 2;
+            start = at;
+        } else {
+            at += penlode::CStringUtil::AnsiCharLength(joined, at);
+        }
+    }
+    return texts;
+}
+
+} // namespace millichart

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "penlode/Color.h"
+#include "penlode/Font.h"
+#include "penlode/Owned.h"
+
+#include <cstdint>
+#include <string>
+
+namespace millichart {
+
+/// How one text looks. Readable as constructed: black on nothing, without a frame. What a load gives where
+/// keys are missing is the serializer's (CTextPropertySerialize), and differs.
+struct TextProperty {
+    penlode::Owned<penlode::Font> Font = penlode::Font{}; ///< may be null: nothing is measured or drawn
+    penlode::Color TextColor = penlode::kBlack;
+    penlode::Color EdgeColor = penlode::kBlack; ///< of the frame round the text's box
+    penlode::Color BkColor = penlode::kWhite;   ///< fill of the text's box
+    std::int32_t DrawEdge = 0;                  ///< non-zero: frame the box
+    std::int32_t DrawBackGround = 0;            ///< non-zero: fill the box
+    std::string Prefix;                         ///< narrow text that charts put before a generated value text
+    std::string Postfix;                        ///< and after it
+    std::int32_t Angle = 0;                     ///< degrees, counter-clockwise on screen
+
+    friend bool operator==(const TextProperty&, const TextProperty&) = default;
+};
+
+/// A generated text between its record's prefix and postfix; an empty one stays empty.
+inline std::string Decorated(const std::string& text, const TextProperty& property) {
+    return text.empty() ? text : property.Prefix + text + property.Postfix;
+}
+
+} // namespace millichart

@@ -1,0 +1,314 @@
+#include "penlode/JsonSerializeStream.h"
+
+#include "penlode/JsonTree.h"
+#include "penlode/StringUtil.h"
+
+#include <optional>
+#include <unordered_set>
+#include <utility>
+
+namespace penlode {
+namespace {
+
+using Kind = StreamProblem::Kind;
+
+std::string ListText(const std::vector<std::string>& texts) {
+    if (texts.empty()) {
+        return "an empty list";
+    }
+    std::string joined = CStringUtil::AnsiToUtf8(texts.front());
+    for (std::size_t i = 1; i < texts.size(); ++i) {
+        joined += ", " + CStringUtil::AnsiToUtf8(texts[i]);
+    }
+    return joined;
+}
+
+} // namespace
+
+struct CJsonSerializeStream::Document {
+    struct Group {
+        Json* Node; ///< null for a group that is not in the document; nothing is found in it or kept
+        std::string Tag;
+        std::string Place;
+    };
+
+    Json Root = Json::object();
+    std::vector<Group> OpenGroups;
+    std::string FileName;
+    bool Saving = true;
+    bool Unreadable = false;
+    std::vector<StreamProblem> Problems;
+    std::unordered_set<const Json*> Asked;   ///< entries that a load asked for
+    std::unordered_set<const Json*> Entered; ///< the groups among them, whose own entries count too
+    std::vector<StreamProblem> UnknownBeforeSaving;
+
+    Json* Current() { return OpenGroups.empty() ? &Root : OpenGroups.back().Node; }
+
+    Json* Find(const std::string& tag);
+    Json* Ask(const std::string& tag);
+    std::string PlaceOf(const std::string& tag) const;
+    void Report(Kind what, std::string place, std::string found, std::string expected);
+    void Save(const std::string& tag, Json value);
+    std::optional<std::string> LoadText(const std::string& tag, const std::string& defaultValue);
+    std::optional<std::vector<std::string>> LoadList(const std::string& tag,
+                                                     const std::vector<std::string>& defaults);
+    std::string LoadItem(const std::string& tag, const Json::array_t& items, std::size_t index);
+    Json* EnterGroup(const std::string& tag, int index, std::string& place);
+    Json* MakeGroup(const std::string& tag, int index);
+    void AddUnknown(const Json& group, const std::string& place, std::vector<StreamProblem>& unknown) const;
+};
+
+/// The entry of the current group, or null.
+Json* CJsonSerializeStream::Document::Find(const std::string& tag) {
+    Json* const group = Current();
+    if (group == nullptr) {
+        return nullptr;
+    }
+    const auto entry = group->find(CStringUtil::AnsiToUtf8(tag));
+    return entry == group->end() ? nullptr : &*entry;
+}
+
+Json* CJsonSerializeStream::Document::Ask(const std::string& tag) {
+    Json* const entry = Find(tag);
+    if (entry != nullptr) {
+        Asked.insert(entry);
+    }
+    return entry;
+}
+
+std::string CJsonSerializeStream::Document::PlaceOf(const std::string& tag) const {
+    return JoinedPlace(OpenGroups.empty() ? std::string() : OpenGroups.back().Place,
+                       CStringUtil::AnsiToUtf8(tag));
+}
+
+/// A document that could not be read has one problem, not one for each key that it therefore lacks.
+void CJsonSerializeStream::Document::Report(Kind what, std::string place, std::string found,
+                                            std::string expected) {
+    if (!Unreadable && Problems.size() < kMostProblems) {
+        Problems.push_back({what, std::move(place), std::move(found), std::move(expected)});
+    }
+}
+
+void CJsonSerializeStream::Document::Save(const std::string& tag, Json value) {
+    if (Json* const group = Current()) {
+        (*group)[CStringUtil::AnsiToUtf8(tag)] = std::move(value);
+    }
+}
+
+std::optional<std::string> CJsonSerializeStream::Document::LoadText(const std::string& tag,
+                                                                    const std::string& defaultValue) {
+    const Json* const entry = Ask(tag);
+    if (entry == nullptr) {
+        Report(Kind::MissingKey, PlaceOf(tag), "", CStringUtil::AnsiToUtf8(defaultValue));
+        return std::nullopt;
+    }
+    auto text = ScalarText(*entry);
+    if (!text) {
+        Report(Kind::WrongType, PlaceOf(tag), Shown(*entry), "a text");
+    }
+    return text;
+}
+
+std::optional<std::vector<std::string>>
+CJsonSerializeStream::Document::LoadList(const std::string& tag, const std::vector<std::string>& defaults) {
+    const Json* const entry = Ask(tag);
+    if (entry == nullptr) {
+        Report(Kind::MissingKey, PlaceOf(tag), "", ListText(defaults));
+        return std::nullopt;
+    }
+    if (!entry->is_array()) {
+        Report(Kind::WrongType, PlaceOf(tag), Shown(*entry), "a list");
+        return std::nullopt;
+    }
+    const auto& items = entry->get_ref<const Json::array_t&>();
+    std::vector<std::string> texts;
+    texts.reserve(items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        texts.push_back(LoadItem(tag, items, i));
+    }
+    return texts;
+}
+
+/// An item that is no text is empty, so that the others keep their places.
+std::string CJsonSerializeStream::Document::LoadItem(const std::string& tag, const Json::array_t& items,
+                                                     std::size_t index) {
+    auto text = ScalarText(items[index]);
+    if (!text) {
+        Report(Kind::WrongType, JoinedPlace(PlaceOf(tag), std::to_string(index)), Shown(items[index]),
+               "a text");
+    }
+    return std::move(text).value_or(std::string());
+}
+
+/// Adds the index to the place of a group that stands in a list.
+Json* CJsonSerializeStream::Document::EnterGroup(const std::string& tag, int index, std::string& place) {
+    Json* entry = Ask(tag);
+    if (entry != nullptr && entry->is_array() && index >= 0) {
+        Entered.insert(entry);
+        const auto item = static_cast<std::size_t>(index);
+        entry = item < entry->size() ? &(*entry)[item] : nullptr;
+        place = JoinedPlace(place, std::to_string(index));
+    } else if (entry != nullptr && index > 0) {
+        Report(Kind::WrongType, place, Shown(*entry), "a list of groups");
+        return nullptr;
+    }
+    if (entry == nullptr) {
+        Report(Kind::MissingKey, place, "", "a group");
+    } else if (!entry->is_object()) {
+        Report(Kind::WrongType, place, Shown(*entry), "a group");
+    } else {
+        Entered.insert(entry);
+        return entry;
+    }
+    return nullptr;
+}
+
+/// One level is left for a list in the innermost group.
+Json* CJsonSerializeStream::Document::MakeGroup(const std::string& tag, int index) {
+    Json* const group = Current();
+    if (group == nullptr || index > 0 || OpenGroups.size() + 2 >= kMostLevels) {
+        return nullptr;
+    }
+    Json& entry = (*group)[CStringUtil::AnsiToUtf8(tag)];
+    if (!entry.is_object()) {
+        entry = Json::object();
+    }
+    return &entry;
+}
+
+void CJsonSerializeStream::Document::AddUnknown(const Json& group, const std::string& place,
+                                                std::vector<StreamProblem>& unknown) const {
+    for (const auto& [key, entry] : group.items()) {
+        const bool asked = group.is_object() ? Asked.contains(&entry) : Entered.contains(&entry);
+        if (!asked) {
+            unknown.push_back({Kind::UnknownKey, JoinedPlace(place, key), Shown(entry), ""});
+        } else if (Entered.contains(&entry)) {
+            AddUnknown(entry, JoinedPlace(place, key), unknown);
+        }
+    }
+}
+
+CJsonSerializeStream::CJsonSerializeStream() : m_document(std::make_unique<Document>()) {}
+
+CJsonSerializeStream::CJsonSerializeStream(std::string_view json, std::string fileName)
+    : m_document(std::make_unique<Document>()) {
+    auto& problems = m_document->Problems;
+    m_document->Root = BuildJsonTree(json, problems);
+    m_document->FileName = std::move(fileName);
+    m_document->Saving = false;
+    m_document->Unreadable = !problems.empty() && problems.front().What == Kind::Unreadable;
+}
+
+CJsonSerializeStream::CJsonSerializeStream(CJsonSerializeStream&&) noexcept = default;
+CJsonSerializeStream& CJsonSerializeStream::operator=(CJsonSerializeStream&&) noexcept = default;
+CJsonSerializeStream::~CJsonSerializeStream() = default;
+
+/// What was asked for is remembered by address, which saving may change.
+void CJsonSerializeStream::BeginSaving() {
+    m_document->UnknownBeforeSaving = UnknownKeys();
+    m_document->OpenGroups.clear();
+    m_document->Saving = true;
+}
+
+std::string CJsonSerializeStream::Text() const {
+    return m_document->Root.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+const std::vector<StreamProblem>& CJsonSerializeStream::Problems() const {
+    return m_document->Problems;
+}
+
+std::vector<StreamProblem> CJsonSerializeStream::UnknownKeys() const {
+    if (m_document->Saving) {
+        return m_document->UnknownBeforeSaving;
+    }
+    std::vector<StreamProblem> unknown;
+    m_document->AddUnknown(m_document->Root, "", unknown);
+    return unknown;
+}
+
+bool CJsonSerializeStream::IsUnreadable() const {
+    return m_document->Unreadable;
+}
+
+void CJsonSerializeStream::Ser(const std::string& tag, std::vector<std::string>& values,
+                               const std::vector<std::string>& defaults) {
+    if (m_document->Saving) {
+        Json::array_t items;
+        for (const std::string& value : values) {
+            items.emplace_back(CStringUtil::AnsiToUtf8(value));
+        }
+        m_document->Save(tag, std::move(items));
+    } else {
+        auto loaded = m_document->LoadList(tag, defaults);
+        values = std::move(loaded).value_or(defaults);
+    }
+}
+
+void CJsonSerializeStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
+    if (m_document->Saving) {
+        m_document->Save(tag, CStringUtil::AnsiToUtf8(value));
+    } else {
+        auto loaded = m_document->LoadText(tag, defaultValue);
+        value = std::move(loaded).value_or(defaultValue);
+    }
+}
+
+int CJsonSerializeStream::GetSize() {
+    const Json* const group = m_document->Current();
+    return group == nullptr ? 0 : static_cast<int>(group->size());
+}
+
+bool CJsonSerializeStream::Push(const std::string& tag, int index) {
+    Document& document = *m_document;
+    std::string place = document.PlaceOf(tag);
+    Json* const group =
+        document.Saving ? document.MakeGroup(tag, index) : document.EnterGroup(tag, index, place);
+    document.OpenGroups.push_back({group, tag, std::move(place)});
+    return group != nullptr;
+}
+
+bool CJsonSerializeStream::Push(const char* tag, int index) {
+    return Push(std::string(tag == nullptr ? "" : tag), index);
+}
+
+void CJsonSerializeStream::Pop() {
+    if (!m_document->OpenGroups.empty()) {
+        m_document->OpenGroups.pop_back();
+    }
+}
+
+bool CJsonSerializeStream::IsSaving() const {
+    return m_document->Saving;
+}
+
+std::string CJsonSerializeStream::GetTag() {
+    return m_document->OpenGroups.empty() ? std::string() : m_document->OpenGroups.back().Tag;
+}
+
+void* CJsonSerializeStream::GetObjectCreator() {
+    return nullptr;
+}
+
+std::string CJsonSerializeStream::GetFullFileName() {
+    return m_document->FileName;
+}
+
+/// Shows the entry as the document has it, where it is a value of its own and not an item of a list.
+void CJsonSerializeStream::Refuse(const std::string& tag, const std::string& found,
+                                  const std::string& expected) {
+    if (m_document->Saving) {
+        return;
+    }
+    const Json* const entry = m_document->Find(tag);
+    const Json shown =
+        entry != nullptr && entry->is_primitive() ? *entry : Json(CStringUtil::AnsiToUtf8(found));
+    m_document->Report(Kind::Refused, m_document->PlaceOf(tag), Shown(shown),
+                       CStringUtil::AnsiToUtf8(expected));
+}
+
+bool CJsonSerializeStream::Has(const std::string& tag) const {
+    return m_document->Find(tag) != nullptr;
+}
+
+} // namespace penlode

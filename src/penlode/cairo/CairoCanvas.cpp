@@ -1,0 +1,121 @@
+#include "penlode/cairo/CairoCanvas.h"
+
+#include "penlode/Units.h"
+
+#include <utility>
+
+namespace penlode {
+namespace {
+
+cairo_antialias_t AntialiasFor(SmoothingMode mode) {
+    const bool jagged = mode == SmoothingMode::None || mode == SmoothingMode::HighSpeed;
+    return jagged ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT;
+}
+
+constexpr double kStrongestTransform = 1e9;
+
+} // namespace
+
+CairoCanvas::CairoCanvas(CairoContext context, const CanvasSetting& setting)
+    : m_context(std::move(context)), m_setting(setting) {
+    cairo_save(m_context.get());
+}
+
+CairoCanvas::~CairoCanvas() {
+    cairo_restore(m_context.get());
+}
+
+double CairoCanvas::ThinnestLine() const {
+    return m_setting.HasPixels ? 1.0 : kThinnestPageLine * m_setting.Dpi / kMillimetresPerInch;
+}
+
+/// A context that has failed refuses everything from then on. One drawing that was too much for Cairo shall
+/// not silence the ones that follow.
+void CairoCanvas::Revive() {
+    cairo_surface_t* target = cairo_get_target(m_context.get());
+    if (m_setting.OwnsSurface && cairo_status(m_context.get()) != CAIRO_STATUS_SUCCESS &&
+        cairo_surface_status(target) == CAIRO_STATUS_SUCCESS) {
+        const CairoSurface surface(cairo_surface_reference(target));
+        m_context.reset(cairo_create(surface.get()));
+        cairo_save(m_context.get());
+        m_clip = {};
+        m_clippedTo.clear();
+    }
+}
+
+bool CairoCanvas::Begin(const CSurfaceState& state) {
+    Revive();
+    if (cairo_status(m_context.get()) != CAIRO_STATUS_SUCCESS) {
+        return false;
+    }
+    UpdateClip(state);
+    m_clip.BeginDrawing(m_context.get());
+    cairo_t* context = m_context.get();
+    const cairo_matrix_t matrix = ToCairo(m_setting.ToUserSpace);
+    cairo_set_matrix(context, &matrix);
+    cairo_new_path(context);
+    cairo_set_antialias(context, AntialiasFor(state.GetSmoothingMode()));
+    cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);
+    return true;
+}
+
+void CairoCanvas::End() {
+    const cairo_matrix_t matrix = ToCairo(m_setting.ToUserSpace);
+    cairo_set_matrix(m_context.get(), &matrix);
+    m_clip.EndDrawing(m_context.get());
+}
+
+void CairoCanvas::UpdateClip(const CSurfaceState& state) {
+    std::vector<Region> clips = state.DeviceClips();
+    if (clips == m_clippedTo) {
+        return;
+    }
+    cairo_restore(m_context.get());
+    cairo_save(m_context.get());
+    const cairo_matrix_t matrix = ToCairo(m_setting.ToUserSpace);
+    cairo_set_matrix(m_context.get(), &matrix);
+    m_clip.Apply(m_context.get(), clips,
+                 {m_setting.FromState, m_setting.HasPixels, m_setting.Area.Grown(64.0)});
+    m_clippedTo = std::move(clips);
+}
+
+Painter::Painter(CairoCanvas& canvas, const CSurfaceState& state)
+    : m_canvas(canvas), m_toDevice(state.WorldToDevice() * canvas.Setting().FromState),
+      m_snaps(canvas.Setting().HasPixels && KeepsAxesNearly(m_toDevice)),
+      m_ready(IsSound(m_toDevice, kStrongestTransform) && canvas.Begin(state)) {}
+
+Painter::~Painter() {
+    if (m_ready) {
+        m_canvas.End();
+    }
+}
+
+void Painter::SetColor(Color color) const {
+    cairo_set_source_rgba(Context(), color.R() / 255.0, color.G() / 255.0, color.B() / 255.0,
+                          color.A() / 255.0);
+}
+
+void Painter::SetMatrix(const Matrix& toDevice) const {
+    const cairo_matrix_t matrix = ToCairo(toDevice * Setting().ToUserSpace);
+    cairo_set_matrix(Context(), &matrix);
+}
+
+bool KeepsAxesNearly(const Matrix& m) {
+    constexpr double kNoise = 1e-9;
+    const double straight = std::abs(m.M11) + std::abs(m.M22);
+    const double turned = std::abs(m.M12) + std::abs(m.M21);
+    return turned <= kNoise * straight || straight <= kNoise * turned;
+}
+
+bool IsSound(const Matrix& m, double strongest) {
+    constexpr double kFlattest = 1e-6;
+    const double largest = std::max({std::abs(m.M11), std::abs(m.M12), std::abs(m.M21), std::abs(m.M22)});
+    return m.IsInvertible() && largest <= strongest && largest >= 1.0 / strongest &&
+           std::abs(m.Determinant()) >= kFlattest * largest * largest;
+}
+
+cairo_matrix_t ToCairo(const Matrix& m) {
+    return {m.M11, m.M12, m.M21, m.M22, m.Dx, m.Dy};
+}
+
+} // namespace penlode

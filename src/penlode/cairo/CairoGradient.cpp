@@ -1,0 +1,193 @@
+#include "penlode/cairo/CairoGradient.h"
+
+#include "penlode/cairo/CairoOutline.h"
+#include "penlode/cairo/CairoShapes.h"
+#include "penlode/cairo/FarClip.h"
+
+#include <array>
+
+namespace penlode {
+namespace {
+
+/// Red, green and blue from 0 to 1.
+using Tint = std::array<double, 3>;
+
+struct TintedPoint {
+    PointD Place;
+    Tint Colour;
+};
+
+Tint TintOf(const GradientVertex& v) {
+    constexpr double kFull = 0xFF00;
+    return {std::min(v.Red / kFull, 1.0), std::min(v.Green / kFull, 1.0), std::min(v.Blue / kFull, 1.0)};
+}
+
+TintedPoint Moved(const GradientArea& area, std::uint32_t index) {
+    const GradientVertex& v = area.Vertices[index];
+    return {{static_cast<double>(v.X) + area.Origin.X, static_cast<double>(v.Y) + area.Origin.Y}, TintOf(v)};
+}
+
+Tint Blend(std::span<const TintedPoint, 3> corners, const std::array<double, 3>& weights) {
+    Tint sum{};
+    for (std::size_t corner = 0; corner < 3; ++corner) {
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            sum[channel] += weights[corner] * corners[corner].Colour[channel];
+        }
+    }
+    return sum;
+}
+
+double Cross(PointD origin, PointD a, PointD b) {
+    return (a.X - origin.X) * (b.Y - origin.Y) - (a.Y - origin.Y) * (b.X - origin.X);
+}
+
+/// The colour of a flat triangle at a point of it, by the areas that the point cuts off.
+Tint TintAt(std::span<const TintedPoint, 3> t, PointD p) {
+    const double whole = Cross(t[0].Place, t[1].Place, t[2].Place);
+    const double first = std::clamp(Cross(p, t[1].Place, t[2].Place) / whole, 0.0, 1.0);
+    const double second = std::clamp(Cross(p, t[2].Place, t[0].Place) / whole, 0.0, 1.0 - first);
+    return Blend(t, {first, second, 1.0 - first - second});
+}
+
+void ClipToBounds(const Painter& painter, const RectL& bounds) {
+    const PointD a{static_cast<double>(bounds.Left), static_cast<double>(bounds.Top)};
+    const PointD b{static_cast<double>(bounds.Right), static_cast<double>(bounds.Bottom)};
+    std::vector<PointD> corners;
+    for (const PointD p : {a, PointD{b.X, a.Y}, b, PointD{a.X, b.Y}}) {
+        corners.push_back(Mapped(painter.ToDevice(), p));
+    }
+    if (painter.Snaps()) {
+        corners = PixelGrid::Face(corners);
+    }
+    AddPolygon(painter.Context(), corners, painter.FarBox());
+    cairo_clip(painter.Context());
+}
+
+/// The world rectangle in which anything can be seen.
+BoxD SeenWorld(const Painter& painter) {
+    const BoxD far = painter.FarBox();
+    const Matrix back = painter.ToDevice().Inverted();
+    const BoxD a =
+        BoxBetween(Mapped(back, PointD{far.Left, far.Top}), Mapped(back, PointD{far.Right, far.Bottom}));
+    const BoxD b =
+        BoxBetween(Mapped(back, PointD{far.Right, far.Top}), Mapped(back, PointD{far.Left, far.Bottom}));
+    return {std::min(a.Left, b.Left), std::min(a.Top, b.Top), std::max(a.Right, b.Right),
+            std::max(a.Bottom, b.Bottom)};
+}
+
+Tint Between(const Tint& a, const Tint& b, double t) {
+    return {a[0] + t * (b[0] - a[0]), a[1] + t * (b[1] - a[1]), a[2] + t * (b[2] - a[2])};
+}
+
+/// A blend along one axis, in world coordinates, cut to what can be seen.
+CairoPattern AxisBlend(const TintedPoint& from, const TintedPoint& to, bool vertical, const BoxD& seen) {
+    const auto along = [&](PointD p) { return vertical ? p.Y : p.X; };
+    const double start = along(from.Place);
+    const double end = along(to.Place);
+    const double low = vertical ? seen.Top : seen.Left;
+    const double high = vertical ? seen.Bottom : seen.Right;
+    const double first = std::clamp(start, low, high);
+    const double last = std::clamp(end, low, high);
+    CairoPattern pattern(vertical ? cairo_pattern_create_linear(0.0, first, 0.0, last)
+                                  : cairo_pattern_create_linear(first, 0.0, last, 0.0));
+    const auto stop = [&](double offset, double place) {
+        const Tint c = Between(from.Colour, to.Colour, end == start ? 0.0 : (place - start) / (end - start));
+        cairo_pattern_add_color_stop_rgb(pattern.get(), offset, c[0], c[1], c[2]);
+    };
+    stop(0.0, first);
+    stop(1.0, last);
+    return pattern;
+}
+
+void FillRect(const Painter& painter, const TintedPoint& from, const TintedPoint& to, bool vertical) {
+    const BoxD seen = SeenWorld(painter);
+    const BoxD area = BoxBetween(from.Place, to.Place);
+    const RectF rect{static_cast<float>(area.Left), static_cast<float>(area.Top),
+                     static_cast<float>(area.Width()), static_cast<float>(area.Height())};
+    GraphicsPath path;
+    path.AddRectangle(rect);
+    const std::optional<BoxD> box = DeviceBox(painter, rect);
+    if (box) {
+        AddBox(painter.Context(), *box, painter.FarBox());
+    } else {
+        AddArea(painter.Context(), path, painter.ToDevice(), painter.FarBox());
+    }
+    const CairoPattern pattern = AxisBlend(from, to, vertical, seen);
+    const cairo_matrix_t matrix = ToCairo(painter.ToDevice().Inverted());
+    cairo_pattern_set_matrix(pattern.get(), &matrix);
+    cairo_set_source(painter.Context(), pattern.get());
+    cairo_fill(painter.Context());
+}
+
+/// A patch whose fourth side has shrunk to the first corner.
+void AddPatch(cairo_pattern_t* mesh, std::span<const TintedPoint, 3> corners) {
+    cairo_mesh_pattern_begin_patch(mesh);
+    cairo_mesh_pattern_move_to(mesh, corners[0].Place.X, corners[0].Place.Y);
+    for (const std::size_t next : {1U, 2U, 0U}) {
+        cairo_mesh_pattern_line_to(mesh, corners[next].Place.X, corners[next].Place.Y);
+    }
+    for (unsigned int corner = 0; corner < 4; ++corner) {
+        const Tint& c = corners[corner % 3].Colour;
+        cairo_mesh_pattern_set_corner_color_rgb(mesh, corner, c[0], c[1], c[2]);
+    }
+    cairo_mesh_pattern_end_patch(mesh);
+}
+
+/// The triangle in device units, cut to the surface's surroundings and handed on as a fan.
+void FillTriangle(const Painter& painter, const std::array<TintedPoint, 3>& corners) {
+    if (Cross(corners[0].Place, corners[1].Place, corners[2].Place) == 0.0) {
+        return;
+    }
+    const std::vector<PointD> cut =
+        ClippedPolygon({corners[0].Place, corners[1].Place, corners[2].Place}, painter.FarBox());
+    const CairoPattern mesh(cairo_pattern_create_mesh());
+    const auto tinted = [&](PointD p) { return TintedPoint{p, TintAt(corners, p)}; };
+    for (std::size_t i = 2; i < cut.size(); ++i) {
+        const std::array<TintedPoint, 3> piece{tinted(cut[0]), tinted(cut[i - 1]), tinted(cut[i])};
+        AddPatch(mesh.get(), piece);
+    }
+    cairo_set_source(painter.Context(), mesh.get());
+    cairo_paint(painter.Context());
+}
+
+} // namespace
+
+bool FillGradientRects(const Painter& painter, const GradientArea& area, std::span<const GradientRect> rects,
+                       bool vertical) {
+    const std::size_t count = area.Vertices.size();
+    if (std::any_of(rects.begin(), rects.end(),
+                    [&](const GradientRect& r) { return r.UpperLeft >= count || r.LowerRight >= count; })) {
+        return false;
+    }
+    cairo_save(painter.Context());
+    ClipToBounds(painter, area.Bounds);
+    for (const GradientRect& rect : rects) {
+        FillRect(painter, Moved(area, rect.UpperLeft), Moved(area, rect.LowerRight), vertical);
+    }
+    cairo_restore(painter.Context());
+    return true;
+}
+
+bool FillGradientTriangles(const Painter& painter, const GradientArea& area,
+                           std::span<const GradientTriangle> triangles) {
+    const std::size_t count = area.Vertices.size();
+    if (std::any_of(triangles.begin(), triangles.end(), [&](const GradientTriangle& t) {
+            return t.Vertex1 >= count || t.Vertex2 >= count || t.Vertex3 >= count;
+        })) {
+        return false;
+    }
+    cairo_save(painter.Context());
+    ClipToBounds(painter, area.Bounds);
+    for (const GradientTriangle& triangle : triangles) {
+        std::array<TintedPoint, 3> corners{Moved(area, triangle.Vertex1), Moved(area, triangle.Vertex2),
+                                           Moved(area, triangle.Vertex3)};
+        for (TintedPoint& corner : corners) {
+            corner.Place = Mapped(painter.ToDevice(), corner.Place);
+        }
+        FillTriangle(painter, corners);
+    }
+    cairo_restore(painter.Context());
+    return true;
+}
+
+} // namespace penlode

@@ -1,0 +1,179 @@
+#include "penlode/cairo/CairoImage.h"
+
+#include "penlode/Units.h"
+#include "penlode/cairo/CairoOutline.h"
+#include "penlode/cairo/CairoShapes.h"
+
+#include <array>
+#include <cmath>
+#include <cstring>
+
+namespace penlode {
+namespace {
+
+constexpr std::int32_t kRowsPerQuestion = 64;
+
+/// An image enlarged or reduced by more is left out.
+constexpr double kStrongestScale = 1e4;
+
+/// Cairo's limit for the sides of an image.
+constexpr std::int32_t kLongestSide = 32767;
+
+/// Whole pixels of an image.
+struct PixelRect {
+    std::int32_t X;
+    std::int32_t Y;
+    std::int32_t Width;
+    std::int32_t Height;
+};
+
+double PixelsPerUnit(Unit unit, double dpi) {
+    switch (unit) {
+    case Unit::Display:
+    case Unit::Pixel:
+        return 1.0;
+    case Unit::Point:
+        return dpi / kPointsPerInch;
+    case Unit::Inch:
+        return dpi;
+    case Unit::Document:
+        return dpi / 300.0;
+    case Unit::Millimeter:
+        return dpi / kMillimetresPerInch;
+    default:
+        return 0.0;
+    }
+}
+
+/// The whole pixels that hold the part of the source inside the image.
+PixelRect Covered(const Image& image, const BoxD& source) {
+    const BoxD inside =
+        Common(source, {0.0, 0.0, static_cast<double>(image.Width), static_cast<double>(image.Height)});
+    const auto left = static_cast<std::int32_t>(std::min<double>(std::floor(inside.Left), image.Width));
+    const auto top = static_cast<std::int32_t>(std::min<double>(std::floor(inside.Top), image.Height));
+    const auto right = static_cast<std::int32_t>(std::min<double>(std::ceil(inside.Right), image.Width));
+    const auto bottom = static_cast<std::int32_t>(std::min<double>(std::ceil(inside.Bottom), image.Height));
+    return {left, top, right - left, bottom - top};
+}
+
+/// (R, G, B, A, 1) times the matrix, clamped.
+Color Adjusted(Color color, const ImageAttributes* attributes) {
+    if (attributes == nullptr) {
+        return color;
+    }
+    const std::array<float, 5> in{
+        static_cast<float>(color.R()) / 255.0F, static_cast<float>(color.G()) / 255.0F,
+        static_cast<float>(color.B()) / 255.0F, static_cast<float>(color.A()) / 255.0F, 1.0F};
+    std::array<std::uint32_t, 4> out{};
+    for (std::size_t column = 0; column < out.size(); ++column) {
+        float sum = 0.0F;
+        for (std::size_t row = 0; row < in.size(); ++row) {
+            sum += in[row] * attributes->ColorMatrix[row][column];
+        }
+        out[column] = sum > 0.0F ? static_cast<std::uint32_t>(std::lround(std::min(sum, 1.0F) * 255.0F)) : 0U;
+    }
+    return Color::FromArgb(out[3], out[0], out[1], out[2]);
+}
+
+std::uint32_t Premultiplied(Color color) {
+    const auto times = [&](std::uint32_t channel) { return (channel * color.A() + 127U) / 255U; };
+    return (color.A() << 24U) | (times(color.R()) << 16U) | (times(color.G()) << 8U) | times(color.B());
+}
+
+void CopyRow(const Image& image, const PixelRect& part, std::int32_t row, const ImageAttributes* attributes,
+             unsigned char* out) {
+    const auto first = static_cast<std::size_t>(part.Y + row) * static_cast<std::size_t>(image.Width) +
+                       static_cast<std::size_t>(part.X);
+    for (std::size_t x = 0; x < static_cast<std::size_t>(part.Width); ++x) {
+        const std::uint32_t word = Premultiplied(Adjusted(image.Pixels[first + x], attributes));
+        std::memcpy(out + 4 * x, &word, sizeof word);
+    }
+}
+
+/// A Cairo copy of a part of the image. Null when the callback asked to stop, or memory ran out.
+CairoSurface Copied(const Image& image, const PixelRect& part, const ImageDrawing& drawing, Status& status) {
+    CairoSurface copy(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, part.Width, part.Height));
+    if (cairo_surface_status(copy.get()) != CAIRO_STATUS_SUCCESS) {
+        status = Status::OutOfMemory;
+        return nullptr;
+    }
+    unsigned char* data = cairo_image_surface_get_data(copy.get());
+    const int stride = cairo_image_surface_get_stride(copy.get());
+    for (std::int32_t row = 0; row < part.Height; ++row) {
+        if (drawing.Abort != nullptr && row % kRowsPerQuestion == 0 && drawing.Abort(drawing.CallbackData)) {
+            status = Status::Aborted;
+            return nullptr;
+        }
+        CopyRow(image, part, row, drawing.Attributes, data + static_cast<std::ptrdiff_t>(row) * stride);
+    }
+    cairo_surface_mark_dirty(copy.get());
+    return copy;
+}
+
+/// The map from image pixels to device units: the source rectangle's corners land on the destination's.
+Matrix PixelsToDevice(const Painter& painter, const RectF& source, const RectF& destination) {
+    const Matrix toUnit =
+        Matrix::Translation(-source.X, -source.Y) * Matrix::Scale(1.0 / source.Width, 1.0 / source.Height);
+    const std::optional<BoxD> box = DeviceBox(painter, destination);
+    const Matrix& m = painter.ToDevice();
+    const bool upright = m.M12 == 0.0 && m.M21 == 0.0 && m.M11 > 0.0 && m.M22 > 0.0;
+    if (box && upright && destination.Width > 0.0F && destination.Height > 0.0F) {
+        return toUnit * Matrix::Scale(box->Width(), box->Height()) * Matrix::Translation(box->Left, box->Top);
+    }
+    return toUnit * Matrix::Scale(destination.Width, destination.Height) *
+           Matrix::Translation(destination.X, destination.Y) * m;
+}
+
+/// Fills the image's visible part through a pattern that repeats its outermost pixels, so that an enlarged
+/// picture keeps its edges.
+void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& part, const BoxD& visible,
+               const Matrix& pixelsToDevice) {
+    GraphicsPath area;
+    area.AddRectangle({static_cast<float>(visible.Left), static_cast<float>(visible.Top),
+                       static_cast<float>(visible.Width()), static_cast<float>(visible.Height())});
+    if (!AddArea(painter.Context(), area, pixelsToDevice, painter.FarBox())) {
+        return;
+    }
+    const CairoPattern pattern(cairo_pattern_create_for_surface(copy));
+    const cairo_matrix_t matrix = ToCairo(pixelsToDevice.Inverted() * Matrix::Translation(-part.X, -part.Y));
+    cairo_pattern_set_matrix(pattern.get(), &matrix);
+    cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+    cairo_set_source(painter.Context(), pattern.get());
+    cairo_fill(painter.Context());
+}
+
+} // namespace
+
+std::optional<RectF> SourceInPixels(const Image& image, const RectF& source, Unit unit) {
+    const double x = PixelsPerUnit(unit, image.HorizontalDpi);
+    const double y = PixelsPerUnit(unit, image.VerticalDpi);
+    if (!(x > 0.0 && y > 0.0 && std::isfinite(x) && std::isfinite(y))) {
+        return std::nullopt;
+    }
+    return RectF{static_cast<float>(source.X * x), static_cast<float>(source.Y * y),
+                 static_cast<float>(source.Width * x), static_cast<float>(source.Height * y)};
+}
+
+Status PaintImage(const Painter& painter, const Image& image, const RectF& destination,
+                  const ImageDrawing& drawing) {
+    const RectF& s = drawing.Source;
+    const BoxD source = BoxBetween({s.X, s.Y}, {s.Right(), s.Bottom()});
+    const PixelRect part = Covered(image, source);
+    const Matrix pixelsToDevice = PixelsToDevice(painter, s, destination);
+    if (part.Width <= 0 || part.Height <= 0 || !IsSound(pixelsToDevice, kStrongestScale)) {
+        return Status::Ok;
+    }
+    if (part.Width > kLongestSide || part.Height > kLongestSide) {
+        return Status::ValueOverflow;
+    }
+    Status status = Status::Ok;
+    const CairoSurface copy = Copied(image, part, drawing, status);
+    if (copy != nullptr) {
+        const BoxD visible =
+            Common(source, {0.0, 0.0, static_cast<double>(image.Width), static_cast<double>(image.Height)});
+        PaintPart(painter, copy.get(), part, visible, pixelsToDevice);
+    }
+    return status;
+}
+
+} // namespace penlode

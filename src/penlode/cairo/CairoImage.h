@@ -1,0 +1,24 @@
+#pragma once
+
+#include "penlode/IGraphicsEngine.h"
+#include "penlode/cairo/CairoCanvas.h"
+
+namespace penlode {
+
+/// How an image is drawn beside where it goes.
+struct ImageDrawing {
+    RectF Source; ///< in pixels of the image; a negative extent mirrors
+    const ImageAttributes* Attributes = nullptr;
+    DrawImageAbort Abort = nullptr;
+    void* CallbackData = nullptr;
+};
+
+/// A source rectangle in pixels; nothing for a unit that an image does not have.
+std::optional<RectF> SourceInPixels(const Image& image, const RectF& source, Unit unit);
+
+/// Draws the part of the source that the image covers on the part of `destination` that belongs to it. On
+/// pixels the destination's edges stand on the grid.
+Status PaintImage(const Painter& painter, const Image& image, const RectF& destination,
+                  const ImageDrawing& drawing);
+
+} // namespace penlode

@@ -1,0 +1,146 @@
+#include "penlode/cairo/CairoText.h"
+
+#include "penlode/StringUtil.h"
+#include "penlode/TextPlacement.h"
+#include "penlode/cairo/CairoOutline.h"
+#include "penlode/cairo/PangoText.h"
+
+#include <array>
+#include <pango/pangocairo.h>
+
+namespace penlode {
+namespace {
+
+constexpr double kLargestEm = 16384.0;
+constexpr double kSmallestEm = 0.1;
+
+/// On pixels, Cairo 1.16 puts each letter on a whole pixel: small ones stand unevenly, and dance on a slanted
+/// line. Up to this em size, in pixels, they are drawn as outlines, which keep their exact places; larger
+/// ones as letters, at a tenth of the time.
+constexpr double kLargestOutlineEm = 32.0;
+
+/// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
+/// for every face, clear of ideographs as of Latin letters.
+constexpr double kUnderline = -0.18;
+constexpr double kStrikeout = 0.3;
+constexpr double kDecorationThickness = 0.05;
+
+/// Cairo's coordinates wrap around at twice this distance.
+constexpr double kFarthest = 4194304.0;
+
+/// The map from a set line's own units, its baseline beginning at (0, 0), to device units.
+Matrix LineToDevice(const Painter& painter, const PlacedLine& line, const Font& font) {
+    const double scale = font.Size / kSetEm;
+    return Matrix::Scale(scale, scale) * Matrix::Translation(line.Baseline.X, line.Baseline.Y) *
+           painter.ToDevice();
+}
+
+/// Moves a baseline that runs along an axis to a whole pixel.
+Matrix OnWholePixel(const Painter& painter, Matrix m) {
+    if (painter.Snaps()) {
+        const bool horizontal = std::abs(m.M11) > std::abs(m.M12);
+        double& across = horizontal ? m.Dy : m.Dx;
+        across = PixelGrid::Edge(across);
+    }
+    return m;
+}
+
+/// A box round the line in device units, with room for letters that leave their line.
+BoxD Surroundings(const Matrix& toDevice, double width) {
+    const double room = 2.0 * kSetEm;
+    BoxD box =
+        BoxBetween(Mapped(toDevice, PointD{-room, -room}), Mapped(toDevice, PointD{width + room, room}));
+    for (const PointD corner : {PointD{-room, room}, PointD{width + room, -room}}) {
+        const PointD p = Mapped(toDevice, corner);
+        box = {std::min(box.Left, p.X), std::min(box.Top, p.Y), std::max(box.Right, p.X),
+               std::max(box.Bottom, p.Y)};
+    }
+    return box;
+}
+
+bool IsInSight(const Painter& painter, const BoxD& line) {
+    const BoxD surface = painter.FarBox();
+    const BoxD countable{-kFarthest, -kFarthest, kFarthest, kFarthest};
+    return line.Left <= surface.Right && line.Right >= surface.Left && line.Top <= surface.Bottom &&
+           line.Bottom >= surface.Top && Common(line, countable) == line;
+}
+
+bool CanBeDrawn(const Matrix& toDevice) {
+    const double em = toDevice.LengthFactor() * kSetEm;
+    const double longest =
+        kSetEm * std::max(std::hypot(toDevice.M11, toDevice.M12), std::hypot(toDevice.M21, toDevice.M22));
+    return toDevice.IsInvertible() && em >= kSmallestEm && longest <= kLargestEm;
+}
+
+void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
+    cairo_t* context = painter.Context();
+    const bool asOutlines = painter.HasPixels() && toDevice.LengthFactor() * kSetEm <= kLargestOutlineEm;
+    cairo_save(context);
+    painter.SetMatrix(toDevice);
+    cairo_move_to(context, 0.0, 0.0);
+    if (asOutlines) {
+        cairo_set_fill_rule(context, CAIRO_FILL_RULE_WINDING);
+        cairo_set_antialias(context, CAIRO_ANTIALIAS_DEFAULT);
+        pango_cairo_layout_line_path(context, line.Line);
+        cairo_fill(context);
+    } else {
+        pango_cairo_show_layout_line(context, line.Line);
+    }
+    cairo_restore(context);
+    cairo_new_path(context);
+}
+
+/// Underline and strikeout of one text are equally thick, wherever they fall on the grid.
+BoxD WholePixelStroke(const BoxD& stroke) {
+    BoxD box = PixelGrid::Box(stroke);
+    if (stroke.Height() < stroke.Width()) {
+        box.Bottom = box.Top + PixelGrid::WholeWidth(stroke.Height());
+    } else {
+        box.Right = box.Left + PixelGrid::WholeWidth(stroke.Width());
+    }
+    return box;
+}
+
+/// A stroke along the whole line whose middle lies `height` ems above the baseline.
+void Decorate(const Painter& painter, const SetLine& line, const Matrix& toDevice, double height) {
+    const double top = -(height + kDecorationThickness / 2.0) * kSetEm;
+    const double bottom = top + kDecorationThickness * kSetEm;
+    std::vector<PointD> corners;
+    for (const PointD p : {PointD{0.0, top}, {line.Width, top}, {line.Width, bottom}, {0.0, bottom}}) {
+        corners.push_back(Mapped(toDevice, p));
+    }
+    if (painter.Snaps()) {
+        AddBox(painter.Context(), WholePixelStroke(BoxBetween(corners[0], corners[2])), painter.FarBox());
+    } else {
+        AddPolygon(painter.Context(), corners, painter.FarBox());
+    }
+    cairo_fill(painter.Context());
+}
+
+void ShowLine(const Painter& painter, const SetLine& line, const Matrix& toDevice, const Font& font) {
+    ShowLetters(painter, line, toDevice);
+    if (font.Has(FontStyle::Underline)) {
+        Decorate(painter, line, toDevice, kUnderline);
+    }
+    if (font.Has(FontStyle::Strikeout)) {
+        Decorate(painter, line, toDevice, kStrikeout);
+    }
+}
+
+} // namespace
+
+Status PaintText(const Painter& painter, std::wstring_view text, const Font& font, const RectF& box,
+                 const StringFormat& format, Color color) {
+    painter.SetColor(color);
+    for (const PlacedLine& placed : PlaceLines(text, font, box, format)) {
+        const SetLine line = SetTextLine(placed.Text, font);
+        const Matrix toDevice = OnWholePixel(painter, LineToDevice(painter, placed, font));
+        if (line.Line != nullptr && CanBeDrawn(toDevice) &&
+            IsInSight(painter, Surroundings(toDevice, line.Width))) {
+            ShowLine(painter, line, toDevice, font);
+        }
+    }
+    return Status::Ok;
+}
+
+} // namespace penlode

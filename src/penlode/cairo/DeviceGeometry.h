@@ -1,0 +1,53 @@
+#pragma once
+
+#include "penlode/GraphicsPath.h"
+#include "penlode/Matrix.h"
+
+#include <algorithm>
+#include <cmath>
+
+/// Points and boxes in device units, in double precision.
+namespace penlode {
+
+struct BoxD {
+    double Left = 0.0;
+    double Top = 0.0;
+    double Right = 0.0;
+    double Bottom = 0.0;
+
+    double Width() const { return Right - Left; }
+
+    double Height() const { return Bottom - Top; }
+
+    bool Contains(PointD p) const { return p.X >= Left && p.X <= Right && p.Y >= Top && p.Y <= Bottom; }
+
+    BoxD Grown(double margin) const { return {Left - margin, Top - margin, Right + margin, Bottom + margin}; }
+
+    friend bool operator==(const BoxD&, const BoxD&) = default;
+};
+
+inline PointD Mapped(const Matrix& m, PointD p) {
+    return {p.X * m.M11 + p.Y * m.M21 + m.Dx, p.X * m.M12 + p.Y * m.M22 + m.Dy};
+}
+
+inline PointD Mapped(const Matrix& m, PointF p) {
+    return Mapped(m, PointD{p.X, p.Y});
+}
+
+inline bool IsFinite(PointD p) {
+    return std::isfinite(p.X) && std::isfinite(p.Y);
+}
+
+inline BoxD BoxBetween(PointD a, PointD b) {
+    return {std::min(a.X, b.X), std::min(a.Y, b.Y), std::max(a.X, b.X), std::max(a.Y, b.Y)};
+}
+
+/// What both boxes cover; without extent, but never inverted, where they do not meet.
+inline BoxD Common(const BoxD& a, const BoxD& b) {
+    const double left = std::max(a.Left, b.Left);
+    const double top = std::max(a.Top, b.Top);
+    return {left, top, std::max(left, std::min(a.Right, b.Right)),
+            std::max(top, std::min(a.Bottom, b.Bottom))};
+}
+
+} // namespace penlode

@@ -1,0 +1,213 @@
+#include "penlode/cairo/GraphicsEngine.h"
+
+#include "penlode/cairo/CairoGradient.h"
+#include "penlode/cairo/CairoImage.h"
+#include "penlode/cairo/CairoShapes.h"
+#include "penlode/cairo/CairoTarget.h"
+
+#include <algorithm>
+
+namespace penlode {
+namespace {
+
+bool IsUsable(const Pen* pen) {
+    return pen != nullptr && std::isfinite(pen->GetWidth());
+}
+
+bool AreUsable(const PointF* points, std::int32_t count) {
+    return points != nullptr && count >= 0 &&
+           std::all_of(points, points + count, [](PointF p) { return AreFinite(p.X, p.Y); });
+}
+
+std::span<const PointF> SpanOf(const PointF* points, std::int32_t count) {
+    return {points, static_cast<std::size_t>(count)};
+}
+
+/// A path's numbers are looked at when it is drawn.
+GraphicsPath ArcOf(const RectF& rect, float startAngle, float sweepAngle) {
+    GraphicsPath path;
+    path.AddArc(rect, startAngle, sweepAngle);
+    return path;
+}
+
+GraphicsPath EllipseOf(const RectF& rect) {
+    GraphicsPath path;
+    path.AddEllipse(rect);
+    return path;
+}
+
+GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
+    GraphicsPath path;
+    path.AddPie(rect, startAngle, sweepAngle);
+    return path;
+}
+
+bool HasExtent(const RectF& rect) {
+    return rect.Width > 0.0F && rect.Height > 0.0F;
+}
+
+} // namespace
+
+Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
+    if (!IsUsable(pen) || !AreFinite(x, y, width, height)) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw([&](const Painter& p) { return StrokeBox(p, *pen, {x, y, width, height}); });
+}
+
+Status CGraphicsEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
+    if (!IsUsable(pen) || !AreUsable(points, count)) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw([&](const Painter& p) { return StrokeLines(p, *pen, SpanOf(points, count)); });
+}
+
+Status CGraphicsEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
+    const PointF ends[] = {{x1, y1}, {x2, y2}};
+    return DrawLines(pen, ends, 2);
+}
+
+Status CGraphicsEngine::DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
+                                float sweepAngle) {
+    const RectF rect{x, y, width, height};
+    if (!IsUsable(pen) || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
+        return Status::InvalidParameter;
+    }
+    if (!HasExtent(rect)) {
+        return Status::Ok;
+    }
+    return m_target->Draw(
+        [&](const Painter& p) { return StrokePath(p, *pen, ArcOf(rect, startAngle, sweepAngle)); });
+}
+
+Status CGraphicsEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
+    const RectF rect{x, y, width, height};
+    if (!IsUsable(pen) || !IsFinite(rect)) {
+        return Status::InvalidParameter;
+    }
+    if (!HasExtent(rect)) {
+        return Status::Ok;
+    }
+    return m_target->Draw([&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
+}
+
+Status CGraphicsEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
+    if (!IsUsable(pen) || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
+        return Status::InvalidParameter;
+    }
+    if (!HasExtent(rect)) {
+        return Status::Ok;
+    }
+    return m_target->Draw(
+        [&](const Painter& p) { return StrokePath(p, *pen, PieOf(rect, startAngle, sweepAngle)); });
+}
+
+Status CGraphicsEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
+    if (!IsUsable(pen) || !AreUsable(points, count)) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw([&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
+}
+
+Status CGraphicsEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
+    if (!IsUsable(pen) || !AreUsable(points, count)) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw(
+        [&](const Painter& p) { return StrokePath(p, *pen, CardinalSpline(SpanOf(points, count))); });
+}
+
+Status CGraphicsEngine::DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
+                                  float sourceWidth, float sourceHeight, Unit sourceUnit,
+                                  const ImageAttributes* attributes, DrawImageAbort abort,
+                                  void* callbackData) {
+    const RectF source{sourceX, sourceY, sourceWidth, sourceHeight};
+    if (image == nullptr || !image->IsDrawable() || !IsFinite(destination) || !IsFinite(source)) {
+        return Status::InvalidParameter;
+    }
+    const std::optional<RectF> pixels = SourceInPixels(*image, source, sourceUnit);
+    if (!pixels) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw([&](const Painter& p) {
+        return PaintImage(p, *image, destination, {*pixels, attributes, abort, callbackData});
+    });
+}
+
+Status CGraphicsEngine::DrawImage(const Image* image, const RectF& destination) {
+    if (image == nullptr) {
+        return Status::InvalidParameter;
+    }
+    return DrawImage(image, destination, 0.0F, 0.0F, static_cast<float>(image->Width),
+                     static_cast<float>(image->Height), Unit::Pixel, nullptr, nullptr, nullptr);
+}
+
+Status CGraphicsEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
+    if (brush == nullptr || !AreFinite(x, y, width, height)) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw([&](const Painter& p) {
+        return FillBox(p, brush->FillColor, {x, y, width, height});
+    });
+}
+
+Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
+    const RectF rect{x, y, width, height};
+    if (brush == nullptr || !IsFinite(rect)) {
+        return Status::InvalidParameter;
+    }
+    if (!HasExtent(rect)) {
+        return Status::Ok;
+    }
+    return m_target->Draw(
+        [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
+}
+
+Status CGraphicsEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
+                                float sweepAngle) {
+    if (brush == nullptr || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
+        return Status::InvalidParameter;
+    }
+    if (!HasExtent(rect)) {
+        return Status::Ok;
+    }
+    return m_target->Draw([&](const Painter& p) {
+        return penlode::FillPath(p, brush->FillColor, PieOf(rect, startAngle, sweepAngle));
+    });
+}
+
+Status CGraphicsEngine::FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) {
+    if (brush == nullptr || !AreUsable(points, count)) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw(
+        [&](const Painter& p) { return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count)); });
+}
+
+Status CGraphicsEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
+    if (brush == nullptr || path == nullptr) {
+        return Status::InvalidParameter;
+    }
+    return m_target->Draw([&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, *path); });
+}
+
+std::int32_t CGraphicsEngine::GradientFill(const RectL& bounds, const PointF& origin,
+                                           const GradientVertex* vertices, std::uint32_t vertexCount,
+                                           const void* mesh, std::uint32_t meshCount, GradientMode mode) {
+    if (vertices == nullptr || mesh == nullptr || !AreFinite(origin.X, origin.Y) ||
+        mode > GradientMode::Triangle) {
+        return 0;
+    }
+    const GradientArea area{bounds, origin, {vertices, vertexCount}};
+    const auto fill = [&](const Painter& p) {
+        const bool filled =
+            mode == GradientMode::Triangle
+                ? FillGradientTriangles(p, area, {static_cast<const GradientTriangle*>(mesh), meshCount})
+                : FillGradientRects(p, area, {static_cast<const GradientRect*>(mesh), meshCount},
+                                    mode == GradientMode::RectV);
+        return filled ? Status::Ok : Status::InvalidParameter;
+    };
+    return m_target->Draw(fill) == Status::Ok ? 1 : 0;
+}
+
+} // namespace penlode

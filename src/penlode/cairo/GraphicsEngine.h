@@ -1,0 +1,129 @@
+#pragma once
+
+#include "penlode/IGraphicsEngine.h"
+
+#include <memory>
+#include <string>
+
+struct _cairo; // NOLINT(bugprone-reserved-identifier): Cairo's name
+
+namespace penlode {
+
+/// The surface on Cairo and Pango: a picture, a PDF page, or a Cairo context of the host's.
+///
+///     auto engine = CGraphicsEngine::ForRaster({80, 60}, 300, kWhite);
+///     chart.Draw(engine.get());
+///     file << engine->EncodePng();
+///
+/// A fresh surface counts in millimetres at scale 1, from its top-left corner.
+///
+/// On pixels, no line is thinner than one pixel; rectangles, axis-parallel lines and the faces of 3D bars
+/// stand on whole pixels, so that what meets on the page meets in the picture, and axis-parallel lines are
+/// whole pixels wide. A one-pixel outline of a filled rectangle covers its first pixels and the pixels just
+/// past its right and bottom edges; on the surface's own far edges it moves in by one pixel. Curves, slanted
+/// lines, paths and small markers keep their shapes. On a page, places and widths are exact, and no line is
+/// thinner than 0.05 mm.
+///
+/// A rectangle of negative width or height draws nothing, and so does a fill without width or height. Lines
+/// of text beyond 8192 characters end there.
+///
+/// One thread at a time may use an engine; different engines may live on different threads.
+class PENLODE_API CGraphicsEngine final : public IGraphicsEngine {
+public:
+    /// A picture of that many millimetres (rounded to whole pixels, at least one) at `dpi` dots per inch,
+    /// from 1 to 9600. Null for a size that is not above 0, more than 32767 pixels along a side or 500
+    /// million in all, or when memory runs out.
+    static std::unique_ptr<CGraphicsEngine> ForRaster(SizeF millimetres, double dpi, Color background);
+
+    /// One PDF page, up to 5080 mm (200 inches) along a side. Null for any other size.
+    static std::unique_ptr<CGraphicsEngine> ForPdf(SizeF millimetres);
+
+    /// Draws on a context of the host's, which is kept until the engine goes: at its clip and with its
+    /// transform as they are now, `dpi` units of its user space to the inch (96 in a widget, 72 in Cairo's
+    /// own PDF). Its saved states must be balanced between calls; its path and source are changed. Device
+    /// coordinates are then those of that user space. Null for a null or failed context.
+    static std::unique_ptr<CGraphicsEngine> ForCairo(_cairo* context, double dpi);
+
+    ~CGraphicsEngine() override;
+
+    /// The picture as a PNG file that knows its resolution, RGB if it is opaque all over, else RGBA. Empty if
+    /// the engine draws no picture.
+    std::string EncodePng() const;
+
+    /// The picture so far, with its resolution. Without pixels if the engine draws none.
+    Image Pixels() const;
+
+    /// The PDF file, with its fonts in it and without the time of its making: the same drawing gives the same
+    /// bytes. Ends the page: later drawings fail with WrongState, later calls give the same file. Empty if
+    /// the engine draws no PDF.
+    std::string FinishPdf();
+
+    Status DrawRectangle(const Pen* pen, float x, float y, float width, float height) override;
+    Status DrawLines(const Pen* pen, const PointF* points, std::int32_t count) override;
+    Status DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) override;
+    Status DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
+                   float sweepAngle) override;
+    Status DrawEllipse(const Pen* pen, float x, float y, float width, float height) override;
+    Status DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) override;
+    Status DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) override;
+    Status DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) override;
+    Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
+                      const StringFormat* format, const SolidBrush* brush) override;
+    Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
+                      const SolidBrush* brush) override;
+    Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
+                      const StringFormat* format, const SolidBrush* brush) override;
+    Status DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
+                     float sourceWidth, float sourceHeight, Unit sourceUnit,
+                     const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) override;
+    Status DrawImage(const Image* image, const RectF& destination) override;
+    Status ResetClip() override;
+    Status GetClip(Region* region) override;
+    Status SetClip(const GraphicsPath* path, CombineMode mode) override;
+    Status SetClip(const Region* region, CombineMode mode) override;
+    Status SetClip(const RectF& rect, CombineMode mode) override;
+    Status FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) override;
+    Status FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) override;
+    Status FillPie(const SolidBrush* brush, const RectF& rect, float startAngle, float sweepAngle) override;
+    Status FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) override;
+    Status FillPath(const SolidBrush* brush, const GraphicsPath* path) override;
+    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
+                         const StringFormat* format, RectF* bounds, std::int32_t* charactersFitted,
+                         std::int32_t* linesFilled) override;
+    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
+                         RectF* bounds) override;
+    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
+                         const StringFormat* format, RectF* bounds) override;
+    Status SetTransform(const Matrix* matrix) override;
+    Status GetTransform(Matrix* matrix) override;
+    Status TransformPoints(CoordinateSpace destination, CoordinateSpace source, PointF* points,
+                           std::int32_t count) override;
+    Status TranslateTransform(float dx, float dy, MatrixOrder order) override;
+    Status RotateTransform(float degrees, MatrixOrder order) override;
+    Status ScaleTransform(float sx, float sy, MatrixOrder order) override;
+    Status ResetTransform() override;
+    float GetPageScale() override;
+    Unit GetPageUnit() override;
+    Status SetPageScale(float scale) override;
+    Status SetPageUnit(Unit unit) override;
+    std::uint32_t BeginContainer() override;
+    Status EndContainer(std::uint32_t container) override;
+    Status SetSmoothingMode(SmoothingMode mode) override;
+    SmoothingMode GetSmoothingMode() override;
+    std::int32_t GradientFill(const RectL& bounds, const PointF& origin, const GradientVertex* vertices,
+                              std::uint32_t vertexCount, const void* mesh, std::uint32_t meshCount,
+                              GradientMode mode) override;
+    SizeF MeasureScriptText(const wchar_t* text, const Font* font) override;
+    void DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
+                        const SolidBrush* brush) override;
+    Status SetClip(Region* region, CombineMode mode) override;
+
+private:
+    struct Target;
+
+    explicit CGraphicsEngine(std::unique_ptr<Target> target);
+
+    std::unique_ptr<Target> m_target;
+};
+
+} // namespace penlode

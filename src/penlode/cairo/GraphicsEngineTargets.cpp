@@ -1,0 +1,190 @@
+#include "penlode/Units.h"
+#include "penlode/cairo/CairoTarget.h"
+#include "penlode/cairo/PngWriter.h"
+
+#include <cairo-pdf.h>
+#include <cstring>
+#include <new>
+
+namespace penlode {
+namespace {
+
+constexpr double kLongestSide = 32767.0;
+constexpr double kMostPixels = 500e6;
+constexpr double kLongestPageSide = 5080.0;
+
+double WholePixels(double millimetres, double dpi) {
+    return std::max(1.0, std::round(millimetres * dpi / kMillimetresPerInch));
+}
+
+bool IsWithin(double value, double least, double most) {
+    return value >= least && value <= most;
+}
+
+cairo_status_t AppendTo(void* file, const unsigned char* bytes, unsigned int count) {
+    try {
+        static_cast<std::string*>(file)->append(reinterpret_cast<const char*>(bytes), count);
+        return CAIRO_STATUS_SUCCESS;
+    } catch (const std::bad_alloc&) {
+        return CAIRO_STATUS_NO_MEMORY;
+    }
+}
+
+bool HasPixels(cairo_surface_t* surface) {
+    switch (cairo_surface_get_type(surface)) {
+    case CAIRO_SURFACE_TYPE_PDF:
+    case CAIRO_SURFACE_TYPE_PS:
+    case CAIRO_SURFACE_TYPE_SVG:
+    case CAIRO_SURFACE_TYPE_RECORDING:
+    case CAIRO_SURFACE_TYPE_SCRIPT:
+    case CAIRO_SURFACE_TYPE_WIN32_PRINTING:
+        return false;
+    default:
+        return true;
+    }
+}
+
+void FillWith(cairo_t* context, Color color) {
+    cairo_save(context);
+    cairo_set_operator(context, CAIRO_OPERATOR_SOURCE);
+    cairo_set_source_rgba(context, color.R() / 255.0, color.G() / 255.0, color.B() / 255.0,
+                          color.A() / 255.0);
+    cairo_paint(context);
+    cairo_restore(context);
+}
+
+/// The host's clip in pixels, within what Cairo can count. A recording surface may have no bounds.
+BoxD ClipOf(cairo_t* context, const Matrix& userToPixels) {
+    constexpr double kFar = 1048576.0;
+    double x1 = 0.0;
+    double y1 = 0.0;
+    double x2 = 0.0;
+    double y2 = 0.0;
+    cairo_clip_extents(context, &x1, &y1, &x2, &y2);
+    const BoxD a = BoxBetween(Mapped(userToPixels, PointD{x1, y1}), Mapped(userToPixels, PointD{x2, y2}));
+    const BoxD b = BoxBetween(Mapped(userToPixels, PointD{x1, y2}), Mapped(userToPixels, PointD{x2, y1}));
+    const BoxD both{std::min(a.Left, b.Left), std::min(a.Top, b.Top), std::max(a.Right, b.Right),
+                    std::max(a.Bottom, b.Bottom)};
+    return Common(both, {-kFar, -kFar, kFar, kFar});
+}
+
+/// Cairo's image, finished with all drawings so far; empty for other kinds.
+PremultipliedPixels PixelsOf(cairo_t* context) {
+    cairo_surface_t* surface = cairo_get_target(context);
+    cairo_surface_flush(surface);
+    return {cairo_image_surface_get_data(surface), cairo_image_surface_get_width(surface),
+            cairo_image_surface_get_height(surface), cairo_image_surface_get_stride(surface)};
+}
+
+} // namespace
+
+CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target) : m_target(std::move(target)) {}
+
+CGraphicsEngine::~CGraphicsEngine() = default;
+
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, double dpi, Color background) {
+    if (!AreFinite(millimetres.Width, millimetres.Height) || millimetres.Width <= 0.0F ||
+        millimetres.Height <= 0.0F || !IsWithin(dpi, 1.0, 9600.0)) {
+        return nullptr;
+    }
+    const double width = WholePixels(millimetres.Width, dpi);
+    const double height = WholePixels(millimetres.Height, dpi);
+    if (width > kLongestSide || height > kLongestSide || width * height > kMostPixels) {
+        return nullptr;
+    }
+    const CairoSurface surface(
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(width), static_cast<int>(height)));
+    CairoContext context(cairo_create(surface.get()));
+    if (cairo_status(context.get()) != CAIRO_STATUS_SUCCESS) {
+        return nullptr;
+    }
+    FillWith(context.get(), background);
+    const CanvasSetting setting{true, dpi, {0.0, 0.0, width, height}, {}, {}, {width, height}};
+    return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(
+        std::make_unique<Target>(Target::Kind::Picture, std::move(context), setting, dpi)));
+}
+
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
+    if (!(millimetres.Width > 0.0F && millimetres.Height > 0.0F && millimetres.Width <= kLongestPageSide &&
+          millimetres.Height <= kLongestPageSide)) {
+        return nullptr;
+    }
+    const double width = millimetres.Width * kPointsPerInch / kMillimetresPerInch;
+    const double height = millimetres.Height * kPointsPerInch / kMillimetresPerInch;
+    auto file = std::make_unique<std::string>();
+    const CairoSurface surface(cairo_pdf_surface_create_for_stream(AppendTo, file.get(), width, height));
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
+    CairoContext context(cairo_create(surface.get()));
+    if (cairo_status(context.get()) != CAIRO_STATUS_SUCCESS) {
+        return nullptr;
+    }
+    const CanvasSetting setting{false, kPointsPerInch, {0.0, 0.0, width, height}, {}, {}, {}};
+    auto target = std::make_unique<Target>(Target::Kind::Pdf, std::move(context), setting, kPointsPerInch);
+    target->PdfFile = std::move(file);
+    return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
+}
+
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForCairo(_cairo* context, double dpi) {
+    if (context == nullptr || cairo_status(context) != CAIRO_STATUS_SUCCESS || !IsWithin(dpi, 1.0, 9600.0)) {
+        return nullptr;
+    }
+    cairo_matrix_t m;
+    cairo_get_matrix(context, &m);
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    cairo_surface_t* surface = cairo_get_group_target(context);
+    cairo_surface_get_device_scale(surface, &scaleX, &scaleY);
+    const Matrix toPixels = Matrix{m.xx, m.yx, m.xy, m.yy, m.x0, m.y0} * Matrix::Scale(scaleX, scaleY);
+    const CanvasSetting setting{HasPixels(surface),
+                                dpi * toPixels.LengthFactor(),
+                                ClipOf(context, toPixels),
+                                toPixels,
+                                Matrix::Scale(1.0 / scaleX, 1.0 / scaleY),
+                                {},
+                                false};
+    return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(
+        std::make_unique<Target>(Target::Kind::Host, CairoContext(cairo_reference(context)), setting, dpi)));
+}
+
+std::string CGraphicsEngine::EncodePng() const {
+    if (m_target->What != Target::Kind::Picture) {
+        return {};
+    }
+    return penlode::EncodePng(PixelsOf(m_target->Canvas.Context()), m_target->Dpi, m_target->Dpi);
+}
+
+Image CGraphicsEngine::Pixels() const {
+    Image image;
+    if (m_target->What != Target::Kind::Picture) {
+        return image;
+    }
+    const PremultipliedPixels pixels = PixelsOf(m_target->Canvas.Context());
+    image.Width = pixels.Width;
+    image.Height = pixels.Height;
+    image.HorizontalDpi = image.VerticalDpi = static_cast<float>(m_target->Dpi);
+    image.Pixels.resize(static_cast<std::size_t>(pixels.Width) * static_cast<std::size_t>(pixels.Height));
+    Color* out = image.Pixels.data();
+    for (std::int32_t y = 0; y < pixels.Height; ++y) {
+        const unsigned char* row = pixels.Data + static_cast<std::ptrdiff_t>(y) * pixels.Stride;
+        for (std::int32_t x = 0; x < pixels.Width; ++x, row += 4) {
+            std::uint32_t word = 0;
+            std::memcpy(&word, row, sizeof word);
+            *out++ = {Unpremultiplied(word)};
+        }
+    }
+    return image;
+}
+
+std::string CGraphicsEngine::FinishPdf() {
+    if (m_target->What != Target::Kind::Pdf) {
+        return {};
+    }
+    if (!m_target->Finished) {
+        m_target->Finished = true;
+        cairo_show_page(m_target->Canvas.Context());
+        cairo_surface_finish(cairo_get_target(m_target->Canvas.Context()));
+    }
+    return *m_target->PdfFile;
+}
+
+} // namespace penlode

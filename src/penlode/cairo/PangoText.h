@@ -1,0 +1,36 @@
+#pragma once
+
+#include "penlode/Font.h"
+
+#include <string>
+#include <string_view>
+
+// NOLINTNEXTLINE(bugprone-reserved-identifier): Pango's name
+typedef struct _PangoLayoutLine PangoLayoutLine;
+
+/// Texts set by Pango: shaped once per thread, face and text, at a size of their own, so that one line
+/// serves every surface at every size.
+namespace penlode {
+
+/// The em size of a set line, in its own units. All its measures are in proportion.
+inline constexpr double kSetEm = 100.0;
+
+/// A line of a text that is longer ends after so many characters.
+inline constexpr std::size_t kLongestLine = 8192;
+
+struct SetLine {
+    PangoLayoutLine* Line = nullptr; ///< null for an empty text or where no font is installed
+    double Width = 0.0;
+};
+
+/// The line in a font's face, without underline or strikeout; the font's size does not count. Stays valid
+/// until the thread's next call.
+SetLine SetTextLine(std::wstring_view text, const Font& font);
+
+/// The name of the face that is taken for a font.
+std::wstring FaceOf(const Font& font);
+
+/// A size that texts can be drawn in: finite and above 0.
+bool IsDrawable(const Font& font);
+
+} // namespace penlode

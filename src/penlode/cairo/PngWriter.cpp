@@ -1,0 +1,153 @@
+#include "penlode/cairo/PngWriter.h"
+
+#include "penlode/Units.h"
+
+#include <algorithm>
+#include <cmath>
+#include <csetjmp>
+#include <cstring>
+#include <limits>
+#include <new>
+#include <png.h>
+#include <utility>
+#include <vector>
+
+namespace penlode {
+namespace {
+
+/// A chart's flat areas compress as well at the low levels, several times faster.
+constexpr int kCompressionLevel = 3;
+
+std::uint32_t WordAt(const PremultipliedPixels& pixels, std::int32_t x, std::int32_t y) {
+    std::uint32_t word = 0;
+    std::memcpy(&word,
+                pixels.Data + static_cast<std::ptrdiff_t>(y) * pixels.Stride +
+                    static_cast<std::ptrdiff_t>(x) * 4,
+                sizeof word);
+    return word;
+}
+
+bool IsOpaque(const PremultipliedPixels& pixels) {
+    for (std::int32_t y = 0; y < pixels.Height; ++y) {
+        for (std::int32_t x = 0; x < pixels.Width; ++x) {
+            if (WordAt(pixels, x, y) >> 24U != 0xFFU) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+/// One row as red, green, blue and, unless opaque, alpha.
+void FillRow(const PremultipliedPixels& pixels, std::int32_t y, bool opaque,
+             std::vector<unsigned char>& row) {
+    unsigned char* out = row.data();
+    for (std::int32_t x = 0; x < pixels.Width; ++x) {
+        const std::uint32_t argb = Unpremultiplied(WordAt(pixels, x, y));
+        *out++ = static_cast<unsigned char>(argb >> 16U);
+        *out++ = static_cast<unsigned char>(argb >> 8U);
+        *out++ = static_cast<unsigned char>(argb);
+        if (!opaque) {
+            *out++ = static_cast<unsigned char>(argb >> 24U);
+        }
+    }
+}
+
+bool Append(std::string& file, png_bytep bytes, png_size_t count) {
+    try {
+        file.append(reinterpret_cast<const char*>(bytes), count);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+void WriteBytes(png_structp png, png_bytep bytes, png_size_t count) {
+    if (!Append(*static_cast<std::string*>(png_get_io_ptr(png)), bytes, count)) {
+        png_error(png, "out of memory");
+    }
+}
+
+void FlushNothing(png_structp) {}
+
+void KeepQuiet(png_structp, png_const_charp) {}
+
+/// The message is of no use here; an encoding either succeeds or gives nothing.
+[[noreturn]] void GiveUp(png_structp png, png_const_charp) {
+    png_longjmp(png, 1);
+}
+
+png_uint_32 PixelsPerMetre(double dpi) {
+    return static_cast<png_uint_32>(std::lround(dpi / kMillimetresPerInch * 1000.0));
+}
+
+/// Everything that an encoding needs, made before the jump target is set: libpng leaves a failed call by
+/// longjmp, which must not skip a destructor.
+struct Encoding {
+    PremultipliedPixels Pixels;
+    double DpiX;
+    double DpiY;
+    bool Opaque;
+    std::vector<unsigned char> Row;
+    std::string File;
+    png_structp Png = nullptr;
+    png_infop Info = nullptr;
+
+    ~Encoding() { png_destroy_write_struct(&Png, &Info); }
+};
+
+void WriteHeader(Encoding& e) {
+    png_set_IHDR(e.Png, e.Info, static_cast<png_uint_32>(e.Pixels.Width),
+                 static_cast<png_uint_32>(e.Pixels.Height), 8,
+                 e.Opaque ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA, PNG_INTERLACE_NONE,
+                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    png_set_pHYs(e.Png, e.Info, PixelsPerMetre(e.DpiX), PixelsPerMetre(e.DpiY), PNG_RESOLUTION_METER);
+    png_set_compression_level(e.Png, kCompressionLevel);
+    png_set_filter(e.Png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
+    png_write_info(e.Png, e.Info);
+}
+
+bool Write(Encoding& e) {
+    if (setjmp(png_jmpbuf(e.Png))) {
+        return false;
+    }
+    png_set_write_fn(e.Png, &e.File, WriteBytes, FlushNothing);
+    WriteHeader(e);
+    for (std::int32_t y = 0; y < e.Pixels.Height; ++y) {
+        FillRow(e.Pixels, y, e.Opaque, e.Row);
+        png_write_row(e.Png, e.Row.data());
+    }
+    png_write_end(e.Png, e.Info);
+    return true;
+}
+
+} // namespace
+
+std::string EncodePng(const PremultipliedPixels& pixels, double dpiX, double dpiY) {
+    if (pixels.Data == nullptr) {
+        return {};
+    }
+    const bool opaque = IsOpaque(pixels);
+    Encoding encoding{pixels, dpiX, dpiY, opaque, {}, {}};
+    encoding.Row.resize(static_cast<std::size_t>(pixels.Width) * (opaque ? 3U : 4U));
+    encoding.Png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, GiveUp, KeepQuiet);
+    encoding.Info = encoding.Png == nullptr ? nullptr : png_create_info_struct(encoding.Png);
+    if (encoding.Info == nullptr || !Write(encoding)) {
+        return {};
+    }
+    return std::move(encoding.File);
+}
+
+std::uint32_t Unpremultiplied(std::uint32_t argb) {
+    const std::uint32_t alpha = argb >> 24U;
+    if (alpha == 0xFFU || alpha == 0U) {
+        return alpha == 0U ? 0U : argb;
+    }
+    const auto straight = [&](std::uint32_t shift) {
+        const std::uint32_t channel = ((argb >> shift) & 0xFFU) * 255U + alpha / 2U;
+        return std::min(channel / alpha, 255U) << shift;
+    };
+    return (alpha << 24U) | straight(16U) | straight(8U) | straight(0U);
+}
+
+} // namespace penlode

@@ -1,0 +1,176 @@
+#include "penlode/StringUtil.h"
+#include "penlode/TextForms.h"
+#include "penlode/recording/RecordingEngine.h"
+
+#include <array>
+#include <charconv>
+
+namespace penlode {
+namespace {
+
+template <class E, std::size_t N> std::string NameOf(const std::array<const char*, N>& names, E value) {
+    const auto index = static_cast<std::size_t>(value);
+    return index < N ? names[index] : std::to_string(static_cast<std::int64_t>(value));
+}
+
+/// Writes one argument after another, each after a blank.
+class Printer {
+public:
+    explicit Printer(std::string operation, int decimals)
+        : m_text(std::move(operation)), m_decimals(decimals) {}
+
+    void operator()(std::monostate) { Word("null"); }
+
+    void operator()(std::int32_t value) { Word(std::to_string(value)); }
+
+    void operator()(std::uint32_t value) { Word(std::to_string(value)); }
+
+    void operator()(float value) { Word(Number(value)); }
+
+    void operator()(const PointF& p) { Word(Point(p)); }
+
+    void operator()(const RectF& r) {
+        Word("(" + Number(r.X) + " " + Number(r.Y) + " " + Number(r.Width) + " " + Number(r.Height) + ")");
+    }
+
+    void operator()(const std::vector<PointF>& points) {
+        Word("[" + std::to_string(points.size()) + "]");
+        for (const PointF& point : points) {
+            Word(Point(point));
+        }
+    }
+
+    void operator()(const std::wstring& text) { Word(Quoted(text)); }
+
+    void operator()(const Pen& pen) {
+        const std::string dash = NameOf(kDashes, pen.GetDashStyle());
+        Word(Hex(pen.GetColor()) + "/" + Number(pen.GetWidth()) + (dash == "solid" ? "" : "/" + dash));
+    }
+
+    void operator()(const SolidBrush& brush) { Word(Hex(brush.FillColor)); }
+
+    void operator()(const Font& font) {
+        const std::string style = font.Style == FontStyle::Regular ? "" : "/" + std::to_string(font.Style);
+        Word(CStringUtil::WideToUtf8(font.Family) + "/" + Number(font.Size) + style);
+    }
+
+    void operator()(const StringFormat& format) {
+        Word(NameOf(kAlignments, format.Alignment) + "-" + NameOf(kAlignments, format.LineAlignment));
+    }
+
+    void operator()(const GraphicsPath& path) {
+        for (const GraphicsPath::Figure& figure : path.Figures()) {
+            for (const GraphicsPath::Piece& piece : figure.Pieces) {
+                std::visit(*this, piece);
+            }
+            if (figure.Closed) {
+                Word("close");
+            }
+        }
+    }
+
+    void operator()(const GraphicsPath::Line& line) {
+        Word("line " + Point(line.From) + " " + Point(line.To));
+    }
+
+    void operator()(const GraphicsPath::Arc& arc) {
+        Word("arc");
+        (*this)(arc.Ellipse);
+        Word(Number(arc.StartAngle) + " " + Number(arc.SweepAngle));
+    }
+
+    void operator()(const GraphicsPath::Bezier& bezier) {
+        Word("bezier");
+        for (const PointF& point : bezier.Points) {
+            Word(Point(point));
+        }
+    }
+
+    void operator()(const Region& region) {
+        Word("region");
+        for (const Region::Step& step : region.Steps()) {
+            (*this)(step.Mode);
+            std::visit(*this, step.Operand);
+        }
+    }
+
+    void operator()(const Region::Everything&) { Word("everything"); }
+
+    void operator()(const Region::Nothing&) { Word("nothing"); }
+
+    void operator()(const Region::Nested& nested) { (*this)(*nested.Area); }
+
+    void operator()(const Matrix& m) {
+        Word("matrix " + Number(m.M11) + " " + Number(m.M12) + " " + Number(m.M21) + " " + Number(m.M22) +
+             " " + Number(m.Dx) + " " + Number(m.Dy));
+    }
+
+    void operator()(const Image& image) {
+        Word("image " + std::to_string(image.Width) + "x" + std::to_string(image.Height));
+    }
+
+    void operator()(CombineMode mode) { Word(NameOf(kModes, mode)); }
+
+    void operator()(MatrixOrder order) { Word(order == MatrixOrder::Prepend ? "prepend" : "append"); }
+
+    void operator()(Unit unit) { Word(NameOf(kUnits, unit)); }
+
+    void operator()(SmoothingMode mode) { Word(NameOf(kSmoothing, mode)); }
+
+    std::string Take() { return std::move(m_text); }
+
+private:
+    static constexpr std::array kDashes{"solid", "dash", "dot", "dash-dot", "dash-dot-dot", "custom"};
+    static constexpr std::array kAlignments{"near", "center", "far"};
+    static constexpr std::array kModes{"replace", "intersect", "union", "xor", "exclude", "complement"};
+    static constexpr std::array kUnits{"world", "display",  "pixel",     "point",
+                                       "inch",  "document", "millimeter"};
+    static constexpr std::array kSmoothing{"default", "high-speed", "high-quality", "none", "antialias"};
+
+    void Word(const std::string& word) { m_text += " " + word; }
+
+    static std::string Hex(Color color) {
+        std::string text;
+        ser_evaluate(color, text, true);
+        return text;
+    }
+
+    static std::string Quoted(const std::wstring& text) {
+        std::string quoted = "\"";
+        for (const char c : CStringUtil::WideToUtf8(text)) {
+            quoted += c == '\n' ? "\\n" : c == '"' ? "\\\"" : std::string(1, c);
+        }
+        return quoted + "\"";
+    }
+
+    std::string Point(const PointF& p) const { return "(" + Number(p.X) + " " + Number(p.Y) + ")"; }
+
+    /// Rounded, without trailing zeros and without a negative zero.
+    std::string Number(double value) const {
+        std::array<char, 400> buffer{};
+        const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                       std::chars_format::fixed, m_decimals)
+                             .ptr;
+        std::string text(buffer.data(), end);
+        if (text.find('.') != std::string::npos) {
+            text.erase(text.find_last_not_of('0') + 1);
+            text.erase(text.find_last_not_of('.') + 1);
+        }
+        return text == "-0" ? "0" : text;
+    }
+
+    std::string m_text;
+    int m_decimals;
+};
+
+} // namespace
+
+std::string ToText(const RecordedCall& call, int decimals) {
+    Printer printer(call.Operation, decimals);
+    for (const RecordedCall::Value& value : call.Arguments) {
+        std::visit([&printer](const auto& held) { printer(held); }, value);
+    }
+    return printer.Take();
+}
+
+} // namespace penlode

@@ -1,0 +1,199 @@
+#include "charts/pie/PiePropSerialize.h"
+
+#include "penlode/BinarySerialize.h"
+#include "penlode/JsonSerializeStream.h"
+#include "support/Texts.h"
+
+#include <gtest/gtest.h>
+
+using namespace millichart;
+using penlode::CBinarySerialize;
+using penlode::CJsonSerializeStream;
+using penlode::Color;
+
+namespace {
+
+PieProp SomePie() {
+    PieProp prop;
+    PieBasicProp& basic = prop.Basic;
+    basic.PieStyle = PieStyle::Flat;
+    basic.FixedSize = 1;
+    basic.FixedWidth = 42.5F;
+    basic.BaseValue = 1e6F;
+    basic.BasePieWidth = 0.1F;
+    basic.StartAngle = -90.0F;
+    basic.DrawSepLine = 0;
+    basic.PenSepLine = penlode::Pen(penlode::kWhite, 0.4F, penlode::DashStyle::DashDotDot);
+    basic.ComponentName = {Narrow(L"煤炭"), "Oil | gas", ""};
+    basic.ComponentColor = {Color{0xFF404040}, Color{0x80C08040}};
+    PieLabelProp& label = prop.Label;
+    label.ShowNameLabel = 1;
+    label.ShowValueLabel = 2;
+    label.ShowPercentLabel = 1;
+    label.LabelsInSingleRow = 0;
+    label.LabelSeparator = Narrow(L"：");
+    label.PieLabelTextProperty.Angle = 15;
+    label.DistBetweenLabelCenterAndPieCenter = 3.5F;
+    label.ShowLabelLeadLine = 0;
+    label.LabelLeadLinePen = penlode::Pen(Color{0xFF00FF00}, 0.0F);
+    prop.Legend.ShowLegend = 1;
+    prop.Legend.LegendPos = LegendPosition::BottomCenter;
+    return prop;
+}
+
+PieProp Loaded(const char* json) {
+    CJsonSerializeStream stream(json);
+    PieProp prop = SomePie();
+    CPiePropSerialize::SerializePieProp(stream, prop, "P");
+    return prop;
+}
+
+} // namespace
+
+TEST(PiePropSerialize, KeyedAsADocument) {
+    PieProp prop = SomePie();
+    CJsonSerializeStream stream;
+    CPiePropSerialize::SerializePieProp(stream, prop, "property");
+    const char* const document = R"json({
+  "property": {
+    "PieBasicProp": {
+      "PieStyle": "2D",
+      "FixedSize": "1",
+      "FixedWidth": "42.5",
+      "BaseValue": "1e+06",
+      "BasePieWidth": "0.1",
+      "StartAngle": "-90",
+      "DrawSepLine": "0",
+      "PenSepLine": "#FFFFFFFF 0.4 dash-dot-dot",
+      "ComponentName": "煤炭||Oil | gas||||",
+      "ComponentColor": [
+        "#FF404040",
+        "#80C08040"
+      ]
+    },
+    "PieLabelProp": {
+      "ShowNameLabel": "1",
+      "ShowValueLabel": "2",
+      "ShowPercentLabel": "1",
+      "LabelsInSingleRow": "0",
+      "LabelSeparator": "：",
+      "DistBetweenLabelCenterAndPieCenter": "3.5",
+      "PieLabelTextProperty": {
+        "字体": "宋体 4",
+        "TextColor": "#FF000000",
+        "EdgeColor": "#FF000000",
+        "BkColor": "#FFFFFFFF",
+        "DrawEdge": "0",
+        "DrawBackGround": "0",
+        "Prefix": "",
+        "Postfix": "",
+        "Angle": "15"
+      },
+      "ShowLabelLeadLine": "0",
+      "LabelLeadLinePen": "#FF00FF00 0 solid"
+    },
+    "PieLegendProp": {
+      "ShowLegend": "1",
+      "LegendPos": "BottomCenter",
+      "ShowEdge": "1",
+      "ShowBackground": "0",
+      "BackgroundColor": "#FFFFFFFF",
+      "ItemDist": "0",
+      "PenEdge": "#FF000000 0.1 solid",
+      "Font": "宋体 4"
+    }
+  }
+}
+)json";
+    EXPECT_EQ(stream.Text(), document);
+    CJsonSerializeStream back(stream.Text());
+    PieProp loaded;
+    CPiePropSerialize::SerializePieProp(back, loaded, "property");
+    EXPECT_EQ(loaded, SomePie());
+    EXPECT_TRUE(back.Problems().empty());
+}
+
+TEST(PiePropSerialize, AnEmptyDocumentGivesExactlyTheLoadDefaults) {
+    PieProp expected;
+    expected.Basic.PieStyle = PieStyle::WithDepth;
+    expected.Label.DistBetweenLabelCenterAndPieCenter = 10.0F;
+    expected.Label.PieLabelTextProperty.BkColor = penlode::kBlack;
+    expected.Label.PieLabelTextProperty.DrawEdge = 1;
+    expected.Label.PieLabelTextProperty.DrawBackGround = 1;
+    EXPECT_EQ(Loaded("{}"), expected);
+    EXPECT_EQ(Loaded(R"({"P": "a text where a group belongs"})"), expected);
+    EXPECT_EQ(Loaded(R"({"P": {"PieBasicProp": {}, "PieLabelProp": 5}})"), expected);
+    EXPECT_EQ(Loaded("{\"P\": "), expected);
+}
+
+TEST(PiePropSerialize, StyleNamesAreMatchedExactly) {
+    EXPECT_EQ(Loaded(R"({"P": {"PieBasicProp": {"PieStyle": "2D"}}})").Basic.PieStyle, PieStyle::Flat);
+    EXPECT_EQ(Loaded(R"({"P": {"PieBasicProp": {"PieStyle": "3D"}}})").Basic.PieStyle, PieStyle::WithDepth);
+    EXPECT_EQ(Loaded(R"({"P": {"PieBasicProp": {"PieStyle": "2d"}}})").Basic.PieStyle, PieStyle::WithDepth);
+    EXPECT_EQ(Loaded(R"({"P": {"PieBasicProp": {"PieStyle": 0}}})").Basic.PieStyle, PieStyle::WithDepth);
+}
+
+TEST(PiePropSerialize, ANameWithoutItsSeparatorIsLost) {
+    EXPECT_EQ(Loaded(R"({"P": {"PieBasicProp": {"ComponentName": "A||B"}}})").Basic.ComponentName,
+              std::vector<std::string>{"A"});
+}
+
+TEST(PiePropSerialize, ColoursKeepTheirPlaces) {
+    const PieProp prop =
+        Loaded(R"({"P": {"PieBasicProp": {"ComponentColor": ["#112233", "pink", 7, "#80445566"]}}})");
+    EXPECT_EQ(prop.Basic.ComponentColor,
+              (std::vector<Color>{{0xFF112233}, penlode::kBlack, penlode::kBlack, {0x80445566}}));
+}
+
+TEST(PiePropSerialize, PositionalRoundTripInAnOrderOfItsOwn) {
+    PieProp prop = SomePie();
+    CBinarySerialize out;
+    CPiePropSerialize::SerializePieProp(out, prop);
+    CBinarySerialize in(out.Bytes());
+    PieProp loaded;
+    CPiePropSerialize::SerializePieProp(in, loaded);
+    EXPECT_EQ(loaded, SomePie());
+    EXPECT_EQ(in.Remaining(), 0U);
+
+    CBinarySerialize labelOut;
+    CPieLabelPropSerialize::SerializePieLabelProp(labelOut, prop.Label);
+    CBinarySerialize fields(labelOut.Bytes());
+    std::int32_t flag = 0;
+    std::string separator;
+    float distance = 0;
+    for (const std::int32_t expected : {1, 2, 1, 0}) {
+        fields.Read(flag);
+        EXPECT_EQ(flag, expected);
+    }
+    fields.Read(separator);
+    fields.Read(flag);
+    fields.Read(distance);
+    EXPECT_EQ(separator, Narrow(L"："));
+    EXPECT_EQ(flag, 0) << "the lead-line flag comes before the distance";
+    EXPECT_EQ(distance, 3.5F);
+}
+
+TEST(PiePropSerialize, TruncatedAndHugeStreamsStaySound) {
+    PieProp prop = SomePie();
+    CBinarySerialize out;
+    CPiePropSerialize::SerializePieProp(out, prop);
+    for (std::size_t length = 0; length < out.Bytes().size(); ++length) {
+        CBinarySerialize in(std::string_view(out.Bytes()).substr(0, length));
+        PieProp loaded;
+        CPiePropSerialize::SerializePieProp(in, loaded);
+        EXPECT_TRUE(in.Failed()) << length;
+    }
+
+    // A count of two thousand million colours with nothing behind it.
+    const std::string whole = out.Bytes();
+    const std::string count("\x02\x00\x00\x00\x40\x40\x40\xFF", 8);
+    const std::size_t at = whole.find(count);
+    ASSERT_NE(at, std::string::npos);
+    const std::string bytes =
+        whole.substr(0, at) + std::string("\xFF\xFF\xFF\x7F", 4) + whole.substr(at + 4, 8);
+    CBinarySerialize in(bytes);
+    PieProp loaded;
+    CPiePropSerialize::SerializePieProp(in, loaded);
+    EXPECT_TRUE(in.Failed());
+    EXPECT_EQ(loaded.Basic.ComponentColor.size(), 2U);
+}

@@ -1,0 +1,182 @@
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Outcome {
+    int Status;
+    std::string Errors;
+};
+
+/// The command as a person runs it; its standard output is dropped.
+Outcome Millichart(const std::string& arguments) {
+    std::FILE* pipe = popen((MILLICHART_COMMAND " " + arguments + " 2>&1 >/dev/null").c_str(), "r");
+    Outcome outcome{};
+    std::array<char, 256> piece{};
+    while (std::fgets(piece.data(), piece.size(), pipe) != nullptr) {
+        outcome.Errors += piece.data();
+    }
+    const int status = pclose(pipe);
+    outcome.Status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return outcome;
+}
+
+std::string ReadAll(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// A number of a PNG's chunk, big-endian.
+std::uint32_t BigEndian(const std::string& bytes, std::size_t at) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        value = value << 8U | static_cast<unsigned char>(bytes.at(at + i));
+    }
+    return value;
+}
+
+class Draw : public testing::Test {
+protected:
+    Draw() : m_folder(fs::temp_directory_path() / ("millichart-draw-" + std::to_string(getpid()))) {
+        fs::create_directories(m_folder);
+    }
+
+    ~Draw() override { fs::remove_all(m_folder); }
+
+    std::string Path(const std::string& name) const { return (m_folder / name).string(); }
+
+    std::string Write(const std::string& name, const std::string& text) const {
+        std::ofstream(Path(name), std::ios::binary) << text;
+        return Path(name);
+    }
+
+    /// What the command says of a document, without its name and the file's.
+    std::string Complaint(const std::string& text) const {
+        const std::string input = Write("a.json", text);
+        const Outcome outcome = Millichart("draw " + input + " -o " + Path("a.png"));
+        EXPECT_EQ(outcome.Status, 1) << text;
+        EXPECT_FALSE(fs::exists(Path("a.png"))) << text;
+        std::string said = outcome.Errors;
+        const std::string head = "millichart: " + input + ": ";
+        for (std::size_t at = said.find(head); at != std::string::npos; at = said.find(head)) {
+            said.erase(at, head.size());
+        }
+        return said;
+    }
+
+private:
+    fs::path m_folder;
+};
+
+const char* const kSmall =
+    R"({"kind": "pie", "property": {"PieBasicProp": {"ComponentColor": ["#336699", "#993366"],
+    "FixedSize": 1}}, "data": {"values": [1, 2.5]}})";
+
+} // namespace
+
+TEST_F(Draw, EveryExampleInItsRealSize) {
+    int drawn = 0;
+    for (const auto& entry : fs::directory_iterator(MILLICHART_EXAMPLES)) {
+        const Outcome outcome = Millichart("draw " + entry.path().string() + " --dpi 60 -o " + Path("a.png"));
+        EXPECT_EQ(outcome.Status, 0) << entry.path();
+        EXPECT_EQ(outcome.Errors, "");
+        ++drawn;
+    }
+    EXPECT_GE(drawn, 6);
+
+    // A pie of 20 mm and 5 mm round it, at 254 dots per inch: 10 pixels a millimetre.
+    const Outcome outcome = Millichart("draw " + Write("s.json", kSmall) + " --dpi 254 -o " + Path("s.png"));
+    EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+    const std::string png = ReadAll(Path("s.png"));
+    EXPECT_EQ(png.substr(1, 3), "PNG");
+    EXPECT_EQ(BigEndian(png, 16), 300U);
+    EXPECT_EQ(BigEndian(png, 20), 300U);
+    const std::size_t resolution = png.find("pHYs");
+    ASSERT_NE(resolution, std::string::npos);
+    EXPECT_EQ(BigEndian(png, resolution + 4), 10000U);
+}
+
+TEST_F(Draw, TheSameDocumentGivesTheSameBytes) {
+    const std::string example = MILLICHART_EXAMPLES "/pie-china-age-2020.chart.json";
+    Millichart("draw " + example + " -o " + Path("1.png"));
+    Millichart("draw " + example + " -o " + Path("2.png"));
+    EXPECT_FALSE(ReadAll(Path("1.png")).empty());
+    EXPECT_EQ(ReadAll(Path("1.png")), ReadAll(Path("2.png")));
+}
+
+TEST_F(Draw, SaysWhatIsWrongAndWhere) {
+    EXPECT_EQ(Complaint(R"({"kind": "pye"})"), "kind: found \"pye\", expected \"pie\"\n");
+    EXPECT_EQ(Complaint(R"({"version": 2, "kind": "pie", "data": {"values": [1]}})"),
+              "version: found 2, expected 1\n");
+    EXPECT_EQ(Complaint(R"({"kind": "pie", "data": {"values": [1, "x", {}]}})"),
+              "data/values/2: found {}, expected a text\ndata/values/1: found \"x\", expected a number\n"
+              "data/values/2: found \"\", expected a number\n");
+    EXPECT_EQ(Complaint(R"({"kind": "pie", "data": {"values": []}})"),
+              "data/values: found nothing to draw, expected values that add up to more than 0\n");
+    EXPECT_EQ(
+        Complaint(R"({"kind": "pie", "location": "1", "data": {"values": [1]}, "property": {"PieBasicProp":
+        {"PieStyle": "4D", "PenSepLine": [], "ComponentColor": ["#12345"]}, "PieLabelProp": 3}})"),
+        "property/PieBasicProp/PieStyle: found \"4D\", expected one of \"2D\", \"3D\"\n"
+        "property/PieBasicProp/PenSepLine: found [], expected a text\n"
+        "property/PieBasicProp/ComponentColor/0: found \"#12345\", expected a colour such as #FF336699\n"
+        "property/PieLabelProp: found 3, expected a group\n"
+        "location: found \"1\", expected a point such as \"12.5 40\"\n");
+}
+
+TEST_F(Draw, SaysWhereADocumentCannotBeRead) {
+    EXPECT_NE(Complaint("").find("line 1, column 1"), std::string::npos);
+    EXPECT_NE(Complaint("{\"kind\": \"pie\",\n  \"data\": tru}").find("line 2, column 1"), std::string::npos);
+    EXPECT_NE(Complaint("{\"kind\": \"\xFF\"}").find("line 1, column 1"), std::string::npos);
+    EXPECT_NE(Complaint(std::string(100000, '[')).find("64"), std::string::npos);
+    const Outcome missing = Millichart("draw " + Path("none.json") + " -o " + Path("a.png"));
+    EXPECT_EQ(missing.Status, 1);
+    EXPECT_NE(missing.Errors.find("none.json: cannot be read"), std::string::npos);
+}
+
+TEST_F(Draw, UnsoundNumbersAreRefusedNotDrawn) {
+    EXPECT_NE(Complaint(R"({"kind": "pie", "data": {"values": ["nan"]}})").find("data/values/0"),
+              std::string::npos);
+    EXPECT_NE(Complaint(R"({"kind": "pie", "data": {"values": [1e300]}})").find("5000 x 5000"),
+              std::string::npos);
+    EXPECT_NE(Complaint(R"({"kind": "pie", "data": {"values": [1, -2]}})").find("5000 x 5000"),
+              std::string::npos);
+}
+
+TEST_F(Draw, UnknownKeysAreToldAndIgnored) {
+    std::string text = kSmall;
+    text.insert(text.size() - 1, R"(, "Colour": 1)");
+    const std::string input = Write("u.json", text);
+    const Outcome outcome = Millichart("draw " + input + " -o " + Path("u.png"));
+    EXPECT_EQ(outcome.Status, 0);
+    EXPECT_EQ(outcome.Errors, "millichart: " + input + ": Colour: an unknown key, ignored\n");
+}
+
+TEST_F(Draw, AFailureLeavesTheOldPictureWhole) {
+    const std::string picture = Write("p.png", "old");
+    EXPECT_EQ(Millichart("draw " + Write("b.json", "{") + " -o " + picture).Status, 1);
+    EXPECT_EQ(ReadAll(picture), "old");
+
+    const Outcome outcome =
+        Millichart("draw " + Write("g.json", kSmall) + " -o " + Path("no/such/folder.png"));
+    EXPECT_EQ(outcome.Status, 1);
+    EXPECT_NE(outcome.Errors.find("folder.png: cannot be written: No such file or directory"),
+              std::string::npos);
+    EXPECT_EQ(Millichart("draw " + Path("g.json") + " -o " + Path("")).Status, 1);
+}
+
+TEST_F(Draw, WrongUsageIsStatusTwo) {
+    EXPECT_EQ(Millichart("").Status, 2);
+    EXPECT_EQ(Millichart("draw").Status, 2);
+    EXPECT_EQ(Millichart("paint x").Status, 2);
+    EXPECT_EQ(Millichart("draw a.json -o a.png --dpi 0").Status, 2);
+    EXPECT_EQ(Millichart("draw --help").Status, 0);
+}

@@ -1,0 +1,183 @@
+#include "foundation/CaptionPropSerialize.h"
+#include "foundation/LegendPropSerialize.h"
+#include "foundation/SerializeFrame.h"
+#include "foundation/TextPropertySerialize.h"
+#include "penlode/BinarySerialize.h"
+#include "penlode/JsonSerializeStream.h"
+#include "support/Texts.h"
+
+#include <gtest/gtest.h>
+
+using namespace millichart;
+using penlode::CBinarySerialize;
+using penlode::CJsonSerializeStream;
+
+namespace {
+
+CaptionProp SomeCaption() {
+    CaptionProp caption;
+    caption.ShowCaption = 1;
+    caption.Caption = Narrow(L"2022 年发电量\n(TWh)");
+    TextProperty& text = caption.CaptionTextProperty;
+    text.Font =
+        penlode::Font{L"Times New Roman", 3.25F, penlode::FontStyle::Bold | penlode::FontStyle::Italic};
+    text.TextColor = penlode::Color{0x80102030};
+    text.EdgeColor = penlode::Color{0xFF00FF00};
+    text.BkColor = penlode::Color{0x00FFFFFF};
+    text.DrawEdge = 7;
+    text.DrawBackGround = 1;
+    text.Prefix = "<";
+    text.Postfix = Narrow(L"》|\\");
+    text.Angle = -45;
+    return caption;
+}
+
+LegendProp SomeLegend() {
+    LegendProp legend;
+    legend.ShowLegend = 1;
+    legend.LegendPos = LegendPosition::TopCenter;
+    legend.ShowEdge = 0;
+    legend.PenEdge = penlode::Pen(penlode::Color{0xFF123456}, 0.35F, penlode::DashStyle::Dot);
+    legend.ShowBackground = 1;
+    legend.BackgroundColor = penlode::Color{0xFFABCDEF};
+    legend.ItemDist = 2.75F;
+    legend.Font = nullptr;
+    return legend;
+}
+
+} // namespace
+
+TEST(Serialize, KeyedCaptionAsADocument) {
+    CaptionProp caption = SomeCaption();
+    CJsonSerializeStream stream;
+    CCaptionPropSerialize::SerializeCaptionProp(stream, caption);
+    const char* const document = R"json({
+  "CaptionProp": {
+    "ShowCaption": "1",
+    "Caption": "2022 年发电量\n(TWh)",
+    "CaptionTextProperty": {
+      "字体": "Times New Roman 3.25 bold italic",
+      "TextColor": "#80102030",
+      "EdgeColor": "#FF00FF00",
+      "BkColor": "#00FFFFFF",
+      "DrawEdge": "7",
+      "DrawBackGround": "1",
+      "Prefix": "<",
+      "Postfix": "》|\\",
+      "Angle": "-45"
+    }
+  }
+}
+)json";
+    EXPECT_EQ(stream.Text(), document);
+    EXPECT_EQ(caption, SomeCaption()) << "saving changes nothing";
+
+    CJsonSerializeStream back(stream.Text());
+    CaptionProp loaded;
+    CCaptionPropSerialize::SerializeCaptionProp(back, loaded);
+    EXPECT_EQ(loaded, SomeCaption());
+    EXPECT_TRUE(back.Problems().empty());
+    EXPECT_TRUE(back.UnknownKeys().empty());
+}
+
+TEST(Serialize, KeyedLegendInItsSavedOrder) {
+    LegendProp legend = SomeLegend();
+    CJsonSerializeStream stream;
+    CLegendPropSerialize::SerializeLegendProp(stream, legend, "PieLegendProp");
+    const char* const document = R"json({
+  "PieLegendProp": {
+    "ShowLegend": "1",
+    "LegendPos": "TopCenter",
+    "ShowEdge": "0",
+    "ShowBackground": "1",
+    "BackgroundColor": "#FFABCDEF",
+    "ItemDist": "2.75",
+    "PenEdge": "#FF123456 0.35 dot",
+    "Font": "none"
+  }
+}
+)json";
+    EXPECT_EQ(stream.Text(), document);
+    CJsonSerializeStream back(stream.Text());
+    LegendProp loaded;
+    CLegendPropSerialize::SerializeLegendProp(back, loaded, "PieLegendProp");
+    EXPECT_EQ(loaded, SomeLegend());
+}
+
+TEST(Serialize, MissingKeysTakeTheLoadDefaultsWhateverTheRecordHeld) {
+    TextProperty expected;
+    expected.BkColor = penlode::kBlack;
+    expected.DrawEdge = 1;
+    expected.DrawBackGround = 1;
+
+    CJsonSerializeStream nothing("{}");
+    CaptionProp caption = SomeCaption();
+    CCaptionPropSerialize::SerializeCaptionProp(nothing, caption);
+    EXPECT_EQ(caption.ShowCaption, 0);
+    EXPECT_EQ(caption.Caption, "");
+    EXPECT_EQ(caption.CaptionTextProperty, expected);
+
+    LegendProp legend = SomeLegend();
+    CLegendPropSerialize::SerializeLegendProp(nothing, legend, "PieLegendProp");
+    EXPECT_EQ(legend, LegendProp{}) << "a constructed legend has the load defaults";
+
+    CJsonSerializeStream colourOnly(R"({"T": {"TextColor": "#123456"}})");
+    TextProperty text = SomeCaption().CaptionTextProperty;
+    CTextPropertySerialize::SerializeTextProperty(colourOnly, text, "T");
+    expected.TextColor = penlode::Color{0xFF123456};
+    EXPECT_EQ(text, expected);
+}
+
+TEST(Serialize, PositionalRoundTrips) {
+    CBinarySerialize out;
+    CaptionProp caption = SomeCaption();
+    LegendProp legend = SomeLegend();
+    CCaptionPropSerialize::SerializeCaptionProp(out, caption);
+    CLegendPropSerialize::SerializeLegendProp(out, legend);
+    EXPECT_EQ(caption, SomeCaption());
+
+    CBinarySerialize in(out.Bytes());
+    CaptionProp loadedCaption;
+    LegendProp loadedLegend;
+    CCaptionPropSerialize::SerializeCaptionProp(in, loadedCaption);
+    CLegendPropSerialize::SerializeLegendProp(in, loadedLegend);
+    EXPECT_EQ(loadedCaption, SomeCaption());
+    EXPECT_EQ(loadedLegend, SomeLegend());
+    EXPECT_EQ(in.Remaining(), 0U);
+}
+
+TEST(Serialize, WhatMeansNothingIsRefusedWithItsPlace) {
+    CJsonSerializeStream stream(R"({"L": {"ShowLegend": "yes", "LegendPos": "rightcenter", "ItemDist": "1,5",
+        "BackgroundColor": "blue", "PenEdge": "#000000 thick", "Font": "4", "ShowEdge": true}})");
+    LegendProp legend = SomeLegend();
+    CLegendPropSerialize::SerializeLegendProp(stream, legend, "L");
+    EXPECT_EQ(legend, LegendProp{});
+    std::string told;
+    for (const auto& problem : stream.Problems()) {
+        if (problem.What == penlode::StreamProblem::Kind::Refused) {
+            told += problem.Place + " | " + problem.Found + " | " + problem.Expected + "\n";
+        }
+    }
+    EXPECT_EQ(
+        told,
+        "L/ShowLegend | \"yes\" | a whole number\n"
+        "L/LegendPos | \"rightcenter\" | one of \"LeftTop\", \"LeftCenter\", \"LeftBottom\", \"RightTop\", "
+        "\"RightCenter\", \"RightBottom\", \"TopLeft\", \"TopCenter\", \"TopRight\", \"BottomLeft\", "
+        "\"BottomCenter\", \"BottomRight\"\n"
+        "L/BackgroundColor | \"blue\" | a colour such as #FF336699\n"
+        "L/ItemDist | \"1,5\" | a number\n"
+        "L/PenEdge | \"#000000 thick\" | a pen such as \"#FF000000 0.1 dash\"\n"
+        "L/Font | \"4\" | a font such as \"Arial 4 bold\"\n");
+}
+
+TEST(Serialize, JoinedTextsSplitByWholeCharacters) {
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(SplitJoinedTexts("A||B||"), (Texts{"A", "B"}));
+    EXPECT_EQ(SplitJoinedTexts("A||B"), (Texts{"A"}));
+    EXPECT_EQ(SplitJoinedTexts("||||"), (Texts{"", ""}));
+    EXPECT_EQ(SplitJoinedTexts(""), Texts{});
+    EXPECT_EQ(SplitJoinedTexts("A|||B||"), (Texts{"A", "|B"}));
+    // 坾 is 88 7C in GBK: its second byte is a "|" of its own only to the eye of a bytewise search.
+    const std::string trail = "\x88\x7C";
+    EXPECT_EQ(SplitJoinedTexts(trail + "||" + trail + "|||"), (Texts{trail, trail}));
+}

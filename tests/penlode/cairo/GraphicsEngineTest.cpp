@@ -1,0 +1,230 @@
+#include "penlode/cairo/GraphicsEngine.h"
+
+#include "penlode/cairo/Picture.h"
+
+#include <array>
+#include <cairo.h>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <png.h>
+#include <vector>
+
+using namespace penlode;
+
+namespace {
+
+const Pen kPen(kBlack, 1.0F);
+const SolidBrush kBrush{kBlack};
+const Font kFont;
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+
+struct DecodedPng {
+    png_image Header{};
+    std::vector<unsigned char> Rgba;
+};
+
+DecodedPng Decode(const std::string& file) {
+    DecodedPng png;
+    png.Header.version = PNG_IMAGE_VERSION;
+    EXPECT_NE(png_image_begin_read_from_memory(&png.Header, file.data(), file.size()), 0);
+    const bool alpha = (png.Header.format & PNG_FORMAT_FLAG_ALPHA) != 0;
+    png.Header.format = PNG_FORMAT_RGBA;
+    png.Rgba.resize(PNG_IMAGE_SIZE(png.Header));
+    png_image_finish_read(&png.Header, nullptr, png.Rgba.data(), 0, nullptr);
+    png.Header.format = alpha ? PNG_FORMAT_RGBA : PNG_FORMAT_RGB;
+    return png;
+}
+
+/// A big-endian number in the file's first chunk of that name.
+std::uint32_t ChunkNumber(const std::string& file, const char* chunk, std::size_t offset) {
+    const std::size_t at = file.find(chunk);
+    EXPECT_NE(at, std::string::npos);
+    std::uint32_t number = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        number = number << 8U | static_cast<unsigned char>(file.at(at + 4 + offset + i));
+    }
+    return number;
+}
+
+} // namespace
+
+TEST(GraphicsEngine, RefusesSurfacesThatCannotBe) {
+    for (const SizeF size : {SizeF{0, 10}, SizeF{10, -1}, SizeF{kNan, 10}, SizeF{10, INFINITY}}) {
+        EXPECT_EQ(CGraphicsEngine::ForRaster(size, 96, kWhite), nullptr);
+        EXPECT_EQ(CGraphicsEngine::ForPdf(size), nullptr);
+    }
+    EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, 0.5, kWhite), nullptr);
+    EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, NAN, kWhite), nullptr);
+    EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, 9601, kWhite), nullptr);
+    EXPECT_EQ(CGraphicsEngine::ForRaster({32768, 1}, 25.4, kWhite), nullptr);
+    EXPECT_EQ(CGraphicsEngine::ForRaster({30000, 30000}, 25.4, kWhite), nullptr);
+    EXPECT_EQ(CGraphicsEngine::ForCairo(nullptr, 96), nullptr);
+}
+
+TEST(GraphicsEngine, PngKnowsItsSizeAndResolution) {
+    const auto g = CGraphicsEngine::ForRaster({80, 60}, 300, kWhite);
+    const std::string file = g->EncodePng();
+    EXPECT_EQ(ChunkNumber(file, "IHDR", 0), 945U);
+    EXPECT_EQ(ChunkNumber(file, "IHDR", 4), 709U);
+    EXPECT_EQ(ChunkNumber(file, "pHYs", 0), 11811U);
+    EXPECT_EQ(ChunkNumber(file, "pHYs", 4), 11811U);
+    EXPECT_EQ(Decode(file).Header.format, PNG_FORMAT_RGB);
+}
+
+TEST(GraphicsEngine, PngHoldsTheStraightColoursOfThePicture) {
+    const auto g = PixelSurface(4, 2, Color{0x00000000});
+    const SolidBrush translucent{Color{0x80FF8000}};
+    g->FillRectangle(&translucent, 0, 0, 2, 2);
+    const DecodedPng png = Decode(g->EncodePng());
+    EXPECT_EQ(png.Header.format, PNG_FORMAT_RGBA);
+    EXPECT_EQ((std::vector<int>(png.Rgba.begin(), png.Rgba.begin() + 4)),
+              (std::vector<int>{0xFF, 0x80, 0x00, 0x80}));
+    EXPECT_EQ(PixelAt(g->Pixels(), 1, 1), translucent.FillColor);
+    EXPECT_EQ(PixelAt(g->Pixels(), 2, 1), Color{0});
+}
+
+TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
+    const auto g = PixelSurface(20, 20);
+    const std::array<PointF, 3> bad{{{1, 1}, {kNan, 5}, {9, 9}}};
+    const Pen wild(kBlack, INFINITY);
+    const Font wildFont{L"宋体", kNan, FontStyle::Regular};
+    const Matrix flat = Matrix::Scale(0, 1);
+    for (const Status status : {g->DrawLine(nullptr, 0, 0, 9, 9),
+                                g->DrawLine(&kPen, 0, kNan, 9, 9),
+                                g->DrawLine(&wild, 0, 0, 9, 9),
+                                g->DrawLines(&kPen, nullptr, 3),
+                                g->DrawLines(&kPen, bad.data(), 3),
+                                g->DrawLines(&kPen, bad.data(), -1),
+                                g->DrawRectangle(nullptr, 0, 0, 9, 9),
+                                g->DrawArc(&kPen, 0, 0, 9, 9, kNan, 9),
+                                g->DrawEllipse(&kPen, 0, 0, INFINITY, 9),
+                                g->DrawPie(nullptr, {0, 0, 9, 9}, 0, 90),
+                                g->DrawPolygon(&kPen, nullptr, 0),
+                                g->DrawCurve(&kPen, bad.data(), 3),
+                                g->FillRectangle(nullptr, 0, 0, 9, 9),
+                                g->FillEllipse(&kBrush, kNan, 0, 9, 9),
+                                g->FillPie(&kBrush, {0, 0, 9, 9}, 0, kNan),
+                                g->FillPolygon(nullptr, bad.data(), 3),
+                                g->FillPath(&kBrush, nullptr),
+                                g->DrawString(nullptr, -1, &kFont, PointF{}, &kBrush),
+                                g->DrawString(L"x", -1, nullptr, PointF{}, &kBrush),
+                                g->DrawString(L"x", -1, &wildFont, PointF{}, &kBrush),
+                                g->DrawString(L"x", -1, &kFont, PointF{}, nullptr),
+                                g->DrawImage(nullptr, RectF{0, 0, 9, 9}),
+                                g->SetClip(RectF{0, 0, kNan, 0}, CombineMode::Replace),
+                                g->GetClip(nullptr),
+                                g->SetClip(static_cast<const GraphicsPath*>(nullptr), CombineMode::Replace),
+                                g->SetClip(static_cast<Region*>(nullptr), CombineMode::Replace),
+                                g->SetTransform(nullptr),
+                                g->MeasureString(L"x", -1, nullptr, PointF{}, nullptr),
+                                g->EndContainer(77)}) {
+        EXPECT_EQ(status, Status::InvalidParameter);
+    }
+    g->SetTransform(&flat);
+    EXPECT_EQ(g->FillRectangle(&kBrush, 0, 0, 9, 9), Status::InvalidParameter);
+    g->ResetTransform();
+    EXPECT_EQ(g->DrawLines(&kPen, bad.data(), 1), Status::Ok);
+    EXPECT_EQ(InkOf(*g), 0);
+}
+
+TEST(GraphicsEngine, AContainerRestoresTransformUnitsClipAndSmoothing) {
+    const auto g = PixelSurface(20, 20);
+    g->TranslateTransform(2, 3, MatrixOrder::Prepend);
+    const std::uint32_t container = g->BeginContainer();
+    EXPECT_EQ(g->GetPageUnit(), Unit::Display);
+    g->SetPageUnit(Unit::Millimeter);
+    g->RotateTransform(45, MatrixOrder::Prepend);
+    g->SetClip(RectF{0, 0, 1, 1}, CombineMode::Replace);
+    g->SetSmoothingMode(SmoothingMode::None);
+    g->FillRectangle(&kBrush, 5, 5, 9, 9);
+    EXPECT_EQ(InkOf(*g), 0);
+    EXPECT_EQ(g->EndContainer(container), Status::Ok);
+    EXPECT_EQ(g->GetSmoothingMode(), SmoothingMode::AntiAlias);
+    g->FillRectangle(&kBrush, 0, 0, 4, 5);
+    EXPECT_EQ(PixelAt(g->Pixels(), 2, 3), kBlack);
+    EXPECT_EQ(PixelAt(g->Pixels(), 5, 7), kBlack);
+    EXPECT_EQ(InkOf(*g), 20);
+}
+
+TEST(GraphicsEngine, APieBeginsAndEndsAtTrueAngles) {
+    const auto g = PixelSurface(60, 30);
+    g->FillPie(&kBrush, {0, 0, 60, 30}, 0, 45);
+    EXPECT_EQ(PixelAt(g->Pixels(), 39, 22), kBlack);
+    EXPECT_EQ(PixelAt(g->Pixels(), 39, 26), kWhite);
+    EXPECT_EQ(PixelAt(g->Pixels(), 37, 23), kWhite);
+    EXPECT_EQ(PixelAt(g->Pixels(), 50, 16), kBlack);
+    EXPECT_EQ(PixelAt(g->Pixels(), 50, 13), kWhite);
+}
+
+TEST(GraphicsEngine, ACurvePassesThroughItsPointsSmoothly) {
+    const auto g = PixelSurface(40, 30);
+    const std::array<PointF, 3> points{{{2, 25}, {20, 5}, {38, 25}}};
+    g->DrawCurve(&kPen, points.data(), 3);
+    EXPECT_NE(PixelAt(g->Pixels(), 20, 4), kWhite);
+    EXPECT_NE(PixelAt(g->Pixels(), 22, 5), kWhite);
+    EXPECT_EQ(PixelAt(g->Pixels(), 22, 8), kWhite);
+}
+
+TEST(GraphicsEngine, APathIsFilledByTheEvenOddRule) {
+    const auto g = PixelSurface(20, 20);
+    GraphicsPath frame;
+    frame.AddRectangle({2, 2, 16, 16});
+    frame.AddRectangle({5, 5, 10, 10});
+    g->FillPath(&kBrush, &frame);
+    EXPECT_EQ(InkOf(*g), 16 * 16 - 10 * 10);
+}
+
+TEST(GraphicsEngine, UnequalScalesBendThePenToo) {
+    const auto g = PixelSurface(40, 20);
+    g->ScaleTransform(4, 1, MatrixOrder::Prepend);
+    g->DrawEllipse(&kPen, 2, 2, 6, 16);
+    EXPECT_EQ(PixelAt(g->Pixels(), 8, 10), kBlack);
+    EXPECT_EQ(PixelAt(g->Pixels(), 7, 10), kBlack);
+    EXPECT_EQ(PixelAt(g->Pixels(), 20, 3), kWhite);
+}
+
+TEST(GraphicsEngine, PdfIsTheSameEveryTimeAndEndsThePage) {
+    const auto draw = [] {
+        auto g = CGraphicsEngine::ForPdf({80, 60});
+        g->FillRectangle(&kBrush, 5, 5, 20, 20);
+        g->DrawString(L"深度 12", -1, &kFont, PointF{30, 30}, &kBrush);
+        return g;
+    };
+    const auto g = draw();
+    const std::string file = g->FinishPdf();
+    EXPECT_EQ(file.substr(0, 5), "%PDF-");
+    EXPECT_NE(file.find("226.771"), std::string::npos);
+    EXPECT_NE(file.find("/FontFile"), std::string::npos);
+    EXPECT_EQ(g->FillRectangle(&kBrush, 0, 0, 9, 9), Status::WrongState);
+    EXPECT_EQ(g->FinishPdf(), file);
+    EXPECT_EQ(draw()->FinishPdf(), file);
+    EXPECT_TRUE(g->EncodePng().empty());
+    EXPECT_TRUE(g->Pixels().Pixels.empty());
+}
+
+TEST(GraphicsEngine, DrawsWhereAHostsContextStandsAndLeavesItSo) {
+    cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, 60, 40);
+    cairo_t* context = cairo_create(surface);
+    cairo_translate(context, 10, 5);
+    cairo_rectangle(context, 0, 0, 12, 12);
+    cairo_clip(context);
+    {
+        const auto g = CGraphicsEngine::ForCairo(context, 25.4);
+        const SolidBrush white{kWhite};
+        g->SetClip(RectF{0, 0, 99, 4}, CombineMode::Replace);
+        g->FillRectangle(&white, 2, 2, 30, 30);
+    }
+    cairo_matrix_t m;
+    cairo_get_matrix(context, &m);
+    EXPECT_EQ(m.x0, 10);
+    cairo_surface_flush(surface);
+    const unsigned char* data = cairo_image_surface_get_data(surface);
+    const auto white = [&](int x, int y) {
+        return data[y * cairo_image_surface_get_stride(surface) + 4 * x] == 0xFF;
+    };
+    EXPECT_TRUE(white(12, 7) && white(21, 8));
+    EXPECT_FALSE(white(11, 7) || white(22, 7) || white(12, 9));
+    cairo_destroy(context);
+    cairo_surface_destroy(surface);
+}

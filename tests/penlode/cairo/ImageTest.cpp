@@ -1,0 +1,129 @@
+#include "penlode/cairo/Picture.h"
+
+#include <array>
+#include <gtest/gtest.h>
+
+using namespace penlode;
+
+namespace {
+
+constexpr Color kRed{0xFFFF0000};
+constexpr Color kGreen{0xFF00FF00};
+constexpr Color kBlue{0xFF0000FF};
+
+/// red green
+/// blue black
+Image FourPixels() {
+    return {2, 2, 50.8F, 50.8F, {kRed, kGreen, kBlue, kBlack}};
+}
+
+bool CountAndStop(void* asked) {
+    ++*static_cast<int*>(asked);
+    return true;
+}
+
+} // namespace
+
+TEST(Image, PixelsLandOnPixels) {
+    const auto g = PixelSurface(4, 4);
+    const Image image = FourPixels();
+    EXPECT_EQ(g->DrawImage(&image, RectF{1.2F, 0.9F, 2, 2}), Status::Ok);
+    const Image drawn = g->Pixels();
+    EXPECT_EQ(PixelAt(drawn, 1, 1), kRed);
+    EXPECT_EQ(PixelAt(drawn, 2, 1), kGreen);
+    EXPECT_EQ(PixelAt(drawn, 1, 2), kBlue);
+    EXPECT_EQ(PixelAt(drawn, 2, 2), kBlack);
+    EXPECT_EQ(CountOf(drawn, kWhite), 12);
+}
+
+TEST(Image, TheSourceIsInItsUnitAtTheImagesResolution) {
+    const auto g = PixelSurface(4, 4);
+    const Image image = FourPixels();
+    g->DrawImage(&image, RectF{0, 0, 4, 4}, 0.5F, 0, 0.5F, 0.5F, Unit::Millimeter, nullptr, nullptr, nullptr);
+    EXPECT_EQ(CountOf(g->Pixels(), kGreen), 16);
+    EXPECT_EQ(g->DrawImage(&image, RectF{0, 0, 4, 4}, 0, 0, 1, 1, Unit::World, nullptr, nullptr, nullptr),
+              Status::InvalidParameter);
+}
+
+TEST(Image, ASourceBeyondTheImageDrawsOnlyThePartThatExists) {
+    const auto g = PixelSurface(6, 6);
+    const Image image = FourPixels();
+    g->DrawImage(&image, RectF{0, 0, 6, 6}, -2, -2, 6, 6, Unit::Pixel, nullptr, nullptr, nullptr);
+    EXPECT_EQ(CountOf(g->Pixels(), kWhite), 32);
+    EXPECT_EQ(PixelAt(g->Pixels(), 2, 2), kRed);
+    EXPECT_EQ(
+        g->DrawImage(&image, RectF{0, 0, 6, 6}, 1e30F, 0, 1e30F, 6, Unit::Pixel, nullptr, nullptr, nullptr),
+        Status::Ok);
+}
+
+TEST(Image, AnEnlargedPictureKeepsItsEdgesAndANegativeExtentMirrorsIt) {
+    const auto g = PixelSurface(20, 20);
+    const Image image = FourPixels();
+    g->DrawImage(&image, RectF{18, 2, -16, 16});
+    EXPECT_EQ(PixelAt(g->Pixels(), 2, 2), kGreen);
+    EXPECT_EQ(PixelAt(g->Pixels(), 17, 2), kRed);
+    EXPECT_EQ(PixelAt(g->Pixels(), 1, 2), kWhite);
+    EXPECT_EQ(CountOf(g->Pixels(), kWhite), 400 - 256);
+}
+
+TEST(Image, TheColourMatrixActsOnStraightColours) {
+    const auto g = PixelSurface(2, 2);
+    const Image image = FourPixels();
+    ImageAttributes swapped;
+    swapped.ColorMatrix = {
+        {{0, 0, 1, 0, 0}, {0, 1, 0, 0, 0}, {1, 0, 0, 0, 0}, {0, 0, 0, 1, 0}, {0, 0.5F, 0, 0, 1}}};
+    g->DrawImage(&image, RectF{0, 0, 2, 2}, 0, 0, 2, 2, Unit::Pixel, &swapped, nullptr, nullptr);
+    EXPECT_EQ(PixelAt(g->Pixels(), 0, 0), (Color{0xFF0080FF}));
+    EXPECT_EQ(PixelAt(g->Pixels(), 1, 0), kGreen);
+}
+
+TEST(Image, TheCallbackEndsTheDrawing) {
+    const auto g = PixelSurface(4, 4);
+    const Image image = FourPixels();
+    int asked = 0;
+    EXPECT_EQ(g->DrawImage(&image, RectF{0, 0, 4, 4}, 0, 0, 2, 2, Unit::Pixel, nullptr, CountAndStop, &asked),
+              Status::Aborted);
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(InkOf(*g), 0);
+    const Image broken{2, 2, 96, 96, {kRed}};
+    EXPECT_EQ(g->DrawImage(&broken, RectF{0, 0, 4, 4}), Status::InvalidParameter);
+}
+
+TEST(Gradient, RectanglesBlendAlongOneAxis) {
+    const auto g = PixelSurface(10, 6);
+    const std::array<GradientVertex, 2> ends{{{0, 0, 0, 0, 0, 0}, {10, 4, 0xFF00, 0xFF00, 0, 0}}};
+    const GradientRect rect{0, 1};
+    EXPECT_NE(g->GradientFill({0, 0, 10, 6}, {0, 1}, ends.data(), 2, &rect, 1, GradientMode::RectH), 0);
+    const Image drawn = g->Pixels();
+    EXPECT_EQ(PixelAt(drawn, 0, 0), kWhite);
+    EXPECT_EQ(CountOf(drawn, kWhite), 20);
+    EXPECT_NEAR(PixelAt(drawn, 0, 1).R(), 13U, 2);
+    EXPECT_NEAR(PixelAt(drawn, 9, 4).R(), 242U, 2);
+    EXPECT_EQ(PixelAt(drawn, 9, 1), PixelAt(drawn, 9, 4));
+    EXPECT_EQ(PixelAt(drawn, 5, 2).A(), 255U);
+}
+
+TEST(Gradient, TrianglesBlendBetweenThreeCornersInsideTheBounds) {
+    const auto g = PixelSurface(30, 30);
+    const std::array<GradientVertex, 3> corners{
+        {{0, 0, 0xFF00, 0, 0, 0}, {30, 0, 0, 0xFF00, 0, 0}, {0, 30, 0, 0, 0xFF00, 0}}};
+    const GradientTriangle triangle{0, 1, 2};
+    EXPECT_NE(
+        g->GradientFill({0, 0, 30, 12}, {0, 0}, corners.data(), 3, &triangle, 1, GradientMode::Triangle), 0);
+    const Color middle = PixelAt(g->Pixels(), 10, 10);
+    EXPECT_NEAR(middle.R(), 76U, 8);
+    EXPECT_NEAR(middle.G(), 89U, 8);
+    EXPECT_NEAR(middle.B(), 89U, 8);
+    EXPECT_EQ(PixelAt(g->Pixels(), 2, 13), kWhite);
+    EXPECT_EQ(PixelAt(g->Pixels(), 25, 10), kWhite);
+}
+
+TEST(Gradient, MissingVerticesAreRefused) {
+    const auto g = PixelSurface(10, 10);
+    const std::array<GradientVertex, 2> ends{{{0, 0, 0, 0, 0, 0}, {10, 4, 0xFF00, 0xFF00, 0, 0}}};
+    const GradientRect rect{0, 2};
+    EXPECT_EQ(g->GradientFill({0, 0, 9, 9}, {}, ends.data(), 2, &rect, 1, GradientMode::RectV), 0);
+    EXPECT_EQ(g->GradientFill({0, 0, 9, 9}, {}, nullptr, 2, &rect, 1, GradientMode::RectV), 0);
+    EXPECT_EQ(g->GradientFill({0, 0, 9, 9}, {}, ends.data(), 2, &rect, 1, static_cast<GradientMode>(3)), 0);
+    EXPECT_EQ(InkOf(*g), 0);
+}

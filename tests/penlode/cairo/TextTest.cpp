@@ -1,0 +1,162 @@
+#include "penlode/StringUtil.h"
+#include "penlode/cairo/FontFamilies.h"
+#include "penlode/cairo/Picture.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace penlode;
+
+namespace {
+
+const SolidBrush kBrush{kBlack};
+const Font kSong;
+
+SizeF Measured(std::wstring_view text, const Font& font = kSong) {
+    return CStringUtil::MeasureWideString(text, &font);
+}
+
+/// The smallest rectangle, in pixels, that holds whatever is not white.
+RectF InkBox(const CGraphicsEngine& g) {
+    const Image image = g.Pixels();
+    int left = image.Width;
+    int top = image.Height;
+    int right = 0;
+    int bottom = 0;
+    for (int y = 0; y < image.Height; ++y) {
+        for (int x = 0; x < image.Width; ++x) {
+            if (PixelAt(image, x, y) != kWhite) {
+                left = std::min(left, x);
+                right = std::max(right, x + 1);
+                top = std::min(top, y);
+                bottom = std::max(bottom, y + 1);
+            }
+        }
+    }
+    return {static_cast<float>(left), static_cast<float>(top), static_cast<float>(right - left),
+            static_cast<float>(bottom - top)};
+}
+
+RectF InkOfText(double dpi, const wchar_t* text, const Font& font, float x, float y, float degrees = 0) {
+    const auto g = CGraphicsEngine::ForRaster({80, 80}, dpi, kWhite);
+    g->TranslateTransform(x, y, MatrixOrder::Prepend);
+    g->RotateTransform(degrees, MatrixOrder::Prepend);
+    EXPECT_EQ(g->DrawString(text, -1, &font, PointF{0, 0}, &kBrush), Status::Ok);
+    const RectF pixels = InkBox(*g);
+    const auto mm = [dpi](float v) { return static_cast<float>(v * 25.4 / dpi); };
+    return {mm(pixels.X), mm(pixels.Y), mm(pixels.Width), mm(pixels.Height)};
+}
+
+} // namespace
+
+TEST(Text, WidthsAreThoseOfTheTypeNotOfAScreen) {
+    EXPECT_NEAR(Measured(L"深度(m) 12345.678").Width, 34.3F, 0.7F);
+    EXPECT_NEAR(Measured(L"深度").Width, 8.0F, 1e-3F);
+    const Font large{L"宋体", 40.0F, FontStyle::Regular};
+    EXPECT_NEAR(Measured(L"深度(m) 12345.678", large).Width, Measured(L"深度(m) 12345.678").Width * 10,
+                0.01F);
+}
+
+TEST(Text, ChineseAndLatinLinesOfAFontAreEquallyHigh) {
+    const float line = Measured(L"深").Height;
+    EXPECT_EQ(Measured(L"g").Height, line);
+    EXPECT_EQ(Measured(L"α①").Height, line);
+    EXPECT_FLOAT_EQ(Measured(L"深\ng").Height, 2 * line);
+    EXPECT_GE(line, 4.0F);
+    EXPECT_LE(line, 4.0F * 1.25F + 1e-4F);
+}
+
+TEST(Text, EmptyTextsAndUnusableFontsMeasureNothing) {
+    EXPECT_EQ(Measured(L""), SizeF{});
+    EXPECT_EQ(Measured(L"x", {L"宋体", 0.0F, 0}).Width, 0.0F);
+    EXPECT_EQ(Measured(L"x", {L"宋体", -2.0F, 0}).Height, 0.0F);
+    EXPECT_EQ(CStringUtil::MeasureFont({L"宋体", NAN, 0}), FontMetrics{});
+    EXPECT_GT(Measured(L"深", {L"", 4.0F, 0}).Width, 3.0F);
+}
+
+TEST(Text, InkLiesInTheMeasuredBoxAtEveryResolution) {
+    const SizeF box = Measured(L"深度 Agjy");
+    for (const double dpi : {96.0, 150.0, 300.0, 600.0}) {
+        const RectF ink = InkOfText(dpi, L"深度 Agjy", kSong, 10, 10);
+        const float pixel = static_cast<float>(25.4 / dpi);
+        EXPECT_NEAR(ink.X, 10, 0.4F + pixel) << dpi;
+        EXPECT_NEAR(ink.Width, box.Width, 0.4F + 2 * pixel) << dpi;
+        EXPECT_GT(ink.Y, 10 - pixel) << dpi;
+        EXPECT_LT(ink.Bottom(), 10 + box.Height + 1.5F * pixel) << dpi;
+    }
+}
+
+TEST(Text, TurnsWithTheSurface) {
+    const SizeF box = Measured(L"深度计");
+    const RectF ink = InkOfText(200, L"深度计", kSong, 40, 40, 90);
+    EXPECT_NEAR(ink.Height, box.Width, 0.6F);
+    EXPECT_LT(ink.Right(), 40.2F);
+    EXPECT_GT(ink.X, 40 - box.Height - 0.2F);
+}
+
+TEST(Text, AlignmentPlacesEachLineInItsBox) {
+    const auto g = CGraphicsEngine::ForRaster({60, 40}, 127, kWhite);
+    const StringFormat centred{0, 0, StringAlignment::Center, StringAlignment::Center};
+    g->DrawString(L"口\n口口口", -1, &kSong, RectF{0, 0, 60, 40}, &centred, &kBrush);
+    const RectF ink = InkBox(*g);
+    EXPECT_NEAR(ink.X + ink.Width / 2, 150, 2);
+    EXPECT_NEAR(ink.Y + ink.Height / 2, 100, 4);
+    RectF bounds;
+    std::int32_t characters = 0;
+    std::int32_t lines = 0;
+    g->MeasureString(L"口\n口口口", -1, &kSong, RectF{0, 0, 60, 6}, &centred, &bounds, &characters, &lines);
+    EXPECT_NEAR(bounds.X, 24, 1e-3F);
+    EXPECT_EQ(lines, 1);
+    EXPECT_EQ(characters, 2);
+}
+
+TEST(Text, StylesShow) {
+    const auto ink = [](std::int32_t style) {
+        const auto g = CGraphicsEngine::ForRaster({40, 10}, 300, kWhite);
+        const Font font{L"宋体", 4.0F, style};
+        g->DrawString(L"粗体 Bold", -1, &font, PointF{2, 2}, &kBrush);
+        return InkOf(*g);
+    };
+    const auto regular = ink(FontStyle::Regular);
+    EXPECT_GT(ink(FontStyle::Bold), regular + regular / 5);
+    EXPECT_NE(ink(FontStyle::Italic), regular);
+    EXPECT_GT(ink(FontStyle::Underline), regular + 200);
+    EXPECT_GT(ink(FontStyle::Strikeout), regular + 100);
+    EXPECT_GT(ink(FontStyle::Underline | FontStyle::Strikeout), ink(FontStyle::Underline));
+}
+
+TEST(Text, UnderlineIsOneCrispLine) {
+    const auto g = CGraphicsEngine::ForRaster({30, 10}, 96, kWhite);
+    const Font font{L"宋体", 4.0F, FontStyle::Underline};
+    g->DrawString(L"一一一一", -1, &font, PointF{2, 2}, &kBrush);
+    EXPECT_GE(CountOf(g->Pixels(), kBlack), 60);
+}
+
+TEST(Text, TheUsualFamiliesResolveToInstalledFacesOfTheirKind) {
+    EXPECT_EQ(ResolvedFamily(L"宋体"), ResolvedFamily(L"SimSun"));
+    EXPECT_EQ(ResolvedFamily(L"宋体"), ResolvedFamily(L"simsun"));
+    EXPECT_EQ(ResolvedFamily(L"微软雅黑"), ResolvedFamily(L"Microsoft YaHei"));
+    EXPECT_NE(ResolvedFamily(L"宋体"), ResolvedFamily(L"黑体"));
+    EXPECT_NE(ResolvedFamily(L"Arial"), ResolvedFamily(L"黑体"));
+    EXPECT_EQ(ResolvedFamily(L"No Such Family"), ResolvedFamily(L""));
+    EXPECT_FALSE(ResolvedFamily(L"").empty());
+}
+
+TEST(Text, ThreadsMeasureAlike) {
+    float other = 0;
+    std::thread([&] { other = Measured(L"各省地区生产总值 2023").Width; }).join();
+    EXPECT_EQ(other, Measured(L"各省地区生产总值 2023").Width);
+}
+
+TEST(Text, OddTextsAreHarmless) {
+    const auto g = PixelSurface(40, 40);
+    const std::wstring endless(100000, L'深');
+    for (const std::wstring& text :
+         {endless, std::wstring(L"\t\r\v\u2028\u2029\uFFFE\u202Eabc"), std::wstring(500, L'\n')}) {
+        EXPECT_EQ(g->DrawString(text.c_str(), -1, &kSong, PointF{0, 0}, &kBrush), Status::Ok);
+        EXPECT_TRUE(std::isfinite(Measured(text).Width));
+    }
+    EXPECT_EQ(g->DrawString(L"深度", 1, &kSong, PointF{0, 0}, nullptr, &kBrush), Status::Ok);
+    EXPECT_EQ(g->MeasureScriptText(L"深度", &kSong), Measured(L"深度"));
+}
