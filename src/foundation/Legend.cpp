@@ -61,35 +61,24 @@ float TotalLength(const std::vector<SizeF>& sizes, float SizeF::*length, float g
     return total + static_cast<float>(sizes.size() - 1) * gap;
 }
 
-std::vector<RectF> PlaceRow(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
+/// Where the first item of a row above or below the plot stands.
+PointF RowStart(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
     const float width = TotalLength(sizes, &SizeF::Width, prop.ItemDist);
-    const float height = sizes.back().Height;
-    const float top =
-        SideOf(prop.LegendPos) == Side::Top ? plot.Y - height - kPlotGap : plot.Y + plot.Height + kPlotGap;
-    float x = Aligned(prop.LegendPos % kAlongEachSide, plot.X, plot.Width, width);
-    std::vector<RectF> items;
-    for (const SizeF& size : sizes) {
-        items.push_back({x, top, size.Width, size.Height});
-        x += size.Width + prop.ItemDist;
-    }
-    return items;
+    const bool above = SideOf(prop.LegendPos) == Side::Top;
+    return {Aligned(prop.LegendPos % kAlongEachSide, plot.X, plot.Width, width),
+            above ? plot.Y - sizes.back().Height - kPlotGap : plot.Y + plot.Height + kPlotGap};
 }
 
-std::vector<RectF> PlaceColumn(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
+/// Where the first item of a column beside the plot stands.
+PointF ColumnStart(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
     float width = 0.0F;
     for (const SizeF& size : sizes) {
         width = std::max(width, size.Width);
     }
     const float height = TotalLength(sizes, &SizeF::Height, prop.ItemDist);
-    const float left =
-        SideOf(prop.LegendPos) == Side::Left ? plot.X - width - kPlotGap : plot.X + plot.Width + kPlotGap;
-    float y = Aligned(prop.LegendPos % kAlongEachSide, plot.Y, plot.Height, height);
-    std::vector<RectF> items;
-    for (const SizeF& size : sizes) {
-        items.push_back({left, y, size.Width, size.Height});
-        y += size.Height + prop.ItemDist;
-    }
-    return items;
+    const bool onLeft = SideOf(prop.LegendPos) == Side::Left;
+    return {onLeft ? plot.X - width - kPlotGap : plot.X + plot.Width + kPlotGap,
+            Aligned(prop.LegendPos % kAlongEachSide, plot.Y, plot.Height, height)};
 }
 
 } // namespace
@@ -110,7 +99,13 @@ std::vector<RectF> CLegendOperation::PlaceItems(const LegendProp& prop, const st
     const std::vector<SizeF> sizes = ItemSizes(prop, names, swatchFactor);
     const Side side = SideOf(prop.LegendPos);
     const bool inRow = side == Side::Top || side == Side::Bottom;
-    return inRow ? PlaceRow(prop, sizes, plot) : PlaceColumn(prop, sizes, plot);
+    PointF at = inRow ? RowStart(prop, sizes, plot) : ColumnStart(prop, sizes, plot);
+    std::vector<RectF> items;
+    for (const SizeF& size : sizes) {
+        items.push_back({at.X, at.Y, size.Width, size.Height});
+        (inRow ? at.X : at.Y) += (inRow ? size.Width : size.Height) + prop.ItemDist;
+    }
+    return items;
 }
 
 void CLegendOperation::DrawBox(penlode::IGraphicsEngine* engine, const LegendProp& prop,

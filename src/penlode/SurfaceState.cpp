@@ -10,22 +10,6 @@
 namespace penlode {
 namespace {
 
-/// Pixels in one unit on an axis of `dpi` dots per inch.
-double PixelsPerUnit(Unit unit, double dpi) {
-    switch (unit) {
-    case Unit::Point:
-        return dpi / kPointsPerInch;
-    case Unit::Inch:
-        return dpi;
-    case Unit::Document:
-        return dpi / 300.0;
-    case Unit::Millimeter:
-        return dpi / kMillimetresPerInch;
-    default:
-        return 1.0;
-    }
-}
-
 bool IsFinite(const Matrix& m) {
     return std::isfinite(m.M11) && std::isfinite(m.M12) && std::isfinite(m.M21) && std::isfinite(m.M22) &&
            std::isfinite(m.Dx) && std::isfinite(m.Dy);

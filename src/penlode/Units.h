@@ -1,5 +1,7 @@
 #pragma once
 
+#include "penlode/GraphicsTypes.h"
+
 #include <cmath>
 #include <cstdint>
 
@@ -27,6 +29,25 @@ inline float MillimetresFromLogicalHeight(std::int32_t logicalHeight, std::int32
 /// Length in pixels of `millimetres` on a surface of `dpi` dots per inch.
 constexpr float PixelsFromMillimetres(float millimetres, float dpi) {
     return millimetres * dpi / 25.4F;
+}
+
+/// Pixels in one unit on an axis of `dpi` dots per inch; 0 for World and what is no unit.
+constexpr double PixelsPerUnit(Unit unit, double dpi) {
+    switch (unit) {
+    case Unit::Display:
+    case Unit::Pixel:
+        return 1.0;
+    case Unit::Point:
+        return dpi / kPointsPerInch;
+    case Unit::Inch:
+        return dpi;
+    case Unit::Document:
+        return dpi / 300.0;
+    case Unit::Millimeter:
+        return dpi / kMillimetresPerInch;
+    default:
+        return 0.0;
+    }
 }
 
 } // namespace penlode

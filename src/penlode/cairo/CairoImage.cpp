@@ -27,24 +27,6 @@ struct PixelRect {
     std::int32_t Height;
 };
 
-double PixelsPerUnit(Unit unit, double dpi) {
-    switch (unit) {
-    case Unit::Display:
-    case Unit::Pixel:
-        return 1.0;
-    case Unit::Point:
-        return dpi / kPointsPerInch;
-    case Unit::Inch:
-        return dpi;
-    case Unit::Document:
-        return dpi / 300.0;
-    case Unit::Millimeter:
-        return dpi / kMillimetresPerInch;
-    default:
-        return 0.0;
-    }
-}
-
 /// The whole pixels that hold the part of the source inside the image.
 PixelRect Covered(const Image& image, const BoxD& source) {
     const BoxD inside =

@@ -8,19 +8,20 @@
 
 namespace penlode {
 
-/// What an engine draws on: a canvas, the state that every engine keeps, and whatever belongs to its kind.
+/// What an engine draws on: a canvas, and whatever belongs to its kind.
 struct CGraphicsEngine::Target {
     enum class Kind { Picture, Pdf, Host };
 
     Target(Kind kind, CairoContext context, const CanvasSetting& setting, double dpi)
-        : What(kind), Dpi(dpi), Canvas(std::move(context), setting), State(dpi, dpi) {}
+        : What(kind), Dpi(dpi), Canvas(std::move(context), setting) {}
 
     /// Runs one drawing operation.
-    template <std::invocable<const Painter&> Operation> Status Draw(Operation&& operation) {
+    template <std::invocable<const Painter&> Operation>
+    Status Draw(const CSurfaceState& state, Operation&& operation) {
         if (Finished) {
             return Status::WrongState;
         }
-        const Painter painter(Canvas, State);
+        const Painter painter(Canvas, state);
         return painter.IsReady() ? operation(painter) : Status::InvalidParameter;
     }
 
@@ -28,16 +29,7 @@ struct CGraphicsEngine::Target {
     double Dpi;
     std::unique_ptr<std::string> PdfFile; ///< outlives the canvas, which writes to it to the last
     CairoCanvas Canvas;
-    CSurfaceState State;
     bool Finished = false;
 };
-
-template <class... Numbers> bool AreFinite(Numbers... numbers) {
-    return (... && std::isfinite(numbers));
-}
-
-inline bool IsFinite(const RectF& r) {
-    return AreFinite(r.X, r.Y, r.Width, r.Height);
-}
 
 } // namespace penlode

@@ -1,23 +1,17 @@
 #include "penlode/cairo/GraphicsEngine.h"
 
+#include "penlode/EngineArguments.h"
+#include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoGradient.h"
 #include "penlode/cairo/CairoImage.h"
 #include "penlode/cairo/CairoShapes.h"
 #include "penlode/cairo/CairoTarget.h"
+#include "penlode/cairo/CairoText.h"
 
 #include <algorithm>
 
 namespace penlode {
 namespace {
-
-bool IsUsable(const Pen* pen) {
-    return pen != nullptr && std::isfinite(pen->GetWidth());
-}
-
-bool AreUsable(const PointF* points, std::int32_t count) {
-    return points != nullptr && count >= 0 &&
-           std::all_of(points, points + count, [](PointF p) { return AreFinite(p.X, p.Y); });
-}
 
 std::span<const PointF> SpanOf(const PointF* points, std::int32_t count) {
     return {points, static_cast<std::size_t>(count)};
@@ -42,24 +36,23 @@ GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
     return path;
 }
 
-bool HasExtent(const RectF& rect) {
-    return rect.Width > 0.0F && rect.Height > 0.0F;
-}
-
 } // namespace
 
 Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
     if (!IsUsable(pen) || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw([&](const Painter& p) { return StrokeBox(p, *pen, {x, y, width, height}); });
+    return m_target->Draw(State(), [&](const Painter& p) {
+        return StrokeBox(p, *pen, {x, y, width, height});
+    });
 }
 
 Status CGraphicsEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
     if (!IsUsable(pen) || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw([&](const Painter& p) { return StrokeLines(p, *pen, SpanOf(points, count)); });
+    return m_target->Draw(State(),
+                          [&](const Painter& p) { return StrokeLines(p, *pen, SpanOf(points, count)); });
 }
 
 Status CGraphicsEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
@@ -77,7 +70,7 @@ Status CGraphicsEngine::DrawArc(const Pen* pen, float x, float y, float width, f
         return Status::Ok;
     }
     return m_target->Draw(
-        [&](const Painter& p) { return StrokePath(p, *pen, ArcOf(rect, startAngle, sweepAngle)); });
+        State(), [&](const Painter& p) { return StrokePath(p, *pen, ArcOf(rect, startAngle, sweepAngle)); });
 }
 
 Status CGraphicsEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
@@ -88,7 +81,7 @@ Status CGraphicsEngine::DrawEllipse(const Pen* pen, float x, float y, float widt
     if (!HasExtent(rect)) {
         return Status::Ok;
     }
-    return m_target->Draw([&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
+    return m_target->Draw(State(), [&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
@@ -99,22 +92,36 @@ Status CGraphicsEngine::DrawPie(const Pen* pen, const RectF& rect, float startAn
         return Status::Ok;
     }
     return m_target->Draw(
-        [&](const Painter& p) { return StrokePath(p, *pen, PieOf(rect, startAngle, sweepAngle)); });
+        State(), [&](const Painter& p) { return StrokePath(p, *pen, PieOf(rect, startAngle, sweepAngle)); });
 }
 
 Status CGraphicsEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
     if (!IsUsable(pen) || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw([&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
+    return m_target->Draw(State(),
+                          [&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
 }
 
 Status CGraphicsEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
     if (!IsUsable(pen) || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(
-        [&](const Painter& p) { return StrokePath(p, *pen, CardinalSpline(SpanOf(points, count))); });
+    return m_target->Draw(State(), [&](const Painter& p) {
+        return StrokePath(p, *pen, CardinalSpline(SpanOf(points, count)));
+    });
+}
+
+Status CGraphicsEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
+                                   const RectF& layout, const StringFormat* format, const SolidBrush* brush) {
+    if (text == nullptr || font == nullptr || brush == nullptr || !IsDrawable(*font) || !IsFinite(layout)) {
+        return Status::InvalidParameter;
+    }
+    const StringFormat plain;
+    return m_target->Draw(State(), [&](const Painter& p) {
+        return PaintText(p, TextOf(text, length), *font, layout, format == nullptr ? plain : *format,
+                         brush->FillColor);
+    });
 }
 
 Status CGraphicsEngine::DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
@@ -129,24 +136,16 @@ Status CGraphicsEngine::DrawImage(const Image* image, const RectF& destination, 
     if (!pixels) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw([&](const Painter& p) {
+    return m_target->Draw(State(), [&](const Painter& p) {
         return PaintImage(p, *image, destination, {*pixels, attributes, abort, callbackData});
     });
-}
-
-Status CGraphicsEngine::DrawImage(const Image* image, const RectF& destination) {
-    if (image == nullptr) {
-        return Status::InvalidParameter;
-    }
-    return DrawImage(image, destination, 0.0F, 0.0F, static_cast<float>(image->Width),
-                     static_cast<float>(image->Height), Unit::Pixel, nullptr, nullptr, nullptr);
 }
 
 Status CGraphicsEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
     if (brush == nullptr || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw([&](const Painter& p) {
+    return m_target->Draw(State(), [&](const Painter& p) {
         return FillBox(p, brush->FillColor, {x, y, width, height});
     });
 }
@@ -160,7 +159,7 @@ Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, f
         return Status::Ok;
     }
     return m_target->Draw(
-        [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
+        State(), [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
@@ -171,7 +170,7 @@ Status CGraphicsEngine::FillPie(const SolidBrush* brush, const RectF& rect, floa
     if (!HasExtent(rect)) {
         return Status::Ok;
     }
-    return m_target->Draw([&](const Painter& p) {
+    return m_target->Draw(State(), [&](const Painter& p) {
         return penlode::FillPath(p, brush->FillColor, PieOf(rect, startAngle, sweepAngle));
     });
 }
@@ -180,15 +179,17 @@ Status CGraphicsEngine::FillPolygon(const SolidBrush* brush, const PointF* point
     if (brush == nullptr || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(
-        [&](const Painter& p) { return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count)); });
+    return m_target->Draw(State(), [&](const Painter& p) {
+        return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count));
+    });
 }
 
 Status CGraphicsEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
     if (brush == nullptr || path == nullptr) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw([&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, *path); });
+    return m_target->Draw(State(),
+                          [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, *path); });
 }
 
 std::int32_t CGraphicsEngine::GradientFill(const RectL& bounds, const PointF& origin,
@@ -207,7 +208,7 @@ std::int32_t CGraphicsEngine::GradientFill(const RectL& bounds, const PointF& or
                                     mode == GradientMode::RectV);
         return filled ? Status::Ok : Status::InvalidParameter;
     };
-    return m_target->Draw(fill) == Status::Ok ? 1 : 0;
+    return m_target->Draw(State(), fill) == Status::Ok ? 1 : 0;
 }
 
 } // namespace penlode

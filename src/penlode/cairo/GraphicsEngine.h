@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/IGraphicsEngine.h"
+#include "penlode/TrackingEngine.h"
 
 #include <memory>
 #include <string>
@@ -28,8 +28,11 @@ namespace penlode {
 /// of text beyond 8192 characters end there.
 ///
 /// One thread at a time may use an engine; different engines may live on different threads.
-class PENLODE_API CGraphicsEngine final : public IGraphicsEngine {
+class PENLODE_API CGraphicsEngine final : public CTrackingEngine {
 public:
+    using CTrackingEngine::DrawImage;
+    using CTrackingEngine::DrawString;
+
     /// A picture of that many millimetres (rounded to whole pixels, at least one) at `dpi` dots per inch,
     /// from 1 to 9600. Null for a size that is not above 0, more than 32767 pixels along a side or 500
     /// million in all, or when memory runs out.
@@ -67,56 +70,19 @@ public:
     Status DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) override;
     Status DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) override;
     Status DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) override;
-    Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
-                      const StringFormat* format, const SolidBrush* brush) override;
-    Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
-                      const SolidBrush* brush) override;
     Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
                       const StringFormat* format, const SolidBrush* brush) override;
     Status DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
                      float sourceWidth, float sourceHeight, Unit sourceUnit,
                      const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) override;
-    Status DrawImage(const Image* image, const RectF& destination) override;
-    Status ResetClip() override;
-    Status GetClip(Region* region) override;
-    Status SetClip(const GraphicsPath* path, CombineMode mode) override;
-    Status SetClip(const Region* region, CombineMode mode) override;
-    Status SetClip(const RectF& rect, CombineMode mode) override;
     Status FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) override;
     Status FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) override;
     Status FillPie(const SolidBrush* brush, const RectF& rect, float startAngle, float sweepAngle) override;
     Status FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) override;
     Status FillPath(const SolidBrush* brush, const GraphicsPath* path) override;
-    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
-                         const StringFormat* format, RectF* bounds, std::int32_t* charactersFitted,
-                         std::int32_t* linesFilled) override;
-    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
-                         RectF* bounds) override;
-    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
-                         const StringFormat* format, RectF* bounds) override;
-    Status SetTransform(const Matrix* matrix) override;
-    Status GetTransform(Matrix* matrix) override;
-    Status TransformPoints(CoordinateSpace destination, CoordinateSpace source, PointF* points,
-                           std::int32_t count) override;
-    Status TranslateTransform(float dx, float dy, MatrixOrder order) override;
-    Status RotateTransform(float degrees, MatrixOrder order) override;
-    Status ScaleTransform(float sx, float sy, MatrixOrder order) override;
-    Status ResetTransform() override;
-    float GetPageScale() override;
-    Unit GetPageUnit() override;
-    Status SetPageScale(float scale) override;
-    Status SetPageUnit(Unit unit) override;
-    std::uint32_t BeginContainer() override;
-    Status EndContainer(std::uint32_t container) override;
-    Status SetSmoothingMode(SmoothingMode mode) override;
-    SmoothingMode GetSmoothingMode() override;
     std::int32_t GradientFill(const RectL& bounds, const PointF& origin, const GradientVertex* vertices,
                               std::uint32_t vertexCount, const void* mesh, std::uint32_t meshCount,
                               GradientMode mode) override;
-    SizeF MeasureScriptText(const wchar_t* text, const Font* font) override;
-    void DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
-                        const SolidBrush* brush) override;
-    Status SetClip(Region* region, CombineMode mode) override;
 
 private:
     struct Target;

@@ -1,3 +1,4 @@
+#include "penlode/EngineArguments.h"
 #include "penlode/Units.h"
 #include "penlode/cairo/CairoTarget.h"
 #include "penlode/cairo/PngWriter.h"
@@ -78,7 +79,8 @@ PremultipliedPixels PixelsOf(cairo_t* context) {
 
 } // namespace
 
-CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target) : m_target(std::move(target)) {}
+CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
+    : CTrackingEngine(target->Dpi, target->Dpi), m_target(std::move(target)) {}
 
 CGraphicsEngine::~CGraphicsEngine() = default;
 

@@ -1,5 +1,6 @@
 #include "penlode/cairo/PangoText.h"
 
+#include "penlode/EngineArguments.h"
 #include "penlode/StringUtil.h"
 #include "penlode/cairo/FontFamilies.h"
 
@@ -208,10 +209,6 @@ SetLine SetTextLine(std::wstring_view text, const Font& font) {
 
 std::wstring FaceOf(const Font& font) {
     return ThisThread().Face(font);
-}
-
-bool IsDrawable(const Font& font) {
-    return std::isfinite(font.Size) && font.Size > 0.0F;
 }
 
 float CStringUtil::MeasureLine(std::wstring_view line, const Font& font) {

@@ -30,7 +30,4 @@ SetLine SetTextLine(std::wstring_view text, const Font& font);
 /// The name of the face that is taken for a font.
 std::wstring FaceOf(const Font& font);
 
-/// A size that texts can be drawn in: finite and above 0.
-bool IsDrawable(const Font& font);
-
 } // namespace penlode

@@ -1,7 +1,7 @@
 #include "penlode/recording/RecordingEngine.h"
 
-#include "penlode/EngineText.h"
 #include "penlode/TextPlacement.h"
+#include "penlode/Units.h"
 
 #include <span>
 #include <utility>
@@ -84,6 +84,8 @@ Status CRecordingEngine::Record(const char* operation, const Arguments&... argum
     return complete ? Status::Ok : Status::InvalidParameter;
 }
 
+CRecordingEngine::CRecordingEngine() : CTrackingEngine(kMillimetresPerInch, kMillimetresPerInch) {}
+
 std::string CRecordingEngine::Text(int decimals) const {
     std::string text;
     for (const RecordedCall& call : m_calls) {
@@ -154,34 +156,22 @@ Status CRecordingEngine::DrawImage(const Image* image, const RectF& destination)
 }
 
 Status CRecordingEngine::ResetClip() {
-    m_state.ResetClip();
+    CTrackingEngine::ResetClip();
     return Record("ResetClip");
 }
 
-Status CRecordingEngine::GetClip(Region* region) {
-    if (region == nullptr) {
-        return Status::InvalidParameter;
-    }
-    *region = m_state.WorldClip();
-    return Status::Ok;
-}
-
 Status CRecordingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
-    if (path != nullptr) {
-        m_state.CombineClip(Region::Shape{*path}, mode);
-    }
+    CTrackingEngine::SetClip(path, mode);
     return Record("SetClip", path, mode);
 }
 
 Status CRecordingEngine::SetClip(const Region* region, CombineMode mode) {
-    if (region != nullptr) {
-        m_state.CombineClip(*region, mode);
-    }
+    CTrackingEngine::SetClip(region, mode);
     return Record("SetClip", region, mode);
 }
 
 Status CRecordingEngine::SetClip(const RectF& rect, CombineMode mode) {
-    m_state.CombineClip(Region::Shape{rect}, mode);
+    CTrackingEngine::SetClip(rect, mode);
     return Record("SetClip", rect, mode);
 }
 
@@ -206,93 +196,55 @@ Status CRecordingEngine::FillPath(const SolidBrush* brush, const GraphicsPath* p
     return Record("FillPath", brush, path);
 }
 
-Status CRecordingEngine::MeasureString(const wchar_t* text, std::int32_t length, const Font* font,
-                                       const RectF& layout, const StringFormat* format, RectF* bounds,
-                                       std::int32_t* charactersFitted, std::int32_t* linesFilled) {
-    return MeasureInLayout(TextOf(text, length), font, layout, format, bounds, charactersFitted, linesFilled);
-}
-
-Status CRecordingEngine::MeasureString(const wchar_t* text, std::int32_t length, const Font* font,
-                                       const PointF& origin, RectF* bounds) {
-    return MeasureString(text, length, font, origin, nullptr, bounds);
-}
-
-Status CRecordingEngine::MeasureString(const wchar_t* text, std::int32_t length, const Font* font,
-                                       const PointF& origin, const StringFormat* format, RectF* bounds) {
-    return MeasureInLayout(TextOf(text, length), font, {origin.X, origin.Y, 0.0F, 0.0F}, format, bounds,
-                           nullptr, nullptr);
-}
-
 Status CRecordingEngine::SetTransform(const Matrix* matrix) {
-    m_state.SetTransform(matrix);
+    CTrackingEngine::SetTransform(matrix);
     return Record("SetTransform", matrix);
 }
 
-Status CRecordingEngine::GetTransform(Matrix* matrix) {
-    return m_state.GetTransform(matrix);
-}
-
-Status CRecordingEngine::TransformPoints(CoordinateSpace destination, CoordinateSpace source, PointF* points,
-                                         std::int32_t count) {
-    return m_state.TransformPoints(destination, source, points, count);
-}
-
 Status CRecordingEngine::TranslateTransform(float dx, float dy, MatrixOrder order) {
-    m_state.Transform(Matrix::Translation(dx, dy), order);
+    CTrackingEngine::TranslateTransform(dx, dy, order);
     return Record("TranslateTransform", dx, dy, order);
 }
 
 Status CRecordingEngine::RotateTransform(float degrees, MatrixOrder order) {
-    m_state.Transform(Matrix::Rotation(degrees), order);
+    CTrackingEngine::RotateTransform(degrees, order);
     return Record("RotateTransform", degrees, order);
 }
 
 Status CRecordingEngine::ScaleTransform(float sx, float sy, MatrixOrder order) {
-    m_state.Transform(Matrix::Scale(sx, sy), order);
+    CTrackingEngine::ScaleTransform(sx, sy, order);
     return Record("ScaleTransform", sx, sy, order);
 }
 
 Status CRecordingEngine::ResetTransform() {
-    m_state.ResetTransform();
+    CTrackingEngine::ResetTransform();
     return Record("ResetTransform");
 }
 
-float CRecordingEngine::GetPageScale() {
-    return m_state.GetPageScale();
-}
-
-Unit CRecordingEngine::GetPageUnit() {
-    return m_state.GetPageUnit();
-}
-
 Status CRecordingEngine::SetPageScale(float scale) {
-    m_state.SetPageScale(scale);
+    CTrackingEngine::SetPageScale(scale);
     return Record("SetPageScale", scale);
 }
 
 Status CRecordingEngine::SetPageUnit(Unit unit) {
-    m_state.SetPageUnit(unit);
+    CTrackingEngine::SetPageUnit(unit);
     return Record("SetPageUnit", unit);
 }
 
 std::uint32_t CRecordingEngine::BeginContainer() {
-    const std::uint32_t container = m_state.BeginContainer();
+    const std::uint32_t container = CTrackingEngine::BeginContainer();
     Record("BeginContainer", container);
     return container;
 }
 
 Status CRecordingEngine::EndContainer(std::uint32_t container) {
     Record("EndContainer", container);
-    return m_state.EndContainer(container);
+    return CTrackingEngine::EndContainer(container);
 }
 
 Status CRecordingEngine::SetSmoothingMode(SmoothingMode mode) {
-    m_state.SetSmoothingMode(mode);
+    CTrackingEngine::SetSmoothingMode(mode);
     return Record("SetSmoothingMode", mode);
-}
-
-SmoothingMode CRecordingEngine::GetSmoothingMode() {
-    return m_state.GetSmoothingMode();
 }
 
 std::int32_t CRecordingEngine::GradientFill(const RectL& bounds, const PointF& origin,
@@ -306,19 +258,9 @@ std::int32_t CRecordingEngine::GradientFill(const RectL& bounds, const PointF& o
     return vertices != nullptr && mesh != nullptr ? 1 : 0;
 }
 
-SizeF CRecordingEngine::MeasureScriptText(const wchar_t* text, const Font* font) {
-    RectF bounds;
-    MeasureString(text, -1, font, PointF{}, &bounds);
-    return {bounds.Width, bounds.Height};
-}
-
 void CRecordingEngine::DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
                                       const SolidBrush* brush) {
     Record("DrawScriptText", TextOf(text, -1), font, PointF{x, y}, brush);
-}
-
-Status CRecordingEngine::SetClip(Region* region, CombineMode mode) {
-    return SetClip(static_cast<const Region*>(region), mode);
 }
 
 } // namespace penlode

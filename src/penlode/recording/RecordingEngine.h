@@ -1,7 +1,6 @@
 #pragma once
 
-#include "penlode/IGraphicsEngine.h"
-#include "penlode/SurfaceState.h"
+#include "penlode/TrackingEngine.h"
 
 #include <string>
 #include <variant>
@@ -27,8 +26,10 @@ PENLODE_API std::string ToText(const RecordedCall& call, int decimals = 2);
 
 /// An engine that draws nothing and writes down every call that changes or draws something, in order; queries
 /// (Get..., Measure..., TransformPoints) are answered and leave no line. Its device unit is the millimetre.
-class PENLODE_API CRecordingEngine final : public IGraphicsEngine {
+class PENLODE_API CRecordingEngine final : public CTrackingEngine {
 public:
+    CRecordingEngine();
+
     const std::vector<RecordedCall>& Calls() const { return m_calls; }
 
     void Clear() { m_calls.clear(); }
@@ -56,7 +57,6 @@ public:
                      const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) override;
     Status DrawImage(const Image* image, const RectF& destination) override;
     Status ResetClip() override;
-    Status GetClip(Region* region) override;
     Status SetClip(const GraphicsPath* path, CombineMode mode) override;
     Status SetClip(const Region* region, CombineMode mode) override;
     Status SetClip(const RectF& rect, CombineMode mode) override;
@@ -65,42 +65,26 @@ public:
     Status FillPie(const SolidBrush* brush, const RectF& rect, float startAngle, float sweepAngle) override;
     Status FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) override;
     Status FillPath(const SolidBrush* brush, const GraphicsPath* path) override;
-    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
-                         const StringFormat* format, RectF* bounds, std::int32_t* charactersFitted,
-                         std::int32_t* linesFilled) override;
-    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
-                         RectF* bounds) override;
-    Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font, const PointF& origin,
-                         const StringFormat* format, RectF* bounds) override;
     Status SetTransform(const Matrix* matrix) override;
-    Status GetTransform(Matrix* matrix) override;
-    Status TransformPoints(CoordinateSpace destination, CoordinateSpace source, PointF* points,
-                           std::int32_t count) override;
     Status TranslateTransform(float dx, float dy, MatrixOrder order) override;
     Status RotateTransform(float degrees, MatrixOrder order) override;
     Status ScaleTransform(float sx, float sy, MatrixOrder order) override;
     Status ResetTransform() override;
-    float GetPageScale() override;
-    Unit GetPageUnit() override;
     Status SetPageScale(float scale) override;
     Status SetPageUnit(Unit unit) override;
     std::uint32_t BeginContainer() override;
     Status EndContainer(std::uint32_t container) override;
     Status SetSmoothingMode(SmoothingMode mode) override;
-    SmoothingMode GetSmoothingMode() override;
     std::int32_t GradientFill(const RectL& bounds, const PointF& origin, const GradientVertex* vertices,
                               std::uint32_t vertexCount, const void* mesh, std::uint32_t meshCount,
                               GradientMode mode) override;
-    SizeF MeasureScriptText(const wchar_t* text, const Font* font) override;
     void DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
                         const SolidBrush* brush) override;
-    Status SetClip(Region* region, CombineMode mode) override;
 
 private:
     template <class... Arguments> Status Record(const char* operation, const Arguments&... arguments);
 
     std::vector<RecordedCall> m_calls;
-    CSurfaceState m_state{25.4, 25.4};
 };
 
 } // namespace penlode
