@@ -8,8 +8,9 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 namespace cli {
 
@@ -23,12 +24,16 @@ constexpr std::int32_t kFormatVersion = 1;
 constexpr const char* kPointForm = "a point such as \"12.5 40\"";
 
 std::string ReadFile(const std::string& name) {
+    std::error_code error;
+    if (std::filesystem::is_directory(name, error)) {
+        throw UserError(name + ": cannot be read: it is a folder");
+    }
     std::ifstream file(name, std::ios::binary);
-    std::string content{std::istreambuf_iterator<char>(file), {}};
-    if (!file.good() && !file.eof()) {
+    std::ostringstream content;
+    if (!file || (file.peek() != std::ifstream::traits_type::eof() && !(content << file.rdbuf()))) {
         throw UserError(name + ": cannot be read: " + std::strerror(errno));
     }
-    return content;
+    return std::move(content).str();
 }
 
 template <class T> bool ParseNumber(const std::string& text, T& value) {
@@ -87,14 +92,8 @@ public:
         m_pie.SetComponentValue(LoadList<double>(stream, "values", ParseNumber<double>, "a number"));
         stream.Pop();
         m_pie.SetLocation(LoadPoint(stream, "location"));
-        std::vector<PointF> offsets = LoadList<PointF>(stream, "labelOffsets", ParsePoint, kPointForm);
-        offsets.resize(prop.Basic.ComponentName.size());
-        m_pie.SetChildOffset(offsets, {LoadPoint(stream, "legendOffset")});
-        m_pie.Layout();
-    }
-
-    void MoveBy(PointF offset) override {
-        m_pie.SetLocation(m_pie.GetLocation() + offset);
+        m_pie.SetChildOffset(LoadList<PointF>(stream, "labelOffsets", ParsePoint, kPointForm),
+                             {LoadPoint(stream, "legendOffset")});
         m_pie.Layout();
     }
 

@@ -18,7 +18,6 @@ namespace cli {
 class Chart {
 public:
     virtual ~Chart() = default;
-    virtual void MoveBy(penlode::PointF offset) = 0;
     virtual penlode::RectF Extent() const = 0;
     virtual void Draw(penlode::IGraphicsEngine& engine) const = 0;
 };

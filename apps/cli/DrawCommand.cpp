@@ -25,7 +25,7 @@ penlode::RectF CheckedExtent(const Chart& chart, const std::string& fileName) {
     const penlode::RectF extent = chart.Extent();
     if (extent.Width == 0.0F && extent.Height == 0.0F) {
         throw UserError(fileName +
-                        ": data/values: found nothing to draw, expected values that add up to more than 0");
+                        ": found nothing to draw, expected values in data/values and a size above 0");
     }
     if (!IsDrawable(extent)) {
         throw UserError(fileName +
@@ -45,13 +45,13 @@ void Draw(const DrawOptions& options) {
         std::cerr << "millichart: " << Describe(options.Input, remark) << '\n';
     }
     const penlode::RectF extent = CheckedExtent(*document.Content, options.Input);
-    document.Content->MoveBy({kMargin - extent.X, kMargin - extent.Y});
 
     const penlode::SizeF page{extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin};
     const auto engine = penlode::CGraphicsEngine::ForRaster(page, options.Dpi, penlode::kWhite);
     if (engine == nullptr) {
         throw UserError(options.Output + ": the picture would be too large, expected fewer dots per inch");
     }
+    engine->TranslateTransform(kMargin - extent.X, kMargin - extent.Y, penlode::MatrixOrder::Prepend);
     document.Content->Draw(*engine);
     WriteFileWhole(options.Output, engine->EncodePng());
 }

@@ -123,7 +123,7 @@ void CLegendOperation::DrawBox(penlode::IGraphicsEngine* engine, const LegendPro
 void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& prop,
                             const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
                             const std::vector<RectF>& items) {
-    if (prop.ShowLegend == 0 || items.empty()) {
+    if (engine == nullptr || prop.ShowLegend == 0 || items.empty()) {
         return;
     }
     DrawBox(engine, prop, items);

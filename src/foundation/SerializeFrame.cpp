@@ -4,6 +4,7 @@
 #include "penlode/TextForms.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace millichart {
 
@@ -19,7 +20,12 @@ template <class T> std::string TextOf(T value) {
     return text;
 }
 
-/// "2D" or "3D"
+/// A stray byte at a text's end would take the separator behind it for its second half.
+std::string WithWholeCharacters(const std::string& text) {
+    return penlode::CStringUtil::WideToAnsiString(penlode::CStringUtil::AnsiToWideString(text));
+}
+
+/// one of "2D", "3D"
 std::string ListedNames(EnumNames names) {
     std::string text;
     for (const EnumName& name : names) {
@@ -129,7 +135,7 @@ void KeyedRecord::ColorList(const char* key, std::vector<penlode::Color>& values
 void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values) {
     std::string joined;
     for (const std::string& value : values) {
-        joined += value + kTextSeparator;
+        joined += WithWholeCharacters(value) + kTextSeparator;
     }
     m_stream.Ser(key, joined, {});
     if (!m_stream.IsSaving()) {
@@ -145,6 +151,9 @@ void PositionalRecord::Field(std::vector<penlode::Color>& values) {
         return;
     }
     values.clear();
+    if (count < 0) {
+        m_stream.Refuse("a count of " + TextOf(count), "a count of colours");
+    }
     for (std::int32_t i = 0; i < count && !m_stream.Failed(); ++i) {
         penlode::Color color = penlode::kBlack;
         m_stream.Read(color);

@@ -2,6 +2,7 @@
 
 #include "penlode/StringUtil.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace millichart {
@@ -26,7 +27,7 @@ PointF Along(double angle, float length) {
     return {static_cast<float>(std::cos(angle)) * length, -static_cast<float>(std::sin(angle)) * length};
 }
 
-/// The frame and the fill of a text's box.
+/// The fill and, on top of it, the frame of a text's box.
 void DrawBox(IGraphicsEngine& engine, const TextProperty& property, const RectF& box) {
     if (property.DrawBackGround != 0) {
         const penlode::SolidBrush brush{property.BkColor};
@@ -79,6 +80,9 @@ SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextPro
 
 void CTextPropertyOperation::DrawTextAtCenter(IGraphicsEngine* engine, const std::string& text,
                                               const TextProperty& property, PointF point) {
+    if (engine == nullptr) {
+        return;
+    }
     const penlode::SolidBrush brush{property.TextColor};
     const std::wstring wide = penlode::CStringUtil::AnsiToWideString(text);
 

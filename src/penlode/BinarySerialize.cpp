@@ -148,9 +148,9 @@ void CBinarySerialize::Read(std::vector<std::string>& values) {
     if (!TakeLength("a list", kWordSize, count)) {
         return;
     }
-    std::vector<std::string> texts(count);
-    for (std::string& text : texts) {
-        Read(text);
+    std::vector<std::string> texts;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        Read(texts.emplace_back());
         if (Failed()) {
             return;
         }
@@ -207,6 +207,12 @@ bool CBinarySerialize::WritePresence(bool present) {
         m_bytes += static_cast<char>(present);
     }
     return present;
+}
+
+void CBinarySerialize::Refuse(const std::string& found, const std::string& expected) {
+    if (!Failed() && !m_saving) {
+        Fail(m_position, found, expected);
+    }
 }
 
 void CBinarySerialize::Fail(std::size_t offset, std::string found, std::string expected) {

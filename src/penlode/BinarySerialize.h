@@ -58,6 +58,8 @@ public:
 
     bool Failed() const override { return m_problem.has_value(); }
 
+    void Refuse(const std::string& found, const std::string& expected) override;
+
 private:
     void WriteWord(std::uint32_t word);
     bool WritePresence(bool present);

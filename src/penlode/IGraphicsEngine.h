@@ -57,7 +57,8 @@ using DrawImageAbort = bool (*)(void* callbackData);
 /// and are not kept. A null one is skipped with InvalidParameter, and so is a call whose numbers are not
 /// finite.
 ///
-/// The order of the operations is part of the interface: hosts link against it by slot.
+/// The order of the operations is part of the interface; a compiler may still lay out overloads in an order
+/// of its own.
 class PENLODE_API IGraphicsEngine {
 public:
     virtual ~IGraphicsEngine() = default;

@@ -28,19 +28,22 @@ public:
     virtual void Write(float value) = 0;
     virtual void Write(std::int32_t value) = 0;
     virtual void Write(const std::vector<std::string>& values) = 0;
-    virtual void Write(const Font* font) = 0;
-    virtual void Write(const Pen* pen) = 0;
 
     virtual void Read(Color& value) = 0;
     virtual void Read(std::string& value) = 0;
     virtual void Read(float& value) = 0;
     virtual void Read(std::int32_t& value) = 0;
     virtual void Read(std::vector<std::string>& values) = 0;
+
+    virtual void Write(const Font* font) = 0;
+    virtual void Write(const Pen* pen) = 0;
     virtual void Read(Font** font) = 0;
     virtual void Read(Pen** pen) = 0;
 
     /// True after a read that could not be satisfied. Loops over a count that was read stop here.
     virtual bool Failed() const = 0;
+    /// Told when what was read last means nothing: fails the stream. UTF-8.
+    virtual void Refuse(const std::string& found, const std::string& expected) = 0;
 };
 
 } // namespace penlode

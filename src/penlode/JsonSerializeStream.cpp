@@ -38,9 +38,17 @@ struct CJsonSerializeStream::Document {
     bool Saving = true;
     bool Unreadable = false;
     std::vector<StreamProblem> Problems;
-    std::unordered_set<const Json*> Asked;   ///< entries that a load asked for
-    std::unordered_set<const Json*> Entered; ///< the groups among them, whose own entries count too
+    std::unordered_set<const Json*> Asked;      ///< entries that a load asked for
+    std::unordered_set<const Json*> Entered;    ///< the groups among them, whose own entries count too
+    std::unordered_set<std::string> WrongTypes; ///< places of which was told that they hold no text
     std::vector<StreamProblem> UnknownBeforeSaving;
+
+    bool HasRoom() const { return !Unreadable && Problems.size() < kMostProblems; }
+
+    /// A value of which was told that it is no text need not be told to be the wrong text.
+    bool TakesRefusalAt(const std::string& tag) const {
+        return HasRoom() && !WrongTypes.contains(PlaceOf(tag));
+    }
 
     Json* Current() { return OpenGroups.empty() ? &Root : OpenGroups.back().Node; }
 
@@ -84,7 +92,10 @@ std::string CJsonSerializeStream::Document::PlaceOf(const std::string& tag) cons
 /// A document that could not be read has one problem, not one for each key that it therefore lacks.
 void CJsonSerializeStream::Document::Report(Kind what, std::string place, std::string found,
                                             std::string expected) {
-    if (!Unreadable && Problems.size() < kMostProblems) {
+    if (what == Kind::WrongType) {
+        WrongTypes.insert(place);
+    }
+    if (HasRoom()) {
         Problems.push_back({what, std::move(place), std::move(found), std::move(expected)});
     }
 }
@@ -133,7 +144,7 @@ CJsonSerializeStream::Document::LoadList(const std::string& tag, const std::vect
 std::string CJsonSerializeStream::Document::LoadItem(const std::string& tag, const Json::array_t& items,
                                                      std::size_t index) {
     auto text = ScalarText(items[index]);
-    if (!text) {
+    if (!text && HasRoom()) {
         Report(Kind::WrongType, JoinedPlace(PlaceOf(tag), std::to_string(index)), Shown(items[index]),
                "a text");
     }
@@ -297,10 +308,11 @@ std::string CJsonSerializeStream::GetFullFileName() {
 /// Shows the entry as the document has it, where it is a value of its own and not an item of a list.
 void CJsonSerializeStream::Refuse(const std::string& tag, const std::string& found,
                                   const std::string& expected) {
-    if (m_document->Saving) {
+    if (m_document->Saving || !m_document->TakesRefusalAt(tag)) {
         return;
     }
-    const Json* const entry = m_document->Find(tag);
+    const bool isItem = tag.find('/') != std::string::npos;
+    const Json* const entry = isItem ? nullptr : m_document->Find(tag);
     const Json shown =
         entry != nullptr && entry->is_primitive() ? *entry : Json(CStringUtil::AnsiToUtf8(found));
     m_document->Report(Kind::Refused, m_document->PlaceOf(tag), Shown(shown),

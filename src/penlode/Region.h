@@ -1,11 +1,12 @@
 #pragma once
 
+#include "penlode/Export.h"
 #include "penlode/Geometry.h"
 #include "penlode/GraphicsPath.h"
 #include "penlode/GraphicsTypes.h"
 
+#include <cstddef>
 #include <memory>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -13,8 +14,14 @@ namespace penlode {
 
 /// An area of the plane, kept as the steps that make it: starting from the whole plane, each step combines a
 /// shape with what stands. An engine turns the steps into its platform's clip.
-class Region {
+///
+/// A step that would make a region of more than kMostSteps steps, or of regions within regions beyond
+/// kMostLevels, is refused with OutOfMemory and changes nothing.
+class PENLODE_API Region {
 public:
+    static constexpr std::size_t kMostSteps = 10000;
+    static constexpr std::size_t kMostLevels = 50;
+
     struct Everything {
         friend bool operator==(const Everything&, const Everything&) = default;
     };
@@ -23,10 +30,10 @@ public:
         friend bool operator==(const Nothing&, const Nothing&) = default;
     };
 
-    /// A region as the operand of a step.
+    /// A region as the operand of a step; never null in a region's steps.
     struct Nested {
         std::shared_ptr<const Region> Area;
-        inline friend bool operator==(const Nested& a, const Nested& b);
+        PENLODE_API friend bool operator==(const Nested& a, const Nested& b);
     };
 
     using Shape = std::variant<Everything, Nothing, RectF, GraphicsPath, Nested>;
@@ -42,31 +49,28 @@ public:
 
     explicit Region(const RectF& rect) { Combine(rect, CombineMode::Replace); }
 
-    explicit Region(GraphicsPath path) { Combine(std::move(path), CombineMode::Replace); }
+    explicit Region(const GraphicsPath& path) { Combine(path, CombineMode::Replace); }
 
-    void MakeInfinite() { m_steps.clear(); }
+    void MakeInfinite() { *this = {}; }
 
-    void MakeEmpty() { m_steps.assign(1, {CombineMode::Replace, Nothing{}}); }
+    void MakeEmpty() { Combine(Nothing{}, CombineMode::Replace); }
 
-    void Combine(Shape shape, CombineMode mode) {
-        if (mode == CombineMode::Replace) {
-            m_steps.clear();
-        }
-        m_steps.push_back({mode, std::move(shape)});
-    }
+    /// A null nested region is an InvalidParameter.
+    Status Combine(const Shape& shape, CombineMode mode);
+    Status Combine(const Region& region, CombineMode mode);
 
     bool IsInfinite() const { return m_steps.empty(); }
 
     const std::vector<Step>& Steps() const { return m_steps; }
 
-    friend bool operator==(const Region&, const Region&) = default;
+    friend bool operator==(const Region& a, const Region& b) { return a.m_steps == b.m_steps; }
 
 private:
-    std::vector<Step> m_steps;
-};
+    bool MergeRectangles(const Shape& shape, CombineMode mode);
 
-bool operator==(const Region::Nested& a, const Region::Nested& b) {
-    return a.Area == b.Area || (a.Area && b.Area && *a.Area == *b.Area);
-}
+    std::vector<Step> m_steps;
+    std::size_t m_size = 0;   ///< steps, those of nested regions counted
+    std::size_t m_levels = 1; ///< regions within each other
+};
 
 } // namespace penlode

@@ -54,17 +54,6 @@ Region Mapped(const Region& region, const Matrix& transform) {
     return mapped;
 }
 
-/// A region as one operand: the single shape that it is, if it is one.
-Region::Shape AsShape(const Region& region) {
-    if (region.IsInfinite()) {
-        return Region::Everything{};
-    }
-    if (region.Steps().size() == 1 && region.Steps().front().Mode == CombineMode::Replace) {
-        return region.Steps().front().Operand;
-    }
-    return Region::Nested{std::make_shared<const Region>(region)};
-}
-
 } // namespace
 
 CSurfaceState::CSurfaceState(double dpiX, double dpiY) : m_dpiX(dpiX), m_dpiY(dpiY) {}
@@ -133,12 +122,12 @@ Status CSurfaceState::TransformPoints(CoordinateSpace destination, CoordinateSpa
     return Status::Ok;
 }
 
-void CSurfaceState::CombineClip(const Region::Shape& shape, CombineMode mode) {
-    m_now.Clip.Combine(std::visit(ShapeMapper{WorldToDevice()}, shape), mode);
+Status CSurfaceState::CombineClip(const Region::Shape& shape, CombineMode mode) {
+    return m_now.Clip.Combine(std::visit(ShapeMapper{WorldToDevice()}, shape), mode);
 }
 
-void CSurfaceState::CombineClip(const Region& region, CombineMode mode) {
-    CombineClip(AsShape(region), mode);
+Status CSurfaceState::CombineClip(const Region& region, CombineMode mode) {
+    return m_now.Clip.Combine(Mapped(region, WorldToDevice()), mode);
 }
 
 Region CSurfaceState::WorldClip() const {

@@ -49,9 +49,9 @@ public:
 
     void ResetClip() { m_now.Clip.MakeInfinite(); }
 
-    /// The shape is in world coordinates.
-    void CombineClip(const Region::Shape& shape, CombineMode mode);
-    void CombineClip(const Region& region, CombineMode mode);
+    /// The shape is in world coordinates. Refused as Region::Combine refuses.
+    Status CombineClip(const Region::Shape& shape, CombineMode mode);
+    Status CombineClip(const Region& region, CombineMode mode);
     /// The current container's clip in world coordinates.
     Region WorldClip() const;
     /// The clips in force, outermost container first, in device coordinates: what is drawn lies inside all of

@@ -19,10 +19,6 @@ constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kNone = "none";
 constexpr std::string_view kGenericFamily = "sans-serif";
 
-/// In the order of DashStyle's numbers.
-constexpr std::array<std::string_view, 6> kDashWords = {"solid",    "dash",         "dot",
-                                                        "dash-dot", "dash-dot-dot", "custom"};
-
 struct StyleWord {
     std::int32_t Bit;
     std::string_view Word;
@@ -88,12 +84,12 @@ std::optional<Color> ColorOf(std::string_view text) {
 
 std::string PenText(const Pen& pen) {
     const auto dash = static_cast<std::size_t>(pen.GetDashStyle());
-    return ColorText(pen.GetColor()) + ' ' + NumberText(pen.GetWidth()) + ' ' + std::string(kDashWords[dash]);
+    return ColorText(pen.GetColor()) + ' ' + NumberText(pen.GetWidth()) + ' ' + std::string(kDashNames[dash]);
 }
 
 std::optional<DashStyle> DashOf(std::string_view word) {
-    for (std::size_t i = 0; i < kDashWords.size(); ++i) {
-        if (word == kDashWords[i]) {
+    for (std::size_t i = 0; i < kDashNames.size(); ++i) {
+        if (word == kDashNames[i]) {
             return static_cast<DashStyle>(i);
         }
     }

@@ -6,6 +6,7 @@
 #include "penlode/Owned.h"
 #include "penlode/Pen.h"
 
+#include <array>
 #include <cstdint>
 #include <iosfwd>
 #include <string>
@@ -37,6 +38,10 @@ PENLODE_API bool ser_evaluate(Owned<Font>& value, std::string& text, bool toText
 
 /// One float of a list: written with a blank after it, or read up to the next blank.
 PENLODE_API bool ser_evaluate_vector(float& value, std::stringstream& stream, bool toText);
+
+/// The words for dash styles, by number.
+inline constexpr std::array<const char*, 6> kDashNames = {"solid",    "dash",         "dot",
+                                                          "dash-dot", "dash-dot-dot", "custom"};
 
 /// What a text of each kind looks like, for messages.
 inline constexpr const char* kIntegerForm = "a whole number";

@@ -59,24 +59,21 @@ Status CTrackingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
     if (path == nullptr || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    m_state.CombineClip(Region::Shape{*path}, mode);
-    return Status::Ok;
+    return m_state.CombineClip(Region::Shape{*path}, mode);
 }
 
 Status CTrackingEngine::SetClip(const Region* region, CombineMode mode) {
     if (region == nullptr || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    m_state.CombineClip(*region, mode);
-    return Status::Ok;
+    return m_state.CombineClip(*region, mode);
 }
 
 Status CTrackingEngine::SetClip(const RectF& rect, CombineMode mode) {
     if (!IsFinite(rect) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    m_state.CombineClip(Region::Shape{rect}, mode);
-    return Status::Ok;
+    return m_state.CombineClip(Region::Shape{rect}, mode);
 }
 
 Status CTrackingEngine::SetClip(Region* region, CombineMode mode) {

@@ -105,6 +105,15 @@ TEST_F(Draw, EveryExampleInItsRealSize) {
     EXPECT_EQ(BigEndian(png, resolution + 4), 10000U);
 }
 
+TEST_F(Draw, TheExampleOfTheFormatsDescription) {
+    const std::string description = ReadAll(MILLICHART_DOCS "/document-format.md");
+    const std::size_t begin = description.find("```json") + 7;
+    const std::string example = description.substr(begin, description.find("```", begin) - begin);
+    const Outcome outcome = Millichart("draw " + Write("d.json", example) + " -o " + Path("d.png"));
+    EXPECT_EQ(outcome.Status, 0);
+    EXPECT_EQ(outcome.Errors, "");
+}
+
 TEST_F(Draw, TheSameDocumentGivesTheSameBytes) {
     const std::string example = MILLICHART_EXAMPLES "/pie-china-age-2020.chart.json";
     Millichart("draw " + example + " -o " + Path("1.png"));
@@ -113,15 +122,24 @@ TEST_F(Draw, TheSameDocumentGivesTheSameBytes) {
     EXPECT_EQ(ReadAll(Path("1.png")), ReadAll(Path("2.png")));
 }
 
+TEST_F(Draw, LabelsMoveWithTheirOffsetsWithOrWithoutNames) {
+    const std::string labelled = R"({"kind": "pie", "property": {"PieBasicProp": {"StartAngle": -90},
+        "PieLabelProp": {"ShowPercentLabel": 1}}, "data": {"values": [1, 2]}, "labelOffsets": ["0 0", ")";
+    Millichart("draw " + Write("a.json", labelled + "0 0\"]}") + " -o " + Path("a.png"));
+    Millichart("draw " + Write("b.json", labelled + "0 30\"]}") + " -o " + Path("b.png"));
+    const std::string a = ReadAll(Path("a.png"));
+    const std::string b = ReadAll(Path("b.png"));
+    EXPECT_GT(BigEndian(b, 20), BigEndian(a, 20)) << "the page grows with the label that moved down";
+}
+
 TEST_F(Draw, SaysWhatIsWrongAndWhere) {
     EXPECT_EQ(Complaint(R"({"kind": "pye"})"), "kind: found \"pye\", expected \"pie\"\n");
     EXPECT_EQ(Complaint(R"({"version": 2, "kind": "pie", "data": {"values": [1]}})"),
               "version: found 2, expected 1\n");
     EXPECT_EQ(Complaint(R"({"kind": "pie", "data": {"values": [1, "x", {}]}})"),
-              "data/values/2: found {}, expected a text\ndata/values/1: found \"x\", expected a number\n"
-              "data/values/2: found \"\", expected a number\n");
+              "data/values/2: found {}, expected a text\ndata/values/1: found \"x\", expected a number\n");
     EXPECT_EQ(Complaint(R"({"kind": "pie", "data": {"values": []}})"),
-              "data/values: found nothing to draw, expected values that add up to more than 0\n");
+              "found nothing to draw, expected values in data/values and a size above 0\n");
     EXPECT_EQ(
         Complaint(R"({"kind": "pie", "location": "1", "data": {"values": [1]}, "property": {"PieBasicProp":
         {"PieStyle": "4D", "PenSepLine": [], "ComponentColor": ["#12345"]}, "PieLabelProp": 3}})"),
@@ -140,6 +158,9 @@ TEST_F(Draw, SaysWhereADocumentCannotBeRead) {
     const Outcome missing = Millichart("draw " + Path("none.json") + " -o " + Path("a.png"));
     EXPECT_EQ(missing.Status, 1);
     EXPECT_NE(missing.Errors.find("none.json: cannot be read"), std::string::npos);
+    const Outcome folder = Millichart("draw " + Path("") + " -o " + Path("a.png"));
+    EXPECT_EQ(folder.Status, 1);
+    EXPECT_NE(folder.Errors.find("cannot be read: it is a folder"), std::string::npos);
 }
 
 TEST_F(Draw, UnsoundNumbersAreRefusedNotDrawn) {

@@ -81,4 +81,9 @@ TEST(Legend, DrawsNothingWhenOffOrEmpty) {
     prop.ShowBackground = 0;
     CLegendOperation::Draw(&engine, prop, {}, {}, {{10, 20, 7, 5}});
     EXPECT_EQ(engine.Text(), "DrawRectangle #FF000000/0.1 (11 21 3 3)\n");
+
+    // An item too low for its margins has a square of negative size, which is the surface's to draw.
+    engine.Clear();
+    CLegendOperation::Draw(&engine, prop, {}, {}, {{10, 20, 7, 1.5F}});
+    EXPECT_EQ(engine.Text(), "DrawRectangle #FF000000/0.1 (11 21 -0.5 -0.5)\n");
 }

@@ -4,6 +4,7 @@
 #include "foundation/TextPropertySerialize.h"
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
+#include "support/ListingStream.h"
 #include "support/Texts.h"
 
 #include <gtest/gtest.h>
@@ -128,6 +129,35 @@ TEST(Serialize, MissingKeysTakeTheLoadDefaultsWhateverTheRecordHeld) {
     EXPECT_EQ(text, expected);
 }
 
+TEST(Serialize, PositionalOrderIsFixed) {
+    CaptionProp caption = SomeCaption();
+    ListingStream captionList;
+    CCaptionPropSerialize::SerializeCaptionProp(captionList, caption);
+    EXPECT_EQ(captionList.Text(), "int 1\n"
+                                  "text 2022 年发电量\n(TWh)\n"
+                                  "font Times New Roman 3.25 bold italic\n"
+                                  "colour #80102030\n"
+                                  "colour #FF00FF00\n"
+                                  "colour #00FFFFFF\n"
+                                  "int 7\n"
+                                  "int 1\n"
+                                  "text <\n"
+                                  "text 》|\\\n"
+                                  "int -45\n");
+    LegendProp legend = SomeLegend();
+    legend.Font = penlode::Font{L"黑体", 3.0F};
+    ListingStream legendList;
+    CLegendPropSerialize::SerializeLegendProp(legendList, legend);
+    EXPECT_EQ(legendList.Text(), "int 1\n"
+                                 "int 7\n"
+                                 "int 0\n"
+                                 "int 1\n"
+                                 "colour #FFABCDEF\n"
+                                 "float 2.75\n"
+                                 "pen #FF123456 0.35 dot\n"
+                                 "font 黑体 3\n");
+}
+
 TEST(Serialize, PositionalRoundTrips) {
     CBinarySerialize out;
     CaptionProp caption = SomeCaption();
@@ -177,6 +207,19 @@ TEST(Serialize, JoinedTextsSplitByWholeCharacters) {
     EXPECT_EQ(SplitJoinedTexts("||||"), (Texts{"", ""}));
     EXPECT_EQ(SplitJoinedTexts(""), Texts{});
     EXPECT_EQ(SplitJoinedTexts("A|||B||"), (Texts{"A", "|B"}));
+    // A stray lead byte at a name's end must not swallow the separator behind it.
+    std::vector<std::string> names{"A\x81", "B"};
+    CJsonSerializeStream stream;
+    {
+        KeyedRecord record(stream, "R");
+        record.JoinedTexts("N", names);
+    }
+    CJsonSerializeStream back(stream.Text());
+    KeyedRecord record(back, "R");
+    record.JoinedTexts("N", names);
+    EXPECT_EQ(names.size(), 2U);
+    EXPECT_EQ(names.back(), "B");
+
     // 坾 is 88 7C in GBK: its second byte is a "|" of its own only to the eye of a bytewise search.
     const std::string trail = "\x88\x7C";
     EXPECT_EQ(SplitJoinedTexts(trail + "||" + trail + "|||"), (Texts{trail, trail}));

@@ -38,6 +38,16 @@ TEST(TextPropertyOperation, CornersTurnCounterClockwise) {
     }
 }
 
+// The constants of the turn have nine and ten digits; what they leave at a right angle tells them from
+// others.
+TEST(TextPropertyOperation, RightAnglesKeepTheRestOfTheirConstants) {
+    std::vector<PointF> corners;
+    CTextPropertyOperation::GetTextBound("ABCD", Turned(90), corners);
+    EXPECT_NEAR(corners[1].X, 1.4359e-8, 1e-11);
+    CTextPropertyOperation::GetTextBound("ABCD", Turned(0), corners);
+    EXPECT_NEAR(corners[3].X, 8.9745e-9, 1e-12);
+}
+
 TEST(TextPropertyOperation, SizeOfTurnedTexts) {
     ExpectNear(CTextPropertyOperation::GetTextSize("ABCD", Turned(0)), {8, 5});
     ExpectNear(CTextPropertyOperation::GetTextSize("ABCD", Turned(90)), {5, 8});
@@ -50,6 +60,9 @@ TEST(TextPropertyOperation, SizeOfTurnedTexts) {
 TEST(TextPropertyOperation, AnEmptyTextOrFontHasNoSizeAtAnyAngle) {
     for (const std::int32_t angle : {0, 37, 90, -180}) {
         EXPECT_EQ(CTextPropertyOperation::GetTextSize("", Turned(angle)), SizeF{});
+        std::vector<PointF> corners;
+        CTextPropertyOperation::GetTextBound("", Turned(angle), corners);
+        EXPECT_EQ(corners, std::vector<PointF>(4));
         TextProperty fontless = Turned(angle);
         fontless.Font = nullptr;
         EXPECT_EQ(CTextPropertyOperation::GetTextSize("text", fontless), SizeF{});
@@ -67,6 +80,9 @@ TEST(TextPropertyOperation, FillsFramesAndWritesInAContainerOfItsOwn) {
 
     penlode::CRecordingEngine engine;
     engine.SetPageScale(2.0F);
+    engine.RotateTransform(30.0F, penlode::MatrixOrder::Prepend);
+    penlode::Matrix before;
+    engine.GetTransform(&before);
     engine.Clear();
     CTextPropertyOperation::DrawTextAtBottomCenter(&engine, "AB", property, {10, 20});
     EXPECT_EQ(engine.Text(), "BeginContainer 1\n"
@@ -78,7 +94,11 @@ TEST(TextPropertyOperation, FillsFramesAndWritesInAContainerOfItsOwn) {
                              "DrawRectangle #FF00FF00/0.1 (-2 -2.5 4 5)\n"
                              "DrawString \"AB\" 宋体/4 (-2 -2.5 4 5.5) center-center #FF0000FF\n"
                              "EndContainer 1\n");
+    penlode::Matrix after;
+    engine.GetTransform(&after);
+    EXPECT_EQ(after, before);
     EXPECT_EQ(engine.GetPageScale(), 2.0F);
+    EXPECT_EQ(engine.GetPageUnit(), penlode::Unit::Millimeter);
 }
 
 TEST(TextPropertyOperation, LeftCenterUsesTheTurnedWidthAndPlainTextHasNoBox) {

@@ -32,9 +32,15 @@ TEST(RecordingEngine, NullPointersAreRecordedAndRefused) {
     CRecordingEngine engine;
     EXPECT_EQ(engine.FillEllipse(nullptr, 1, 2, 3, 4), Status::InvalidParameter);
     EXPECT_EQ(engine.DrawString(nullptr, -1, nullptr, PointF{}, nullptr), Status::InvalidParameter);
-    EXPECT_EQ(engine.DrawPolygon(nullptr, nullptr, 5), Status::InvalidParameter);
-    EXPECT_EQ(engine.Text(),
-              "FillEllipse null (1 2 3 4)\nDrawString \"\" null (0 0) null\nDrawPolygon null [0]\n");
+    const Pen pen;
+    EXPECT_EQ(engine.DrawPolygon(&pen, nullptr, 5), Status::InvalidParameter);
+    EXPECT_EQ(engine.SetPageScale(0), Status::InvalidParameter);
+    EXPECT_EQ(engine.Text(), "FillEllipse null (1 2 3 4)\nDrawString \"\" null (0 0) null\n"
+                             "DrawPolygon #FF000000/0.1 null\nSetPageScale 0\n");
+
+    const Font font;
+    const SolidBrush brush;
+    EXPECT_EQ(engine.DrawString(L"a", -1, &font, RectF{}, nullptr, &brush), Status::Ok);
 }
 
 TEST(RecordingEngine, AnswersQueriesFromItsState) {

@@ -7,7 +7,7 @@ using penlode::RectF;
 
 namespace {
 
-constexpr float kFullSweep = 360.0F;
+constexpr float kFullTurn = 360.0F;
 constexpr float kLegendSwatchFactor = 1.0F;
 
 } // namespace
@@ -23,7 +23,7 @@ void CBasicPie::Layout() {
     const PieBasicProp& basic = m_prop.Basic;
     const float diameter = PieDiameter(basic.FixedSize, basic.FixedWidth, basic.BaseValue, basic.BasePieWidth,
                                        TotalOf(m_values));
-    if (!LayOutFigure({m_location, diameter, basic.StartAngle, kFullSweep, m_values, basic.ComponentName,
+    if (!LayOutFigure({m_location, diameter, basic.StartAngle, kFullTurn, m_values, basic.ComponentName,
                        m_prop.Label, m_labelOffsets},
                       m_layout)) {
         return;

@@ -45,6 +45,7 @@ public:
 
     const PieLayout& GetLayout() const { return m_layout; }
 
+    /// Nothing on a null engine.
     void Draw(penlode::IGraphicsEngine* engine) const;
 
     /// Where the movable parts stand: the pie's square, one rectangle per label, and the legend's, if there

@@ -8,6 +8,7 @@ using penlode::RectF;
 
 namespace {
 
+constexpr float kFullTurn = 360.0F;
 constexpr float kHeightUsed = 0.9F;
 constexpr float kDepthShare = 0.25F;
 constexpr std::uint32_t kWallShade = 60;
@@ -21,17 +22,17 @@ struct Wall {
 /// The walls of a slice that begins at `start` and sweeps `sweep`: what of its rim lies on the front half of
 /// the ellipse. A slice that reaches round the back may show two. Angles outside the ranges have none.
 std::vector<Wall> FrontWalls(float start, float sweep) {
-    const float overrun = start + sweep - 360.0F;
-    if (start >= 0.0F && start < 180.0F && sweep >= 0.0F && sweep <= 360.0F) {
+    const float overrun = start + sweep - kFullTurn;
+    if (start >= 0.0F && start < 180.0F && sweep >= 0.0F && sweep <= kFullTurn) {
         if (sweep < 180.0F - start) {
             return {{start, start + sweep}};
         }
-        if (sweep <= 360.0F - start) {
+        if (sweep <= kFullTurn - start) {
             return {{start, 180.0F}};
         }
         return {{start, 180.0F}, {0.0F, overrun}};
     }
-    if (start >= 180.0F && start < 360.0F && sweep > 360.0F - start && sweep <= 360.0F) {
+    if (start >= 180.0F && start < kFullTurn && sweep > kFullTurn - start && sweep <= kFullTurn) {
         return {{0.0F, sweep < 540.0F - start ? overrun : 180.0F}};
     }
     return {};
@@ -67,6 +68,9 @@ RectF CBasicPie::Get3DEllipseRect(const RectF& rect, float& depth) const {
 }
 
 void CBasicPie::Draw(IGraphicsEngine* engine) const {
+    if (engine == nullptr) {
+        return;
+    }
     if (m_prop.Basic.PieStyle == PieStyle::Flat) {
         DrawPie2D(engine);
     } else if (m_prop.Basic.PieStyle == PieStyle::WithDepth) {
@@ -79,7 +83,7 @@ void CBasicPie::Draw(IGraphicsEngine* engine) const {
 
 void CBasicPie::DrawPie2D(IGraphicsEngine* engine) const {
     const PieBasicProp& basic = m_prop.Basic;
-    DrawFlatSlices(*engine, GetEllipseRect(m_layout.Pie), basic.StartAngle, SliceSweeps(m_values, 360.0F),
+    DrawFlatSlices(*engine, GetEllipseRect(m_layout.Pie), basic.StartAngle, SliceSweeps(m_values, kFullTurn),
                    basic.ComponentColor, basic.DrawSepLine == 1 ? basic.PenSepLine.Get() : nullptr);
 }
 
@@ -89,10 +93,10 @@ void CBasicPie::DrawPie3D(IGraphicsEngine* engine) const {
     const PieBasicProp& basic = m_prop.Basic;
     float depth = 0.0F;
     const RectF top = Get3DEllipseRect(m_layout.Pie, depth);
-    const std::vector<float> sweeps = SliceSweeps(m_values, 360.0F);
+    const std::vector<float> sweeps = SliceSweeps(m_values, kFullTurn);
     float angle = basic.StartAngle;
     for (std::size_t i = 0; i < sweeps.size(); ++i) {
-        const float start = angle < 360.0F ? angle : angle - 360.0F;
+        const float start = angle < kFullTurn ? angle : angle - kFullTurn;
         if (i < basic.ComponentColor.size()) {
             const penlode::SolidBrush brush{basic.ComponentColor[i]};
             engine->FillPie(&brush, top, angle, sweeps[i]);

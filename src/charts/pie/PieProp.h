@@ -25,7 +25,9 @@ struct PieBasicProp {
     float FixedWidth = 20.0F;
     float BaseValue = 100.0F; ///< the total that gives a pie of diameter BasePieWidth; others in proportion
     float BasePieWidth = 10.0F;
-    float StartAngle = 180.0F;    ///< where the first slice begins: 180 is the left-hand side
+    /// Where the first slice begins, from 0 to below 360; 180 is the left-hand side. Below 0 or from 720 on,
+    /// labels find no place, and slices with depth no walls.
+    float StartAngle = 180.0F;
     std::int32_t DrawSepLine = 1; ///< 1: every slice of a flat pie is outlined with PenSepLine
     penlode::Owned<penlode::Pen> PenSepLine = penlode::Pen(penlode::kBlack, 0.1F);
     std::vector<std::string> ComponentName;     ///< one per slice

@@ -2,6 +2,7 @@
 #include "penlode/TextForms.h"
 #include "penlode/recording/RecordingEngine.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -17,7 +18,7 @@ template <class E, std::size_t N> std::string NameOf(const std::array<const char
 class Printer {
 public:
     explicit Printer(std::string operation, int decimals)
-        : m_text(std::move(operation)), m_decimals(decimals) {}
+        : m_text(std::move(operation)), m_decimals(std::clamp(decimals, 0, 17)) {}
 
     void operator()(std::monostate) { Word("null"); }
 
@@ -43,7 +44,7 @@ public:
     void operator()(const std::wstring& text) { Word(Quoted(text)); }
 
     void operator()(const Pen& pen) {
-        const std::string dash = NameOf(kDashes, pen.GetDashStyle());
+        const std::string dash = NameOf(kDashNames, pen.GetDashStyle());
         Word(Hex(pen.GetColor()) + "/" + Number(pen.GetWidth()) + (dash == "solid" ? "" : "/" + dash));
     }
 
@@ -120,7 +121,6 @@ public:
     std::string Take() { return std::move(m_text); }
 
 private:
-    static constexpr std::array kDashes{"solid", "dash", "dot", "dash-dot", "dash-dot-dot", "custom"};
     static constexpr std::array kAlignments{"near", "center", "far"};
     static constexpr std::array kModes{"replace", "intersect", "union", "xor", "exclude", "complement"};
     static constexpr std::array kUnits{"world", "display",  "pixel",     "point",

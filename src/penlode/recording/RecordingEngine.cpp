@@ -3,7 +3,9 @@
 #include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
 
+#include <algorithm>
 #include <span>
+#include <type_traits>
 #include <utility>
 
 namespace penlode {
@@ -55,9 +57,30 @@ template <class T> Value ToValue(const T* pointer) {
     return pointer == nullptr ? Value{} : Value{*pointer};
 }
 
-std::vector<PointF> PointList(const PointF* points, std::int32_t count) {
-    return points == nullptr || count <= 0 ? std::vector<PointF>{}
-                                           : std::vector<PointF>(points, points + count);
+/// A list of points as operations get it.
+struct PointList {
+    const PointF* Points;
+    std::int32_t Count;
+};
+
+Value ToValue(const PointList& list) {
+    if (list.Points == nullptr) {
+        return {};
+    }
+    return std::vector<PointF>(list.Points, list.Points + std::max(list.Count, 0));
+}
+
+bool IsThere(const PointList& list) {
+    return list.Points != nullptr;
+}
+
+/// A string format may be missing; what is drawn, and with what, may not.
+template <class T> bool IsThere(const T& argument) {
+    if constexpr (std::is_pointer_v<T> && !std::is_same_v<T, const StringFormat*>) {
+        return argument != nullptr;
+    } else {
+        return true;
+    }
 }
 
 /// Vertices of a gradient, moved to where they are filled.
@@ -72,16 +95,14 @@ std::vector<PointF> VertexList(const GradientVertex* vertices, std::uint32_t cou
 } // namespace
 
 template <class... Arguments>
-Status CRecordingEngine::Record(const char* operation, const Arguments&... arguments) {
-    const bool complete = (... && [](const auto& argument) {
-        if constexpr (std::is_pointer_v<std::decay_t<decltype(argument)>>) {
-            return argument != nullptr;
-        } else {
-            return true;
-        }
-    }(arguments));
+void CRecordingEngine::Record(const char* operation, const Arguments&... arguments) {
     m_calls.push_back({operation, {ToValue(arguments)...}});
-    return complete ? Status::Ok : Status::InvalidParameter;
+}
+
+template <class... Arguments>
+Status CRecordingEngine::RecordDrawing(const char* operation, const Arguments&... arguments) {
+    Record(operation, arguments...);
+    return (... && IsThere(arguments)) ? Status::Ok : Status::InvalidParameter;
 }
 
 CRecordingEngine::CRecordingEngine() : CTrackingEngine(kMillimetresPerInch, kMillimetresPerInch) {}
@@ -95,140 +116,140 @@ std::string CRecordingEngine::Text(int decimals) const {
 }
 
 Status CRecordingEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
-    return Record("DrawRectangle", pen, RectF{x, y, width, height});
+    return RecordDrawing("DrawRectangle", pen, RectF{x, y, width, height});
 }
 
 Status CRecordingEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
-    return Record("DrawLines", pen, PointList(points, count));
+    return RecordDrawing("DrawLines", pen, PointList{points, count});
 }
 
 Status CRecordingEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
-    return Record("DrawLine", pen, PointF{x1, y1}, PointF{x2, y2});
+    return RecordDrawing("DrawLine", pen, PointF{x1, y1}, PointF{x2, y2});
 }
 
 Status CRecordingEngine::DrawArc(const Pen* pen, float x, float y, float width, float height,
                                  float startAngle, float sweepAngle) {
-    return Record("DrawArc", pen, RectF{x, y, width, height}, startAngle, sweepAngle);
+    return RecordDrawing("DrawArc", pen, RectF{x, y, width, height}, startAngle, sweepAngle);
 }
 
 Status CRecordingEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
-    return Record("DrawEllipse", pen, RectF{x, y, width, height});
+    return RecordDrawing("DrawEllipse", pen, RectF{x, y, width, height});
 }
 
 Status CRecordingEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
-    return Record("DrawPie", pen, rect, startAngle, sweepAngle);
+    return RecordDrawing("DrawPie", pen, rect, startAngle, sweepAngle);
 }
 
 Status CRecordingEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
-    return Record("DrawPolygon", pen, PointList(points, count));
+    return RecordDrawing("DrawPolygon", pen, PointList{points, count});
 }
 
 Status CRecordingEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
-    return Record("DrawCurve", pen, PointList(points, count));
+    return RecordDrawing("DrawCurve", pen, PointList{points, count});
 }
 
 Status CRecordingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                     const PointF& origin, const StringFormat* format,
                                     const SolidBrush* brush) {
-    return Record("DrawString", TextOf(text, length), font, origin, format, brush);
+    return RecordDrawing("DrawString", TextOf(text, length), font, origin, format, brush);
 }
 
 Status CRecordingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                     const PointF& origin, const SolidBrush* brush) {
-    return Record("DrawString", TextOf(text, length), font, origin, brush);
+    return RecordDrawing("DrawString", TextOf(text, length), font, origin, brush);
 }
 
 Status CRecordingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                     const RectF& layout, const StringFormat* format,
                                     const SolidBrush* brush) {
-    return Record("DrawString", TextOf(text, length), font, layout, format, brush);
+    return RecordDrawing("DrawString", TextOf(text, length), font, layout, format, brush);
 }
 
 Status CRecordingEngine::DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
                                    float sourceWidth, float sourceHeight, Unit sourceUnit,
                                    const ImageAttributes*, DrawImageAbort, void*) {
-    return Record("DrawImage", image, destination, RectF{sourceX, sourceY, sourceWidth, sourceHeight},
-                  sourceUnit);
+    return RecordDrawing("DrawImage", image, destination, RectF{sourceX, sourceY, sourceWidth, sourceHeight},
+                         sourceUnit);
 }
 
 Status CRecordingEngine::DrawImage(const Image* image, const RectF& destination) {
-    return Record("DrawImage", image, destination);
+    return RecordDrawing("DrawImage", image, destination);
 }
 
 Status CRecordingEngine::ResetClip() {
-    CTrackingEngine::ResetClip();
-    return Record("ResetClip");
+    Record("ResetClip");
+    return CTrackingEngine::ResetClip();
 }
 
 Status CRecordingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
-    CTrackingEngine::SetClip(path, mode);
-    return Record("SetClip", path, mode);
+    Record("SetClip", path, mode);
+    return CTrackingEngine::SetClip(path, mode);
 }
 
 Status CRecordingEngine::SetClip(const Region* region, CombineMode mode) {
-    CTrackingEngine::SetClip(region, mode);
-    return Record("SetClip", region, mode);
+    Record("SetClip", region, mode);
+    return CTrackingEngine::SetClip(region, mode);
 }
 
 Status CRecordingEngine::SetClip(const RectF& rect, CombineMode mode) {
-    CTrackingEngine::SetClip(rect, mode);
-    return Record("SetClip", rect, mode);
+    Record("SetClip", rect, mode);
+    return CTrackingEngine::SetClip(rect, mode);
 }
 
 Status CRecordingEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
-    return Record("FillRectangle", brush, RectF{x, y, width, height});
+    return RecordDrawing("FillRectangle", brush, RectF{x, y, width, height});
 }
 
 Status CRecordingEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
-    return Record("FillEllipse", brush, RectF{x, y, width, height});
+    return RecordDrawing("FillEllipse", brush, RectF{x, y, width, height});
 }
 
 Status CRecordingEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
                                  float sweepAngle) {
-    return Record("FillPie", brush, rect, startAngle, sweepAngle);
+    return RecordDrawing("FillPie", brush, rect, startAngle, sweepAngle);
 }
 
 Status CRecordingEngine::FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) {
-    return Record("FillPolygon", brush, PointList(points, count));
+    return RecordDrawing("FillPolygon", brush, PointList{points, count});
 }
 
 Status CRecordingEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
-    return Record("FillPath", brush, path);
+    return RecordDrawing("FillPath", brush, path);
 }
 
 Status CRecordingEngine::SetTransform(const Matrix* matrix) {
-    CTrackingEngine::SetTransform(matrix);
-    return Record("SetTransform", matrix);
+    Record("SetTransform", matrix);
+    return CTrackingEngine::SetTransform(matrix);
 }
 
 Status CRecordingEngine::TranslateTransform(float dx, float dy, MatrixOrder order) {
-    CTrackingEngine::TranslateTransform(dx, dy, order);
-    return Record("TranslateTransform", dx, dy, order);
+    Record("TranslateTransform", dx, dy, order);
+    return CTrackingEngine::TranslateTransform(dx, dy, order);
 }
 
 Status CRecordingEngine::RotateTransform(float degrees, MatrixOrder order) {
-    CTrackingEngine::RotateTransform(degrees, order);
-    return Record("RotateTransform", degrees, order);
+    Record("RotateTransform", degrees, order);
+    return CTrackingEngine::RotateTransform(degrees, order);
 }
 
 Status CRecordingEngine::ScaleTransform(float sx, float sy, MatrixOrder order) {
-    CTrackingEngine::ScaleTransform(sx, sy, order);
-    return Record("ScaleTransform", sx, sy, order);
+    Record("ScaleTransform", sx, sy, order);
+    return CTrackingEngine::ScaleTransform(sx, sy, order);
 }
 
 Status CRecordingEngine::ResetTransform() {
-    CTrackingEngine::ResetTransform();
-    return Record("ResetTransform");
+    Record("ResetTransform");
+    return CTrackingEngine::ResetTransform();
 }
 
 Status CRecordingEngine::SetPageScale(float scale) {
-    CTrackingEngine::SetPageScale(scale);
-    return Record("SetPageScale", scale);
+    Record("SetPageScale", scale);
+    return CTrackingEngine::SetPageScale(scale);
 }
 
 Status CRecordingEngine::SetPageUnit(Unit unit) {
-    CTrackingEngine::SetPageUnit(unit);
-    return Record("SetPageUnit", unit);
+    Record("SetPageUnit", unit);
+    return CTrackingEngine::SetPageUnit(unit);
 }
 
 std::uint32_t CRecordingEngine::BeginContainer() {
@@ -243,8 +264,8 @@ Status CRecordingEngine::EndContainer(std::uint32_t container) {
 }
 
 Status CRecordingEngine::SetSmoothingMode(SmoothingMode mode) {
-    CTrackingEngine::SetSmoothingMode(mode);
-    return Record("SetSmoothingMode", mode);
+    Record("SetSmoothingMode", mode);
+    return CTrackingEngine::SetSmoothingMode(mode);
 }
 
 std::int32_t CRecordingEngine::GradientFill(const RectL& bounds, const PointF& origin,

@@ -82,7 +82,8 @@ public:
                         const SolidBrush* brush) override;
 
 private:
-    template <class... Arguments> Status Record(const char* operation, const Arguments&... arguments);
+    template <class... Arguments> void Record(const char* operation, const Arguments&... arguments);
+    template <class... Arguments> Status RecordDrawing(const char* operation, const Arguments&... arguments);
 
     std::vector<RecordedCall> m_calls;
 };

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 
 using namespace millichart;
 using penlode::PointF;
@@ -88,9 +89,17 @@ TEST(BasicPie, LabelTextsFromTheirParts) {
 
     prop.Label.ShowNameLabel = 2;
     prop.Label.ShowValueLabel = 2;
-    prop.Label.ShowPercentLabel = 0;
+    prop.Label.ShowPercentLabel = 2;
     EXPECT_EQ(LaidOut(prop, {1, 3}).GetLayout().LabelTexts, (Texts{"", ""}))
         << "2 counts as on but adds no part";
+}
+
+// The share is rounded to a float before it is printed: 1/80 comes out above 1.25 %, 7/80 below 8.75 %.
+TEST(BasicPie, SharesHaveSinglePrecision) {
+    PieProp prop = TwoSlices();
+    prop.Label.ShowPercentLabel = 1;
+    EXPECT_EQ(LaidOut(prop, {1, 79}).GetLayout().LabelTexts[0], "1.3%");
+    EXPECT_EQ(LaidOut(prop, {7, 73}).GetLayout().LabelTexts[0], "8.7%");
 }
 
 // Ten equal slices from 180 degrees: their middles lie at 198, 234, 270, 306, 342, 18, 54, 90, 126, 162.
@@ -107,7 +116,7 @@ TEST(BasicPie, LabelBoxesTouchTheCircleFromOutside) {
     ASSERT_EQ(labels.size(), 10U);
     const double r = 12.0;
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        const double mid = std::fmod(198.0 + 36.0 * static_cast<double>(i), 360.0) * M_PI / 180.0;
+        const double mid = std::fmod(198.0 + 36.0 * static_cast<double>(i), 360.0) * std::numbers::pi / 180.0;
         const double touchX = r * std::cos(mid);
         const double touchY = r * std::sin(mid);
         const bool onLeft = i < 3 || i > 7; // the one at 270 counts as left, the one at 90 as right
@@ -125,6 +134,19 @@ TEST(BasicPie, MiddlesAreReducedOnceAndOddOnesGoToTheOrigin) {
     ExpectNear(LaidOut(prop, {100}).GetLayout().LabelRects[0], {-1, -2.5F, 2, 5});
     prop.Basic.StartAngle = -300;
     ExpectNear(LaidOut(prop, {100}).GetLayout().LabelRects[0], {-1, -2.5F, 2, 5});
+}
+
+// The angle's pi has eight digits, so that a label right below the centre stands a hair to the left of it.
+TEST(BasicPie, AnglesCountWithTheirOwnPi) {
+    PieProp prop = TwoSlices();
+    prop.Basic.FixedSize = 1;
+    prop.Basic.StartAngle = 0;
+    prop.Basic.ComponentName = {""};
+    prop.Label.ShowNameLabel = 1;
+    prop.Label.DistBetweenLabelCenterAndPieCenter = 2;
+    const RectF label = LaidOut(prop, {1, 1}, {0, 0}).GetLayout().LabelRects[0];
+    EXPECT_NEAR(label.X, -2.785e-7, 1e-10);
+    EXPECT_EQ(label.Y, 12.0F);
 }
 
 TEST(BasicPie, TurnedLabelsTakeTheirTurnedSize) {
