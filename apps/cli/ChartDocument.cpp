@@ -135,14 +135,15 @@ std::unique_ptr<Chart> LoadChart(CJsonSerializeStream& stream) {
     return nullptr;
 }
 
-void LoadHead(CJsonSerializeStream& stream) {
+void LoadHead(CJsonSerializeStream& stream, ChartDocument& document) {
     const std::string version = Load(stream, "version", std::to_string(kFormatVersion));
     if (version != std::to_string(kFormatVersion)) {
         stream.Refuse("version", version, std::to_string(kFormatVersion));
     }
-    for (const char* key : {"title", "description", "source"}) {
-        Load(stream, key, "");
-    }
+    document.Title = penlode::CStringUtil::AnsiToUtf8(Load(stream, "title", ""));
+    document.Description = penlode::CStringUtil::AnsiToUtf8(Load(stream, "description", ""));
+    const std::string source = penlode::CStringUtil::AnsiToUtf8(Load(stream, "source", ""));
+    document.Description += (document.Description.empty() || source.empty() ? "" : "\n") + source;
 }
 
 /// Every problem that keeps the document from being drawn as it was meant.
@@ -170,7 +171,7 @@ ChartDocument LoadChartDocument(const std::string& fileName) {
     CJsonSerializeStream stream(ReadFile(fileName), fileName);
     ChartDocument document;
     if (!stream.IsUnreadable()) {
-        LoadHead(stream);
+        LoadHead(stream, document);
         document.Content = LoadChart(stream);
     }
     const std::string refusals = Refusals(fileName, stream);

@@ -25,6 +25,8 @@ public:
 /// A chart document: the chart, and what to tell about the document that did not keep it from being loaded.
 struct ChartDocument {
     std::unique_ptr<Chart> Content;
+    std::string Title;                           ///< UTF-8, like the description
+    std::string Description;                     ///< the document's description and its source
     std::vector<penlode::StreamProblem> Remarks; ///< keys that nothing asked for
 };
 

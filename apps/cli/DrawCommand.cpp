@@ -1,12 +1,12 @@
 #include "DrawCommand.h"
 
 #include "ChartDocument.h"
+#include "FontReport.h"
 #include "OutputFile.h"
+#include "Picture.h"
 #include "UserError.h"
-#include "penlode/cairo/GraphicsEngine.h"
 
 #include <cmath>
-#include <filesystem>
 #include <iostream>
 
 namespace cli {
@@ -34,26 +34,54 @@ penlode::RectF CheckedExtent(const Chart& chart, const std::string& fileName) {
     return extent;
 }
 
+void Remark(const std::string& message) {
+    std::cerr << "millichart: " << message << '\n';
+}
+
+void TellRemarks(const DrawOptions& options, const ChartDocument& document) {
+    for (const penlode::StreamProblem& remark : document.Remarks) {
+        Remark(Describe(options.Input, remark));
+    }
+    const FontReport fonts = ReportFonts(*document.Content);
+    for (const std::string& face : fonts.Faces) {
+        if (options.Verbose) {
+            Remark(options.Input + ": " + face);
+        }
+    }
+    for (const std::string& warning : fonts.Warnings) {
+        Remark(options.Input + ": " + warning);
+    }
+}
+
+PictureSettings SettingsOf(const DrawOptions& options, const ChartDocument& document,
+                           const penlode::RectF& extent) {
+    const auto format = FormatOfName(options.Output);
+    if (!format) {
+        throw UserError(options.Output +
+                        ": found another ending, expected a name that ends in .png, .svg or .pdf");
+    }
+    return {*format,
+            {extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin},
+            options.Dpi,
+            document.Title,
+            document.Description,
+            options.TextAsOutlines};
+}
+
 } // namespace
 
 void Draw(const DrawOptions& options) {
-    if (std::filesystem::path(options.Output).extension() != ".png") {
-        throw UserError(options.Output + ": found another ending, expected a name that ends in .png");
-    }
     const ChartDocument document = LoadChartDocument(options.Input);
-    for (const penlode::StreamProblem& remark : document.Remarks) {
-        std::cerr << "millichart: " << Describe(options.Input, remark) << '\n';
-    }
     const penlode::RectF extent = CheckedExtent(*document.Content, options.Input);
-
-    const penlode::SizeF page{extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin};
-    const auto engine = penlode::CGraphicsEngine::ForRaster(page, options.Dpi, penlode::kWhite);
-    if (engine == nullptr) {
+    const std::unique_ptr<Picture> picture = MakePicture(SettingsOf(options, document, extent));
+    if (picture == nullptr) {
         throw UserError(options.Output + ": the picture would be too large, expected fewer dots per inch");
     }
-    engine->TranslateTransform(kMargin - extent.X, kMargin - extent.Y, penlode::MatrixOrder::Prepend);
-    document.Content->Draw(*engine);
-    WriteFileWhole(options.Output, engine->EncodePng());
+    TellRemarks(options, document);
+    picture->Engine().TranslateTransform(kMargin - extent.X, kMargin - extent.Y,
+                                         penlode::MatrixOrder::Prepend);
+    document.Content->Draw(picture->Engine());
+    WriteFileWhole(options.Output, picture->Finish());
 }
 
 } // namespace cli

@@ -16,6 +16,12 @@ struct PointF {
     friend constexpr PointF operator-(PointF a, PointF b) { return {a.X - b.X, a.Y - b.Y}; }
 };
 
+/// A point in double precision, for outlines that are about to be drawn.
+struct PointD {
+    double X = 0.0;
+    double Y = 0.0;
+};
+
 struct SizeF {
     float Width = 0.0F;
     float Height = 0.0F;

@@ -45,14 +45,6 @@ struct EllipseArc {
     PointD Tangent(double t) const { return {-Rx * std::sin(t), Ry * std::cos(t)}; }
 };
 
-PointD Mapped(const Matrix& m, PointD p) {
-    return {p.X * m.M11 + p.Y * m.M21 + m.Dx, p.X * m.M12 + p.Y * m.M22 + m.Dy};
-}
-
-PointD Mapped(const Matrix& m, PointF p) {
-    return Mapped(m, PointD{p.X, p.Y});
-}
-
 /// Alike but for the rounding of a point that was computed in two ways. A line between such points would have
 /// no direction, and its joins would stick out.
 bool IsSamePlace(PointD a, PointD b) {
@@ -169,6 +161,18 @@ void GraphicsPath::AddLines(std::span<const PointF> points) {
 
 void GraphicsPath::AddArc(const RectF& ellipse, float startAngle, float sweepAngle) {
     Add(Arc{ellipse, startAngle, std::clamp(sweepAngle, -360.0F, 360.0F)});
+}
+
+void GraphicsPath::AddCurve(std::span<const PointF> points) {
+    constexpr float kTension = 0.5F;
+    const auto handle = [&](std::size_t i) {
+        const PointF before = points[i == 0 ? 0 : i - 1];
+        const PointF after = points[std::min(i + 1, points.size() - 1)];
+        return PointF{(after.X - before.X) * kTension / 3.0F, (after.Y - before.Y) * kTension / 3.0F};
+    };
+    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
+        AddBezier(points[i], points[i] + handle(i), points[i + 1] - handle(i + 1), points[i + 1]);
+    }
 }
 
 void GraphicsPath::AddRectangle(const RectF& rect) {

@@ -55,6 +55,9 @@ public:
     void AddLines(std::span<const PointF> points);
     void AddArc(const RectF& ellipse, float startAngle, float sweepAngle);
 
+    /// A cardinal spline of tension 0.5 through the points. Fewer than two points add nothing.
+    void AddCurve(std::span<const PointF> points);
+
     void AddBezier(PointF p0, PointF p1, PointF p2, PointF p3) { Add(Bezier{{p0, p1, p2, p3}}); }
 
     /// Closed figures of their own.
@@ -89,12 +92,6 @@ private:
 /// Where the ray at `degrees` from the ellipse's centre meets the ellipse. An ellipse without width or height
 /// gives the centre.
 PENLODE_API PointF PointOnEllipse(const RectF& ellipse, double degrees);
-
-/// A point in double precision, for outlines that are about to be drawn.
-struct PointD {
-    double X = 0.0;
-    double Y = 0.0;
-};
 
 /// Receives an outline in the terms that every platform knows.
 class PENLODE_API OutlineSink {

@@ -1,10 +1,14 @@
 #pragma once
 
 #include "penlode/Color.h"
+#include "penlode/Export.h"
+#include "penlode/Geometry.h"
+#include "penlode/GraphicsTypes.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace penlode {
@@ -30,5 +34,11 @@ struct ImageAttributes {
     std::array<std::array<float, 5>, 5> ColorMatrix{
         {{1, 0, 0, 0, 0}, {0, 1, 0, 0, 0}, {0, 0, 1, 0, 0}, {0, 0, 0, 1, 0}, {0, 0, 0, 0, 1}}};
 };
+
+/// (R, G, B, A, 1) times the matrix, clamped.
+PENLODE_API Color Adjusted(Color color, const ImageAttributes& attributes);
+
+/// A source rectangle in pixels of the image; nothing for a unit that an image does not have.
+PENLODE_API std::optional<RectF> SourceInPixels(const Image& image, const RectF& source, Unit unit);
 
 } // namespace penlode

@@ -42,6 +42,15 @@ struct Matrix {
     friend bool operator==(const Matrix&, const Matrix&) = default;
 };
 
+/// A point under the map, in double precision.
+inline PointD Mapped(const Matrix& m, PointD p) {
+    return {p.X * m.M11 + p.Y * m.M21 + m.Dx, p.X * m.M12 + p.Y * m.M22 + m.Dy};
+}
+
+inline PointD Mapped(const Matrix& m, PointF p) {
+    return Mapped(m, PointD{p.X, p.Y});
+}
+
 /// The map that applies `first`, then `second`.
 PENLODE_API Matrix operator*(const Matrix& first, const Matrix& second);
 

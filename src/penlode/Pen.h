@@ -9,6 +9,10 @@ namespace penlode {
 /// 3-1-1-1-1-1. Custom carries no pattern here and is drawn solid.
 enum class DashStyle : std::int32_t { Solid = 0, Dash = 1, Dot = 2, DashDot = 3, DashDotDot = 4, Custom = 5 };
 
+/// Joins are mitred; a miter longer than this many half widths is cut off, so that steep data grows no
+/// spikes.
+inline constexpr double kMiterLimit = 4.0;
+
 enum class PenFillType : std::int32_t { SolidColor = 0 };
 
 /// A line's look: colour, width in page units (0 is the thinnest line that the surface draws) and dash style,

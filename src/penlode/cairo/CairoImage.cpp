@@ -1,10 +1,8 @@
 #include "penlode/cairo/CairoImage.h"
 
-#include "penlode/Units.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoShapes.h"
 
-#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -38,25 +36,6 @@ PixelRect Covered(const Image& image, const BoxD& source) {
     return {left, top, right - left, bottom - top};
 }
 
-/// (R, G, B, A, 1) times the matrix, clamped.
-Color Adjusted(Color color, const ImageAttributes* attributes) {
-    if (attributes == nullptr) {
-        return color;
-    }
-    const std::array<float, 5> in{
-        static_cast<float>(color.R()) / 255.0F, static_cast<float>(color.G()) / 255.0F,
-        static_cast<float>(color.B()) / 255.0F, static_cast<float>(color.A()) / 255.0F, 1.0F};
-    std::array<std::uint32_t, 4> out{};
-    for (std::size_t column = 0; column < out.size(); ++column) {
-        float sum = 0.0F;
-        for (std::size_t row = 0; row < in.size(); ++row) {
-            sum += in[row] * attributes->ColorMatrix[row][column];
-        }
-        out[column] = sum > 0.0F ? static_cast<std::uint32_t>(std::lround(std::min(sum, 1.0F) * 255.0F)) : 0U;
-    }
-    return Color::FromArgb(out[3], out[0], out[1], out[2]);
-}
-
 std::uint32_t Premultiplied(Color color) {
     const auto times = [&](std::uint32_t channel) { return (channel * color.A() + 127U) / 255U; };
     return (color.A() << 24U) | (times(color.R()) << 16U) | (times(color.G()) << 8U) | times(color.B());
@@ -67,7 +46,9 @@ void CopyRow(const Image& image, const PixelRect& part, std::int32_t row, const 
     const auto first = static_cast<std::size_t>(part.Y + row) * static_cast<std::size_t>(image.Width) +
                        static_cast<std::size_t>(part.X);
     for (std::size_t x = 0; x < static_cast<std::size_t>(part.Width); ++x) {
-        const std::uint32_t word = Premultiplied(Adjusted(image.Pixels[first + x], attributes));
+        const Color color = image.Pixels[first + x];
+        const std::uint32_t word =
+            Premultiplied(attributes == nullptr ? color : Adjusted(color, *attributes));
         std::memcpy(out + 4 * x, &word, sizeof word);
     }
 }
@@ -125,16 +106,6 @@ void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& p
 }
 
 } // namespace
-
-std::optional<RectF> SourceInPixels(const Image& image, const RectF& source, Unit unit) {
-    const double x = PixelsPerUnit(unit, image.HorizontalDpi);
-    const double y = PixelsPerUnit(unit, image.VerticalDpi);
-    if (!(x > 0.0 && y > 0.0 && std::isfinite(x) && std::isfinite(y))) {
-        return std::nullopt;
-    }
-    return RectF{static_cast<float>(source.X * x), static_cast<float>(source.Y * y),
-                 static_cast<float>(source.Width * x), static_cast<float>(source.Height * y)};
-}
 
 Status PaintImage(const Painter& painter, const Image& image, const RectF& destination,
                   const ImageDrawing& drawing) {

@@ -13,9 +13,6 @@ struct ImageDrawing {
     void* CallbackData = nullptr;
 };
 
-/// A source rectangle in pixels; nothing for a unit that an image does not have.
-std::optional<RectF> SourceInPixels(const Image& image, const RectF& source, Unit unit);
-
 /// Draws the part of the source that the image covers on the part of `destination` that belongs to it. On
 /// pixels the destination's edges stand on the grid.
 Status PaintImage(const Painter& painter, const Image& image, const RectF& destination,

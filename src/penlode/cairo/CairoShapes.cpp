@@ -168,18 +168,4 @@ Status StrokePath(const Painter& painter, const Pen& pen, const GraphicsPath& pa
     return Status::Ok;
 }
 
-GraphicsPath CardinalSpline(std::span<const PointF> points) {
-    constexpr float kTension = 0.5F;
-    GraphicsPath path;
-    const auto handle = [&](std::size_t i) {
-        const PointF before = points[i == 0 ? 0 : i - 1];
-        const PointF after = points[std::min(i + 1, points.size() - 1)];
-        return PointF{(after.X - before.X) * kTension / 3.0F, (after.Y - before.Y) * kTension / 3.0F};
-    };
-    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-        path.AddBezier(points[i], points[i] + handle(i), points[i + 1] - handle(i + 1), points[i + 1]);
-    }
-    return path;
-}
-
 } // namespace penlode

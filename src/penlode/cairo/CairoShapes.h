@@ -26,8 +26,4 @@ Status StrokeLines(const Painter& painter, const Pen& pen, std::span<const Point
 Status StrokePolygon(const Painter& painter, const Pen& pen, std::span<const PointF> points);
 Status StrokePath(const Painter& painter, const Pen& pen, const GraphicsPath& path);
 
-/// The cardinal spline of tension 0.5 through the points: each piece leaves a point along the line between
-/// the point's two neighbours.
-GraphicsPath CardinalSpline(std::span<const PointF> points);
-
 } // namespace penlode

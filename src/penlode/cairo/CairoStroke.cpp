@@ -7,9 +7,6 @@
 namespace penlode {
 namespace {
 
-/// Miters longer than this many half widths are cut off: steep data must not grow spikes.
-constexpr double kMiterLimit = 4.0;
-
 constexpr double kWidestLine = 65536.0;
 constexpr std::size_t kLongestPath = 64;
 constexpr std::size_t kPieceLength = 32;

@@ -19,12 +19,6 @@ constexpr double kSmallestEm = 0.1;
 /// ones as letters, at a tenth of the time.
 constexpr double kLargestOutlineEm = 32.0;
 
-/// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
-/// for every face, clear of ideographs as of Latin letters.
-constexpr double kUnderline = -0.18;
-constexpr double kStrikeout = 0.3;
-constexpr double kDecorationThickness = 0.05;
-
 /// Cairo's coordinates wrap around at twice this distance.
 constexpr double kFarthest = 4194304.0;
 

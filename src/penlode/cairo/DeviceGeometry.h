@@ -26,14 +26,6 @@ struct BoxD {
     friend bool operator==(const BoxD&, const BoxD&) = default;
 };
 
-inline PointD Mapped(const Matrix& m, PointD p) {
-    return {p.X * m.M11 + p.Y * m.M21 + m.Dx, p.X * m.M12 + p.Y * m.M22 + m.Dy};
-}
-
-inline PointD Mapped(const Matrix& m, PointF p) {
-    return Mapped(m, PointD{p.X, p.Y});
-}
-
 inline bool IsFinite(PointD p) {
     return std::isfinite(p.X) && std::isfinite(p.Y);
 }

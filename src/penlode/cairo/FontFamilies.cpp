@@ -1,5 +1,7 @@
 #include "penlode/cairo/FontFamilies.h"
 
+#include "penlode/FontFace.h"
+#include "penlode/TextPlacement.h"
 #include "penlode/cairo/PangoText.h"
 
 #include <fontconfig/fontconfig.h>
@@ -83,6 +85,18 @@ FcConfig* BuildConfiguration() {
 _FcConfig* FontConfiguration() {
     static FcConfig* const configuration = BuildConfiguration();
     return configuration;
+}
+
+std::wstring MissingCharacters(std::wstring_view text, const Font& font) {
+    std::wstring missing;
+    for (const std::wstring_view line : SplitLines(text)) {
+        for (const std::wstring& character : UnknownCharacters(line, font)) {
+            if (missing.find(character) == std::wstring::npos) {
+                missing += character;
+            }
+        }
+    }
+    return missing;
 }
 
 std::wstring ResolvedFamily(const std::wstring& family) {

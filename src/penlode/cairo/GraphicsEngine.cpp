@@ -30,6 +30,12 @@ GraphicsPath EllipseOf(const RectF& rect) {
     return path;
 }
 
+GraphicsPath CurveOf(std::span<const PointF> points) {
+    GraphicsPath path;
+    path.AddCurve(points);
+    return path;
+}
+
 GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
     GraphicsPath path;
     path.AddPie(rect, startAngle, sweepAngle);
@@ -107,9 +113,8 @@ Status CGraphicsEngine::DrawCurve(const Pen* pen, const PointF* points, std::int
     if (!IsUsable(pen) || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return StrokePath(p, *pen, CardinalSpline(SpanOf(points, count)));
-    });
+    return m_target->Draw(
+        State(), [&](const Painter& p) { return StrokePath(p, *pen, CurveOf(SpanOf(points, count))); });
 }
 
 Status CGraphicsEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,

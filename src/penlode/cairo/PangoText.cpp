@@ -196,6 +196,13 @@ private:
     std::unordered_map<LineKey, FaceMetrics, LineKeyHash> m_faces;
 };
 
+/// The character whose UTF-8 form begins at an offset.
+std::wstring CharacterAt(const std::string& utf8, std::size_t offset) {
+    const std::size_t end = std::min(
+        utf8.size(), static_cast<std::size_t>(g_utf8_next_char(utf8.c_str() + offset) - utf8.c_str()));
+    return CStringUtil::Utf8ToWideString(std::string_view(utf8).substr(offset, end - offset));
+}
+
 Typesetter& ThisThread() {
     thread_local Typesetter typesetter;
     return typesetter;
@@ -205,6 +212,25 @@ Typesetter& ThisThread() {
 
 SetLine SetTextLine(std::wstring_view text, const Font& font) {
     return ThisThread().Line(text, font);
+}
+
+std::vector<std::wstring> UnknownCharacters(std::wstring_view line, const Font& font) {
+    std::vector<std::wstring> unknown;
+    const SetLine set = SetTextLine(line, font);
+    const std::string utf8 = CStringUtil::WideToUtf8(line.substr(0, kLongestLine));
+    for (const GSList* run = set.Line == nullptr ? nullptr : set.Line->runs; run != nullptr;
+         run = run->next) {
+        const auto* const glyphs = static_cast<const PangoLayoutRun*>(run->data)->glyphs;
+        const int offset = static_cast<const PangoLayoutRun*>(run->data)->item->offset;
+        for (int i = 0; i < glyphs->num_glyphs; ++i) {
+            if ((glyphs->glyphs[i].glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0 &&
+                glyphs->glyphs[i].glyph != PANGO_GLYPH_EMPTY) {
+                unknown.push_back(
+                    CharacterAt(utf8, static_cast<std::size_t>(offset + glyphs->log_clusters[i])));
+            }
+        }
+    }
+    return unknown;
 }
 
 std::wstring FaceOf(const Font& font) {

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier): Pango's name
 typedef struct _PangoLayoutLine PangoLayoutLine;
@@ -18,6 +19,12 @@ inline constexpr double kSetEm = 100.0;
 /// A line of a text that is longer ends after so many characters.
 inline constexpr std::size_t kLongestLine = 8192;
 
+/// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
+/// for every face, clear of ideographs as of Latin letters.
+inline constexpr double kUnderline = -0.18;
+inline constexpr double kStrikeout = 0.3;
+inline constexpr double kDecorationThickness = 0.05;
+
 struct SetLine {
     PangoLayoutLine* Line = nullptr; ///< null for an empty text or where no font is installed
     double Width = 0.0;
@@ -26,6 +33,9 @@ struct SetLine {
 /// The line in a font's face, without underline or strikeout; the font's size does not count. Stays valid
 /// until the thread's next call.
 SetLine SetTextLine(std::wstring_view text, const Font& font);
+
+/// The characters of a line for which no face has a glyph, in order.
+std::vector<std::wstring> UnknownCharacters(std::wstring_view line, const Font& font);
 
 /// The name of the face that is taken for a font.
 std::wstring FaceOf(const Font& font);

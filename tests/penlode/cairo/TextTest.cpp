@@ -1,5 +1,5 @@
+#include "penlode/FontFace.h"
 #include "penlode/StringUtil.h"
-#include "penlode/cairo/FontFamilies.h"
 #include "penlode/cairo/Picture.h"
 
 #include <cmath>

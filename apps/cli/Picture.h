@@ -1,0 +1,39 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+#include "penlode/IGraphicsEngine.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace cli {
+
+enum class PictureFormat { Png, Svg, Pdf };
+
+/// The format that a file name's ending names, in either case; nothing for other endings.
+std::optional<PictureFormat> FormatOfName(const std::string& fileName);
+
+/// What a picture is made for. Texts are UTF-8.
+struct PictureSettings {
+    PictureFormat Format = PictureFormat::Png;
+    penlode::SizeF Page;         ///< mm
+    double Dpi = 96.0;           ///< of a PNG
+    std::string Title;           ///< of an SVG
+    std::string Description;     ///< of an SVG
+    bool TextAsOutlines = false; ///< of an SVG: glyphs that need no font
+};
+
+/// A page that is drawn on and then becomes a file.
+class Picture {
+public:
+    virtual ~Picture() = default;
+    virtual penlode::IGraphicsEngine& Engine() = 0;
+    /// The file's bytes. Ends the page.
+    virtual std::string Finish() = 0;
+};
+
+/// Null when the page has more pixels or millimetres than the format can hold.
+std::unique_ptr<Picture> MakePicture(const PictureSettings& settings);
+
+} // namespace cli

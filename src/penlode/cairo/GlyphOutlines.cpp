@@ -1,0 +1,90 @@
+#include "penlode/EngineArguments.h"
+#include "penlode/FontFace.h"
+#include "penlode/cairo/CairoHandles.h"
+#include "penlode/cairo/PangoText.h"
+
+#include <pango/pangocairo.h>
+
+namespace penlode {
+namespace {
+
+struct PathDeleter {
+    void operator()(cairo_path_t* path) const { cairo_path_destroy(path); }
+};
+
+using CairoPath = std::unique_ptr<cairo_path_t, PathDeleter>;
+
+/// The outlines of a set line, in its own units.
+CairoPath OutlinesOf(const SetLine& line) {
+    const CairoSurface surface(cairo_recording_surface_create(CAIRO_CONTENT_ALPHA, nullptr));
+    const CairoContext context(cairo_create(surface.get()));
+    pango_cairo_layout_line_path(context.get(), line.Line);
+    return CairoPath(cairo_copy_path(context.get()));
+}
+
+/// Adds Cairo's pieces one after the other, each point scaled.
+class OutlineBuilder {
+public:
+    explicit OutlineBuilder(double scale) : m_scale(scale) {}
+
+    void Add(const cairo_path_data_t* piece) {
+        switch (piece->header.type) {
+        case CAIRO_PATH_MOVE_TO:
+            m_outline.StartFigure();
+            m_last = At(piece[1]);
+            break;
+        case CAIRO_PATH_LINE_TO:
+            m_outline.AddLine(m_last, At(piece[1]));
+            m_last = At(piece[1]);
+            break;
+        case CAIRO_PATH_CURVE_TO:
+            m_outline.AddBezier(m_last, At(piece[1]), At(piece[2]), At(piece[3]));
+            m_last = At(piece[3]);
+            break;
+        case CAIRO_PATH_CLOSE_PATH:
+            m_outline.CloseFigure();
+            break;
+        }
+    }
+
+    /// A stroke along the whole line whose middle lies `height` ems above the baseline.
+    void AddDecoration(double width, double height) {
+        const double top = -(height + kDecorationThickness / 2.0) * kSetEm;
+        m_outline.AddRectangle({0.0F, static_cast<float>(top * m_scale), static_cast<float>(width * m_scale),
+                                static_cast<float>(kDecorationThickness * kSetEm * m_scale)});
+    }
+
+    GraphicsPath Take() { return std::move(m_outline); }
+
+private:
+    PointF At(const cairo_path_data_t& data) const {
+        return {static_cast<float>(data.point.x * m_scale), static_cast<float>(data.point.y * m_scale)};
+    }
+
+    double m_scale;
+    GraphicsPath m_outline;
+    PointF m_last;
+};
+
+} // namespace
+
+GraphicsPath OutlineOfLine(std::wstring_view line, const Font& font) {
+    const SetLine set = IsDrawable(font) ? SetTextLine(line, font) : SetLine{};
+    if (set.Line == nullptr) {
+        return {};
+    }
+    OutlineBuilder builder(font.Size / kSetEm);
+    const CairoPath path = OutlinesOf(set);
+    for (int i = 0; i < path->num_data; i += path->data[i].header.length) {
+        builder.Add(path->data + i);
+    }
+    if (font.Has(FontStyle::Underline)) {
+        builder.AddDecoration(set.Width, kUnderline);
+    }
+    if (font.Has(FontStyle::Strikeout)) {
+        builder.AddDecoration(set.Width, kStrikeout);
+    }
+    return builder.Take();
+}
+
+} // namespace penlode

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+#include "penlode/GraphicsPath.h"
+#include "penlode/Matrix.h"
+
+#include <span>
+#include <vector>
+
+/// Maps from world coordinates to millimetres of the page, and what they keep.
+namespace penlode::svg {
+
+/// Viewers count in floats. What lies a kilometre away is moved no farther.
+inline constexpr double kFarthest = 1e6;
+
+/// The point on the page, within a kilometre of it.
+PointD OnPage(const Matrix& transform, PointF point);
+PointD OnPage(const Matrix& transform, PointD point);
+std::vector<PointD> MapAll(const Matrix& transform, std::span<const PointF> points);
+
+/// Invertible, and so far from the limits of double that no float it maps overflows.
+bool CanMap(const Matrix& transform);
+
+/// The lengths of the mapped unit axes and the turn of the first, in degrees clockwise.
+struct MappedAxes {
+    double X;
+    double Y;
+    double Degrees;
+    bool Mirrored;
+};
+
+MappedAxes AxesUnder(const Matrix& transform);
+
+/// Right angles between the axes stay right angles, so that an ellipse keeps its axes.
+bool KeepsRightAngles(const Matrix& transform);
+/// The axes stay parallel to the page's, turned by quarters at most.
+bool KeepsAxesNearly(const Matrix& transform);
+/// Shapes are turned and scaled, but neither mirrored nor distorted.
+bool KeepsShapes(const Matrix& transform);
+
+/// A rectangle's corners in order.
+std::vector<PointF> CornersOf(const RectF& rect);
+
+bool IsFinitePath(const GraphicsPath& path);
+
+} // namespace penlode::svg

@@ -1,0 +1,224 @@
+#include "penlode/svg/SvgGradient.h"
+
+#include "penlode/svg/SvgClip.h"
+#include "penlode/svg/SvgGeometry.h"
+#include "penlode/svg/SvgPath.h"
+#include "penlode/svg/SvgShapes.h"
+#include "penlode/svg/SvgWriter.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace penlode::svg {
+namespace {
+
+constexpr int kMostCuts = 16;
+/// Flat parts need not differ by less than this, in steps of 1/255, nor be smaller than this, in millimetres.
+constexpr double kColorStep = 4.0;
+constexpr double kSmallestPart = 0.25;
+
+/// Red, green and blue from 0 to 255.
+using Tint = std::array<double, 3>;
+
+struct TintedPoint {
+    PointD Place;
+    Tint Colour;
+};
+
+using Triangle = std::array<TintedPoint, 3>;
+
+TintedPoint Moved(const GradientArea& area, std::uint32_t index) {
+    const GradientVertex& v = area.Vertices[index];
+    const auto channel = [](std::uint16_t value) { return std::min(value / 256.0, 255.0); };
+    return {{static_cast<double>(v.X) + area.Origin.X, static_cast<double>(v.Y) + area.Origin.Y},
+            {channel(v.Red), channel(v.Green), channel(v.Blue)}};
+}
+
+Color ColorOf(const Tint& tint) {
+    const auto byte = [](double channel) { return static_cast<std::uint32_t>(std::lround(channel)); };
+    return Color::FromArgb(0xFFU, byte(tint[0]), byte(tint[1]), byte(tint[2]));
+}
+
+std::string OpaqueAttribute(const char* name, const Tint& tint) {
+    const std::string fill = FillAttributes(ColorOf(tint));
+    return std::string(" ") + name + fill.substr(fill.find('='));
+}
+
+bool IsWithin(PointD p, const RectL& bounds) {
+    return p.X >= bounds.Left && p.X <= bounds.Right && p.Y >= bounds.Top && p.Y <= bounds.Bottom;
+}
+
+std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
+    const PointD a{static_cast<double>(bounds.Left), static_cast<double>(bounds.Top)};
+    const PointD b{static_cast<double>(bounds.Right), static_cast<double>(bounds.Bottom)};
+    std::vector<PointD> corners;
+    for (const PointD p : {a, PointD{b.X, a.Y}, b, PointD{a.X, b.Y}}) {
+        corners.push_back(OnPage(toPage, p));
+    }
+    return corners;
+}
+
+/// The elements, in a group that cuts them to the bounds if any of their corners lies outside.
+class GradientParts {
+public:
+    GradientParts(const Matrix& toPage, const GradientArea& area) : m_toPage(toPage), m_bounds(area.Bounds) {}
+
+    void Include(PointD corner) { m_fits = m_fits && IsWithin(corner, m_bounds); }
+
+    void Add(const std::string& element) { m_elements += (m_elements.empty() ? "" : "\n") + element; }
+
+    /// `attributes` are the group's; without any and without a need to cut there is no group.
+    std::string Grouped(const std::string& attributes, SvgDefinitions& definitions) const {
+        SvgElement group("g");
+        group.Raw(attributes);
+        if (!m_fits) {
+            const std::string data = PolygonData(BoundsOnPage(m_toPage, m_bounds));
+            group.Raw(ClipAttribute(data, definitions));
+        } else if (attributes.empty()) {
+            return m_elements;
+        }
+        return m_elements.empty() ? m_elements : group.Around("\n" + m_elements + "\n");
+    }
+
+private:
+    const Matrix& m_toPage;
+    RectL m_bounds;
+    bool m_fits = true;
+    std::string m_elements;
+};
+
+/// Where the last colour is reached on the page: straight across the lines of equal colour, which a skewed
+/// transform does not leave at right angles to the blend's axis.
+PointD BlendEnd(const Matrix& m, PointD start, double extent, bool vertical) {
+    const PointD along = vertical ? PointD{m.M21, m.M22} : PointD{m.M11, m.M12};
+    const PointD normal = vertical ? PointD{-m.M12, m.M11} : PointD{-m.M22, m.M21};
+    const double share =
+        extent * (along.X * normal.X + along.Y * normal.Y) / (normal.X * normal.X + normal.Y * normal.Y);
+    return {start.X + normal.X * share, start.Y + normal.Y * share};
+}
+
+std::string AxisBlend(const Matrix& toPage, const TintedPoint& from, const TintedPoint& to, bool vertical,
+                      SvgDefinitions& definitions) {
+    const PointD start = OnPage(toPage, from.Place);
+    const double extent = vertical ? to.Place.Y - from.Place.Y : to.Place.X - from.Place.X;
+    const PointD end = BlendEnd(toPage, start, extent, vertical);
+    const std::string attributes = " gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(start.X) + "\" y1=\"" +
+                                   Number(start.Y) + "\" x2=\"" + Number(end.X) + "\" y2=\"" + Number(end.Y) +
+                                   "\"";
+    const auto stop = [](const char* offset, const Tint& tint) {
+        return SvgElement("stop").Set("offset", offset).Raw(OpaqueAttribute("stop-color", tint)).Empty();
+    };
+    return definitions.LinearGradient(attributes, stop("0", from.Colour) + stop("1", to.Colour));
+}
+
+/// So many cuts along each side.
+int CutsOf(const Triangle& t) {
+    double colours = 0.0;
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+        const auto [low, high] =
+            std::minmax({t[0].Colour[channel], t[1].Colour[channel], t[2].Colour[channel]});
+        colours = std::max(colours, high - low);
+    }
+    double longest = 0.0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const PointD a = t[i].Place;
+        const PointD b = t[(i + 1) % 3].Place;
+        longest = std::max(longest, std::hypot(b.X - a.X, b.Y - a.Y));
+    }
+    const double wanted = std::ceil(std::min(colours / kColorStep, longest / kSmallestPart));
+    return static_cast<int>(std::clamp(wanted, 1.0, static_cast<double>(kMostCuts)));
+}
+
+/// The point with these weights towards the second and third corner.
+TintedPoint Within(const Triangle& t, double second, double third) {
+    const auto mix = [&](double a, double b, double c) { return a + second * (b - a) + third * (c - a); };
+    TintedPoint point;
+    point.Place = {mix(t[0].Place.X, t[1].Place.X, t[2].Place.X),
+                   mix(t[0].Place.Y, t[1].Place.Y, t[2].Place.Y)};
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+        point.Colour[channel] = mix(t[0].Colour[channel], t[1].Colour[channel], t[2].Colour[channel]);
+    }
+    return point;
+}
+
+/// A part by its corners' steps along the two sides, filled with the colour of its middle.
+void AddPart(const Triangle& t, int cuts, const std::array<std::array<int, 2>, 3>& corners,
+             GradientParts& parts) {
+    std::vector<PointD> places;
+    double second = 0.0;
+    double third = 0.0;
+    for (const auto& [i, j] : corners) {
+        places.push_back(Within(t, static_cast<double>(i) / cuts, static_cast<double>(j) / cuts).Place);
+        second += static_cast<double>(i) / cuts / 3.0;
+        third += static_cast<double>(j) / cuts / 3.0;
+    }
+    const std::string fill = OpaqueAttribute("fill", Within(t, second, third).Colour);
+    parts.Add(SvgElement("path").Set("d", PolygonData(places)).Raw(fill).Empty());
+}
+
+/// Rows of triangles that stand on their base, and of those between them that stand on their tip.
+void AddTriangle(const Triangle& t, GradientParts& parts) {
+    const int cuts = CutsOf(t);
+    for (int i = 0; i < cuts; ++i) {
+        for (int j = 0; i + j < cuts; ++j) {
+            AddPart(t, cuts, {{{i, j}, {i + 1, j}, {i, j + 1}}}, parts);
+            if (i + j + 1 < cuts) {
+                AddPart(t, cuts, {{{i + 1, j}, {i + 1, j + 1}, {i, j + 1}}}, parts);
+            }
+        }
+    }
+}
+
+} // namespace
+
+std::optional<std::string> GradientRects(const Matrix& toPage, const GradientArea& area,
+                                         std::span<const GradientRect> rects, bool vertical,
+                                         SvgDefinitions& definitions) {
+    const std::size_t count = area.Vertices.size();
+    if (!std::all_of(rects.begin(), rects.end(), [count](const GradientRect& rect) {
+            return rect.UpperLeft < count && rect.LowerRight < count;
+        })) {
+        return std::nullopt;
+    }
+    GradientParts parts(toPage, area);
+    for (const GradientRect& rect : rects) {
+        const TintedPoint from = Moved(area, rect.UpperLeft);
+        const TintedPoint to = Moved(area, rect.LowerRight);
+        const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
+        const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
+        const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),
+                        static_cast<float>(std::abs(from.Place.Y - to.Place.Y))};
+        if (box.Width > 0.0F && box.Height > 0.0F) {
+            parts.Include(from.Place);
+            parts.Include(to.Place);
+            const std::string id = AxisBlend(toPage, from, to, vertical, definitions);
+            parts.Add(FilledBox(toPage, box, " fill=\"" + Reference(id) + "\""));
+        }
+    }
+    return parts.Grouped("", definitions);
+}
+
+std::optional<std::string> GradientTriangles(const Matrix& toPage, const GradientArea& area,
+                                             std::span<const GradientTriangle> triangles,
+                                             SvgDefinitions& definitions) {
+    const std::size_t count = area.Vertices.size();
+    if (!std::all_of(triangles.begin(), triangles.end(), [count](const GradientTriangle& entry) {
+            return entry.Vertex1 < count && entry.Vertex2 < count && entry.Vertex3 < count;
+        })) {
+        return std::nullopt;
+    }
+    GradientParts parts(toPage, area);
+    for (const GradientTriangle& entry : triangles) {
+        Triangle corners{Moved(area, entry.Vertex1), Moved(area, entry.Vertex2), Moved(area, entry.Vertex3)};
+        for (TintedPoint& corner : corners) {
+            parts.Include(corner.Place);
+            corner.Place = OnPage(toPage, corner.Place);
+        }
+        AddTriangle(corners, parts);
+    }
+    return parts.Grouped(" shape-rendering=\"crispEdges\"", definitions);
+}
+
+} // namespace penlode::svg

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "penlode/IGraphicsEngine.h"
+#include "penlode/svg/SvgDocument.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace penlode::svg {
+
+/// A vertex list moved to where it is filled, inside bounds. Colours are opaque whatever a vertex's alpha
+/// says, as on GDI, whose callers leave it 0.
+struct GradientArea {
+    RectL Bounds;
+    PointF Origin;
+    std::span<const GradientVertex> Vertices;
+};
+
+/// Elements for a mesh, one a line, cut to the bounds. Nothing when an entry names a vertex that is not
+/// there.
+///
+/// A rectangle is filled by a linear gradient. SVG has none for triangles: each is cut into flat ones, as
+/// many as its size and its range of colours ask for and 256 at most, drawn without smoothing so that no seam
+/// shows.
+std::optional<std::string> GradientRects(const Matrix& toPage, const GradientArea& area,
+                                         std::span<const GradientRect> rects, bool vertical,
+                                         SvgDefinitions& definitions);
+std::optional<std::string> GradientTriangles(const Matrix& toPage, const GradientArea& area,
+                                             std::span<const GradientTriangle> triangles,
+                                             SvgDefinitions& definitions);
+
+} // namespace penlode::svg

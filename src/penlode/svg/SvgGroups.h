@@ -1,0 +1,41 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+#include "penlode/SurfaceState.h"
+#include "penlode/svg/SvgDocument.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace penlode::svg {
+
+/// The groups that an element stands in now: one for each open container and, inside it, one for its clip.
+/// Clips are written when something is drawn in them.
+class SvgGroups {
+public:
+    explicit SvgGroups(SizeF page) : m_page(page) {}
+
+    /// `clipsOutside` are the clips in force when the container is begun.
+    void Begin(std::uint32_t container, std::size_t clipsOutside);
+    /// Ends the container and all inside it.
+    void End(std::uint32_t container);
+
+    const std::vector<SvgGroup>& For(const CSurfaceState& state, SvgDefinitions& definitions);
+
+private:
+    /// XML readers refuse a document of more than some 250 levels; containers below this one get no group.
+    static constexpr std::size_t kMostContainers = 64;
+
+    struct Container {
+        std::uint32_t Handle;
+        std::size_t ClipsOutside;
+    };
+
+    SizeF m_page;
+    std::vector<Container> m_containers;
+    std::vector<Region> m_clips;
+    std::vector<SvgGroup> m_groups;
+    bool m_current = false;
+};
+
+} // namespace penlode::svg

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+#include "penlode/GraphicsTypes.h"
+#include "penlode/Image.h"
+#include "penlode/Matrix.h"
+
+#include <optional>
+#include <string>
+
+namespace penlode::svg {
+
+/// An <image> with its pixels in it.
+struct DrawnImage {
+    std::string Element;  ///< empty if nothing of the image is shown
+    std::string ClipData; ///< path data of what is shown; empty where that is the whole element
+};
+
+/// The source rectangle's corners land on the destination's; what the source leaves out is not written, but
+/// for the pixels that its edges cut.
+DrawnImage DrawImagePart(const Matrix& toPage, const Image& image, const RectF& destination,
+                         const RectF& source, const ImageAttributes* attributes);
+
+} // namespace penlode::svg

@@ -1,0 +1,171 @@
+#include "penlode/svg/Body.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace penlode;
+
+namespace {
+
+const Pen kPen(Color{0xFF336699}, 0.2F);
+const SolidBrush kBrush{Color{0xFFCC0000}};
+
+const std::string kStroke = " stroke=\"#336699\" stroke-width=\"0.2\"/>\n";
+const std::string kFill = " fill=\"#cc0000\"/>\n";
+
+} // namespace
+
+TEST(SvgShapes, RootCarriesPageTitleAndBackground) {
+    CSvgEngine engine({80, 60.5F}, {"Sales & <more>", "第\xFF", Color{0x80FFFFFF}, false});
+    EXPECT_EQ(engine.Text(),
+              "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"80mm\" height=\"60.5mm\" "
+              "viewBox=\"0 0 80 60.5\" fill=\"none\" fill-rule=\"evenodd\" clip-rule=\"evenodd\">\n"
+              "  <title>Sales &amp; &lt;more&gt;</title>\n"
+              "  <desc>第\xEF\xBF\xBD</desc>\n"
+              "  <rect x=\"0\" y=\"0\" width=\"80\" height=\"60.5\" fill=\"#ffffff\" "
+              "fill-opacity=\"0.502\"/>\n"
+              "</svg>\n");
+}
+
+TEST(SvgShapes, BoxesAreRectsAndLinesWhereTheyHaveNoExtent) {
+    CSvgEngine engine({80, 60});
+    engine.DrawRectangle(&kPen, 1, 2, 3.00049F, 4);
+    engine.FillRectangle(&kBrush, -0.0001F, 0, 10, 10);
+    engine.DrawRectangle(&kPen, 1, 2, 0, 4);
+    engine.FillRectangle(&kBrush, 1, 2, 0, 4);
+    engine.DrawRectangle(&kPen, 1, 2, -3, 4);
+    engine.FillRectangle(&kBrush, 1, 2, 3, -4);
+    EXPECT_EQ(Body(engine), "<rect x=\"1\" y=\"2\" width=\"3\" height=\"4\"" + kStroke +
+                                "<rect x=\"0\" y=\"0\" width=\"10\" height=\"10\"" + kFill +
+                                "<line x1=\"1\" y1=\"2\" x2=\"1\" y2=\"6\"" + kStroke);
+}
+
+TEST(SvgShapes, LinesAndPolygons) {
+    CSvgEngine engine({80, 60});
+    const PointF points[] = {{0, 0}, {10, 0.5F}, {10.0001F, 0.5F}, {5, -2}};
+    engine.DrawLine(&kPen, 1, 2, 3, 4);
+    engine.DrawLines(&kPen, points, 4);
+    engine.DrawPolygon(&kPen, points, 4);
+    engine.FillPolygon(&kBrush, points, 4);
+    EXPECT_EQ(engine.DrawLines(&kPen, points, 1), Status::Ok);
+    EXPECT_EQ(engine.FillPolygon(&kBrush, points, 2), Status::Ok);
+    EXPECT_EQ(Body(engine), "<line x1=\"1\" y1=\"2\" x2=\"3\" y2=\"4\"" + kStroke +
+                                "<polyline points=\"0,0 10,0.5 5,-2\"" + kStroke +
+                                "<polygon points=\"0,0 10,0.5 5,-2\"" + kStroke +
+                                "<polygon points=\"0,0 10,0.5 5,-2\"" + kFill);
+}
+
+TEST(SvgShapes, PiesStayArcs) {
+    CSvgEngine engine({80, 60});
+    engine.FillPie(&kBrush, {10, 10, 20, 20}, -90, 90);
+    engine.DrawPie(&kPen, {10, 10, 20, 20}, 0, -180);
+    engine.DrawArc(&kPen, 10, 10, 20, 20, 0, 360);
+    engine.DrawArc(&kPen, 0, 0, 20, 10, 45, 45);
+    EXPECT_EQ(Body(engine),
+              "<path d=\"M20 20 L20 10 A10 10 0 0 1 30 20 Z\"" + kFill +
+                  "<path d=\"M20 20 L30 20 A10 10 0 0 0 20 10 A10 10 0 0 0 10 20 Z\"" + kStroke +
+                  "<path d=\"M30 20 A10 10 0 0 1 15 28.66 A10 10 0 0 1 15 11.34 A10 10 0 0 1 30 20\"" +
+                  kStroke +
+                  // The ray at 45° meets the flat ellipse where y - 5 = x - 10 = 10·5 / √(10² + 5²).
+                  "<path d=\"M14.472 9.472 A10 5 0 0 1 10 10\"" + kStroke);
+}
+
+TEST(SvgShapes, EllipsesAndCurves) {
+    CSvgEngine engine({80, 60});
+    const PointF points[] = {{0, 0}, {6, 6}, {12, 0}};
+    engine.FillEllipse(&kBrush, 1, 2, 4, 2);
+    engine.DrawEllipse(&kPen, 1, 2, 4, 4);
+    engine.FillEllipse(&kBrush, 1, 2, 4, 0);
+    engine.DrawCurve(&kPen, points, 3);
+    EXPECT_EQ(Body(engine), "<ellipse cx=\"3\" cy=\"3\" rx=\"2\" ry=\"1\"" + kFill +
+                                "<circle cx=\"3\" cy=\"4\" r=\"2\"" + kStroke +
+                                "<path d=\"M0 0 C1 1 4 6 6 6 C8 6 11 1 12 0\"" + kStroke);
+}
+
+TEST(SvgShapes, PathsKeepTheirFigures) {
+    CSvgEngine engine({80, 60});
+    GraphicsPath path;
+    path.AddRectangle({0, 0, 10, 10});
+    path.AddLine({2, 2}, {4, 2});
+    path.AddArc({2, 2, 4, 4}, -90, 90);
+    path.AddBezier({6, 4}, {6, 5}, {5, 6}, {4, 6});
+    engine.FillPath(&kBrush, &path);
+    EXPECT_EQ(Body(engine),
+              "<path d=\"M0 0 L10 0 L10 10 L0 10 Z M2 2 L4 2 A2 2 0 0 1 6 4 C6 5 5 6 4 6\"" + kFill);
+}
+
+TEST(SvgShapes, PensBecomeStrokes) {
+    CSvgEngine engine({80, 60});
+    const Pen dashDot(Color{0x40000000}, 0.5F, DashStyle::DashDot);
+    const Pen hairline(kBlack, 0.0F, DashStyle::Dot);
+    const Pen invisible(Color{0x00FFFFFF}, 1.0F);
+    engine.SetPageScale(2);
+    engine.DrawLine(&dashDot, 0, 0, 1, 0);
+    engine.DrawLine(&hairline, 0, 0, 1, 0);
+    engine.DrawLine(&invisible, 0, 0, 1, 0);
+    const std::string line = "<line x1=\"0\" y1=\"0\" x2=\"2\" y2=\"0\"";
+    EXPECT_EQ(Body(engine),
+              line +
+                  " stroke=\"#000000\" stroke-opacity=\"0.251\" stroke-width=\"1\" "
+                  "stroke-dasharray=\"3 1 1 1\"/>\n" +
+                  line + " stroke=\"#000000\" stroke-width=\"0.05\" stroke-dasharray=\"0.05 0.05\"/>\n");
+}
+
+TEST(SvgShapes, TurnsAndMirrorsMoveEveryPoint) {
+    CSvgEngine engine({80, 60});
+    engine.TranslateTransform(10, 20, MatrixOrder::Prepend);
+    engine.RotateTransform(90, MatrixOrder::Prepend);
+    engine.FillRectangle(&kBrush, 0, 0, 4, 2);
+    engine.FillEllipse(&kBrush, 0, 0, 4, 2);
+    engine.RotateTransform(-45, MatrixOrder::Prepend);
+    engine.FillRectangle(&kBrush, 0, 0, 4, 2);
+    engine.DrawArc(&kPen, -2, -1, 4, 2, 0, 90);
+    engine.ResetTransform();
+    engine.ScaleTransform(-1, 1, MatrixOrder::Prepend);
+    engine.DrawArc(&kPen, -20, 0, 10, 10, 0, 90);
+    EXPECT_EQ(Body(engine), "<rect x=\"8\" y=\"20\" width=\"2\" height=\"4\"" + kFill +
+                                "<ellipse cx=\"9\" cy=\"22\" rx=\"1\" ry=\"2\"" + kFill +
+                                "<polygon points=\"10,20 12.828,22.828 11.414,24.243 8.586,21.414\"" + kFill +
+                                "<path d=\"M11.414 21.414 A2 1 45 0 1 9.293 20.707\"" + kStroke +
+                                "<path d=\"M10 5 A5 5 0 0 0 15 10\"" + kStroke);
+}
+
+TEST(SvgShapes, SkewedArcsBecomeCurvesOfTheSameShape) {
+    CSvgEngine engine({80, 60});
+    const Matrix skew{1, 0, 1, 1, 0, 0};
+    engine.SetTransform(&skew);
+    engine.DrawArc(&kPen, -10, -10, 20, 20, 0, 45);
+    EXPECT_EQ(Body(engine), "<path d=\"M10 0 C12.652 2.652 14.142 5.196 14.142 7.071\"" + kStroke);
+}
+
+TEST(SvgShapes, RefusesWhatIsMissingOrNotFinite) {
+    constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+    CSvgEngine engine({80, 60});
+    const PointF points[] = {{0, 0}, {1, kNan}, {1, 1}};
+    const Pen endless(kBlack, INFINITY);
+    GraphicsPath path;
+    path.AddArc({0, 0, 1, 1}, kNan, 90);
+    EXPECT_EQ(engine.DrawRectangle(nullptr, 0, 0, 1, 1), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawRectangle(&kPen, 0, kNan, 1, 1), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawLine(&endless, 0, 0, 1, 1), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawLines(&kPen, points, 3), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawCurve(&kPen, nullptr, 3), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawPolygon(&kPen, points, -1), Status::InvalidParameter);
+    EXPECT_EQ(engine.FillPie(&kBrush, {0, 0, 1, 1}, 0, INFINITY), Status::InvalidParameter);
+    EXPECT_EQ(engine.FillPath(&kBrush, nullptr), Status::InvalidParameter);
+    EXPECT_EQ(engine.FillPath(&kBrush, &path), Status::InvalidParameter);
+    EXPECT_EQ(Body(engine), "");
+}
+
+TEST(SvgShapes, FarPointsStayWithinAKilometre) {
+    constexpr float kFar = std::numeric_limits<float>::max() / 4;
+    CSvgEngine engine({80, 60});
+    engine.FillRectangle(&kBrush, -kFar, 0, kFar * 2, 1);
+    engine.DrawLine(&kPen, 0, 0, kFar, -kFar);
+    const Matrix folded{1, 1, 1, 1, 0, 0};
+    engine.SetTransform(&folded);
+    EXPECT_EQ(engine.DrawLine(&kPen, 0, 0, 1, 1), Status::Ok);
+    EXPECT_EQ(Body(engine), "<rect x=\"-1000000\" y=\"0\" width=\"2000000\" height=\"1\"" + kFill +
+                                "<line x1=\"0\" y1=\"0\" x2=\"1000000\" y2=\"-1000000\"" + kStroke);
+}

@@ -1,0 +1,105 @@
+#include "penlode/svg/Body.h"
+
+#include <gtest/gtest.h>
+
+using namespace penlode;
+
+namespace {
+
+const SolidBrush kBrush{kBlack};
+const Font kSong{L"宋体", 4.0F};
+const Font kArial{L"Arial", 4.0F};
+
+const std::string kArialText = " lengthAdjust=\"spacingAndGlyphs\" font-family=\"'Arial', sans-serif\" ";
+
+/// The document of one text at (10, 20).
+std::string Drawn(const wchar_t* text, const Font& font, const SvgOptions& options = {}) {
+    CSvgEngine engine({80, 60}, options);
+    engine.DrawString(text, -1, &font, PointF{10, 20}, &kBrush);
+    return Body(engine);
+}
+
+} // namespace
+
+TEST(SvgText, StandsOnItsBaselineAndKeepsItsWidth) {
+    EXPECT_EQ(Drawn(L"销量 1", kSong),
+              "<text x=\"10\" y=\"24\" textLength=\"12\" lengthAdjust=\"spacingAndGlyphs\" "
+              "font-family=\"'宋体', 'Noto Serif CJK SC', serif\" font-size=\"4\" xml:lang=\"zh-CN\" "
+              "fill=\"#000000\">销量 1</text>\n");
+}
+
+TEST(SvgText, WritesEachLineAlignedInItsBox) {
+    CSvgEngine engine({80, 60});
+    const StringFormat centered{0, 0, StringAlignment::Center, StringAlignment::Center};
+    engine.DrawString(L"ab\r\n\ncdef", -1, &kArial, RectF{10, 20, 20, 15}, &centered, &kBrush);
+    EXPECT_EQ(Body(engine), "<text x=\"18\" y=\"24\" textLength=\"4\"" + kArialText +
+                                "font-size=\"4\" fill=\"#000000\">ab</text>\n"
+                                "<text x=\"16\" y=\"34\" textLength=\"8\"" +
+                                kArialText + "font-size=\"4\" fill=\"#000000\">cdef</text>\n");
+}
+
+TEST(SvgText, TurnsWithTheTransform) {
+    CSvgEngine engine({80, 60});
+    engine.TranslateTransform(30, 40, MatrixOrder::Prepend);
+    engine.RotateTransform(-90, MatrixOrder::Prepend);
+    engine.ScaleTransform(2, 2, MatrixOrder::Prepend);
+    engine.DrawString(L"ab", -1, &kArial, PointF{1, 2}, &kBrush);
+    const Matrix flat{2, 0, 0, 1, 5, 6};
+    engine.SetTransform(&flat);
+    engine.DrawScriptText(L"ab", &kArial, 0, 0, &kBrush);
+    EXPECT_EQ(Body(engine), "<text transform=\"translate(42 38) rotate(-90)\" textLength=\"8\"" + kArialText +
+                                "font-size=\"8\" fill=\"#000000\">ab</text>\n"
+                                "<text transform=\"matrix(2 0 0 1 5 10)\" textLength=\"4\"" +
+                                kArialText + "font-size=\"4\" fill=\"#000000\">ab</text>\n");
+}
+
+TEST(SvgText, EscapesWhatXmlReservesOrForbids) {
+    const std::string text = Drawn(L"<a&\"b\">\x01\xFFFF", kArial);
+    EXPECT_NE(text.find(">&lt;a&amp;&quot;b&quot;&gt;\xEF\xBF\xBD\xEF\xBF\xBD</text>"), std::string::npos)
+        << text;
+    const std::string family = Drawn(L"a", Font{L"O'Hara \\ \"x\"", 4.0F});
+    EXPECT_NE(family.find("font-family=\"'O\\'Hara \\\\ &quot;x&quot;', sans-serif\""), std::string::npos)
+        << family;
+}
+
+TEST(SvgText, KeepsBlanksThatAViewerWouldDrop) {
+    for (const wchar_t* text : {L" a", L"a ", L"a  b", L"a\tb"}) {
+        EXPECT_NE(Drawn(text, kArial).find(" xml:space=\"preserve\""), std::string::npos);
+    }
+    EXPECT_EQ(Drawn(L"a b", kArial).find("xml:space"), std::string::npos);
+}
+
+TEST(SvgText, NamesStyleAndAGenericFamily) {
+    const auto holds = [](const Font& font, const char* attribute) {
+        return Drawn(L"a", font).find(attribute) != std::string::npos;
+    };
+    EXPECT_TRUE(holds({L"Arial", 4.0F, FontStyle::Bold | FontStyle::Italic},
+                      " font-weight=\"bold\" font-style=\"italic\" fill"));
+    EXPECT_TRUE(holds({L"Arial", 4.0F, FontStyle::Underline}, " text-decoration=\"underline\""));
+    EXPECT_TRUE(holds({L"Arial", 4.0F, FontStyle::Underline | FontStyle::Strikeout},
+                      " text-decoration=\"underline line-through\""));
+    EXPECT_TRUE(holds({L"Courier New", 4.0F}, "=\"'Courier New', monospace\""));
+    EXPECT_TRUE(holds({L"Times New Roman", 4.0F}, "=\"'Times New Roman', serif\""));
+    EXPECT_TRUE(holds({L"Noto Sans CJK SC", 4.0F}, "=\"'Noto Sans CJK SC', sans-serif\""));
+    EXPECT_TRUE(holds({L"serif", 4.0F}, "=\"serif\""));
+    EXPECT_TRUE(holds({L"", 4.0F}, "=\"sans-serif\""));
+}
+
+TEST(SvgText, OutlinesAreLabelledWithTheText) {
+    SvgOptions options;
+    options.TextAsOutlines = true;
+    EXPECT_EQ(Drawn(L"& 1\n ", kArial, options),
+              "<path role=\"img\" aria-label=\"&amp; 1\" d=\"M10 22 L12 22 L12 24 L10 24 Z "
+              "M14 22 L16 22 L16 24 L14 24 Z\" fill-rule=\"nonzero\" fill=\"#000000\"/>\n");
+}
+
+TEST(SvgText, RefusesWhatIsMissing) {
+    CSvgEngine engine({80, 60});
+    const Font flat{L"Arial", 0.0F};
+    EXPECT_EQ(engine.DrawString(nullptr, -1, &kArial, PointF{}, &kBrush), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawString(L"a", -1, nullptr, PointF{}, &kBrush), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawString(L"a", -1, &flat, PointF{}, &kBrush), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawString(L"a", -1, &kArial, PointF{}, nullptr), Status::InvalidParameter);
+    EXPECT_EQ(engine.DrawString(L"", -1, &kArial, PointF{}, &kBrush), Status::Ok);
+    EXPECT_EQ(Body(engine), "");
+}
