@@ -31,5 +31,4 @@ install(
   PATTERN cairo EXCLUDE
   PATTERN svg EXCLUDE)
 install(FILES src/penlode/cairo/GraphicsEngine.h DESTINATION ${headers}/penlode/cairo)
-install(FILES src/penlode/svg/SvgDocument.h src/penlode/svg/SvgEngine.h src/penlode/svg/SvgGroups.h
-              src/penlode/svg/SvgText.h DESTINATION ${headers}/penlode/svg)
+install(FILES src/penlode/svg/SvgEngine.h src/penlode/svg/SvgOptions.h DESTINATION ${headers}/penlode/svg)

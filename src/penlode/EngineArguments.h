@@ -2,12 +2,16 @@
 
 #include "penlode/Font.h"
 #include "penlode/Geometry.h"
+#include "penlode/GraphicsPath.h"
 #include "penlode/GraphicsTypes.h"
+#include "penlode/IGraphicsEngine.h"
 #include "penlode/Pen.h"
+#include "penlode/Region.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <span>
 
 /// What an engine asks of its arguments before it draws. An operation whose arguments fail answers
 /// InvalidParameter.
@@ -19,6 +23,37 @@ template <class... Numbers> bool AreFinite(Numbers... numbers) {
 
 inline bool IsFinite(const RectF& r) {
     return AreFinite(r.X, r.Y, r.Width, r.Height);
+}
+
+inline bool IsFinite(const GraphicsPath::Piece& piece) {
+    if (const auto* line = std::get_if<GraphicsPath::Line>(&piece)) {
+        return AreFinite(line->From.X, line->From.Y, line->To.X, line->To.Y);
+    }
+    if (const auto* arc = std::get_if<GraphicsPath::Arc>(&piece)) {
+        return IsFinite(arc->Ellipse) && AreFinite(arc->StartAngle, arc->SweepAngle);
+    }
+    const auto& points = std::get<GraphicsPath::Bezier>(piece).Points;
+    return std::all_of(points.begin(), points.end(), [](PointF p) { return AreFinite(p.X, p.Y); });
+}
+
+inline bool IsFinite(const GraphicsPath& path) {
+    const auto& figures = path.Figures();
+    return std::all_of(figures.begin(), figures.end(), [](const GraphicsPath::Figure& figure) {
+        return std::all_of(figure.Pieces.begin(), figure.Pieces.end(),
+                           [](const GraphicsPath::Piece& piece) { return IsFinite(piece); });
+    });
+}
+
+/// Regions lie in one another Region::kMostLevels deep at most.
+inline bool IsFinite(const Region& region) {
+    const auto& steps = region.Steps();
+    return std::all_of(steps.begin(), steps.end(), [](const Region::Step& step) {
+        const auto* rect = std::get_if<RectF>(&step.Operand);
+        const auto* path = std::get_if<GraphicsPath>(&step.Operand);
+        const auto* nested = std::get_if<Region::Nested>(&step.Operand);
+        return (rect == nullptr || IsFinite(*rect)) && (path == nullptr || IsFinite(*path)) &&
+               (nested == nullptr || IsFinite(*nested->Area));
+    });
 }
 
 inline bool IsUsable(const Pen* pen) {
@@ -41,6 +76,19 @@ inline bool HasExtent(const RectF& rect) {
 /// A font of no size has no glyphs and no lines.
 inline bool IsDrawable(const Font& font) {
     return std::isfinite(font.Size) && font.Size > 0.0F;
+}
+
+/// Whether every entry of a gradient's mesh names vertices that are there.
+inline bool AreVerticesThere(std::span<const GradientRect> rects, std::size_t count) {
+    return std::all_of(rects.begin(), rects.end(), [count](const GradientRect& r) {
+        return r.UpperLeft < count && r.LowerRight < count;
+    });
+}
+
+inline bool AreVerticesThere(std::span<const GradientTriangle> triangles, std::size_t count) {
+    return std::all_of(triangles.begin(), triangles.end(), [count](const GradientTriangle& t) {
+        return t.Vertex1 < count && t.Vertex2 < count && t.Vertex3 < count;
+    });
 }
 
 } // namespace penlode

@@ -6,12 +6,12 @@
 namespace penlode {
 namespace {
 
-/// What two rectangles share; a negative extent counts as none.
+/// What two rectangles share. A negative extent reaches the other way.
 Region::Shape Common(const RectF& a, const RectF& b) {
-    const float left = std::max(a.X, b.X);
-    const float top = std::max(a.Y, b.Y);
-    const float width = std::min(a.Right(), b.Right()) - left;
-    const float height = std::min(a.Bottom(), b.Bottom()) - top;
+    const float left = std::max(std::min(a.X, a.Right()), std::min(b.X, b.Right()));
+    const float top = std::max(std::min(a.Y, a.Bottom()), std::min(b.Y, b.Bottom()));
+    const float width = std::min(std::max(a.X, a.Right()), std::max(b.X, b.Right())) - left;
+    const float height = std::min(std::max(a.Y, a.Bottom()), std::max(b.Y, b.Bottom())) - top;
     return width > 0.0F && height > 0.0F ? Region::Shape{RectF{left, top, width, height}}
                                          : Region::Shape{Region::Nothing{}};
 }

@@ -19,6 +19,10 @@ RectF RectBetween(PointF a, PointF b) {
     return {std::min(a.X, b.X), std::min(a.Y, b.Y), std::abs(a.X - b.X), std::abs(a.Y - b.Y)};
 }
 
+bool IsKnown(CoordinateSpace space) {
+    return space >= CoordinateSpace::World && space <= CoordinateSpace::Device;
+}
+
 Region Mapped(const Region& region, const Matrix& transform);
 
 /// A shape under a transform. A rectangle stays one as long as its sides stay parallel to the axes.
@@ -112,7 +116,7 @@ Status CSurfaceState::TransformPoints(CoordinateSpace destination, CoordinateSpa
                                                 : Matrix{};
     };
     const Matrix back = toDevice(destination);
-    if (points == nullptr || count < 0 || !back.IsInvertible()) {
+    if (points == nullptr || count < 0 || !IsKnown(destination) || !IsKnown(source) || !back.IsInvertible()) {
         return Status::InvalidParameter;
     }
     if (destination != source) {
@@ -122,11 +126,18 @@ Status CSurfaceState::TransformPoints(CoordinateSpace destination, CoordinateSpa
     return Status::Ok;
 }
 
+void CSurfaceState::ResetClip() {
+    ++m_clipGeneration;
+    m_now.Clip.MakeInfinite();
+}
+
 Status CSurfaceState::CombineClip(const Region::Shape& shape, CombineMode mode) {
+    ++m_clipGeneration;
     return m_now.Clip.Combine(std::visit(ShapeMapper{WorldToDevice()}, shape), mode);
 }
 
 Status CSurfaceState::CombineClip(const Region& region, CombineMode mode) {
+    ++m_clipGeneration;
     return m_now.Clip.Combine(Mapped(region, WorldToDevice()), mode);
 }
 
@@ -148,8 +159,16 @@ std::vector<Region> CSurfaceState::DeviceClips() const {
     return clips;
 }
 
+std::size_t CSurfaceState::ClipCount() const {
+    const auto outside =
+        std::count_if(m_containers.begin(), m_containers.end(),
+                      [](const Container& container) { return !container.Saved.Clip.IsInfinite(); });
+    return static_cast<std::size_t>(outside) + (m_now.Clip.IsInfinite() ? 0U : 1U);
+}
+
 std::uint32_t CSurfaceState::BeginContainer() {
     const std::uint32_t handle = ++m_lastHandle;
+    ++m_clipGeneration;
     m_containers.push_back({handle, m_now});
     // What stood outside becomes part of the way to the device, in pixels: once the caller has set the same
     // units again, a point lands where it would have landed before.
@@ -168,6 +187,7 @@ Status CSurfaceState::EndContainer(std::uint32_t container) {
     if (found == m_containers.end()) {
         return Status::InvalidParameter;
     }
+    ++m_clipGeneration;
     m_now = std::move(found->Saved);
     m_containers.erase(found, m_containers.end());
     return Status::Ok;

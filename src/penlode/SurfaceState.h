@@ -5,6 +5,7 @@
 #include "penlode/Matrix.h"
 #include "penlode/Region.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -47,7 +48,7 @@ public:
     Status TransformPoints(CoordinateSpace destination, CoordinateSpace source, PointF* points,
                            std::int32_t count) const;
 
-    void ResetClip() { m_now.Clip.MakeInfinite(); }
+    void ResetClip();
 
     /// The shape is in world coordinates. Refused as Region::Combine refuses.
     Status CombineClip(const Region::Shape& shape, CombineMode mode);
@@ -57,6 +58,11 @@ public:
     /// The clips in force, outermost container first, in device coordinates: what is drawn lies inside all of
     /// them.
     std::vector<Region> DeviceClips() const;
+    /// How many clips DeviceClips gives.
+    std::size_t ClipCount() const;
+
+    /// Another number after every call that may have changed the clips in force.
+    std::uint64_t ClipGeneration() const { return m_clipGeneration; }
 
     SmoothingMode GetSmoothingMode() const { return m_now.Smoothing; }
 
@@ -89,6 +95,7 @@ private:
     State m_now;
     std::vector<Container> m_containers;
     std::uint32_t m_lastHandle = 0;
+    std::uint64_t m_clipGeneration = 0;
 };
 
 } // namespace penlode

@@ -56,14 +56,14 @@ Status CTrackingEngine::GetClip(Region* region) {
 }
 
 Status CTrackingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
-    if (path == nullptr || !IsKnown(mode)) {
+    if (path == nullptr || !IsFinite(*path) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
     return m_state.CombineClip(Region::Shape{*path}, mode);
 }
 
 Status CTrackingEngine::SetClip(const Region* region, CombineMode mode) {
-    if (region == nullptr || !IsKnown(mode)) {
+    if (region == nullptr || !IsFinite(*region) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
     return m_state.CombineClip(*region, mode);

@@ -1,5 +1,6 @@
 #include "penlode/recording/RecordingEngine.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace penlode;
@@ -59,4 +60,61 @@ TEST(RecordingEngine, AnswersQueriesFromItsState) {
     EXPECT_EQ(lines, 1);
     EXPECT_EQ(characters, 3);
     EXPECT_EQ(engine.Text(), "TranslateTransform 3 4 prepend\n");
+}
+
+TEST(RecordingEngine, BadArgumentsAreRecordedAndRefused) {
+    CRecordingEngine engine;
+    const Pen pen;
+    const Pen wild(kBlack, INFINITY);
+    const SolidBrush brush;
+    const Font none{L"宋体", 0.0F};
+    const Image broken{2, 2, 96.0F, 96.0F, {kBlack}};
+    const Image whole{1, 1, 96.0F, 96.0F, {kBlack}};
+    const PointF points[] = {{0, 0}, {NAN, 1}};
+    GraphicsPath path;
+    path.AddLines(points);
+    for (const Status status :
+         {engine.DrawLine(&pen, 0, 0, NAN, 1), engine.DrawLine(&wild, 0, 0, 1, 1),
+          engine.DrawLines(&pen, points, 2), engine.DrawLines(&pen, points, -1),
+          engine.FillPie(&brush, {0, 0, 1, 1}, 0, INFINITY), engine.FillPath(&brush, &path),
+          engine.SetClip(&path, CombineMode::Replace), engine.DrawString(L"a", -1, &none, PointF{}, &brush),
+          engine.DrawImage(&broken, RectF{0, 0, 1, 1}),
+          engine.DrawImage(&whole, {0, 0, 1, 1}, 0, 0, 1, 1, Unit::World, nullptr, nullptr, nullptr)}) {
+        EXPECT_EQ(status, Status::InvalidParameter);
+    }
+    EXPECT_EQ(engine.Calls().size(), 10U);
+    PointF point;
+    for (const auto space : {static_cast<CoordinateSpace>(-1), static_cast<CoordinateSpace>(3)}) {
+        EXPECT_EQ(engine.TransformPoints(space, CoordinateSpace::World, &point, 1), Status::InvalidParameter);
+        EXPECT_EQ(engine.TransformPoints(CoordinateSpace::World, space, &point, 1), Status::InvalidParameter);
+    }
+}
+
+TEST(RecordingEngine, GradientsAndImagesAreRecordedWhole) {
+    CRecordingEngine engine;
+    const GradientVertex vertices[] = {{0, 0, 0xFF00, 0, 0, 0}, {8, 0, 0, 0xFF00, 0, 0xFF00}};
+    const GradientRect mesh[] = {{0, 1}, {1, 2}};
+    const RectL bounds{0, 0, 9, 9};
+    EXPECT_EQ(engine.GradientFill(bounds, {1, 2}, vertices, 2, mesh, 1, GradientMode::RectV), 1);
+    EXPECT_EQ(engine.GradientFill(bounds, {1, 2}, vertices, 2, mesh, 2, GradientMode::RectV), 0);
+    EXPECT_EQ(engine.GradientFill(bounds, {NAN, 2}, vertices, 0, mesh, 0, GradientMode::RectV), 0);
+    EXPECT_EQ(engine.GradientFill(bounds, {}, nullptr, 2, mesh, 1, static_cast<GradientMode>(3)), 0);
+    const Image image{1, 1, 96.0F, 96.0F, {kBlack}};
+    ImageAttributes pale;
+    pale.ColorMatrix[3][3] = 0.5F;
+    engine.DrawImage(&image, {0, 0, 1, 1}, 0, 0, 1, 1, Unit::Pixel, &pale, nullptr, nullptr);
+    EXPECT_EQ(engine.Text(), "GradientFill (0 0 9 9) [2] (1 2) (9 2) [2] #00FF0000 #FF00FF00 [2] 0 1 1\n"
+                             "GradientFill (0 0 9 9) [2] (1 2) (9 2) [2] #00FF0000 #FF00FF00 [4] 0 1 1 2 1\n"
+                             "GradientFill (0 0 9 9) [0] [0] [0] 1\n"
+                             "GradientFill (0 0 9 9) [0] [0] [0] 3\n"
+                             "DrawImage image 1x1 (0 0 1 1) (0 0 1 1) pixel"
+                             " colors 1 0 0 0 0 0 1 0 0 0 0 0 1 0 0 0 0 0 0.5 0 0 0 0 0 1\n");
+}
+
+TEST(RecordingEngine, ACallIsOneLineWhateverItsTexts) {
+    CRecordingEngine engine;
+    const Font font{L"a\n\"b\\", 1.0F};
+    const SolidBrush brush;
+    engine.DrawString(L"\\n\r\n", -1, &font, PointF{}, &brush);
+    EXPECT_EQ(engine.Text(), "DrawString \"\\\\n\\r\\n\" a\\n\\\"b\\\\/1 (0 0) #FF000000\n");
 }

@@ -10,6 +10,8 @@ TEST(Region, AWindowNarrowedAgainAndAgainStaysOneStep) {
         region.Combine(RectF{10, 20, 30, 300}, CombineMode::Intersect);
     }
     EXPECT_EQ(region, Region(RectF{10, 20, 30, 80}));
+    region.Combine(RectF{40, 110, -35, -60}, CombineMode::Intersect);
+    EXPECT_EQ(region, Region(RectF{10, 50, 30, 50})) << "a negative extent reaches the other way";
     region.Combine(RectF{40, 0, 5, 5}, CombineMode::Intersect);
     Region empty;
     empty.MakeEmpty();

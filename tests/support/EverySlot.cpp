@@ -225,7 +225,7 @@ void Units(IGraphicsEngine& g) {
 void Smoothing(IGraphicsEngine& g) {
     const SmoothingMode before = g.GetSmoothingMode();
     g.SetSmoothingMode(SmoothingMode::None);
-    g.DrawEllipse(&kThick, 3, 3, 8, 14);
+    g.DrawEllipse(g.GetSmoothingMode() == SmoothingMode::None ? &kThick : &kThin, 3, 3, 8, 14);
     g.SetSmoothingMode(before);
     g.DrawEllipse(&kThick, 13, 3, 8, 14);
 }

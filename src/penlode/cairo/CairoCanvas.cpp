@@ -17,7 +17,8 @@ constexpr double kStrongestTransform = 1e9;
 } // namespace
 
 CairoCanvas::CairoCanvas(CairoContext context, const CanvasSetting& setting)
-    : m_context(std::move(context)), m_setting(setting) {
+    : m_surface(cairo_surface_reference(cairo_get_target(context.get()))), m_context(std::move(context)),
+      m_setting(setting) {
     cairo_save(m_context.get());
 }
 
@@ -29,26 +30,27 @@ double CairoCanvas::ThinnestLine() const {
     return m_setting.HasPixels ? 1.0 : kThinnestPageLine * m_setting.Dpi / kMillimetresPerInch;
 }
 
-/// A context that has failed refuses everything from then on. One drawing that was too much for Cairo shall
-/// not silence the ones that follow.
-void CairoCanvas::Revive() {
-    cairo_surface_t* target = cairo_get_target(m_context.get());
-    if (m_setting.OwnsSurface && cairo_status(m_context.get()) != CAIRO_STATUS_SUCCESS &&
-        cairo_surface_status(target) == CAIRO_STATUS_SUCCESS) {
-        const CairoSurface surface(cairo_surface_reference(target));
-        m_context.reset(cairo_create(surface.get()));
+Status CairoCanvas::Recover() {
+    const cairo_status_t status = cairo_status(m_context.get());
+    if (status == CAIRO_STATUS_SUCCESS) {
+        return Status::Ok;
+    }
+    if (m_setting.OwnsSurface && cairo_surface_status(m_surface.get()) == CAIRO_STATUS_SUCCESS) {
+        m_context.reset(cairo_create(m_surface.get()));
         cairo_save(m_context.get());
         m_clip = {};
         m_clippedTo.clear();
+        m_clipGeneration.reset();
     }
+    return status == CAIRO_STATUS_NO_MEMORY ? Status::OutOfMemory : Status::GenericError;
 }
 
 bool CairoCanvas::Begin(const CSurfaceState& state) {
-    Revive();
     if (cairo_status(m_context.get()) != CAIRO_STATUS_SUCCESS) {
         return false;
     }
     UpdateClip(state);
+    cairo_set_operator(m_context.get(), CAIRO_OPERATOR_OVER);
     m_clip.BeginDrawing(m_context.get());
     cairo_t* context = m_context.get();
     const cairo_matrix_t matrix = ToCairo(m_setting.ToUserSpace);
@@ -66,6 +68,10 @@ void CairoCanvas::End() {
 }
 
 void CairoCanvas::UpdateClip(const CSurfaceState& state) {
+    if (m_clipGeneration == state.ClipGeneration()) {
+        return;
+    }
+    m_clipGeneration = state.ClipGeneration();
     std::vector<Region> clips = state.DeviceClips();
     if (clips == m_clippedTo) {
         return;

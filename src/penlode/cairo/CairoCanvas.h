@@ -1,10 +1,10 @@
 #pragma once
 
 #include "penlode/Color.h"
+#include "penlode/DeviceGeometry.h"
 #include "penlode/SurfaceState.h"
 #include "penlode/cairo/CairoClip.h"
 #include "penlode/cairo/CairoHandles.h"
-#include "penlode/cairo/DeviceGeometry.h"
 #include "penlode/cairo/PixelGrid.h"
 
 #include <optional>
@@ -38,6 +38,9 @@ public:
 
     cairo_t* Context() const { return m_context.get(); }
 
+    /// What the context draws on, whatever has become of the context.
+    cairo_surface_t* Surface() const { return m_surface.get(); }
+
     const CanvasSetting& Setting() const { return m_setting; }
 
     /// Width of the thinnest line, in device units.
@@ -48,14 +51,20 @@ public:
     bool Begin(const CSurfaceState& state);
     void End();
 
+    /// What has become of the drawings since the last call. A context that has failed refuses everything from
+    /// then on: on a surface of our own a new one takes its place, so that one drawing that was too much for
+    /// Cairo does not silence the ones that follow.
+    Status Recover();
+
 private:
     void UpdateClip(const CSurfaceState& state);
-    void Revive();
 
+    CairoSurface m_surface;
     CairoContext m_context;
     CanvasSetting m_setting;
     CairoClip m_clip;
     std::vector<Region> m_clippedTo;
+    std::optional<std::uint64_t> m_clipGeneration; ///< of m_clippedTo
 };
 
 /// One drawing operation: open from construction to destruction.

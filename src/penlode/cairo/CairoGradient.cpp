@@ -1,8 +1,9 @@
 #include "penlode/cairo/CairoGradient.h"
 
+#include "penlode/EngineArguments.h"
+#include "penlode/FarClip.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoShapes.h"
-#include "penlode/cairo/FarClip.h"
 
 #include <array>
 
@@ -154,9 +155,7 @@ void FillTriangle(const Painter& painter, const std::array<TintedPoint, 3>& corn
 
 bool FillGradientRects(const Painter& painter, const GradientArea& area, std::span<const GradientRect> rects,
                        bool vertical) {
-    const std::size_t count = area.Vertices.size();
-    if (std::any_of(rects.begin(), rects.end(),
-                    [&](const GradientRect& r) { return r.UpperLeft >= count || r.LowerRight >= count; })) {
+    if (!AreVerticesThere(rects, area.Vertices.size())) {
         return false;
     }
     cairo_save(painter.Context());
@@ -170,10 +169,7 @@ bool FillGradientRects(const Painter& painter, const GradientArea& area, std::sp
 
 bool FillGradientTriangles(const Painter& painter, const GradientArea& area,
                            std::span<const GradientTriangle> triangles) {
-    const std::size_t count = area.Vertices.size();
-    if (std::any_of(triangles.begin(), triangles.end(), [&](const GradientTriangle& t) {
-            return t.Vertex1 >= count || t.Vertex2 >= count || t.Vertex3 >= count;
-        })) {
+    if (!AreVerticesThere(triangles, area.Vertices.size())) {
         return false;
     }
     cairo_save(painter.Context());

@@ -11,8 +11,7 @@ namespace {
 
 constexpr std::int32_t kRowsPerQuestion = 64;
 
-/// An image enlarged or reduced by more is left out.
-constexpr double kStrongestScale = 1e4;
+constexpr double kStrongestScale = 32767.0;
 
 /// Cairo's limit for the sides of an image.
 constexpr std::int32_t kLongestSide = 32767;
@@ -87,8 +86,24 @@ Matrix PixelsToDevice(const Painter& painter, const RectF& source, const RectF& 
            Matrix::Translation(destination.X, destination.Y) * m;
 }
 
-/// Fills the image's visible part through a pattern that repeats its outermost pixels, so that an enlarged
-/// picture keeps its edges.
+bool IsOnePixel(const PixelRect& part) {
+    return part.Width == 1 && part.Height == 1;
+}
+
+/// A pattern that repeats the image's outermost pixels, so that an enlarged picture keeps its edges. One
+/// pixel is the same everywhere, and needs no map that Cairo might not be able to count in.
+CairoPattern PatternOf(cairo_surface_t* copy, const PixelRect& part, const Matrix& pixelsToDevice) {
+    CairoPattern pattern(cairo_pattern_create_for_surface(copy));
+    if (!IsOnePixel(part)) {
+        const cairo_matrix_t matrix =
+            ToCairo(pixelsToDevice.Inverted() * Matrix::Translation(-part.X, -part.Y));
+        cairo_pattern_set_matrix(pattern.get(), &matrix);
+    }
+    cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+    return pattern;
+}
+
+/// Fills the image's visible part.
 void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& part, const BoxD& visible,
                const Matrix& pixelsToDevice) {
     GraphicsPath area;
@@ -97,10 +112,7 @@ void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& p
     if (!AddArea(painter.Context(), area, pixelsToDevice, painter.FarBox())) {
         return;
     }
-    const CairoPattern pattern(cairo_pattern_create_for_surface(copy));
-    const cairo_matrix_t matrix = ToCairo(pixelsToDevice.Inverted() * Matrix::Translation(-part.X, -part.Y));
-    cairo_pattern_set_matrix(pattern.get(), &matrix);
-    cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+    const CairoPattern pattern = PatternOf(copy, part, pixelsToDevice);
     cairo_set_source(painter.Context(), pattern.get());
     cairo_fill(painter.Context());
 }
@@ -113,7 +125,8 @@ Status PaintImage(const Painter& painter, const Image& image, const RectF& desti
     const BoxD source = BoxBetween({s.X, s.Y}, {s.Right(), s.Bottom()});
     const PixelRect part = Covered(image, source);
     const Matrix pixelsToDevice = PixelsToDevice(painter, s, destination);
-    if (part.Width <= 0 || part.Height <= 0 || !IsSound(pixelsToDevice, kStrongestScale)) {
+    const bool countable = IsOnePixel(part) || IsSound(pixelsToDevice, kStrongestScale);
+    if (part.Width <= 0 || part.Height <= 0 || !countable) {
         return Status::Ok;
     }
     if (part.Width > kLongestSide || part.Height > kLongestSide) {

@@ -14,7 +14,8 @@ struct ImageDrawing {
 };
 
 /// Draws the part of the source that the image covers on the part of `destination` that belongs to it. On
-/// pixels the destination's edges stand on the grid.
+/// pixels the destination's edges stand on the grid. An image whose pixels are enlarged or reduced more than
+/// 32767 times either way is left out; a single pixel may be enlarged without limit.
 Status PaintImage(const Painter& painter, const Image& image, const RectF& destination,
                   const ImageDrawing& drawing);
 

@@ -1,6 +1,6 @@
 #include "penlode/cairo/CairoOutline.h"
 
-#include "penlode/cairo/FarClip.h"
+#include "penlode/FarClip.h"
 
 #include <utility>
 

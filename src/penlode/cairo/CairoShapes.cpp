@@ -1,8 +1,8 @@
 #include "penlode/cairo/CairoShapes.h"
 
+#include "penlode/FarClip.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoStroke.h"
-#include "penlode/cairo/FarClip.h"
 
 #include <array>
 

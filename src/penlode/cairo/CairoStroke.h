@@ -1,8 +1,8 @@
 #pragma once
 
+#include "penlode/FarClip.h"
 #include "penlode/Pen.h"
 #include "penlode/cairo/CairoCanvas.h"
-#include "penlode/cairo/FarClip.h"
 
 namespace penlode {
 

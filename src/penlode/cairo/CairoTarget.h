@@ -15,14 +15,21 @@ struct CGraphicsEngine::Target {
     Target(Kind kind, CairoContext context, const CanvasSetting& setting, double dpi)
         : What(kind), Dpi(dpi), Canvas(std::move(context), setting) {}
 
-    /// Runs one drawing operation.
+    /// Runs one drawing operation. Under a transform that folds the plane it draws nothing, and is Ok.
     template <std::invocable<const Painter&> Operation>
     Status Draw(const CSurfaceState& state, Operation&& operation) {
         if (Finished) {
             return Status::WrongState;
         }
-        const Painter painter(Canvas, state);
-        return painter.IsReady() ? operation(painter) : Status::InvalidParameter;
+        Status answer = Status::Ok;
+        {
+            const Painter painter(Canvas, state);
+            if (painter.IsReady()) {
+                answer = operation(painter);
+            }
+        }
+        const Status outcome = Canvas.Recover();
+        return answer == Status::Ok ? outcome : answer;
     }
 
     Kind What;

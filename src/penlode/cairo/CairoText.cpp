@@ -1,5 +1,6 @@
 #include "penlode/cairo/CairoText.h"
 
+#include "penlode/FontFace.h"
 #include "penlode/StringUtil.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoOutline.h"
@@ -64,6 +65,28 @@ bool CanBeDrawn(const Matrix& toDevice) {
     const double longest =
         kSetEm * std::max(std::hypot(toDevice.M11, toDevice.M12), std::hypot(toDevice.M21, toDevice.M22));
     return toDevice.IsInvertible() && em >= kSmallestEm && longest <= kLargestEm;
+}
+
+/// FreeType refuses letters that are stretched far more one way than the other, and then refuses its face for
+/// good.
+bool IsMuchStretched(const Matrix& toDevice) {
+    constexpr double kStrongestStretch = 2.0;
+    const double x = std::hypot(toDevice.M11, toDevice.M12);
+    const double y = std::hypot(toDevice.M21, toDevice.M22);
+    const double flattest = std::abs(toDevice.Determinant()) / std::max(x, y);
+    return std::max(x, y) > kStrongestStretch * flattest;
+}
+
+/// Fills outlines that were taken before the transform.
+void FillOutlines(const Painter& painter, std::wstring_view text, const Font& font, const Matrix& toDevice) {
+    const double scale = kSetEm / font.Size;
+    AddArea(painter.Context(), OutlineOfLine(text, font), Matrix::Scale(scale, scale) * toDevice,
+            painter.FarBox());
+    cairo_save(painter.Context());
+    cairo_set_fill_rule(painter.Context(), CAIRO_FILL_RULE_WINDING);
+    cairo_set_antialias(painter.Context(), CAIRO_ANTIALIAS_DEFAULT);
+    cairo_fill(painter.Context());
+    cairo_restore(painter.Context());
 }
 
 void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
@@ -131,7 +154,11 @@ Status PaintText(const Painter& painter, std::wstring_view text, const Font& fon
         const Matrix toDevice = OnWholePixel(painter, LineToDevice(painter, placed, font));
         if (line.Line != nullptr && CanBeDrawn(toDevice) &&
             IsInSight(painter, Surroundings(toDevice, line.Width))) {
-            ShowLine(painter, line, toDevice, font);
+            if (IsMuchStretched(toDevice)) {
+                FillOutlines(painter, placed.Text, font, toDevice);
+            } else {
+                ShowLine(painter, line, toDevice, font);
+            }
         }
     }
     return Status::Ok;

@@ -190,7 +190,7 @@ Status CGraphicsEngine::FillPolygon(const SolidBrush* brush, const PointF* point
 }
 
 Status CGraphicsEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
-    if (brush == nullptr || path == nullptr) {
+    if (brush == nullptr || path == nullptr || !IsFinite(*path)) {
         return Status::InvalidParameter;
     }
     return m_target->Draw(State(),

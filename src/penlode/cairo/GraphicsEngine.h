@@ -43,8 +43,10 @@ public:
 
     /// Draws on a context of the host's, which is kept until the engine goes: at its clip and with its
     /// transform as they are now, `dpi` units of its user space to the inch (96 in a widget, 72 in Cairo's
-    /// own PDF). Its saved states must be balanced between calls; its path and source are changed. Device
-    /// coordinates are then those of that user space. Null for a null or failed context.
+    /// own PDF). Its saved states must be balanced between calls. While the engine lives, it sets the
+    /// context's transform, clip, source, operator and line settings as it needs them; when it goes, all are
+    /// as they were. The path is lost. Device coordinates are those of that user space. Null for a null or
+    /// failed context.
     static std::unique_ptr<CGraphicsEngine> ForCairo(_cairo* context, double dpi);
 
     ~CGraphicsEngine() override;

@@ -70,8 +70,7 @@ BoxD ClipOf(cairo_t* context, const Matrix& userToPixels) {
 }
 
 /// Cairo's image, finished with all drawings so far; empty for other kinds.
-PremultipliedPixels PixelsOf(cairo_t* context) {
-    cairo_surface_t* surface = cairo_get_target(context);
+PremultipliedPixels PixelsOf(cairo_surface_t* surface) {
     cairo_surface_flush(surface);
     return {cairo_image_surface_get_data(surface), cairo_image_surface_get_width(surface),
             cairo_image_surface_get_height(surface), cairo_image_surface_get_stride(surface)};
@@ -152,7 +151,7 @@ std::string CGraphicsEngine::EncodePng() const {
     if (m_target->What != Target::Kind::Picture) {
         return {};
     }
-    return penlode::EncodePng(PixelsOf(m_target->Canvas.Context()), m_target->Dpi, m_target->Dpi);
+    return penlode::EncodePng(PixelsOf(m_target->Canvas.Surface()), m_target->Dpi, m_target->Dpi);
 }
 
 Image CGraphicsEngine::Pixels() const {
@@ -160,7 +159,7 @@ Image CGraphicsEngine::Pixels() const {
     if (m_target->What != Target::Kind::Picture) {
         return image;
     }
-    const PremultipliedPixels pixels = PixelsOf(m_target->Canvas.Context());
+    const PremultipliedPixels pixels = PixelsOf(m_target->Canvas.Surface());
     image.Width = pixels.Width;
     image.Height = pixels.Height;
     image.HorizontalDpi = image.VerticalDpi = static_cast<float>(m_target->Dpi);
@@ -184,7 +183,7 @@ std::string CGraphicsEngine::FinishPdf() {
     if (!m_target->Finished) {
         m_target->Finished = true;
         cairo_show_page(m_target->Canvas.Context());
-        cairo_surface_finish(cairo_get_target(m_target->Canvas.Context()));
+        cairo_surface_finish(m_target->Canvas.Surface());
     }
     return *m_target->PdfFile;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/cairo/DeviceGeometry.h"
+#include "penlode/DeviceGeometry.h"
 
 #include <limits>
 #include <span>

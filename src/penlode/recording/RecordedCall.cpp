@@ -41,7 +41,21 @@ public:
         }
     }
 
-    void operator()(const std::wstring& text) { Word(Quoted(text)); }
+    void operator()(const std::vector<Color>& colors) {
+        Word("[" + std::to_string(colors.size()) + "]");
+        for (const Color color : colors) {
+            Word(Hex(color));
+        }
+    }
+
+    void operator()(const std::vector<std::uint32_t>& indices) {
+        Word("[" + std::to_string(indices.size()) + "]");
+        for (const std::uint32_t index : indices) {
+            (*this)(index);
+        }
+    }
+
+    void operator()(const std::wstring& text) { Word("\"" + Escaped(text) + "\""); }
 
     void operator()(const Pen& pen) {
         const std::string dash = NameOf(kDashNames, pen.GetDashStyle());
@@ -52,7 +66,7 @@ public:
 
     void operator()(const Font& font) {
         const std::string style = font.Style == FontStyle::Regular ? "" : "/" + std::to_string(font.Style);
-        Word(CStringUtil::WideToUtf8(font.Family) + "/" + Number(font.Size) + style);
+        Word(Escaped(font.Family) + "/" + Number(font.Size) + style);
     }
 
     void operator()(const StringFormat& format) {
@@ -110,6 +124,15 @@ public:
         Word("image " + std::to_string(image.Width) + "x" + std::to_string(image.Height));
     }
 
+    void operator()(const ImageAttributes& attributes) {
+        Word("colors");
+        for (const auto& row : attributes.ColorMatrix) {
+            for (const float factor : row) {
+                (*this)(factor);
+            }
+        }
+    }
+
     void operator()(CombineMode mode) { Word(NameOf(kModes, mode)); }
 
     void operator()(MatrixOrder order) { Word(order == MatrixOrder::Prepend ? "prepend" : "append"); }
@@ -135,12 +158,15 @@ private:
         return text;
     }
 
-    static std::string Quoted(const std::wstring& text) {
-        std::string quoted = "\"";
+    static std::string Escaped(const std::wstring& text) {
+        std::string escaped;
         for (const char c : CStringUtil::WideToUtf8(text)) {
-            quoted += c == '\n' ? "\\n" : c == '"' ? "\\\"" : std::string(1, c);
+            escaped += c == '\n'               ? "\\n"
+                       : c == '\r'             ? "\\r"
+                       : c == '"' || c == '\\' ? std::string{'\\', c}
+                                               : std::string(1, c);
         }
-        return quoted + "\"";
+        return escaped;
     }
 
     std::string Point(const PointF& p) const { return "(" + Number(p.X) + " " + Number(p.Y) + ")"; }

@@ -1,11 +1,12 @@
 #include "penlode/recording/RecordingEngine.h"
 
+#include "penlode/EngineArguments.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
 
 #include <algorithm>
+#include <cmath>
 #include <span>
-#include <type_traits>
 #include <utility>
 
 namespace penlode {
@@ -49,7 +50,7 @@ Value ToValue(std::wstring_view value) {
     return std::wstring(value);
 }
 
-Value ToValue(const std::vector<PointF>& value) {
+template <class T> Value ToValue(const std::vector<T>& value) {
     return value;
 }
 
@@ -70,26 +71,105 @@ Value ToValue(const PointList& list) {
     return std::vector<PointF>(list.Points, list.Points + std::max(list.Count, 0));
 }
 
-bool IsThere(const PointList& list) {
-    return list.Points != nullptr;
+bool IsValid(float value) {
+    return std::isfinite(value);
 }
 
-/// A string format may be missing; what is drawn, and with what, may not.
-template <class T> bool IsThere(const T& argument) {
-    if constexpr (std::is_pointer_v<T> && !std::is_same_v<T, const StringFormat*>) {
-        return argument != nullptr;
-    } else {
-        return true;
-    }
+bool IsValid(const PointF& point) {
+    return AreFinite(point.X, point.Y);
 }
 
-/// Vertices of a gradient, moved to where they are filled.
-std::vector<PointF> VertexList(const GradientVertex* vertices, std::uint32_t count, PointF origin) {
-    std::vector<PointF> points;
-    for (const GradientVertex& vertex : std::span(vertices, vertices == nullptr ? 0 : count)) {
-        points.push_back(origin + PointF{static_cast<float>(vertex.X), static_cast<float>(vertex.Y)});
+bool IsValid(const RectF& rect) {
+    return IsFinite(rect);
+}
+
+bool IsValid(const PointList& list) {
+    return AreUsable(list.Points, list.Count);
+}
+
+/// A text that is null has no place in memory, unlike one that is empty.
+bool IsValid(std::wstring_view text) {
+    return text.data() != nullptr;
+}
+
+bool IsValid(const Pen* pen) {
+    return IsUsable(pen);
+}
+
+bool IsValid(const SolidBrush* brush) {
+    return brush != nullptr;
+}
+
+bool IsValid(const Font* font) {
+    return font != nullptr && IsDrawable(*font);
+}
+
+bool IsValid(const GraphicsPath* path) {
+    return path != nullptr && IsFinite(*path);
+}
+
+bool IsValid(const Image* image) {
+    return image != nullptr && image->IsDrawable();
+}
+
+bool IsValid(Unit sourceUnit) {
+    return sourceUnit > Unit::World && sourceUnit <= Unit::Millimeter;
+}
+
+/// May be missing.
+bool IsValid(const StringFormat*) {
+    return true;
+}
+
+bool IsValid(const ImageAttributes*) {
+    return true;
+}
+
+/// Vertices of a gradient as they are recorded: moved to where they are filled, and their colours.
+struct Vertices {
+    std::vector<PointF> Points;
+    std::vector<Color> Colors;
+};
+
+Vertices VerticesOf(std::span<const GradientVertex> vertices, PointF origin) {
+    Vertices recorded;
+    for (const GradientVertex& v : vertices) {
+        recorded.Points.push_back(origin + PointF{static_cast<float>(v.X), static_cast<float>(v.Y)});
+        recorded.Colors.push_back(Color::FromArgb(v.Alpha >> 8U, v.Red >> 8U, v.Green >> 8U, v.Blue >> 8U));
     }
-    return points;
+    return recorded;
+}
+
+/// A gradient's mesh: its vertices' indices in order, and whether they are all there.
+struct Mesh {
+    std::vector<std::uint32_t> Indices;
+    bool IsSound = false;
+};
+
+Mesh MeshOf(std::span<const GradientRect> rects, std::size_t vertexCount) {
+    Mesh mesh{{}, AreVerticesThere(rects, vertexCount)};
+    for (const GradientRect& r : rects) {
+        mesh.Indices.insert(mesh.Indices.end(), {r.UpperLeft, r.LowerRight});
+    }
+    return mesh;
+}
+
+Mesh MeshOf(std::span<const GradientTriangle> triangles, std::size_t vertexCount) {
+    Mesh mesh{{}, AreVerticesThere(triangles, vertexCount)};
+    for (const GradientTriangle& t : triangles) {
+        mesh.Indices.insert(mesh.Indices.end(), {t.Vertex1, t.Vertex2, t.Vertex3});
+    }
+    return mesh;
+}
+
+/// An unknown mode says nothing of what the entries are.
+Mesh MeshOf(const void* mesh, std::uint32_t count, GradientMode mode, std::size_t vertexCount) {
+    if (mesh == nullptr || mode > GradientMode::Triangle) {
+        return {};
+    }
+    return mode == GradientMode::Triangle
+               ? MeshOf(std::span(static_cast<const GradientTriangle*>(mesh), count), vertexCount)
+               : MeshOf(std::span(static_cast<const GradientRect*>(mesh), count), vertexCount);
 }
 
 } // namespace
@@ -102,7 +182,7 @@ void CRecordingEngine::Record(const char* operation, const Arguments&... argumen
 template <class... Arguments>
 Status CRecordingEngine::RecordDrawing(const char* operation, const Arguments&... arguments) {
     Record(operation, arguments...);
-    return (... && IsThere(arguments)) ? Status::Ok : Status::InvalidParameter;
+    return (... && IsValid(arguments)) ? Status::Ok : Status::InvalidParameter;
 }
 
 CRecordingEngine::CRecordingEngine() : CTrackingEngine(kMillimetresPerInch, kMillimetresPerInch) {}
@@ -167,9 +247,9 @@ Status CRecordingEngine::DrawString(const wchar_t* text, std::int32_t length, co
 
 Status CRecordingEngine::DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
                                    float sourceWidth, float sourceHeight, Unit sourceUnit,
-                                   const ImageAttributes*, DrawImageAbort, void*) {
+                                   const ImageAttributes* attributes, DrawImageAbort, void*) {
     return RecordDrawing("DrawImage", image, destination, RectF{sourceX, sourceY, sourceWidth, sourceHeight},
-                         sourceUnit);
+                         sourceUnit, attributes);
 }
 
 Status CRecordingEngine::DrawImage(const Image* image, const RectF& destination) {
@@ -274,9 +354,12 @@ std::int32_t CRecordingEngine::GradientFill(const RectL& bounds, const PointF& o
     const RectF box{static_cast<float>(bounds.Left), static_cast<float>(bounds.Top),
                     static_cast<float>(bounds.Right) - static_cast<float>(bounds.Left),
                     static_cast<float>(bounds.Bottom) - static_cast<float>(bounds.Top)};
-    Record("GradientFill", box, VertexList(vertices, vertexCount, origin), meshCount,
+    const std::uint32_t count = vertices == nullptr ? 0 : vertexCount;
+    const Vertices corners = VerticesOf({vertices, count}, origin);
+    const Mesh entries = MeshOf(mesh, meshCount, mode, count);
+    Record("GradientFill", box, corners.Points, corners.Colors, entries.Indices,
            static_cast<std::uint32_t>(mode));
-    return vertices != nullptr && mesh != nullptr ? 1 : 0;
+    return vertices != nullptr && entries.IsSound && IsValid(origin) ? 1 : 0;
 }
 
 void CRecordingEngine::DrawScriptText(const wchar_t* text, const Font* font, float x, float y,

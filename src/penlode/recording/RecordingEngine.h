@@ -14,18 +14,20 @@ struct RecordedCall {
     using Value =
         std::variant<std::monostate, std::int32_t, std::uint32_t, float, PointF, RectF, std::vector<PointF>,
                      std::wstring, Pen, SolidBrush, Font, StringFormat, GraphicsPath, Region, Matrix, Image,
-                     CombineMode, MatrixOrder, Unit, SmoothingMode>;
+                     CombineMode, MatrixOrder, Unit, SmoothingMode, std::vector<Color>,
+                     std::vector<std::uint32_t>, ImageAttributes>;
 
     std::string Operation;
     std::vector<Value> Arguments;
 };
 
 /// The call on one line: `DrawPie #FF000000/0.1 (45 45 10 10) 180 108`. Numbers are rounded to `decimals`
-/// places, texts are UTF-8.
+/// places; texts are UTF-8, with line breaks, quotes and backslashes escaped.
 PENLODE_API std::string ToText(const RecordedCall& call, int decimals = 2);
 
 /// An engine that draws nothing and writes down every call that changes or draws something, in order; queries
-/// (Get..., Measure..., TransformPoints) are answered and leave no line. Its device unit is the millimetre.
+/// (Get..., Measure..., TransformPoints) are answered and leave no line. Bad arguments are written down too,
+/// and answered as by the engines that draw. Its device unit is the millimetre.
 class PENLODE_API CRecordingEngine final : public CTrackingEngine {
 public:
     CRecordingEngine();

@@ -1,5 +1,6 @@
 #include "penlode/svg/SvgClip.h"
 
+#include "penlode/EngineArguments.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
@@ -100,9 +101,10 @@ private:
     bool m_tooDeep = false;
 };
 
-TermRef TermOf(const Region& region, TermMaker& make);
+TermRef TermOf(const Region& region, SizeF page, TermMaker& make);
 
 struct ShapeTerm {
+    SizeF Page;
     TermMaker& Make;
 
     TermRef operator()(const Region::Everything&) const { return Make.Everything(); }
@@ -110,15 +112,21 @@ struct ShapeTerm {
     TermRef operator()(const Region::Nothing&) const { return Make.Nothing(); }
 
     TermRef operator()(const RectF& rect) const {
-        return rect.Width > 0.0F && rect.Height > 0.0F ? Make.Area(PolygonData(MapAll({}, CornersOf(rect))))
-                                                       : Make.Nothing();
+        return rect.Width > 0.0F && rect.Height > 0.0F
+                   ? Near(PolygonData(AreaOnPage({{}, Page}, CornersOf(rect))))
+                   : Make.Nothing();
     }
 
     TermRef operator()(const GraphicsPath& path) const {
-        return IsFinitePath(path) ? Make.Area(PathData(path, {})) : Make.Nothing();
+        return IsFinite(path) ? Near(PathData(path, {{}, Page})) : Make.Nothing();
     }
 
-    TermRef operator()(const Region::Nested& nested) const { return TermOf(*nested.Area, Make); }
+    TermRef operator()(const Region::Nested& nested) const { return TermOf(*nested.Area, Page, Make); }
+
+private:
+    TermRef Near(std::string data) const {
+        return data.empty() ? Make.Nothing() : Make.Area(std::move(data));
+    }
 };
 
 TermRef Combined(const TermRef& old, const TermRef& operand, CombineMode mode, TermMaker& make) {
@@ -138,10 +146,10 @@ TermRef Combined(const TermRef& old, const TermRef& operand, CombineMode mode, T
     }
 }
 
-TermRef TermOf(const Region& region, TermMaker& make) {
+TermRef TermOf(const Region& region, SizeF page, TermMaker& make) {
     TermRef term = make.Everything();
     for (const Region::Step& step : region.Steps()) {
-        TermRef next = Combined(term, std::visit(ShapeTerm{make}, step.Operand), step.Mode, make);
+        TermRef next = Combined(term, std::visit(ShapeTerm{page, make}, step.Operand), step.Mode, make);
         if (make.IsExhausted()) {
             break;
         }
@@ -150,12 +158,24 @@ TermRef TermOf(const Region& region, TermMaker& make) {
     return term;
 }
 
+std::string PageData(SizeF page) {
+    return PolygonData(MapAll({}, CornersOf({0.0F, 0.0F, page.Width, page.Height})));
+}
+
+std::string MaskArea(SizeF page) {
+    return " maskUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" width=\"" + Number(page.Width) + "\" height=\"" +
+           Number(page.Height) + "\"";
+}
+
+std::string White(const std::string& data) {
+    return SvgElement("path").Set("d", data).Set("fill", "#ffffff").Empty();
+}
+
 /// Writes terms as definitions and groups that refer to them.
 class TermWriter {
 public:
     TermWriter(SizeF page, SvgDefinitions& definitions)
-        : m_page(PolygonData(MapAll({}, CornersOf({0.0F, 0.0F, page.Width, page.Height})))),
-          m_maskArea(MaskArea(page)), m_definitions(definitions) {}
+        : m_page(PageData(page)), m_maskArea(MaskArea(page)), m_definitions(definitions) {}
 
     /// One attribute for each group.
     std::vector<std::string> Groups(const TermRef& term) {
@@ -170,11 +190,6 @@ public:
     }
 
 private:
-    static std::string MaskArea(SizeF page) {
-        return " maskUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" width=\"" + Number(page.Width) +
-               "\" height=\"" + Number(page.Height) + "\"";
-    }
-
     std::string DataOf(const Term& area) const {
         return area.Inverted ? m_page + " " + area.Data : area.Data;
     }
@@ -216,10 +231,6 @@ private:
         return shape;
     }
 
-    static std::string White(const std::string& data) {
-        return SvgElement("path").Set("d", data).Set("fill", "#ffffff").Empty();
-    }
-
     std::string m_page;
     std::string m_maskArea;
     SvgDefinitions& m_definitions;
@@ -230,7 +241,15 @@ private:
 
 std::vector<std::string> ClipGroups(const Region& region, SizeF page, SvgDefinitions& definitions) {
     TermMaker make;
-    return TermWriter(page, definitions).Groups(TermOf(region, make));
+    return TermWriter(page, definitions).Groups(TermOf(region, page, make));
+}
+
+std::string MaskAttribute(std::span<const std::string> groups, SizeF page, SvgDefinitions& definitions) {
+    std::string shape = White(PageData(page));
+    for (std::size_t i = groups.size(); i > 0; --i) {
+        shape = SvgElement("g").Raw(groups[i - 1]).Around(shape);
+    }
+    return " mask=\"" + Reference(definitions.Mask(MaskArea(page), shape)) + "\"";
 }
 
 std::string ClipAttribute(const std::string& data, SvgDefinitions& definitions) {

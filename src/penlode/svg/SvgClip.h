@@ -4,6 +4,7 @@
 #include "penlode/Region.h"
 #include "penlode/svg/SvgDocument.h"
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,9 @@ namespace penlode::svg {
 /// is clipped itself or made of several shapes, which not every viewer gets right. Of a region of a thousand
 /// steps or so, or of more than a hundred areas in one another, the first ones alone cut.
 std::vector<std::string> ClipGroups(const Region& region, SizeF page, SvgDefinitions& definitions);
+
+/// One attribute for a group that shows what lies in all of these groups.
+std::string MaskAttribute(std::span<const std::string> groups, SizeF page, SvgDefinitions& definitions);
 
 /// The attribute that clips to the even-odd area of path data.
 std::string ClipAttribute(const std::string& data, SvgDefinitions& definitions);

@@ -105,8 +105,8 @@ std::string SvgDocument::Head() const {
         head += Line(1, "<defs>") + m_definitions.Text() + Line(1, "</defs>");
     }
     if (m_options.Background) {
-        head += Line(1, FilledBox({}, {0.0F, 0.0F, m_page.Width, m_page.Height},
-                                  FillAttributes(*m_options.Background)));
+        head += Line(1, FilledBox({{}, m_page}, {0.0F, 0.0F, m_page.Width, m_page.Height},
+                                  {FillAttributes(*m_options.Background)}));
     }
     return head;
 }

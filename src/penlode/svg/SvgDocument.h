@@ -1,26 +1,13 @@
 #pragma once
 
-#include "penlode/Color.h"
 #include "penlode/Geometry.h"
+#include "penlode/svg/SvgOptions.h"
 
 #include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-namespace penlode {
-
-/// What a document is made of beside its drawing. Texts are UTF-8.
-struct SvgOptions {
-    std::string Title;               ///< none if empty
-    std::string Description;         ///< none if empty
-    std::optional<Color> Background; ///< fills the page before anything is drawn
-    bool TextAsOutlines = false;     ///< glyphs as shapes: the same look everywhere, texts only as labels
-};
-
-} // namespace penlode
 
 namespace penlode::svg {
 

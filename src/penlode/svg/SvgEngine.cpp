@@ -4,13 +4,18 @@
 #include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
 #include "penlode/svg/SvgClip.h"
+#include "penlode/svg/SvgDocument.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgGradient.h"
+#include "penlode/svg/SvgGroups.h"
 #include "penlode/svg/SvgImage.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgShapes.h"
+#include "penlode/svg/SvgText.h"
 #include "penlode/svg/SvgWriter.h"
 
+#include <algorithm>
+#include <cmath>
 #include <span>
 
 namespace penlode {
@@ -47,98 +52,138 @@ bool IsFiniteArc(const RectF& rect, float startAngle, float sweepAngle) {
     return IsFinite(rect) && AreFinite(startAngle, sweepAngle);
 }
 
+double SideOf(float millimetres) {
+    return std::isfinite(millimetres) ? std::clamp<double>(millimetres, 0.0, svg::kFarthest) : 0.0;
+}
+
+SizeF PageOf(SizeF millimetres) {
+    return {static_cast<float>(SideOf(millimetres.Width)), static_cast<float>(SideOf(millimetres.Height))};
+}
+
 } // namespace
 
+/// The document, and what it takes to write in it.
+struct CSvgEngine::Drawing {
+    Drawing(SizeF page, const SvgOptions& options)
+        : Page(page), TextAsOutlines(options.TextAsOutlines), Document(page, options), Groups(page) {}
+
+    svg::PageMap Map(const CSurfaceState& state) const { return {state.WorldToDevice(), Page}; }
+
+    void Write(const CSurfaceState& state, const std::string& element) {
+        if (!element.empty()) {
+            Document.Add(Groups.For(state, Document.Definitions()), element);
+        }
+    }
+
+    /// Writes what `shape` makes of the map to the page and the pen.
+    template <class Shape>
+    Status Stroke(const CSurfaceState& state, const Pen* pen, bool valid, const Shape& shape) {
+        if (!IsUsable(pen) || !valid) {
+            return Status::InvalidParameter;
+        }
+        const svg::PageMap map = Map(state);
+        if (svg::CanMap(map.ToPage) && pen->GetColor().A() != 0) {
+            Write(state, shape(map, svg::StrokePaint(*pen, map.ToPage.LengthFactor())));
+        }
+        return Status::Ok;
+    }
+
+    template <class Shape>
+    Status Fill(const CSurfaceState& state, const SolidBrush* brush, bool valid, const Shape& shape) {
+        if (brush == nullptr || !valid) {
+            return Status::InvalidParameter;
+        }
+        const svg::PageMap map = Map(state);
+        if (svg::CanMap(map.ToPage) && brush->FillColor.A() != 0) {
+            Write(state, shape(map, svg::Paint{svg::FillAttributes(brush->FillColor)}));
+        }
+        return Status::Ok;
+    }
+
+    std::string TextLine(const svg::PageMap& map, PlacedLine line, const Font& font,
+                         const std::string& fill) {
+        line.Text = line.Text.substr(0, svg::kLongestLine);
+        return TextAsOutlines ? svg::OutlineElement(map, line, font, fill)
+                              : svg::TextElement(map.ToPage, line, font, Families.For(font.Family), fill);
+    }
+
+    SizeF Page;
+    bool TextAsOutlines;
+    svg::SvgDocument Document;
+    svg::SvgGroups Groups;
+    svg::SvgFamilies Families;
+};
+
 CSvgEngine::CSvgEngine(SizeF millimetres, const SvgOptions& options)
-    : CTrackingEngine(kMillimetresPerInch, kMillimetresPerInch), m_textAsOutlines(options.TextAsOutlines),
-      m_document(millimetres, options), m_groups(millimetres) {}
+    : CTrackingEngine(kMillimetresPerInch, kMillimetresPerInch),
+      m_drawing(std::make_unique<Drawing>(PageOf(millimetres), options)) {}
+
+CSvgEngine::~CSvgEngine() = default;
 
 std::string CSvgEngine::Text() const {
-    return m_document.Text();
-}
-
-template <class Shape> Status CSvgEngine::Stroke(const Pen* pen, bool valid, const Shape& shape) {
-    if (!IsUsable(pen) || !valid) {
-        return Status::InvalidParameter;
-    }
-    const Matrix toPage = ToPage();
-    if (svg::CanMap(toPage) && pen->GetColor().A() != 0) {
-        Write(shape(toPage, svg::StrokeAttributes(*pen, toPage.LengthFactor())));
-    }
-    return Status::Ok;
-}
-
-template <class Shape> Status CSvgEngine::Fill(const SolidBrush* brush, bool valid, const Shape& shape) {
-    if (brush == nullptr || !valid) {
-        return Status::InvalidParameter;
-    }
-    const Matrix toPage = ToPage();
-    if (svg::CanMap(toPage) && brush->FillColor.A() != 0) {
-        Write(shape(toPage, svg::FillAttributes(brush->FillColor)));
-    }
-    return Status::Ok;
-}
-
-void CSvgEngine::Write(const std::string& element) {
-    if (!element.empty()) {
-        m_document.Add(m_groups.For(State(), m_document.Definitions()), element);
-    }
+    return m_drawing->Document.Text();
 }
 
 Status CSvgEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
     const RectF rect{x, y, width, height};
-    return Stroke(pen, IsFinite(rect), [&](const Matrix& toPage, const std::string& stroke) {
-        return svg::StrokedBox(toPage, rect, stroke);
-    });
+    return m_drawing->Stroke(State(), pen, IsFinite(rect),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::StrokedBox(map, rect, stroke);
+                             });
 }
 
 Status CSvgEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
-    return Stroke(pen, AreUsable(points, count), [&](const Matrix& toPage, const std::string& stroke) {
-        return svg::PolylineElement(toPage, SpanOf(points, count), stroke);
-    });
+    return m_drawing->Stroke(State(), pen, AreUsable(points, count),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::PolylineElement(map, SpanOf(points, count), stroke);
+                             });
 }
 
 Status CSvgEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
     const PointF from{x1, y1};
     const PointF to{x2, y2};
-    return Stroke(pen, AreFinite(x1, y1, x2, y2), [&](const Matrix& toPage, const std::string& stroke) {
-        return svg::LineElement(toPage, from, to, stroke);
-    });
+    return m_drawing->Stroke(State(), pen, AreFinite(x1, y1, x2, y2),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::LineElement(map, from, to, stroke);
+                             });
 }
 
 Status CSvgEngine::DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
                            float sweepAngle) {
     const RectF rect{x, y, width, height};
-    return Stroke(pen, IsFiniteArc(rect, startAngle, sweepAngle),
-                  [&](const Matrix& toPage, const std::string& stroke) {
-                      return svg::PathElement(toPage, ArcOf(rect, startAngle, sweepAngle), stroke);
-                  });
+    return m_drawing->Stroke(State(), pen, IsFiniteArc(rect, startAngle, sweepAngle),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::PathElement(map, ArcOf(rect, startAngle, sweepAngle), stroke);
+                             });
 }
 
 Status CSvgEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
     const RectF rect{x, y, width, height};
-    return Stroke(pen, IsFinite(rect), [&](const Matrix& toPage, const std::string& stroke) {
-        return HasExtent(rect) ? svg::EllipseElement(toPage, rect, stroke) : "";
-    });
+    return m_drawing->Stroke(State(), pen, IsFinite(rect),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return HasExtent(rect) ? svg::EllipseElement(map, rect, stroke) : "";
+                             });
 }
 
 Status CSvgEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
-    return Stroke(pen, IsFiniteArc(rect, startAngle, sweepAngle),
-                  [&](const Matrix& toPage, const std::string& stroke) {
-                      return svg::PathElement(toPage, PieOf(rect, startAngle, sweepAngle), stroke);
-                  });
+    return m_drawing->Stroke(State(), pen, IsFiniteArc(rect, startAngle, sweepAngle),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::PathElement(map, PieOf(rect, startAngle, sweepAngle), stroke);
+                             });
 }
 
 Status CSvgEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
-    return Stroke(pen, AreUsable(points, count), [&](const Matrix& toPage, const std::string& stroke) {
-        return svg::PolygonElement(toPage, SpanOf(points, count), stroke);
-    });
+    return m_drawing->Stroke(State(), pen, AreUsable(points, count),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::PolygonElement(map, SpanOf(points, count), stroke);
+                             });
 }
 
 Status CSvgEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
-    return Stroke(pen, AreUsable(points, count), [&](const Matrix& toPage, const std::string& stroke) {
-        return svg::PathElement(toPage, CurveOf(SpanOf(points, count)), stroke);
-    });
+    return m_drawing->Stroke(State(), pen, AreUsable(points, count),
+                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
+                                 return svg::PathElement(map, CurveOf(SpanOf(points, count)), stroke);
+                             });
 }
 
 Status CSvgEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
@@ -146,16 +191,15 @@ Status CSvgEngine::DrawString(const wchar_t* text, std::int32_t length, const Fo
     if (text == nullptr || font == nullptr || brush == nullptr || !IsDrawable(*font) || !IsFinite(layout)) {
         return Status::InvalidParameter;
     }
-    const Matrix toPage = ToPage();
-    if (!svg::CanMap(toPage) || brush->FillColor.A() == 0) {
+    const svg::PageMap map = m_drawing->Map(State());
+    if (!svg::CanMap(map.ToPage) || brush->FillColor.A() == 0) {
         return Status::Ok;
     }
     const std::string fill = svg::FillAttributes(brush->FillColor);
     const StringFormat plain;
     for (const PlacedLine& line :
          PlaceLines(TextOf(text, length), *font, layout, format == nullptr ? plain : *format)) {
-        Write(m_textAsOutlines ? svg::OutlineElement(toPage, line, *font, fill)
-                               : svg::TextElement(toPage, line, *font, m_families.For(font->Family), fill));
+        m_drawing->Write(State(), m_drawing->TextLine(map, line, *font, fill));
     }
     return Status::Ok;
 }
@@ -170,59 +214,56 @@ Status CSvgEngine::DrawImage(const Image* image, const RectF& destination, float
     if (!source || !IsFinite(*source)) {
         return Status::InvalidParameter;
     }
+    const svg::PageMap map = m_drawing->Map(State());
+    if (!svg::CanMap(map.ToPage)) {
+        return Status::Ok;
+    }
     if (abort != nullptr && abort(callbackData)) {
         return Status::Aborted;
     }
-    return WriteImage(*image, destination, *source, attributes);
-}
-
-Status CSvgEngine::WriteImage(const Image& image, const RectF& destination, const RectF& source,
-                              const ImageAttributes* attributes) {
-    const Matrix toPage = ToPage();
-    if (!svg::CanMap(toPage)) {
-        return Status::Ok;
-    }
-    const svg::DrawnImage drawn = svg::DrawImagePart(toPage, image, destination, source, attributes);
+    const svg::DrawnImage drawn = svg::DrawImagePart(map, *image, destination, *source, attributes);
     if (drawn.ClipData.empty()) {
-        Write(drawn.Element);
+        m_drawing->Write(State(), drawn.Element);
         return Status::Ok;
     }
-    const std::string clip = svg::ClipAttribute(drawn.ClipData, m_document.Definitions());
-    Write(svg::SvgElement("g").Raw(clip).Around(drawn.Element));
+    const std::string clip = svg::ClipAttribute(drawn.ClipData, m_drawing->Document.Definitions());
+    m_drawing->Write(State(), svg::SvgElement("g").Raw(clip).Around(drawn.Element));
     return Status::Ok;
 }
 
 Status CSvgEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
     const RectF rect{x, y, width, height};
-    return Fill(brush, IsFinite(rect), [&](const Matrix& toPage, const std::string& fill) {
-        return svg::FilledBox(toPage, rect, fill);
-    });
+    return m_drawing->Fill(
+        State(), brush, IsFinite(rect),
+        [&](const svg::PageMap& map, const svg::Paint& fill) { return svg::FilledBox(map, rect, fill); });
 }
 
 Status CSvgEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
     const RectF rect{x, y, width, height};
-    return Fill(brush, IsFinite(rect), [&](const Matrix& toPage, const std::string& fill) {
-        return HasExtent(rect) ? svg::EllipseElement(toPage, rect, fill) : "";
-    });
+    return m_drawing->Fill(State(), brush, IsFinite(rect),
+                           [&](const svg::PageMap& map, const svg::Paint& fill) {
+                               return HasExtent(rect) ? svg::EllipseElement(map, rect, fill) : "";
+                           });
 }
 
 Status CSvgEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle, float sweepAngle) {
-    return Fill(brush, IsFiniteArc(rect, startAngle, sweepAngle),
-                [&](const Matrix& toPage, const std::string& fill) {
-                    return svg::PathElement(toPage, PieOf(rect, startAngle, sweepAngle), fill);
-                });
+    return m_drawing->Fill(State(), brush, IsFiniteArc(rect, startAngle, sweepAngle),
+                           [&](const svg::PageMap& map, const svg::Paint& fill) {
+                               return svg::PathElement(map, PieOf(rect, startAngle, sweepAngle), fill);
+                           });
 }
 
 Status CSvgEngine::FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) {
-    return Fill(brush, AreUsable(points, count), [&](const Matrix& toPage, const std::string& fill) {
-        return count < 3 ? "" : svg::PolygonElement(toPage, SpanOf(points, count), fill);
-    });
+    return m_drawing->Fill(State(), brush, AreUsable(points, count),
+                           [&](const svg::PageMap& map, const svg::Paint& fill) {
+                               return count < 3 ? "" : svg::PolygonElement(map, SpanOf(points, count), fill);
+                           });
 }
 
 Status CSvgEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
-    return Fill(
-        brush, path != nullptr && svg::IsFinitePath(*path),
-        [&](const Matrix& toPage, const std::string& fill) { return svg::PathElement(toPage, *path, fill); });
+    return m_drawing->Fill(
+        State(), brush, path != nullptr && IsFinite(*path),
+        [&](const svg::PageMap& map, const svg::Paint& fill) { return svg::PathElement(map, *path, fill); });
 }
 
 std::int32_t CSvgEngine::GradientFill(const RectL& bounds, const PointF& origin,
@@ -232,33 +273,33 @@ std::int32_t CSvgEngine::GradientFill(const RectL& bounds, const PointF& origin,
         mode > GradientMode::Triangle) {
         return 0;
     }
-    const Matrix toPage = ToPage();
-    if (!svg::CanMap(toPage)) {
+    const svg::PageMap map = m_drawing->Map(State());
+    if (!svg::CanMap(map.ToPage)) {
         return 1;
     }
     const svg::GradientArea area{bounds, origin, {vertices, vertexCount}};
-    svg::SvgDefinitions& definitions = m_document.Definitions();
+    svg::SvgDefinitions& definitions = m_drawing->Document.Definitions();
     const auto elements =
         mode == GradientMode::Triangle
-            ? svg::GradientTriangles(toPage, area, {static_cast<const GradientTriangle*>(mesh), meshCount},
+            ? svg::GradientTriangles(map, area, {static_cast<const GradientTriangle*>(mesh), meshCount},
                                      definitions)
-            : svg::GradientRects(toPage, area, {static_cast<const GradientRect*>(mesh), meshCount},
+            : svg::GradientRects(map, area, {static_cast<const GradientRect*>(mesh), meshCount},
                                  mode == GradientMode::RectV, definitions);
-    Write(elements.value_or(""));
+    m_drawing->Write(State(), elements.value_or(""));
     return elements ? 1 : 0;
 }
 
 std::uint32_t CSvgEngine::BeginContainer() {
-    const std::size_t clipsOutside = State().DeviceClips().size();
+    const std::size_t clipsOutside = State().ClipCount();
     const std::uint32_t container = CTrackingEngine::BeginContainer();
-    m_groups.Begin(container, clipsOutside);
+    m_drawing->Groups.Begin(container, clipsOutside);
     return container;
 }
 
 Status CSvgEngine::EndContainer(std::uint32_t container) {
     const Status status = CTrackingEngine::EndContainer(container);
     if (status == Status::Ok) {
-        m_groups.End(container);
+        m_drawing->Groups.End(container);
     }
     return status;
 }

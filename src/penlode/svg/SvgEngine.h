@@ -1,10 +1,9 @@
 #pragma once
 
 #include "penlode/TrackingEngine.h"
-#include "penlode/svg/SvgDocument.h"
-#include "penlode/svg/SvgGroups.h"
-#include "penlode/svg/SvgText.h"
+#include "penlode/svg/SvgOptions.h"
 
+#include <memory>
 #include <string>
 
 namespace penlode {
@@ -25,14 +24,17 @@ namespace penlode {
 /// root of the area.
 ///
 /// Smoothing is left to the viewer: the mode is kept, and changes nothing. A rectangle of negative width or
-/// height draws nothing, and so does a fill without width or height.
+/// height draws nothing, and so does a fill without width or height. Lines of text beyond 8192 characters end
+/// there. A shape that reaches a hundred metres away is written as what lies near the page.
 class PENLODE_API CSvgEngine final : public CTrackingEngine {
 public:
     using CTrackingEngine::DrawImage;
     using CTrackingEngine::DrawString;
 
-    /// A page of that many millimetres.
+    /// A page of that many millimetres. A side that is not finite or not above 0 counts as 0, and a viewer
+    /// shows nothing; one of more than a kilometre counts as a kilometre.
     explicit CSvgEngine(SizeF millimetres, const SvgOptions& options = {});
+    ~CSvgEngine() override;
 
     /// The whole document, UTF-8, as far as it has been drawn.
     std::string Text() const;
@@ -63,19 +65,9 @@ public:
     Status EndContainer(std::uint32_t container) override;
 
 private:
-    Matrix ToPage() const { return State().WorldToDevice(); }
+    struct Drawing;
 
-    /// Writes what `shape` makes of the transform to the page and the pen's or brush's attributes.
-    template <class Shape> Status Stroke(const Pen* pen, bool valid, const Shape& shape);
-    template <class Shape> Status Fill(const SolidBrush* brush, bool valid, const Shape& shape);
-    void Write(const std::string& element);
-    Status WriteImage(const Image& image, const RectF& destination, const RectF& source,
-                      const ImageAttributes* attributes);
-
-    bool m_textAsOutlines;
-    svg::SvgDocument m_document;
-    svg::SvgGroups m_groups;
-    svg::SvgFamilies m_families;
+    std::unique_ptr<Drawing> m_drawing;
 };
 
 } // namespace penlode

@@ -1,10 +1,12 @@
 #include "penlode/svg/SvgGeometry.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/FarClip.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace penlode::svg {
 namespace {
@@ -14,32 +16,21 @@ constexpr double kNoise = 1e-7;
 
 constexpr double kLargestFactor = 1e30;
 
+constexpr double kFarAway = 1e5;
+
 /// Above any float, and far from the limits of double.
 constexpr double kLargestPlace = 1e40;
 
-bool IsFinite(PointF p) {
-    return AreFinite(p.X, p.Y);
-}
-
-struct FiniteCheck {
-    bool operator()(const GraphicsPath::Line& line) const { return IsFinite(line.From) && IsFinite(line.To); }
-
-    bool operator()(const GraphicsPath::Arc& arc) const {
-        return penlode::IsFinite(arc.Ellipse) && AreFinite(arc.StartAngle, arc.SweepAngle);
-    }
-
-    bool operator()(const GraphicsPath::Bezier& bezier) const {
-        return std::all_of(bezier.Points.begin(), bezier.Points.end(), IsFinite);
-    }
-};
-
 } // namespace
 
+PointD Placed(const Matrix& m, PointD p) {
+    return Mapped(m, PointD{std::clamp(p.X, -kLargestPlace, kLargestPlace),
+                            std::clamp(p.Y, -kLargestPlace, kLargestPlace)});
+}
+
 PointD OnPage(const Matrix& m, PointD p) {
-    const double x = std::clamp(p.X, -kLargestPlace, kLargestPlace);
-    const double y = std::clamp(p.Y, -kLargestPlace, kLargestPlace);
-    return {std::clamp(x * m.M11 + y * m.M21 + m.Dx, -kFarthest, kFarthest),
-            std::clamp(x * m.M12 + y * m.M22 + m.Dy, -kFarthest, kFarthest)};
+    const PointD placed = Placed(m, p);
+    return {std::clamp(placed.X, -kFarthest, kFarthest), std::clamp(placed.Y, -kFarthest, kFarthest)};
 }
 
 PointD OnPage(const Matrix& transform, PointF point) {
@@ -50,9 +41,25 @@ std::vector<PointD> MapAll(const Matrix& transform, std::span<const PointF> poin
     std::vector<PointD> mapped;
     mapped.reserve(points.size());
     for (const PointF point : points) {
-        mapped.push_back(OnPage(transform, point));
+        mapped.push_back(Placed(transform, {point.X, point.Y}));
     }
     return mapped;
+}
+
+bool IsFar(PointD p) {
+    return !(std::abs(p.X) <= kFarAway && std::abs(p.Y) <= kFarAway);
+}
+
+bool AnyFar(std::span<const PointD> points) {
+    return std::any_of(points.begin(), points.end(), IsFar);
+}
+
+std::vector<PointD> CutIfFar(const PageMap& map, std::vector<PointD> polygon) {
+    return AnyFar(polygon) ? ClippedPolygon(std::move(polygon), map.Surroundings()) : polygon;
+}
+
+std::vector<PointD> AreaOnPage(const PageMap& map, std::span<const PointF> polygon) {
+    return CutIfFar(map, MapAll(map.ToPage, polygon));
 }
 
 bool CanMap(const Matrix& m) {
@@ -84,13 +91,6 @@ bool KeepsShapes(const Matrix& m) {
 
 std::vector<PointF> CornersOf(const RectF& r) {
     return {{r.X, r.Y}, {r.Right(), r.Y}, {r.Right(), r.Bottom()}, {r.X, r.Bottom()}};
-}
-
-bool IsFinitePath(const GraphicsPath& path) {
-    return std::all_of(path.Figures().begin(), path.Figures().end(), [](const GraphicsPath::Figure& figure) {
-        return std::all_of(figure.Pieces.begin(), figure.Pieces.end(),
-                           [](const GraphicsPath::Piece& piece) { return std::visit(FiniteCheck{}, piece); });
-    });
 }
 
 } // namespace penlode::svg

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "penlode/DeviceGeometry.h"
 #include "penlode/Geometry.h"
 #include "penlode/GraphicsPath.h"
 #include "penlode/Matrix.h"
@@ -16,7 +17,31 @@ inline constexpr double kFarthest = 1e6;
 /// The point on the page, within a kilometre of it.
 PointD OnPage(const Matrix& transform, PointF point);
 PointD OnPage(const Matrix& transform, PointD point);
+
+/// The way from world coordinates to a page, in millimetres.
+struct PageMap {
+    Matrix ToPage;
+    SizeF Page;
+
+    /// The page and a metre around it: marks that keep within `margin` of a shape show nothing of what lies
+    /// beyond.
+    BoxD Surroundings(double margin = 0.0) const {
+        return BoxD{0.0, 0.0, Page.Width, Page.Height}.Grown(1000.0 + margin);
+    }
+};
+
+/// The point on the page, however far away.
+PointD Placed(const Matrix& transform, PointD point);
 std::vector<PointD> MapAll(const Matrix& transform, std::span<const PointF> points);
+
+/// More than a hundred metres from the page's corner. A shape that reaches so far is cut to the page's
+/// surroundings: to move its points would turn its edges.
+bool IsFar(PointD point);
+bool AnyFar(std::span<const PointD> points);
+
+/// A polygon's area on the page; cut to the surroundings if it reaches far, and then perhaps empty.
+std::vector<PointD> AreaOnPage(const PageMap& map, std::span<const PointF> polygon);
+std::vector<PointD> CutIfFar(const PageMap& map, std::vector<PointD> polygon);
 
 /// Invertible, and so far from the limits of double that no float it maps overflows.
 bool CanMap(const Matrix& transform);
@@ -40,7 +65,5 @@ bool KeepsShapes(const Matrix& transform);
 
 /// A rectangle's corners in order.
 std::vector<PointF> CornersOf(const RectF& rect);
-
-bool IsFinitePath(const GraphicsPath& path);
 
 } // namespace penlode::svg

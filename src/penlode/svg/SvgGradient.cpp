@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace penlode::svg {
@@ -50,12 +51,21 @@ bool IsWithin(PointD p, const RectL& bounds) {
     return p.X >= bounds.Left && p.X <= bounds.Right && p.Y >= bounds.Top && p.Y <= bounds.Bottom;
 }
 
+BoxD BoxAround(std::span<const PointD> points) {
+    BoxD box = BoxBetween(points.front(), points.front());
+    for (const PointD p : points) {
+        box = {std::min(box.Left, p.X), std::min(box.Top, p.Y), std::max(box.Right, p.X),
+               std::max(box.Bottom, p.Y)};
+    }
+    return box;
+}
+
 std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
     const PointD a{static_cast<double>(bounds.Left), static_cast<double>(bounds.Top)};
     const PointD b{static_cast<double>(bounds.Right), static_cast<double>(bounds.Bottom)};
     std::vector<PointD> corners;
     for (const PointD p : {a, PointD{b.X, a.Y}, b, PointD{a.X, b.Y}}) {
-        corners.push_back(OnPage(toPage, p));
+        corners.push_back(Placed(toPage, p));
     }
     return corners;
 }
@@ -63,7 +73,19 @@ std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
 /// The elements, in a group that cuts them to the bounds if any of their corners lies outside.
 class GradientParts {
 public:
-    GradientParts(const Matrix& toPage, const GradientArea& area) : m_toPage(toPage), m_bounds(area.Bounds) {}
+    GradientParts(const PageMap& map, const GradientArea& area)
+        : m_map(map), m_bounds(area.Bounds), m_shown(BoxAround(BoundsOnPage(map.ToPage, area.Bounds))) {
+        m_shown = Common(m_shown, {0.0, 0.0, map.Page.Width, map.Page.Height});
+    }
+
+    const PageMap& Map() const { return m_map; }
+
+    /// Nothing of an area on the page can be seen that lies outside.
+    bool IsSeen(std::span<const PointD> area) const {
+        const BoxD box = BoxAround(area);
+        return box.Left < m_shown.Right && box.Right > m_shown.Left && box.Top < m_shown.Bottom &&
+               box.Bottom > m_shown.Top;
+    }
 
     void Include(PointD corner) { m_fits = m_fits && IsWithin(corner, m_bounds); }
 
@@ -74,7 +96,7 @@ public:
         SvgElement group("g");
         group.Raw(attributes);
         if (!m_fits) {
-            const std::string data = PolygonData(BoundsOnPage(m_toPage, m_bounds));
+            const std::string data = PolygonData(CutIfFar(m_map, BoundsOnPage(m_map.ToPage, m_bounds)));
             group.Raw(ClipAttribute(data, definitions));
         } else if (attributes.empty()) {
             return m_elements;
@@ -83,8 +105,9 @@ public:
     }
 
 private:
-    const Matrix& m_toPage;
+    const PageMap& m_map;
     RectL m_bounds;
+    BoxD m_shown; ///< on the page, round the bounds
     bool m_fits = true;
     std::string m_elements;
 };
@@ -101,7 +124,7 @@ PointD BlendEnd(const Matrix& m, PointD start, double extent, bool vertical) {
 
 std::string AxisBlend(const Matrix& toPage, const TintedPoint& from, const TintedPoint& to, bool vertical,
                       SvgDefinitions& definitions) {
-    const PointD start = OnPage(toPage, from.Place);
+    const PointD start = Placed(toPage, from.Place);
     const double extent = vertical ? to.Place.Y - from.Place.Y : to.Place.X - from.Place.X;
     const PointD end = BlendEnd(toPage, start, extent, vertical);
     const std::string attributes = " gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(start.X) + "\" y1=\"" +
@@ -154,8 +177,12 @@ void AddPart(const Triangle& t, int cuts, const std::array<std::array<int, 2>, 3
         second += static_cast<double>(i) / cuts / 3.0;
         third += static_cast<double>(j) / cuts / 3.0;
     }
+    if (!parts.IsSeen(places)) {
+        return;
+    }
     const std::string fill = OpaqueAttribute("fill", Within(t, second, third).Colour);
-    parts.Add(SvgElement("path").Set("d", PolygonData(places)).Raw(fill).Empty());
+    parts.Add(
+        SvgElement("path").Set("d", PolygonData(CutIfFar(parts.Map(), std::move(places)))).Raw(fill).Empty());
 }
 
 /// Rows of triangles that stand on their base, and of those between them that stand on their tip.
@@ -171,9 +198,25 @@ void AddTriangle(const Triangle& t, GradientParts& parts) {
     }
 }
 
+/// A triangle in world coordinates, unless it cannot be seen.
+void AddWhole(Triangle t, GradientParts& parts) {
+    std::vector<PointD> places;
+    for (const TintedPoint& corner : t) {
+        places.push_back(Placed(parts.Map().ToPage, corner.Place));
+    }
+    if (!parts.IsSeen(places)) {
+        return;
+    }
+    for (std::size_t i = 0; i < t.size(); ++i) {
+        parts.Include(t[i].Place);
+        t[i].Place = places[i];
+    }
+    AddTriangle(t, parts);
+}
+
 } // namespace
 
-std::optional<std::string> GradientRects(const Matrix& toPage, const GradientArea& area,
+std::optional<std::string> GradientRects(const PageMap& map, const GradientArea& area,
                                          std::span<const GradientRect> rects, bool vertical,
                                          SvgDefinitions& definitions) {
     const std::size_t count = area.Vertices.size();
@@ -182,7 +225,7 @@ std::optional<std::string> GradientRects(const Matrix& toPage, const GradientAre
         })) {
         return std::nullopt;
     }
-    GradientParts parts(toPage, area);
+    GradientParts parts(map, area);
     for (const GradientRect& rect : rects) {
         const TintedPoint from = Moved(area, rect.UpperLeft);
         const TintedPoint to = Moved(area, rect.LowerRight);
@@ -193,14 +236,14 @@ std::optional<std::string> GradientRects(const Matrix& toPage, const GradientAre
         if (box.Width > 0.0F && box.Height > 0.0F) {
             parts.Include(from.Place);
             parts.Include(to.Place);
-            const std::string id = AxisBlend(toPage, from, to, vertical, definitions);
-            parts.Add(FilledBox(toPage, box, " fill=\"" + Reference(id) + "\""));
+            const std::string id = AxisBlend(map.ToPage, from, to, vertical, definitions);
+            parts.Add(FilledBox(map, box, {" fill=\"" + Reference(id) + "\""}));
         }
     }
     return parts.Grouped("", definitions);
 }
 
-std::optional<std::string> GradientTriangles(const Matrix& toPage, const GradientArea& area,
+std::optional<std::string> GradientTriangles(const PageMap& map, const GradientArea& area,
                                              std::span<const GradientTriangle> triangles,
                                              SvgDefinitions& definitions) {
     const std::size_t count = area.Vertices.size();
@@ -209,14 +252,11 @@ std::optional<std::string> GradientTriangles(const Matrix& toPage, const Gradien
         })) {
         return std::nullopt;
     }
-    GradientParts parts(toPage, area);
+    GradientParts parts(map, area);
     for (const GradientTriangle& entry : triangles) {
-        Triangle corners{Moved(area, entry.Vertex1), Moved(area, entry.Vertex2), Moved(area, entry.Vertex3)};
-        for (TintedPoint& corner : corners) {
-            parts.Include(corner.Place);
-            corner.Place = OnPage(toPage, corner.Place);
-        }
-        AddTriangle(corners, parts);
+        const Triangle corners{Moved(area, entry.Vertex1), Moved(area, entry.Vertex2),
+                               Moved(area, entry.Vertex3)};
+        AddWhole(corners, parts);
     }
     return parts.Grouped(" shape-rendering=\"crispEdges\"", definitions);
 }

@@ -25,22 +25,38 @@ const std::vector<SvgGroup>& SvgGroups::For(const CSurfaceState& state, SvgDefin
         return m_groups;
     }
     m_groups.clear();
+    m_folded.clear();
+    m_clipGroups = 0;
     m_clips = std::move(clips);
     std::size_t clipped = 0;
-    const auto clipUpTo = [&](std::size_t end) {
-        for (; clipped < end; ++clipped) {
-            for (std::string& attributes : ClipGroups(m_clips[clipped], m_page, definitions)) {
-                m_groups.push_back({0, std::move(attributes)});
-            }
-        }
-    };
     for (std::size_t i = 0; i < std::min(m_containers.size(), kMostContainers); ++i) {
-        clipUpTo(m_containers[i].ClipsOutside);
+        AddClips(clipped, m_containers[i].ClipsOutside, definitions);
+        clipped = m_containers[i].ClipsOutside;
         m_groups.push_back({m_containers[i].Handle, {}});
     }
-    clipUpTo(m_clips.size());
+    AddClips(clipped, m_clips.size(), definitions);
+    if (!m_folded.empty()) {
+        m_groups.push_back({0, MaskAttribute(m_folded, m_page, definitions)});
+    }
     m_current = true;
     return m_groups;
+}
+
+void SvgGroups::AddClips(std::size_t begin, std::size_t end, SvgDefinitions& definitions) {
+    for (std::size_t i = begin; i < end; ++i) {
+        for (std::string& attributes : ClipGroups(m_clips[i], m_page, definitions)) {
+            if (m_clipGroups < kMostClipGroups) {
+                ++m_clipGroups;
+                m_groups.push_back({0, std::move(attributes)});
+                continue;
+            }
+            // A full mask is the first group in the next one.
+            if (m_folded.size() == kGroupsInMask) {
+                m_folded = {MaskAttribute(m_folded, m_page, definitions)};
+            }
+            m_folded.push_back(std::move(attributes));
+        }
+    }
 }
 
 } // namespace penlode::svg

@@ -5,6 +5,7 @@
 #include "penlode/svg/SvgDocument.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace penlode::svg {
@@ -23,8 +24,13 @@ public:
     const std::vector<SvgGroup>& For(const CSurfaceState& state, SvgDefinitions& definitions);
 
 private:
-    /// XML readers refuse a document of more than some 250 levels; containers below this one get no group.
+    /// XML readers refuse a document of more than 256 levels. Containers below this one get no group, and
+    /// what clips would need groups of their own beyond that many is said by masks.
     static constexpr std::size_t kMostContainers = 64;
+    static constexpr std::size_t kMostClipGroups = 130;
+    static constexpr std::size_t kGroupsInMask = 64;
+
+    void AddClips(std::size_t begin, std::size_t end, SvgDefinitions& definitions);
 
     struct Container {
         std::uint32_t Handle;
@@ -35,6 +41,8 @@ private:
     std::vector<Container> m_containers;
     std::vector<Region> m_clips;
     std::vector<SvgGroup> m_groups;
+    std::size_t m_clipGroups = 0;
+    std::vector<std::string> m_folded; ///< attributes of the groups that a mask stands for
     bool m_current = false;
 };
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace penlode::svg {
@@ -77,7 +78,7 @@ std::string Base64(std::string_view bytes) {
 void Place(SvgElement& element, const Matrix& m) {
     constexpr double kNoise = 1e-7;
     const bool upright = std::abs(m.M12) + std::abs(m.M21) <= kNoise * m.LengthFactor();
-    if (upright && m.M11 > 0.0) {
+    if (upright && m.M11 > 0.0 && m.M22 > 0.0) {
         element.Set("x", m.Dx).Set("y", m.Dy).Set("width", m.M11).Set("height", m.M22);
         return;
     }
@@ -86,7 +87,7 @@ void Place(SvgElement& element, const Matrix& m) {
 
 } // namespace
 
-DrawnImage DrawImagePart(const Matrix& toPage, const Image& image, const RectF& destination,
+DrawnImage DrawImagePart(const PageMap& map, const Image& image, const RectF& destination,
                          const RectF& source, const ImageAttributes* attributes) {
     const Stretch across = Inside(source.X, source.Width, image.Width);
     const Stretch down = Inside(source.Y, source.Height, image.Height);
@@ -95,9 +96,18 @@ DrawnImage DrawImagePart(const Matrix& toPage, const Image& image, const RectF& 
     const Matrix fromPixels = Matrix::Translation(-source.X, -source.Y) *
                               Matrix::Scale(1.0 / source.Width, 1.0 / source.Height) *
                               Matrix::Scale(destination.Width, destination.Height) *
-                              Matrix::Translation(destination.X, destination.Y) * toPage;
+                              Matrix::Translation(destination.X, destination.Y) * map.ToPage;
     if (columns.Length() <= 0.0 || rows.Length() <= 0.0 || !CanMap(fromPixels)) {
         return {};
+    }
+    std::string clipData;
+    if (!across.IsWhole() || !down.IsWhole()) {
+        const RectF shown{static_cast<float>(across.From), static_cast<float>(down.From),
+                          static_cast<float>(across.Length()), static_cast<float>(down.Length())};
+        clipData = PolygonData(AreaOnPage({fromPixels, map.Page}, CornersOf(shown)));
+        if (clipData.empty()) {
+            return {};
+        }
     }
     SvgElement element("image");
     Place(element, Matrix::Scale(columns.Length(), rows.Length()) *
@@ -105,14 +115,7 @@ DrawnImage DrawImagePart(const Matrix& toPage, const Image& image, const RectF& 
     const std::string png =
         StoredPng(Pixels(image, columns, rows, attributes), static_cast<std::size_t>(columns.Length()));
     element.Set("preserveAspectRatio", "none").Set("href", "data:image/png;base64," + Base64(png));
-
-    DrawnImage drawn{element.Empty(), {}};
-    if (!across.IsWhole() || !down.IsWhole()) {
-        const RectF shown{static_cast<float>(across.From), static_cast<float>(down.From),
-                          static_cast<float>(across.Length()), static_cast<float>(down.Length())};
-        drawn.ClipData = PolygonData(MapAll(fromPixels, CornersOf(shown)));
-    }
-    return drawn;
+    return {element.Empty(), std::move(clipData)};
 }
 
 } // namespace penlode::svg

@@ -3,7 +3,7 @@
 #include "penlode/Geometry.h"
 #include "penlode/GraphicsTypes.h"
 #include "penlode/Image.h"
-#include "penlode/Matrix.h"
+#include "penlode/svg/SvgGeometry.h"
 
 #include <optional>
 #include <string>
@@ -18,7 +18,7 @@ struct DrawnImage {
 
 /// The source rectangle's corners land on the destination's; what the source leaves out is not written, but
 /// for the pixels that its edges cut.
-DrawnImage DrawImagePart(const Matrix& toPage, const Image& image, const RectF& destination,
+DrawnImage DrawImagePart(const PageMap& map, const Image& image, const RectF& destination,
                          const RectF& source, const ImageAttributes* attributes);
 
 } // namespace penlode::svg

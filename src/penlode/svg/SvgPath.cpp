@@ -1,5 +1,6 @@
 #include "penlode/svg/SvgPath.h"
 
+#include "penlode/EngineArguments.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgWriter.h"
 
@@ -14,6 +15,9 @@ namespace {
 /// An arc command gives no centre: a viewer works it out from end points that are rounded, and the nearer an
 /// arc comes to half a turn, the more the centre moves with them. A third of a turn keeps it in place.
 constexpr double kLongestArc = 2.0 * std::numbers::pi / 3.0;
+
+/// How far straight lines may stray from a curve, in millimetres.
+constexpr double kFlatness = 0.01;
 
 /// Collects path commands. A step to where the figure stands already is left out.
 class DataWriter final : public OutlineSink {
@@ -75,6 +79,24 @@ double ParameterAt(double rx, double ry, double degrees) {
     return parameter + 2.0 * std::numbers::pi * std::round((angle - parameter) / (2.0 * std::numbers::pi));
 }
 
+/// From which parameter an arc runs, and how far; nowhere on an ellipse without extent.
+struct ArcSpan {
+    double Start = 0.0;
+    double Sweep = 0.0;
+};
+
+ArcSpan SpanOf(const GraphicsPath::Arc& arc) {
+    const double rx = arc.Ellipse.Width * 0.5;
+    const double ry = arc.Ellipse.Height * 0.5;
+    if (rx == 0.0 || ry == 0.0) {
+        return {};
+    }
+    const double start = ParameterAt(rx, ry, arc.StartAngle);
+    return {start, std::abs(arc.SweepAngle) >= 360.0F
+                       ? std::copysign(2.0 * std::numbers::pi, arc.SweepAngle)
+                       : ParameterAt(rx, ry, static_cast<double>(arc.StartAngle) + arc.SweepAngle) - start};
+}
+
 /// Writes a figure's pieces one after the other.
 class PieceWriter {
 public:
@@ -106,11 +128,7 @@ private:
     void WriteArc(const GraphicsPath::Arc& arc) const {
         const double rx = arc.Ellipse.Width * 0.5;
         const double ry = arc.Ellipse.Height * 0.5;
-        const double start = ParameterAt(rx, ry, arc.StartAngle);
-        const double sweep =
-            std::abs(arc.SweepAngle) >= 360.0F
-                ? std::copysign(2.0 * std::numbers::pi, arc.SweepAngle)
-                : ParameterAt(rx, ry, static_cast<double>(arc.StartAngle) + arc.SweepAngle) - start;
+        const auto [start, sweep] = SpanOf(arc);
         const auto at = [&](double t) {
             return OnPage(m_toPage, PointD{arc.Ellipse.X + rx + rx * std::cos(t),
                                            arc.Ellipse.Y + ry + ry * std::sin(t)});
@@ -129,11 +147,147 @@ private:
     bool m_arcsStay;
 };
 
+/// Looks whether a piece reaches far; an arc by the box of its ellipse.
+struct FarCheck {
+    const Matrix& ToPage;
+
+    bool operator()(const GraphicsPath::Line& line) const {
+        return IsFar(At(line.From)) || IsFar(At(line.To));
+    }
+
+    bool operator()(const GraphicsPath::Arc& arc) const {
+        return AnyFar(MapAll(ToPage, CornersOf(arc.Ellipse)));
+    }
+
+    bool operator()(const GraphicsPath::Bezier& bezier) const {
+        return AnyFar(MapAll(ToPage, bezier.Points));
+    }
+
+private:
+    PointD At(PointF point) const { return Mapped(ToPage, point); }
+};
+
+/// An ellipse on the page, by the parameter of its points.
+struct PageEllipse {
+    PointD Center;
+    PointD First;
+    PointD Second;
+
+    PointD At(double t) const {
+        return {Center.X + std::cos(t) * First.X + std::sin(t) * Second.X,
+                Center.Y + std::cos(t) * First.Y + std::sin(t) * Second.Y};
+    }
+
+    /// How far a stretch of the ellipse can stray from its chord, at most.
+    double Bend(double step) const {
+        return (std::hypot(First.X, First.Y) + std::hypot(Second.X, Second.Y)) * step * step / 8.0;
+    }
+};
+
+/// Flattens a figure. A far ellipse is so large that curves do not come near enough to it: its arcs are cut
+/// as they are.
+class PieceFlattener {
+public:
+    PieceFlattener(const Matrix& toPage, const BoxD& box, OutlineFlattener& lines)
+        : m_toPage(toPage), m_box(box), m_lines(lines) {}
+
+    void operator()(const GraphicsPath::Line& line) {
+        Reach(Mapped(m_toPage, line.From));
+        m_lines.LineTo(Mapped(m_toPage, line.To));
+    }
+
+    void operator()(const GraphicsPath::Bezier& bezier) {
+        const std::vector<PointD> p = MapAll(m_toPage, bezier.Points);
+        Reach(p[0]);
+        m_lines.CurveTo(p[1], p[2], p[3]);
+    }
+
+    void operator()(const GraphicsPath::Arc& arc) {
+        const double rx = arc.Ellipse.Width * 0.5;
+        const double ry = arc.Ellipse.Height * 0.5;
+        const PageEllipse ellipse{Mapped(m_toPage, PointD{arc.Ellipse.X + rx, arc.Ellipse.Y + ry}),
+                                  {rx * m_toPage.M11, rx * m_toPage.M12},
+                                  {ry * m_toPage.M21, ry * m_toPage.M22}};
+        const ArcSpan span = SpanOf(arc);
+        Reach(ellipse.At(span.Start));
+        Cut(ellipse, span.Start, span.Start + span.Sweep, 0);
+    }
+
+private:
+    static constexpr int kDeepestCut = 40;
+
+    void Reach(PointD point) {
+        if (m_started) {
+            m_lines.LineTo(point);
+        } else {
+            m_lines.MoveTo(point);
+            m_started = true;
+        }
+    }
+
+    void Cut(const PageEllipse& ellipse, double from, double to, int depth) {
+        const PointD end = ellipse.At(to);
+        const double bend = ellipse.Bend(to - from);
+        const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
+        const bool outside = around.Right < m_box.Left || around.Left > m_box.Right ||
+                             around.Bottom < m_box.Top || around.Top > m_box.Bottom;
+        if (outside || !(bend > kFlatness) || depth == kDeepestCut) {
+            m_lines.LineTo(end);
+            return;
+        }
+        const double middle = from + (to - from) / 2.0;
+        Cut(ellipse, from, middle, depth + 1);
+        Cut(ellipse, middle, to, depth + 1);
+    }
+
+    const Matrix& m_toPage;
+    const BoxD& m_box;
+    OutlineFlattener& m_lines;
+    bool m_started = false;
+};
+
+std::string FarArea(const GraphicsPath& path, const PageMap& map) {
+    const BoxD box = map.Surroundings();
+    std::string data;
+    for (FlatFigure& figure : Flattened(path, map.ToPage, box)) {
+        const std::string area = PolygonData(ClippedPolygon(std::move(figure.Points), box));
+        data += (data.empty() || area.empty() ? "" : " ") + area;
+    }
+    return data;
+}
+
 } // namespace
 
-std::string PathData(const GraphicsPath& path, const Matrix& toPage) {
+bool ReachesFar(const GraphicsPath& path, const Matrix& toPage) {
+    const auto isFar = [&](const GraphicsPath::Piece& piece) { return std::visit(FarCheck{toPage}, piece); };
+    return std::any_of(path.Figures().begin(), path.Figures().end(), [&](const GraphicsPath::Figure& figure) {
+        return std::any_of(figure.Pieces.begin(), figure.Pieces.end(), isFar);
+    });
+}
+
+std::vector<FlatFigure> Flattened(const GraphicsPath& path, const Matrix& toPage, const BoxD& box) {
+    if (!IsFinite(path)) {
+        return {};
+    }
+    OutlineFlattener lines(box, kFlatness);
+    for (const GraphicsPath::Figure& figure : path.Figures()) {
+        PieceFlattener flatten(toPage, box, lines);
+        for (const GraphicsPath::Piece& piece : figure.Pieces) {
+            std::visit(flatten, piece);
+        }
+        if (figure.Closed) {
+            lines.Close();
+        }
+    }
+    return lines.Take();
+}
+
+std::string PathData(const GraphicsPath& path, const PageMap& map) {
+    if (ReachesFar(path, map.ToPage)) {
+        return FarArea(path, map);
+    }
     DataWriter data;
-    const PieceWriter write(toPage, data);
+    const PieceWriter write(map.ToPage, data);
     for (const GraphicsPath::Figure& figure : path.Figures()) {
         data.BeginFigure();
         for (const GraphicsPath::Piece& piece : figure.Pieces) {
@@ -147,11 +301,14 @@ std::string PathData(const GraphicsPath& path, const Matrix& toPage) {
 }
 
 std::string PolygonData(std::span<const PointD> points) {
+    return points.empty() ? "" : PolylineData(points) + " Z";
+}
+
+std::string PolylineData(std::span<const PointD> points) {
     DataWriter data;
     for (const PointD point : points) {
         data.MoveTo(point);
     }
-    data.Close();
     return data.Take();
 }
 

@@ -1,15 +1,21 @@
 #include "penlode/svg/SvgShapes.h"
 
-#include "penlode/svg/SvgGeometry.h"
+#include "penlode/FarClip.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace penlode::svg {
 namespace {
+
+/// No wider pen is looked for beyond the page, in millimetres.
+constexpr double kWidestMargin = 1e5;
 
 std::string Hex(Color color) {
     constexpr std::string_view kDigits = "0123456789abcdef";
@@ -45,9 +51,9 @@ std::vector<double> DashPattern(DashStyle style) {
     }
 }
 
-std::string DashAttribute(DashStyle style, double width) {
+std::string DashAttribute(const std::vector<double>& pattern, double width) {
     std::string lengths;
-    for (const double part : DashPattern(style)) {
+    for (const double part : pattern) {
         lengths += (lengths.empty() ? "" : " ") + Number(part * width);
     }
     return lengths.empty() ? lengths : " stroke-dasharray=\"" + lengths + "\"";
@@ -73,20 +79,67 @@ PointList ListOf(const std::vector<PointD>& points) {
     return list;
 }
 
-std::string PointsElement(const char* name, const Matrix& toPage, std::span<const PointF> points,
-                          const std::string& paint) {
-    const PointList list = ListOf(MapAll(toPage, points));
-    return list.Count < 2 ? "" : SvgElement(name).Set("points", list.Text).Raw(paint).Empty();
+std::string PathOf(const std::string& data, const Paint& paint) {
+    return data.empty() ? "" : SvgElement("path").Set("d", data).Raw(paint.Attributes).Empty();
+}
+
+/// The figure's end reaches its beginning and, for the corner there, a step beyond.
+std::vector<PointD> AsPolyline(FlatFigure figure, bool solid) {
+    std::vector<PointD> points = std::move(figure.Points);
+    if (figure.Closed && points.size() > 1) {
+        const PointD second = points[1];
+        points.push_back(points.front());
+        if (solid) {
+            points.push_back(second);
+        }
+    }
+    return points;
+}
+
+/// The figures' lines near the page. A solid pen draws them in one stroke, so that a translucent one does not
+/// show where they meet; dashes go on where the cut-off part of the line left them.
+std::string StrokedFigures(std::vector<FlatFigure> figures, const BoxD& box, const Paint& pen) {
+    const bool solid = pen.DashPeriod == 0.0;
+    std::string data;
+    std::string elements;
+    for (FlatFigure& figure : figures) {
+        for (const PolylineRun& run : ClippedPolyline(AsPolyline(std::move(figure), solid), box)) {
+            if (run.Points.size() < 2) {
+                continue;
+            }
+            const std::string line = PolylineData(run.Points);
+            if (solid) {
+                data += (data.empty() ? "" : " ") + line;
+            } else {
+                SvgElement element("path");
+                element.Set("d", line).Raw(pen.Attributes);
+                element.Set("stroke-dashoffset", std::fmod(run.Before, pen.DashPeriod));
+                elements += (elements.empty() ? "" : "\n") + element.Empty();
+            }
+        }
+    }
+    return solid ? PathOf(data, pen) : elements;
+}
+
+std::string PointsElement(const char* name, const PageMap& map, std::span<const PointF> points,
+                          const Paint& paint) {
+    std::vector<PointD> mapped = MapAll(map.ToPage, points);
+    if (AnyFar(mapped) && paint.Strokes) {
+        const bool closed = std::string_view(name) == "polygon";
+        return StrokedFigures({{std::move(mapped), closed}}, map.Surroundings(paint.Margin), paint);
+    }
+    const PointList list = ListOf(CutIfFar(map, std::move(mapped)));
+    return list.Count < 2 ? "" : SvgElement(name).Set("points", list.Text).Raw(paint.Attributes).Empty();
 }
 
 /// A box on the page, axes kept.
-std::string BoxElement(PointD a, PointD b, const std::string& paint) {
+std::string BoxElement(PointD a, PointD b, const Paint& paint) {
     return SvgElement("rect")
         .Set("x", std::min(a.X, b.X))
         .Set("y", std::min(a.Y, b.Y))
         .Set("width", std::abs(a.X - b.X))
         .Set("height", std::abs(a.Y - b.Y))
-        .Raw(paint)
+        .Raw(paint.Attributes)
         .Empty();
 }
 
@@ -100,81 +153,100 @@ std::string FillAttributes(Color color) {
     return ColorAttributes("fill", color);
 }
 
-std::string StrokeAttributes(const Pen& pen, double lengthFactor) {
+Paint StrokePaint(const Pen& pen, double lengthFactor) {
     const double width =
         std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kThinnestLine);
-    return ColorAttributes("stroke", pen.GetColor()) + " stroke-width=\"" + Number(width) + "\"" +
-           DashAttribute(pen.GetDashStyle(), width);
+    const std::vector<double> pattern = DashPattern(pen.GetDashStyle());
+    return {ColorAttributes("stroke", pen.GetColor()) + " stroke-width=\"" + Number(width) + "\"" +
+                DashAttribute(pattern, width),
+            true, std::min(width * kMiterLimit, kWidestMargin),
+            std::accumulate(pattern.begin(), pattern.end(), 0.0) * width};
 }
 
-std::string StrokedBox(const Matrix& toPage, const RectF& rect, const std::string& stroke) {
+std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke) {
     if (rect.Width < 0.0F || rect.Height < 0.0F) {
         return "";
     }
     const PointF corner{rect.Right(), rect.Bottom()};
-    const PointD a = OnPage(toPage, rect.TopLeft());
-    const PointD b = OnPage(toPage, corner);
+    const PointD a = OnPage(map.ToPage, rect.TopLeft());
+    const PointD b = OnPage(map.ToPage, corner);
     if (rect.Width == 0.0F || rect.Height == 0.0F) {
-        return LineElement(toPage, rect.TopLeft(), corner, stroke);
+        return LineElement(map, rect.TopLeft(), corner, stroke);
     }
     // A viewer shows no rectangle of width 0, not even its outline.
-    if (!KeepsAxesNearly(toPage) || RoundsToNothing(a.X - b.X) || RoundsToNothing(a.Y - b.Y)) {
-        return PolygonElement(toPage, CornersOf(rect), stroke);
+    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b) || RoundsToNothing(a.X - b.X) ||
+        RoundsToNothing(a.Y - b.Y)) {
+        return PolygonElement(map, CornersOf(rect), stroke);
     }
     return BoxElement(a, b, stroke);
 }
 
-std::string FilledBox(const Matrix& toPage, const RectF& rect, const std::string& fill) {
+std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill) {
     if (rect.Width <= 0.0F || rect.Height <= 0.0F) {
         return "";
     }
-    if (!KeepsAxesNearly(toPage)) {
-        return PolygonElement(toPage, CornersOf(rect), fill);
+    if (!KeepsAxesNearly(map.ToPage)) {
+        return PolygonElement(map, CornersOf(rect), fill);
     }
-    return BoxElement(OnPage(toPage, rect.TopLeft()), OnPage(toPage, PointF{rect.Right(), rect.Bottom()}),
-                      fill);
+    return BoxElement(OnPage(map.ToPage, rect.TopLeft()),
+                      OnPage(map.ToPage, PointF{rect.Right(), rect.Bottom()}), fill);
 }
 
-std::string LineElement(const Matrix& toPage, PointF from, PointF to, const std::string& stroke) {
-    const PointD a = OnPage(toPage, from);
-    const PointD b = OnPage(toPage, to);
+std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke) {
+    const PointD a = Mapped(map.ToPage, from);
+    const PointD b = Mapped(map.ToPage, to);
+    if (IsFar(a) || IsFar(b)) {
+        return StrokedFigures({{{a, b}, false}}, map.Surroundings(stroke.Margin), stroke);
+    }
     if (RoundsToNothing(a.X - b.X) && RoundsToNothing(a.Y - b.Y)) {
         return "";
     }
-    return SvgElement("line").Set("x1", a.X).Set("y1", a.Y).Set("x2", b.X).Set("y2", b.Y).Raw(stroke).Empty();
+    return SvgElement("line")
+        .Set("x1", a.X)
+        .Set("y1", a.Y)
+        .Set("x2", b.X)
+        .Set("y2", b.Y)
+        .Raw(stroke.Attributes)
+        .Empty();
 }
 
-std::string PolylineElement(const Matrix& toPage, std::span<const PointF> points, const std::string& stroke) {
-    return PointsElement("polyline", toPage, points, stroke);
+std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke) {
+    return PointsElement("polyline", map, points, stroke);
 }
 
-std::string PolygonElement(const Matrix& toPage, std::span<const PointF> points, const std::string& paint) {
-    return PointsElement("polygon", toPage, points, paint);
+std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint) {
+    return PointsElement("polygon", map, points, paint);
 }
 
-std::string EllipseElement(const Matrix& toPage, const RectF& rect, const std::string& paint) {
-    const MappedAxes axes = AxesUnder(toPage);
+std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint) {
+    const MappedAxes axes = AxesUnder(map.ToPage);
     const double rx = rect.Width * 0.5 * axes.X;
     const double ry = rect.Height * 0.5 * axes.Y;
-    const PointD center = OnPage(toPage, rect.Center());
-    const bool circle = KeepsRightAngles(toPage) && Number(rx) == Number(ry);
-    if (!circle && !KeepsAxesNearly(toPage)) {
+    const PointD center = OnPage(map.ToPage, rect.Center());
+    const bool circle = KeepsRightAngles(map.ToPage) && Number(rx) == Number(ry);
+    if ((!circle && !KeepsAxesNearly(map.ToPage)) || AnyFar(MapAll(map.ToPage, CornersOf(rect)))) {
         GraphicsPath path;
         path.AddEllipse(rect);
-        return PathElement(toPage, path, paint);
+        return PathElement(map, path, paint);
     }
     SvgElement element(circle ? "circle" : "ellipse");
     element.Set("cx", center.X).Set("cy", center.Y);
     if (circle) {
-        return element.Set("r", rx).Raw(paint).Empty();
+        return element.Set("r", rx).Raw(paint.Attributes).Empty();
     }
-    const bool quarterTurn = std::abs(toPage.M12) > std::abs(toPage.M11);
-    return element.Set("rx", quarterTurn ? ry : rx).Set("ry", quarterTurn ? rx : ry).Raw(paint).Empty();
+    const bool quarterTurn = std::abs(map.ToPage.M12) > std::abs(map.ToPage.M11);
+    return element.Set("rx", quarterTurn ? ry : rx)
+        .Set("ry", quarterTurn ? rx : ry)
+        .Raw(paint.Attributes)
+        .Empty();
 }
 
-std::string PathElement(const Matrix& toPage, const GraphicsPath& path, const std::string& paint) {
-    const std::string data = PathData(path, toPage);
-    return data.empty() ? "" : SvgElement("path").Set("d", data).Raw(paint).Empty();
+std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint) {
+    if (paint.Strokes && ReachesFar(path, map.ToPage)) {
+        const BoxD box = map.Surroundings(paint.Margin);
+        return StrokedFigures(Flattened(path, map.ToPage, box), box, paint);
+    }
+    return PathOf(PathData(path, map), paint);
 }
 
 } // namespace penlode::svg

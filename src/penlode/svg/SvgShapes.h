@@ -3,13 +3,14 @@
 #include "penlode/Color.h"
 #include "penlode/Geometry.h"
 #include "penlode/GraphicsPath.h"
-#include "penlode/Matrix.h"
 #include "penlode/Pen.h"
+#include "penlode/svg/SvgGeometry.h"
 
 #include <span>
 #include <string>
 
-/// Elements for shapes given in world coordinates. A shape that shows nothing gives an empty text.
+/// Elements for shapes given in world coordinates. A shape that shows nothing gives an empty text. Of a shape
+/// that reaches far, what lies near the page is written as a path of straight lines.
 namespace penlode::svg {
 
 /// The thinnest line of a page, in millimetres; a pen of width 0 draws it. A line that keeps one pixel at
@@ -17,20 +18,29 @@ namespace penlode::svg {
 /// pass that over and draw nothing, or a line of a whole millimetre.
 inline constexpr double kThinnestLine = 0.05;
 
-/// ` fill="#336699" fill-opacity="0.502"`, or the same for a pen under a transform that makes lengths grow by
-/// `lengthFactor`, with its width and dashes in millimetres.
+/// ` fill="#336699" fill-opacity="0.502"`
 std::string FillAttributes(Color color);
-std::string StrokeAttributes(const Pen& pen, double lengthFactor);
+
+/// What fills or strokes a shape.
+struct Paint {
+    std::string Attributes;
+    bool Strokes = false;
+    double Margin = 0.0;     ///< how far a pen's marks may lie from its line, in millimetres
+    double DashPeriod = 0.0; ///< the length of a pen's pattern, in millimetres; 0 for a solid line
+};
+
+/// A pen under a transform that makes lengths grow by `lengthFactor`.
+Paint StrokePaint(const Pen& pen, double lengthFactor);
 
 /// A box without extent is a line for a pen and nothing for a brush; a negative one is nothing.
-std::string StrokedBox(const Matrix& toPage, const RectF& rect, const std::string& stroke);
-std::string FilledBox(const Matrix& toPage, const RectF& rect, const std::string& fill);
+std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke);
+std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill);
 
-std::string LineElement(const Matrix& toPage, PointF from, PointF to, const std::string& stroke);
+std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke);
 /// Nothing for fewer than two points. Points that fall together when rounded are written once.
-std::string PolylineElement(const Matrix& toPage, std::span<const PointF> points, const std::string& stroke);
-std::string PolygonElement(const Matrix& toPage, std::span<const PointF> points, const std::string& paint);
-std::string EllipseElement(const Matrix& toPage, const RectF& rect, const std::string& paint);
-std::string PathElement(const Matrix& toPage, const GraphicsPath& path, const std::string& paint);
+std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
+std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint);
+std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint);
+std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint);
 
 } // namespace penlode::svg

@@ -152,10 +152,10 @@ std::string TextElement(const Matrix& toPage, const PlacedLine& line, const Font
     return element.Raw(fill).Around(Escaped(CStringUtil::WideToUtf8(line.Text)));
 }
 
-std::string OutlineElement(const Matrix& toPage, const PlacedLine& line, const Font& font,
+std::string OutlineElement(const PageMap& map, const PlacedLine& line, const Font& font,
                            const std::string& fill) {
-    const Matrix place = Matrix::Translation(line.Baseline.X, line.Baseline.Y) * toPage;
-    const std::string data = PathData(OutlineOfLine(line.Text, font), place);
+    const Matrix place = Matrix::Translation(line.Baseline.X, line.Baseline.Y) * map.ToPage;
+    const std::string data = PathData(OutlineOfLine(line.Text, font), {place, map.Page});
     if (data.empty()) {
         return "";
     }

@@ -3,7 +3,9 @@
 #include "penlode/Font.h"
 #include "penlode/Matrix.h"
 #include "penlode/TextPlacement.h"
+#include "penlode/svg/SvgGeometry.h"
 
+#include <cstddef>
 #include <map>
 #include <string>
 
@@ -19,13 +21,16 @@ private:
     std::map<std::wstring, std::string> m_lists;
 };
 
+/// Longer lines end there, and are measured so.
+inline constexpr std::size_t kLongestLine = 8192;
+
 /// A line of text as text, pinned to its measured width whatever face the reader has. Nothing for an empty
 /// line.
 std::string TextElement(const Matrix& toPage, const PlacedLine& line, const Font& font,
                         const std::string& families, const std::string& fill);
 
 /// A line of text as the shapes of its glyphs, labelled with the text.
-std::string OutlineElement(const Matrix& toPage, const PlacedLine& line, const Font& font,
+std::string OutlineElement(const PageMap& map, const PlacedLine& line, const Font& font,
                            const std::string& fill);
 
 } // namespace penlode::svg

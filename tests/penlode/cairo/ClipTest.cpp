@@ -1,7 +1,9 @@
+#include "penlode/SurfaceState.h"
 #include "penlode/cairo/Picture.h"
 
 #include <array>
 #include <gtest/gtest.h>
+#include <set>
 
 using namespace penlode;
 
@@ -133,4 +135,47 @@ TEST(Clip, MasksKeepColoursAndTranslucence) {
     const SolidBrush brush{Color{0x80FF0000}};
     g->FillRectangle(&brush, 0, 0, 20, 10);
     EXPECT_EQ(CountOf(g->Pixels(), Color{0xFFFF7F7F}), 63);
+}
+
+TEST(Clip, EveryChangeIsFollowedBetweenDrawings) {
+    const auto g = PixelSurface(10, 10);
+    const SolidBrush brush{kBlack};
+    const auto ink = [&] {
+        const SolidBrush white{kWhite};
+        g->FillRectangle(&brush, 0, 0, 10, 10);
+        const auto count = InkOf(*g);
+        g->FillRectangle(&white, 0, 0, 10, 10);
+        return count;
+    };
+    g->SetClip(RectF{0, 0, 5, 10}, CombineMode::Replace);
+    EXPECT_EQ(ink(), 50);
+    const std::uint32_t container = g->BeginContainer();
+    g->SetPageUnit(Unit::Millimeter);
+    g->SetClip(RectF{0, 0, 10, 2}, CombineMode::Replace);
+    EXPECT_EQ(ink(), 10);
+    g->ResetClip();
+    EXPECT_EQ(ink(), 50);
+    g->SetClip(RectF{0, 0, 10, 3}, CombineMode::Intersect);
+    EXPECT_EQ(ink(), 15);
+    g->EndContainer(container);
+    EXPECT_EQ(ink(), 50);
+    g->ResetClip();
+    EXPECT_EQ(ink(), 100);
+}
+
+TEST(Clip, AGenerationIsNeverSeenAgain) {
+    CSurfaceState state(96, 96);
+    std::set<std::uint64_t> seen{state.ClipGeneration()};
+    const auto isNew = [&] { return seen.insert(state.ClipGeneration()).second; };
+    state.CombineClip(Region::Shape{RectF{0, 0, 1, 1}}, CombineMode::Replace);
+    EXPECT_TRUE(isNew());
+    const std::uint32_t container = state.BeginContainer();
+    EXPECT_TRUE(isNew());
+    state.CombineClip(Region(RectF{0, 0, 1, 1}), CombineMode::Xor);
+    EXPECT_TRUE(isNew());
+    state.EndContainer(container);
+    EXPECT_TRUE(isNew());
+    state.ResetClip();
+    EXPECT_TRUE(isNew());
+    EXPECT_FALSE(isNew());
 }

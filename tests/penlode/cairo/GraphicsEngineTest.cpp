@@ -1,13 +1,14 @@
 #include "penlode/cairo/GraphicsEngine.h"
 
+#include "penlode/cairo/CairoCanvas.h"
 #include "penlode/cairo/Picture.h"
+#include "support/PngFile.h"
 
 #include <array>
 #include <cairo.h>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
-#include <png.h>
 #include <vector>
 
 using namespace penlode;
@@ -18,34 +19,6 @@ const Pen kPen(kBlack, 1.0F);
 const SolidBrush kBrush{kBlack};
 const Font kFont;
 constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-
-struct DecodedPng {
-    png_image Header{};
-    std::vector<unsigned char> Rgba;
-};
-
-DecodedPng Decode(const std::string& file) {
-    DecodedPng png;
-    png.Header.version = PNG_IMAGE_VERSION;
-    EXPECT_NE(png_image_begin_read_from_memory(&png.Header, file.data(), file.size()), 0);
-    const bool alpha = (png.Header.format & PNG_FORMAT_FLAG_ALPHA) != 0;
-    png.Header.format = PNG_FORMAT_RGBA;
-    png.Rgba.resize(PNG_IMAGE_SIZE(png.Header));
-    png_image_finish_read(&png.Header, nullptr, png.Rgba.data(), 0, nullptr);
-    png.Header.format = alpha ? PNG_FORMAT_RGBA : PNG_FORMAT_RGB;
-    return png;
-}
-
-/// A big-endian number in the file's first chunk of that name.
-std::uint32_t ChunkNumber(const std::string& file, const char* chunk, std::size_t offset) {
-    const std::size_t at = file.find(chunk);
-    EXPECT_NE(at, std::string::npos);
-    std::uint32_t number = 0;
-    for (std::size_t i = 0; i < 4; ++i) {
-        number = number << 8U | static_cast<unsigned char>(file.at(at + 4 + offset + i));
-    }
-    return number;
-}
 
 } // namespace
 
@@ -65,21 +38,20 @@ TEST(GraphicsEngine, RefusesSurfacesThatCannotBe) {
 TEST(GraphicsEngine, PngKnowsItsSizeAndResolution) {
     const auto g = CGraphicsEngine::ForRaster({80, 60}, 300, kWhite);
     const std::string file = g->EncodePng();
-    EXPECT_EQ(ChunkNumber(file, "IHDR", 0), 945U);
-    EXPECT_EQ(ChunkNumber(file, "IHDR", 4), 709U);
-    EXPECT_EQ(ChunkNumber(file, "pHYs", 0), 11811U);
-    EXPECT_EQ(ChunkNumber(file, "pHYs", 4), 11811U);
-    EXPECT_EQ(Decode(file).Header.format, PNG_FORMAT_RGB);
+    EXPECT_EQ(PngNumber(file, "IHDR", 0), 945U);
+    EXPECT_EQ(PngNumber(file, "IHDR", 4), 709U);
+    EXPECT_EQ(PngNumber(file, "pHYs", 0), 11811U);
+    EXPECT_EQ(PngNumber(file, "pHYs", 4), 11811U);
+    EXPECT_FALSE(PngHasAlpha(file));
 }
 
 TEST(GraphicsEngine, PngHoldsTheStraightColoursOfThePicture) {
     const auto g = PixelSurface(4, 2, Color{0x00000000});
     const SolidBrush translucent{Color{0x80FF8000}};
     g->FillRectangle(&translucent, 0, 0, 2, 2);
-    const DecodedPng png = Decode(g->EncodePng());
-    EXPECT_EQ(png.Header.format, PNG_FORMAT_RGBA);
-    EXPECT_EQ((std::vector<int>(png.Rgba.begin(), png.Rgba.begin() + 4)),
-              (std::vector<int>{0xFF, 0x80, 0x00, 0x80}));
+    const std::string file = g->EncodePng();
+    EXPECT_TRUE(PngHasAlpha(file));
+    EXPECT_EQ(PixelAt(DecodePng(file), 0, 0), translucent.FillColor);
     EXPECT_EQ(PixelAt(g->Pixels(), 1, 1), translucent.FillColor);
     EXPECT_EQ(PixelAt(g->Pixels(), 2, 1), Color{0});
 }
@@ -89,7 +61,10 @@ TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
     const std::array<PointF, 3> bad{{{1, 1}, {kNan, 5}, {9, 9}}};
     const Pen wild(kBlack, INFINITY);
     const Font wildFont{L"宋体", kNan, FontStyle::Regular};
-    const Matrix flat = Matrix::Scale(0, 1);
+    GraphicsPath wildPath;
+    wildPath.AddBezier({0, 0}, {kNan, 1}, {1, 1}, {9, 9});
+    Region wildRegion;
+    wildRegion.Combine(Region(wildPath), CombineMode::Intersect);
     for (const Status status : {g->DrawLine(nullptr, 0, 0, 9, 9),
                                 g->DrawLine(&kPen, 0, kNan, 9, 9),
                                 g->DrawLine(&wild, 0, 0, 9, 9),
@@ -107,6 +82,9 @@ TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
                                 g->FillPie(&kBrush, {0, 0, 9, 9}, 0, kNan),
                                 g->FillPolygon(nullptr, bad.data(), 3),
                                 g->FillPath(&kBrush, nullptr),
+                                g->FillPath(&kBrush, &wildPath),
+                                g->SetClip(&wildPath, CombineMode::Replace),
+                                g->SetClip(&wildRegion, CombineMode::Replace),
                                 g->DrawString(nullptr, -1, &kFont, PointF{}, &kBrush),
                                 g->DrawString(L"x", -1, nullptr, PointF{}, &kBrush),
                                 g->DrawString(L"x", -1, &wildFont, PointF{}, &kBrush),
@@ -121,11 +99,44 @@ TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
                                 g->EndContainer(77)}) {
         EXPECT_EQ(status, Status::InvalidParameter);
     }
-    g->SetTransform(&flat);
-    EXPECT_EQ(g->FillRectangle(&kBrush, 0, 0, 9, 9), Status::InvalidParameter);
-    g->ResetTransform();
     EXPECT_EQ(g->DrawLines(&kPen, bad.data(), 1), Status::Ok);
     EXPECT_EQ(InkOf(*g), 0);
+}
+
+TEST(GraphicsEngine, AFlatteningTransformDrawsNothing) {
+    const auto g = PixelSurface(20, 20);
+    const Matrix flat = Matrix::Scale(0, 1);
+    g->SetTransform(&flat);
+    EXPECT_EQ(g->FillRectangle(&kBrush, 0, 0, 9, 9), Status::Ok);
+    EXPECT_EQ(g->DrawString(L"x", -1, &kFont, PointF{}, &kBrush), Status::Ok);
+    const std::array<GradientVertex, 2> ends{{{0, 0, 0, 0, 0, 0}, {9, 9, 0, 0, 0, 0}}};
+    const GradientRect rect{0, 1};
+    EXPECT_EQ(g->GradientFill({0, 0, 9, 9}, {}, ends.data(), 2, &rect, 1, GradientMode::RectH), 1);
+    EXPECT_EQ(InkOf(*g), 0);
+}
+
+TEST(CairoCanvas, AFailedContextIsReplacedOnItsSurface) {
+    const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 8, 8));
+    CairoCanvas canvas(CairoContext(cairo_create(surface.get())), {true, 25.4, {0, 0, 8, 8}, {}, {}, {8, 8}});
+    CSurfaceState state(25.4, 25.4);
+    state.CombineClip(Region::Shape{RectF{0, 0, 4, 8}}, CombineMode::Replace);
+    const auto draw = [&] {
+        if (canvas.Begin(state)) {
+            cairo_paint(canvas.Context());
+        }
+        canvas.End();
+        return canvas.Recover();
+    };
+    canvas.Begin(state);
+    cairo_scale(canvas.Context(), 0, 0);
+    canvas.End();
+    EXPECT_EQ(canvas.Surface(), surface.get());
+    EXPECT_EQ(canvas.Recover(), Status::GenericError);
+    EXPECT_EQ(draw(), Status::Ok);
+    cairo_surface_flush(surface.get());
+    const unsigned char* alpha = cairo_image_surface_get_data(surface.get()) + 3;
+    EXPECT_EQ(alpha[0], 0xFF);
+    EXPECT_EQ(alpha[4 * 4], 0) << "the clip goes with the new context";
 }
 
 TEST(GraphicsEngine, AContainerRestoresTransformUnitsClipAndSmoothing) {
@@ -209,6 +220,7 @@ TEST(GraphicsEngine, DrawsWhereAHostsContextStandsAndLeavesItSo) {
     cairo_translate(context, 10, 5);
     cairo_rectangle(context, 0, 0, 12, 12);
     cairo_clip(context);
+    cairo_set_operator(context, CAIRO_OPERATOR_DEST);
     {
         const auto g = CGraphicsEngine::ForCairo(context, 25.4);
         const SolidBrush white{kWhite};
@@ -218,6 +230,7 @@ TEST(GraphicsEngine, DrawsWhereAHostsContextStandsAndLeavesItSo) {
     cairo_matrix_t m;
     cairo_get_matrix(context, &m);
     EXPECT_EQ(m.x0, 10);
+    EXPECT_EQ(cairo_get_operator(context), CAIRO_OPERATOR_DEST);
     cairo_surface_flush(surface);
     const unsigned char* data = cairo_image_surface_get_data(surface);
     const auto white = [&](int x, int y) {

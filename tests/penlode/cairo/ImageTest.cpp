@@ -89,6 +89,29 @@ TEST(Image, TheCallbackEndsTheDrawing) {
     EXPECT_EQ(g->DrawImage(&broken, RectF{0, 0, 4, 4}), Status::InvalidParameter);
 }
 
+TEST(Image, FewPixelsCoverAWholeLargePicture) {
+    const auto g = PixelSurface(12000, 2);
+    const Image red{1, 1, 96.0F, 96.0F, {kRed}};
+    EXPECT_EQ(g->DrawImage(&red, RectF{-1e6F, 0, 2e6F, 1}), Status::Ok);
+    const Image two{2, 1, 96.0F, 96.0F, {kGreen, kBlue}};
+    EXPECT_EQ(g->DrawImage(&two, RectF{-6000, 1, 30000, 1}), Status::Ok);
+    const Image drawn = g->Pixels();
+    EXPECT_EQ(CountOf(drawn, kRed), 12000);
+    EXPECT_GT(PixelAt(drawn, 0, 1).G(), 0x80U);
+    EXPECT_GT(PixelAt(drawn, 11999, 1).B(), 0x60U);
+    EXPECT_EQ(CountOf(drawn, kWhite), 0);
+}
+
+TEST(Image, StretchesOfEveryStrengthAreDrawnOrLeftOut) {
+    const auto g = PixelSurface(20, 20);
+    const Image image = FourPixels();
+    for (float x = 1e-6F; x < 1e6F; x *= 7.0F) {
+        for (float y = 1e-6F; y < 1e6F; y *= 7.0F) {
+            EXPECT_EQ(g->DrawImage(&image, RectF{3, 4, x, y}), Status::Ok) << x << " " << y;
+        }
+    }
+}
+
 TEST(Gradient, RectanglesBlendAlongOneAxis) {
     const auto g = PixelSurface(10, 6);
     const std::array<GradientVertex, 2> ends{{{0, 0, 0, 0, 0, 0}, {10, 4, 0xFF00, 0xFF00, 0, 0}}};

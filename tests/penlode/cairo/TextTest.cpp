@@ -160,3 +160,28 @@ TEST(Text, OddTextsAreHarmless) {
     EXPECT_EQ(g->DrawString(L"深度", 1, &kSong, PointF{0, 0}, nullptr, &kBrush), Status::Ok);
     EXPECT_EQ(g->MeasureScriptText(L"深度", &kSong), Measured(L"深度"));
 }
+
+TEST(Text, StretchesOfEveryStrengthAreDrawnOrLeftOut) {
+    const auto g = CGraphicsEngine::ForRaster({80, 80}, 96, kWhite);
+    const Font font{L"宋体", 10.0F, FontStyle::Regular};
+    for (double x = 1e-3; x < 1e3; x *= 1.9) {
+        for (double y = 1e-3; y < 1e3; y *= 1.9) {
+            for (const double slant : {0.0, 0.9, 0.9999}) {
+                const Matrix stretch{x, 0.0, slant * x, y, 0.0, 0.0};
+                g->SetTransform(&stretch);
+                EXPECT_EQ(g->DrawString(L"深 A1", -1, &font, PointF{0, 0}, &kBrush), Status::Ok)
+                    << x << " " << y << " " << slant;
+            }
+        }
+    }
+}
+
+TEST(Text, AStretchedLineIsThere) {
+    const auto g = CGraphicsEngine::ForRaster({80, 80}, 96, kWhite);
+    const Matrix flat{30, 0, 0, 0.123, 0, 0};
+    g->SetTransform(&flat);
+    const Font font{L"宋体", 10.0F, FontStyle::Underline};
+    EXPECT_EQ(g->DrawString(L"深深", -1, &font, PointF{0, 0}, &kBrush), Status::Ok);
+    EXPECT_GT(InkBox(*g).Width, 250.0F);
+    EXPECT_LE(InkBox(*g).Height, 7.0F);
+}

@@ -1,5 +1,6 @@
 #include "penlode/svg/Body.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <utility>
 #include <vector>
@@ -55,6 +56,19 @@ std::string Combined(CombineMode mode) {
     return Body(engine);
 }
 
+/// How many elements stand in one another at most.
+int DeepestLevel(const std::string& text) {
+    int level = 0;
+    int deepest = 0;
+    for (std::size_t at = text.find('<'); at != std::string::npos; at = text.find('<', at + 1)) {
+        const bool closes = text[at + 1] == '/';
+        level += closes ? -1 : 1;
+        deepest = std::max(deepest, level);
+        level -= text[text.find('>', at) - 1] == '/' ? 1 : 0;
+    }
+    return deepest;
+}
+
 } // namespace
 
 TEST(SvgGroups, ContainersAreGroupsUnlessTheyAreEmpty) {
@@ -105,6 +119,25 @@ TEST(SvgGroups, VeryDeepContainersStayReadable) {
         ++groups;
     }
     EXPECT_EQ(groups, 64U);
+}
+
+TEST(SvgGroups, ManyClipsStayReadableAndInForce) {
+    CSvgEngine engine({80, 60});
+    for (int i = 0; i < 300; ++i) {
+        engine.BeginContainer();
+        engine.SetClip(RectF{0, 0, 400.0F - static_cast<float>(i), 10}, CombineMode::Intersect);
+    }
+    Dot(engine);
+    const std::string text = engine.Text();
+    EXPECT_LT(DeepestLevel(text), 210);
+    for (int i = 1; i <= 300; ++i) {
+        EXPECT_NE(text.find("\"url(#c" + std::to_string(i) + ")\""), std::string::npos) << i;
+    }
+    // Each mask but the last is used by the next one, the last by the drawing.
+    for (const char* mask : {"<g mask=\"url(#m1)\"><g clip-path", "<g mask=\"url(#m2)\"><g clip-path",
+                             "<g mask=\"url(#m3)\">\n"}) {
+        EXPECT_NE(text.find(mask), std::string::npos) << mask;
+    }
 }
 
 TEST(SvgClip, SixWaysToCombine) {

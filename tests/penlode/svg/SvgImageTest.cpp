@@ -162,6 +162,10 @@ TEST(SvgImage, MirrorsAndTurnsByAMatrix) {
     engine.DrawImage(&image, {30, 10, -20, 10});
     EXPECT_TRUE(
         Body(engine).starts_with("<image width=\"1\" height=\"1\" transform=\"matrix(-20 0 0 10 30 10)\""));
+    CSvgEngine upsideDown({80, 60});
+    upsideDown.DrawImage(&image, {30, 20, 20, -10});
+    EXPECT_TRUE(Body(upsideDown)
+                    .starts_with("<image width=\"1\" height=\"1\" transform=\"matrix(20 0 0 -10 30 20)\""));
 }
 
 TEST(SvgImage, RefusesAndAborts) {
@@ -214,6 +218,22 @@ TEST(SvgGradient, TrianglesAreCutIntoFlatOnes) {
     EXPECT_EQ(Body(engine), "<g shape-rendering=\"crispEdges\">\n" + part("M0 0 L4 0 L0 4 Z", "#000001") +
                                 part("M4 0 L4 4 L0 4 Z", "#000003") + part("M0 4 L4 4 L0 8 Z", "#000001") +
                                 part("M4 0 L8 0 L4 4 Z", "#000005") + "</g>\n");
+}
+
+TEST(SvgGradient, TrianglesOutOfSightAreLeftOut) {
+    const GradientVertex vertices[] = {
+        {0, 0, 0, 0, 0, 0},       {8, 0, 0, 0, 0x0800, 0},          {0, 8, 0, 0, 0, 0},
+        {90, 0, 0xFF00, 0, 0, 0}, {2000000000, 0, 0, 0, 0xFF00, 0}, {90, 60, 0, 0xFF00, 0, 0}};
+    const GradientTriangle mesh[] = {{3, 4, 5}, {0, 1, 2}};
+    CSvgEngine engine({80, 60});
+    // Out of the page; out of the bounds.
+    EXPECT_EQ(engine.GradientFill({0, 0, 99, 99}, {}, vertices, 6, mesh, 1, GradientMode::Triangle), 1);
+    EXPECT_EQ(engine.GradientFill({9, 0, 20, 20}, {}, vertices, 6, mesh + 1, 1, GradientMode::Triangle), 1);
+    EXPECT_EQ(Body(engine), "");
+    // Of four parts one begins where the bounds end.
+    EXPECT_EQ(engine.GradientFill({0, 0, 4, 20}, {}, vertices, 6, mesh, 2, GradientMode::Triangle), 1);
+    EXPECT_EQ(Body(engine).find("M4 0 L8 0"), std::string::npos);
+    EXPECT_NE(Body(engine).find("M4 0 L4 4"), std::string::npos);
 }
 
 TEST(SvgGradient, RefusesVerticesThatAreNotThere) {

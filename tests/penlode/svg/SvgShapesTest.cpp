@@ -158,14 +158,55 @@ TEST(SvgShapes, RefusesWhatIsMissingOrNotFinite) {
     EXPECT_EQ(Body(engine), "");
 }
 
-TEST(SvgShapes, FarPointsStayWithinAKilometre) {
+TEST(SvgShapes, FarShapesLookTheSameNearThePage) {
     constexpr float kFar = std::numeric_limits<float>::max() / 4;
     CSvgEngine engine({80, 60});
     engine.FillRectangle(&kBrush, -kFar, 0, kFar * 2, 1);
-    engine.DrawLine(&kPen, 0, 0, kFar, -kFar);
+    engine.DrawLine(&kPen, 0, 0, 1e8F, 5e7F);
+    engine.DrawLine(&kPen, 0, 1e6F, 1e8F, 2e6F);
+    const PointF wedge[] = {{0, 0}, {1e8F, 5e7F}, {0, 5e7F}};
+    engine.FillPolygon(&kBrush, wedge, 3);
+    const Pen dashed(Color{0xFF336699}, 0.25F, DashStyle::Dash);
+    engine.DrawLine(&dashed, -1000000.5F, 0, 10, 0);
+    EXPECT_EQ(Body(engine), "<rect x=\"-1000000\" y=\"0\" width=\"2000000\" height=\"1\"" + kFill +
+                                "<path d=\"M0 0 L1080.8 540.4\"" + kStroke +
+                                "<polygon points=\"0,1060 0,0 1080,540 1080,1060\"" + kFill +
+                                // 998999.5 mm are cut off: so many dashes with their gaps of 1 mm.
+                                "<path d=\"M-1001 0 L10 0\" stroke=\"#336699\" stroke-width=\"0.25\" "
+                                "stroke-dasharray=\"0.75 0.25\" stroke-dashoffset=\"0.5\"/>\n");
+}
+
+TEST(SvgShapes, FarEllipsesPassThePageWhereTheyAre) {
+    CSvgEngine engine({80, 60});
+    engine.FillEllipse(&kBrush, 20, -1e7F + 15, 2e7F, 2e7F);
+    const std::string body = Body(engine);
+    EXPECT_EQ(body.substr(0, 10), "<path d=\"M");
+    EXPECT_LT(body.size(), 4000U);
+    // Within the page the edge strays from x = 20 by y² / 2r only: less than a thousandth of a millimetre.
+    EXPECT_NE(body.find("L20 "), std::string::npos) << body;
+    EXPECT_EQ(body.find("L0 "), std::string::npos) << body;
+    engine.DrawEllipse(&kPen, 1e6F, 1e6F, 2e7F, 2e7F);
+    EXPECT_EQ(Body(engine), body);
+}
+
+TEST(SvgShapes, FoldedPlanesShowNothing) {
+    CSvgEngine engine({80, 60});
     const Matrix folded{1, 1, 1, 1, 0, 0};
     engine.SetTransform(&folded);
+    const Image image{1, 1, 96.0F, 96.0F, {kBlack}};
+    const auto stop = [](void*) { return true; };
+    const GradientVertex vertex{};
+    const GradientTriangle triangle{0, 0, 0};
     EXPECT_EQ(engine.DrawLine(&kPen, 0, 0, 1, 1), Status::Ok);
-    EXPECT_EQ(Body(engine), "<rect x=\"-1000000\" y=\"0\" width=\"2000000\" height=\"1\"" + kFill +
-                                "<line x1=\"0\" y1=\"0\" x2=\"1000000\" y2=\"-1000000\"" + kStroke);
+    EXPECT_EQ(engine.DrawImage(&image, {0, 0, 1, 1}, 0, 0, 1, 1, Unit::Pixel, nullptr, stop, nullptr),
+              Status::Ok);
+    EXPECT_EQ(engine.GradientFill({0, 0, 9, 9}, {0, 0}, &vertex, 1, &triangle, 1, GradientMode::Triangle), 1);
+    EXPECT_EQ(Body(engine), "");
+}
+
+TEST(SvgShapes, PagesOfAnySizeHaveOne) {
+    const auto head = [](SizeF page) { return CSvgEngine(page).Text().substr(40, 60); };
+    constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+    EXPECT_NE(head({kNan, -5}).find("width=\"0mm\" height=\"0mm\" viewBox=\"0 0 0 0\""), std::string::npos);
+    EXPECT_NE(head({INFINITY, 1e30F}).find("width=\"0mm\" height=\"1000000mm\""), std::string::npos);
 }

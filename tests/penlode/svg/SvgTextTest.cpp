@@ -1,5 +1,6 @@
 #include "penlode/svg/Body.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace penlode;
@@ -91,6 +92,13 @@ TEST(SvgText, OutlinesAreLabelledWithTheText) {
     EXPECT_EQ(Drawn(L"& 1\n ", kArial, options),
               "<path role=\"img\" aria-label=\"&amp; 1\" d=\"M10 22 L12 22 L12 24 L10 24 Z "
               "M14 22 L16 22 L16 24 L14 24 Z\" fill-rule=\"nonzero\" fill=\"#000000\"/>\n");
+}
+
+TEST(SvgText, EndsLongLines) {
+    const std::wstring line(9000, L'~');
+    const std::string text = Drawn((line + L"\nb").c_str(), kArial);
+    EXPECT_EQ(std::count(text.begin(), text.end(), '~'), 8192);
+    EXPECT_NE(text.find(">b</text>"), std::string::npos);
 }
 
 TEST(SvgText, RefusesWhatIsMissing) {

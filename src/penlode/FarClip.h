@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/cairo/DeviceGeometry.h"
+#include "penlode/DeviceGeometry.h"
 
 #include <span>
 #include <vector>
@@ -27,11 +27,11 @@ struct FlatFigure {
     bool Closed = false;
 };
 
-/// Flattens an outline to within a tenth of a device unit. Curve parts outside the box become few, long
+/// Flattens an outline to within `tolerance` device units. Curve parts outside the box become few, long
 /// lines.
 class OutlineFlattener final : public OutlineSink {
 public:
-    explicit OutlineFlattener(const BoxD& box) : m_box(box) {}
+    explicit OutlineFlattener(const BoxD& box, double tolerance = 0.1) : m_box(box), m_tolerance(tolerance) {}
 
     void MoveTo(PointD point) override { m_figures.push_back({{point}, false}); }
 
@@ -55,6 +55,7 @@ private:
     void Flatten(const Cubic& curve, int depth);
 
     BoxD m_box;
+    double m_tolerance;
     std::vector<FlatFigure> m_figures;
 };
 

@@ -1,4 +1,4 @@
-#include "penlode/cairo/FarClip.h"
+#include "penlode/FarClip.h"
 
 #include <optional>
 #include <utility>
@@ -6,7 +6,6 @@
 namespace penlode {
 namespace {
 
-constexpr double kFlatness = 0.1;
 constexpr int kDeepestSplit = 24;
 
 bool AllInside(std::span<const PointD> points, const BoxD& box) {
@@ -141,7 +140,7 @@ void OutlineFlattener::Flatten(const Cubic& c, int depth) {
     const auto [left, right] = std::minmax({c.P0.X, c.P1.X, c.P2.X, c.P3.X});
     const auto [top, bottom] = std::minmax({c.P0.Y, c.P1.Y, c.P2.Y, c.P3.Y});
     const bool outside = right < m_box.Left || left > m_box.Right || bottom < m_box.Top || top > m_box.Bottom;
-    if (outside || depth == kDeepestSplit || Bend(c.P0, c.P1, c.P2, c.P3) <= kFlatness) {
+    if (outside || depth == kDeepestSplit || Bend(c.P0, c.P1, c.P2, c.P3) <= m_tolerance) {
         LineTo(c.P3);
         return;
     }
