@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "Chart.h"
+#include "Console.h"
 #include "penlode/TextForms.h"
 
 #include <CLI/CLI.hpp>
@@ -97,6 +98,19 @@ void AddInspect(CLI::App& app, InspectOptions& options) {
     inspect.add_option("--data", options.Data, kDataHelp);
 }
 
+/// The parser does not say which word it took for no command.
+bool NamesCommand(const CLI::App& app, int argc, char** argv) {
+    const std::string word = argc > 1 ? argv[1] : "";
+    const auto named =
+        app.get_subcommands([&word](const CLI::App* command) { return command->get_name() == word; });
+    if (word.starts_with('-') || !named.empty()) {
+        return true;
+    }
+    Tell("found " + (word.empty() ? "no command" : "\"" + word + "\"") +
+         ", expected draw, new, check or inspect; millichart --help tells more");
+    return false;
+}
+
 } // namespace
 
 Wish ParseCommandLine(int argc, char** argv) {
@@ -114,6 +128,9 @@ Wish ParseCommandLine(int argc, char** argv) {
     AddNew(app, fresh);
     AddCheck(app, check);
     AddInspect(app, inspect);
+    if (!NamesCommand(app, argc, argv)) {
+        return Finished{kWrongUsage};
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -8,6 +8,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+/// How the place of what is not JSON begins.
+constexpr const char* kLinePlace = "line ";
+
 Json ObjectOf(const Message& message) {
     Json object;
     object["file"] = message.File;
@@ -39,7 +42,8 @@ std::string SentenceOf(const Message& message) {
 
 std::string ToLine(const Message& message) {
     std::string line = message.File;
-    if (message.Line != 0) {
+    const bool placeHasLine = message.Place.starts_with(kLinePlace);
+    if (message.Line != 0 && !placeHasLine) {
         line += ":" + std::to_string(message.Line);
     }
     line += ": ";

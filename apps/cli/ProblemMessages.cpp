@@ -4,6 +4,7 @@
 #include "NearestName.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -62,11 +63,25 @@ Message MissingKey(const StreamProblem& problem) {
     return {"", Severity::Note, 0, problem.Place, "", taken, text};
 }
 
+/// The line of a place such as "line 3, column 7".
+std::size_t LineOf(const std::string& place) {
+    std::size_t line = 0;
+    const std::size_t digits = std::min(place.find_first_of("0123456789"), place.size());
+    std::from_chars(place.data() + digits, place.data() + place.size(), line);
+    return line;
+}
+
 Message MessageOf(const StreamProblem& problem) {
     if (problem.What == StreamProblem::Kind::MissingKey) {
         return MissingKey(problem);
     }
-    return {"", Severity::Error, 0, problem.Place, problem.Found, problem.Expected};
+    const bool isUnreadable = problem.What == StreamProblem::Kind::Unreadable;
+    return {"",
+            Severity::Error,
+            isUnreadable ? LineOf(problem.Place) : 0,
+            problem.Place,
+            problem.Found,
+            problem.Expected};
 }
 
 } // namespace
@@ -98,7 +113,7 @@ void PutInDocumentOrder(const std::string& text, const std::string& shownName,
         JsonPlaces::Spot spot;
         if (message.File == shownName && !message.Place.empty()) {
             spot = places.Find(message.Place);
-            message.Line = spot.Line;
+            message.Line = std::max(message.Line, spot.Line);
         }
         const std::size_t rank = spot.Order == 0 ? std::numeric_limits<std::size_t>::max() : spot.Order;
         order.emplace_back(message.Weight == Severity::Note, rank, i);

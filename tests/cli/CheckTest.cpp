@@ -140,7 +140,7 @@ TEST_F(Check, JsonForPrograms) {
         "  "
         "{\"file\":\"b.json\",\"line\":1,\"severity\":\"error\",\"place\":\"kind\",\"found\":\"\\\"pye\\\"\","
         "\"expected\":\"\\\"pie\\\"\",\"message\":\"found \\\"pye\\\", expected \\\"pie\\\"\"},\n"
-        "  {\"file\":\"empty.json\",\"line\":null,\"severity\":\"error\",\"place\":\"line 1, column 1\","
+        "  {\"file\":\"empty.json\",\"line\":1,\"severity\":\"error\",\"place\":\"line 1, column 1\","
         "\"found\":\"the end of the document\",\"expected\":\"a value\",\"message\":\"found the end of the "
         "document, expected a value\"}\n]\n");
     EXPECT_EQ(Run("millichart check --json b.json").Status, 1);

@@ -241,4 +241,7 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
     }
     EXPECT_EQ(Run("ls").Output, "a.json\n");
     EXPECT_EQ(Run("millichart draw --help").Status, 0);
+    EXPECT_EQ(
+        Run("millichart drw a.json").Errors,
+        "millichart: found \"drw\", expected draw, new, check or inspect; millichart --help tells more\n");
 }
