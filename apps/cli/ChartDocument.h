@@ -1,40 +1,27 @@
 #pragma once
 
-#include "penlode/Geometry.h"
-#include "penlode/IGraphicsEngine.h"
-#include "penlode/StreamProblem.h"
+#include "Chart.h"
+#include "Message.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-namespace penlode {
-class CJsonSerializeStream;
-}
-
 namespace cli {
 
-/// A chart as the command needs it, whatever its kind. Laid out as it was loaded.
-class Chart {
-public:
-    virtual ~Chart() = default;
-    virtual penlode::RectF Extent() const = 0;
-    virtual void Draw(penlode::IGraphicsEngine& engine) const = 0;
-};
-
-/// A chart document: the chart, and what to tell about the document that did not keep it from being loaded.
+/// A chart document as it was loaded.
 struct ChartDocument {
-    std::unique_ptr<Chart> Content;
-    std::string Title;                           ///< UTF-8, like the description
-    std::string Description;                     ///< the document's description and its source
-    std::vector<penlode::StreamProblem> Remarks; ///< keys that nothing asked for
+    std::unique_ptr<Chart> Content; ///< null when there are errors
+    std::string Kind;
+    std::string Title;             ///< UTF-8, like the description
+    std::string Description;       ///< the document's description and its source
+    std::vector<Message> Messages; ///< in the document's order, notes last
 };
 
-/// Reads a document of the format in docs/document-format.md. Throws UserError, one line a problem, when
-/// there is something in it that cannot be used.
-ChartDocument LoadChartDocument(const std::string& fileName);
-
-/// "sales.json: data/values/3: found "x", expected a number"
-std::string Describe(const std::string& fileName, const penlode::StreamProblem& problem);
+/// Reads a document of the format in docs/document-format.md, "-" being the standard input. `data` names a
+/// CSV file that replaces the document's data. What is wrong is among the messages, an input that cannot be
+/// read too.
+ChartDocument LoadChartDocument(const std::string& input, const std::optional<std::string>& data);
 
 } // namespace cli

@@ -1,87 +1,107 @@
 #include "DrawCommand.h"
 
 #include "ChartDocument.h"
+#include "Console.h"
 #include "FontReport.h"
+#include "InputFile.h"
 #include "OutputFile.h"
-#include "Picture.h"
+#include "OutputNames.h"
+#include "Progress.h"
 #include "UserError.h"
 
-#include <cmath>
-#include <iostream>
+#include <set>
 
 namespace cli {
 namespace {
 
+using penlode::RectF;
+using penlode::SizeF;
+
 constexpr float kMargin = 5.0F;
-constexpr float kLargestPage = 5000.0F;
 
-bool IsDrawable(const penlode::RectF& extent) {
-    return std::isfinite(extent.X) && std::isfinite(extent.Y) && extent.Width > 0.0F &&
-           extent.Height > 0.0F && extent.Width <= kLargestPage && extent.Height <= kLargestPage;
+std::string Millimetres(SizeF size) {
+    return ToJson(static_cast<double>(size.Width)).dump() + " x " +
+           ToJson(static_cast<double>(size.Height)).dump() + " mm";
 }
 
-/// The chart's extent, or an error that says why there is nothing to draw.
-penlode::RectF CheckedExtent(const Chart& chart, const std::string& fileName) {
-    const penlode::RectF extent = chart.Extent();
-    if (extent.Width == 0.0F && extent.Height == 0.0F) {
-        throw UserError(fileName +
-                        ": found nothing to draw, expected values in data/values and a size above 0");
-    }
-    if (!IsDrawable(extent)) {
-        throw UserError(fileName +
-                        ": the chart does not fit a page of 5000 x 5000 mm, check its sizes and values");
-    }
-    return extent;
-}
-
-void Remark(const std::string& message) {
-    std::cerr << "millichart: " << message << '\n';
-}
-
-void TellRemarks(const DrawOptions& options, const ChartDocument& document) {
-    for (const penlode::StreamProblem& remark : document.Remarks) {
-        Remark(Describe(options.Input, remark));
-    }
-    const FontReport fonts = ReportFonts(*document.Content);
-    for (const std::string& face : fonts.Faces) {
-        if (options.Verbose) {
-            Remark(options.Input + ": " + face);
+void TellDocument(const DrawOptions& options, const ChartDocument& document, const std::string& shownName) {
+    TellProblems(document.Messages);
+    if (options.Verbose && document.Content != nullptr) {
+        for (const std::string& face : ReportFonts(*document.Content).Faces) {
+            Tell(shownName + ": " + face);
         }
     }
-    for (const std::string& warning : fonts.Warnings) {
-        Remark(options.Input + ": " + warning);
-    }
 }
 
-PictureSettings SettingsOf(const DrawOptions& options, const ChartDocument& document,
-                           const penlode::RectF& extent) {
-    const auto format = FormatOfName(options.Output);
-    if (!format) {
-        throw UserError(options.Output +
-                        ": found another ending, expected a name that ends in .png, .svg or .pdf");
+/// The page that was asked for, with a warning if the chart is larger; else the chart's own.
+SizeF PageOf(const DrawOptions& options, const RectF& extent, const std::string& shownName) {
+    if (!options.Page) {
+        return {extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin};
     }
-    return {*format,
-            {extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin},
-            options.Dpi,
-            document.Title,
-            document.Description,
-            options.TextAsOutlines};
+    if (extent.Width > options.Page->Width || extent.Height > options.Page->Height) {
+        Tell(ToLine({shownName, Severity::Warning, 0, "", "", "",
+                     "the chart of " + Millimetres({extent.Width, extent.Height}) +
+                         " is cut off by the page of " + Millimetres(*options.Page)}));
+    }
+    return *options.Page;
+}
+
+/// The file's bytes.
+std::string Render(const DrawOptions& options, const ChartDocument& document, const std::string& shownName,
+                   const OutputName& output) {
+    const RectF extent = document.Content->Extent();
+    const SizeF page = PageOf(options, extent, shownName);
+    const std::unique_ptr<Picture> picture =
+        MakePicture({output.Format, page, options.Dpi, options.Background, document.Title,
+                     document.Description, options.TextAsOutlines});
+    if (picture == nullptr) {
+        throw UserError(ShownOutput(output.Name),
+                        "the picture would be too large, expected fewer dots per inch or a smaller page");
+    }
+    const penlode::PointF corner{(page.Width - extent.Width) / 2.0F, (page.Height - extent.Height) / 2.0F};
+    picture->Engine().TranslateTransform(corner.X - extent.X, corner.Y - extent.Y,
+                                         penlode::MatrixOrder::Prepend);
+    document.Content->Draw(picture->Engine());
+    std::string bytes = picture->Finish();
+    if (bytes.empty()) {
+        throw UserError(ShownOutput(output.Name), "the picture was lost, there may be too little memory");
+    }
+    return bytes;
+}
+
+/// False when the document cannot be drawn, which has been told then.
+bool DrawOne(const DrawOptions& options, const std::string& input, std::set<std::string>& drawn) {
+    const std::string shownName = ShownName(input);
+    const ChartDocument document = LoadChartDocument(input, options.Data);
+    TellDocument(options, document, shownName);
+    if (document.Content == nullptr) {
+        return false;
+    }
+    const OutputName output = OutputOf(options, input);
+    if (output.Name != kStandardStream && !drawn.insert(output.Name).second) {
+        throw UserError(shownName, output.Name + " is already the picture of another input");
+    }
+    WriteOutput(output.Name, Render(options, document, shownName, output));
+    return true;
 }
 
 } // namespace
 
-void Draw(const DrawOptions& options) {
-    const ChartDocument document = LoadChartDocument(options.Input);
-    const penlode::RectF extent = CheckedExtent(*document.Content, options.Input);
-    const std::unique_ptr<Picture> picture = MakePicture(SettingsOf(options, document, extent));
-    if (picture == nullptr) {
-        throw UserError(options.Output + ": the picture would be too large, expected fewer dots per inch");
+bool Draw(const DrawOptions& options) {
+    CheckOutputs(options);
+    Progress progress(options.Inputs.size());
+    std::set<std::string> drawn;
+    bool allDrawn = true;
+    for (const std::string& input : options.Inputs) {
+        progress.Begin(ShownName(input));
+        try {
+            allDrawn = DrawOne(options, input, drawn) && allDrawn;
+        } catch (const UserError& error) {
+            Tell(error.what());
+            allDrawn = false;
+        }
     }
-    TellRemarks(options, document);
-    picture->Engine().TranslateTransform(kMargin - extent.X, kMargin - extent.Y,
-                                         penlode::MatrixOrder::Prepend);
-    document.Content->Draw(picture->Engine());
-    WriteFileWhole(options.Output, picture->Finish());
+    return allDrawn;
 }
 
 } // namespace cli

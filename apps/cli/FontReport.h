@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ChartDocument.h"
+#include "Chart.h"
 
 #include <string>
 #include <vector>

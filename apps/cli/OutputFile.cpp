@@ -1,20 +1,26 @@
 #include "OutputFile.h"
 
+#include "InputFile.h"
 #include "UserError.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 #include <random>
 #include <system_error>
 
 namespace cli {
 namespace {
 
+namespace fs = std::filesystem;
+
 std::string BesideName(const std::string& name) {
     return name + "." + std::to_string(std::random_device{}()) + ".part";
+}
+
+bool Put(std::FILE* file, std::string_view bytes) {
+    return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
 }
 
 /// True when every byte reached the file and it closed without an error.
@@ -23,7 +29,7 @@ bool WriteBytes(const std::string& name, std::string_view bytes) {
     if (file == nullptr) {
         return false;
     }
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    const bool written = Put(file, bytes);
     const int error = errno;
     const bool closed = std::fclose(file) == 0;
     if (!written) {
@@ -32,22 +38,55 @@ bool WriteBytes(const std::string& name, std::string_view bytes) {
     return written && closed;
 }
 
-} // namespace
+void Require(bool written, const std::string& name) {
+    if (!written) {
+        throw UserError(ShownOutput(name), std::string("cannot be written: ") + std::strerror(errno));
+    }
+}
+
+/// The file that a link leads to, so that the link stays one.
+std::string BehindLinks(const std::string& name) {
+    std::error_code error;
+    const fs::path target = fs::is_symlink(name, error) ? fs::canonical(name, error) : fs::path(name);
+    return error ? name : target.string();
+}
 
 void WriteFileWhole(const std::string& name, std::string_view bytes) {
-    const std::string part = BesideName(name);
+    const std::string target = BehindLinks(name);
+    const std::string part = BesideName(target);
     std::error_code error;
     if (!WriteBytes(part, bytes)) {
-        const std::string reason = std::strerror(errno);
-        std::filesystem::remove(part, error);
-        throw UserError(name + ": cannot be written: " + reason);
+        error = std::error_code(errno, std::generic_category());
+    } else {
+        fs::rename(part, target, error);
     }
-    std::filesystem::rename(part, name, error);
     if (error) {
-        const std::string reason = error.message();
-        std::filesystem::remove(part, error);
-        throw UserError(name + ": cannot be written: " + reason);
+        std::error_code ignored;
+        fs::remove(part, ignored);
+        throw UserError(name, "cannot be written: " + error.message());
     }
+}
+
+bool IsDeviceOrPipe(const std::string& name) {
+    std::error_code error;
+    const fs::file_status status = fs::status(name, error);
+    return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+}
+
+} // namespace
+
+void WriteOutput(const std::string& name, std::string_view bytes) {
+    if (name == kStandardStream) {
+        Require(Put(stdout, bytes), name);
+    } else if (IsDeviceOrPipe(name)) {
+        Require(WriteBytes(name, bytes), name);
+    } else {
+        WriteFileWhole(name, bytes);
+    }
+}
+
+std::string ShownOutput(const std::string& name) {
+    return name == kStandardStream ? "standard output" : name;
 }
 
 } // namespace cli

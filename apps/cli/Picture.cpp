@@ -17,6 +17,16 @@ using penlode::CGraphicsEngine;
 constexpr std::array<std::pair<const char*, PictureFormat>, 3> kEndings{
     {{".png", PictureFormat::Png}, {".svg", PictureFormat::Svg}, {".pdf", PictureFormat::Pdf}}};
 
+penlode::Color BackgroundOf(const PictureSettings& settings) {
+    return settings.Background.value_or(penlode::kWhite);
+}
+
+/// Nothing for one that cannot be seen.
+std::optional<penlode::Color> SvgBackground(const PictureSettings& settings) {
+    const penlode::Color color = BackgroundOf(settings);
+    return color.A() == 0 ? std::nullopt : std::optional(color);
+}
+
 class CairoPicture final : public Picture {
 public:
     CairoPicture(std::unique_ptr<CGraphicsEngine> engine, std::string (*finish)(CGraphicsEngine&))
@@ -35,7 +45,8 @@ class SvgPicture final : public Picture {
 public:
     explicit SvgPicture(const PictureSettings& settings)
         : m_engine(settings.Page,
-                   {settings.Title, settings.Description, penlode::kWhite, settings.TextAsOutlines}) {}
+                   {settings.Title, settings.Description, SvgBackground(settings), settings.TextAsOutlines}) {
+    }
 
     penlode::IGraphicsEngine& Engine() override { return m_engine; }
 
@@ -44,6 +55,15 @@ public:
 private:
     penlode::CSvgEngine m_engine;
 };
+
+std::unique_ptr<CGraphicsEngine> PdfPage(const PictureSettings& settings) {
+    auto engine = CGraphicsEngine::ForPdf(settings.Page);
+    if (engine != nullptr && settings.Background) {
+        const penlode::SolidBrush brush{*settings.Background};
+        engine->FillRectangle(&brush, 0.0F, 0.0F, settings.Page.Width, settings.Page.Height);
+    }
+    return engine;
+}
 
 std::unique_ptr<Picture> OnCairo(std::unique_ptr<CGraphicsEngine> engine,
                                  std::string (*finish)(CGraphicsEngine&)) {
@@ -64,15 +84,23 @@ std::optional<PictureFormat> FormatOfName(const std::string& fileName) {
     return std::nullopt;
 }
 
+const char* EndingOf(PictureFormat format) {
+    for (const auto& [ending, known] : kEndings) {
+        if (known == format) {
+            return ending;
+        }
+    }
+    return "";
+}
+
 std::unique_ptr<Picture> MakePicture(const PictureSettings& settings) {
     switch (settings.Format) {
     case PictureFormat::Svg:
         return std::make_unique<SvgPicture>(settings);
     case PictureFormat::Pdf:
-        return OnCairo(CGraphicsEngine::ForPdf(settings.Page),
-                       [](CGraphicsEngine& engine) { return engine.FinishPdf(); });
+        return OnCairo(PdfPage(settings), [](CGraphicsEngine& engine) { return engine.FinishPdf(); });
     default:
-        return OnCairo(CGraphicsEngine::ForRaster(settings.Page, settings.Dpi, penlode::kWhite),
+        return OnCairo(CGraphicsEngine::ForRaster(settings.Page, settings.Dpi, BackgroundOf(settings)),
                        [](CGraphicsEngine& engine) { return engine.EncodePng(); });
     }
 }

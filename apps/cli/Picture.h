@@ -1,5 +1,6 @@
 #pragma once
 
+#include "penlode/Color.h"
 #include "penlode/Geometry.h"
 #include "penlode/IGraphicsEngine.h"
 
@@ -14,11 +15,16 @@ enum class PictureFormat { Png, Svg, Pdf };
 /// The format that a file name's ending names, in either case; nothing for other endings.
 std::optional<PictureFormat> FormatOfName(const std::string& fileName);
 
+/// ".png"
+const char* EndingOf(PictureFormat format);
+
 /// What a picture is made for. Texts are UTF-8.
 struct PictureSettings {
     PictureFormat Format = PictureFormat::Png;
-    penlode::SizeF Page;         ///< mm
-    double Dpi = 96.0;           ///< of a PNG
+    penlode::SizeF Page; ///< mm
+    double Dpi = 96.0;   ///< of a PNG
+    /// White, if there is none, under a PNG or SVG; a PDF's paper is left as it is.
+    std::optional<penlode::Color> Background;
     std::string Title;           ///< of an SVG
     std::string Description;     ///< of an SVG
     bool TextAsOutlines = false; ///< of an SVG: glyphs that need no font

@@ -5,9 +5,21 @@
 
 namespace cli {
 
-/// What a person has to put right, in words for that person (UTF-8): the file, the place in it, what was
-/// found and what was expected.
+/// What a person has to put right, in words for that person (UTF-8): the file, and what is the matter.
 class UserError : public std::runtime_error {
+public:
+    UserError(const std::string& file, std::string reason)
+        : std::runtime_error(file + ": " + reason), m_reason(std::move(reason)) {}
+
+    /// Without the file's name.
+    const std::string& Reason() const { return m_reason; }
+
+private:
+    std::string m_reason;
+};
+
+/// A wish that cannot be carried out as it was spelt, told after the name of the option.
+class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };

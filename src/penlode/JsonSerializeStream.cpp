@@ -323,4 +323,9 @@ bool CJsonSerializeStream::Has(const std::string& tag) const {
     return m_document->Find(tag) != nullptr;
 }
 
+bool CJsonSerializeStream::IsList(const std::string& tag) const {
+    const Json* const entry = m_document->Find(tag);
+    return entry != nullptr && entry->is_array();
+}
+
 } // namespace penlode

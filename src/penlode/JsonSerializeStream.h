@@ -63,6 +63,8 @@ public:
 
     /// Is there an entry of this tag in the current group? Asking does not count as loading it.
     bool Has(const std::string& tag) const;
+    /// Is that entry a list? Asking does not count as loading it.
+    bool IsList(const std::string& tag) const;
 
 private:
     struct Document;

@@ -1,100 +1,100 @@
-#include "support/Command.h"
-#include "support/PngFile.h"
+#include "CommandTest.h"
 
-#include <gtest/gtest.h>
+#include <cstdint>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-class Draw : public testing::Test {
-protected:
-    std::string Path(const std::string& name) const { return m_folder.Path(name); }
+using cli_test::kSmallPie;
+using cli_test::Outcome;
+using cli_test::ReadAll;
 
-    std::string Write(const std::string& name, const std::string& text) const {
-        return m_folder.Write(name, text);
+/// A number of a PNG's chunk, big-endian.
+std::uint32_t BigEndian(const std::string& bytes, std::size_t at) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        value = value << 8U | static_cast<unsigned char>(bytes.at(at + i));
+    }
+    return value;
+}
+
+class Draw : public cli_test::CommandTest {
+protected:
+    /// Pixels of a PNG across and down.
+    std::pair<std::uint32_t, std::uint32_t> PngSize(const std::string& name) const {
+        const std::string png = Read(name);
+        return {BigEndian(png, 16), BigEndian(png, 20)};
     }
 
-    /// What the command says of a document, without its name and the file's.
+    /// What the command says of a document, without its own name and the file's.
     std::string Complaint(const std::string& text) const {
-        const std::string input = Write("a.json", text);
-        const Outcome outcome = Millichart("draw " + input + " -o " + Path("a.png"));
+        Write("a.json", text);
+        const Outcome outcome = Run("millichart draw a.json -o a.png");
         EXPECT_EQ(outcome.Status, 1) << text;
-        EXPECT_FALSE(fs::exists(Path("a.png"))) << text;
-        std::string said = outcome.Text;
-        const std::string head = "millichart: " + input + ": ";
+        EXPECT_FALSE(Exists("a.png")) << text;
+        std::string said = outcome.Errors;
+        const std::string head = "millichart: a.json:";
         for (std::size_t at = said.find(head); at != std::string::npos; at = said.find(head)) {
             said.erase(at, head.size());
         }
         return said;
     }
-
-private:
-    TemporaryFolder m_folder;
 };
-
-const char* const kSmall =
-    R"({"kind": "pie", "property": {"PieBasicProp": {"ComponentColor": ["#336699", "#993366"],
-    "FixedSize": 1}}, "data": {"values": [1, 2.5]}})";
 
 } // namespace
 
 TEST_F(Draw, EveryExampleInItsRealSize) {
     int drawn = 0;
     for (const auto& entry : fs::directory_iterator(MILLICHART_EXAMPLES)) {
-        const Outcome outcome = Millichart("draw " + entry.path().string() + " --dpi 60 -o " + Path("a.png"));
+        const Outcome outcome = Run("millichart draw " + entry.path().string() + " --dpi 60 -o a.png");
         EXPECT_EQ(outcome.Status, 0) << entry.path();
-        EXPECT_EQ(outcome.Text, "");
+        EXPECT_EQ(outcome.Errors, "");
         ++drawn;
     }
     EXPECT_GE(drawn, 6);
 
     // A pie of 20 mm and 5 mm round it, at 254 dots per inch: 10 pixels a millimetre.
-    const Outcome outcome = Millichart("draw " + Write("s.json", kSmall) + " --dpi 254 -o " + Path("s.png"));
-    EXPECT_EQ(outcome.Status, 0) << outcome.Text;
-    const std::string png = ReadAll(Path("s.png"));
+    Write("s.json", kSmallPie);
+    const Outcome outcome = Run("millichart draw s.json --dpi 254 -o s.png");
+    EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+    const std::string png = Read("s.png");
     EXPECT_EQ(png.substr(1, 3), "PNG");
-    EXPECT_EQ(PngNumber(png, "IHDR", 0), 300U);
-    EXPECT_EQ(PngNumber(png, "IHDR", 4), 300U);
-    EXPECT_EQ(PngNumber(png, "pHYs", 0), 10000U);
+    EXPECT_EQ(BigEndian(png, 16), 300U);
+    EXPECT_EQ(BigEndian(png, 20), 300U);
+    const std::size_t resolution = png.find("pHYs");
+    ASSERT_NE(resolution, std::string::npos);
+    EXPECT_EQ(BigEndian(png, resolution + 4), 10000U);
 }
 
 TEST_F(Draw, TheExampleOfTheFormatsDescription) {
     const std::string description = ReadAll(MILLICHART_DOCS "/document-format.md");
     const std::size_t begin = description.find("```json") + 7;
     const std::string example = description.substr(begin, description.find("```", begin) - begin);
-    const Outcome outcome = Millichart("draw " + Write("d.json", example) + " -o " + Path("d.png"));
+    Write("d.json", example);
+    const Outcome outcome = Run("millichart draw d.json -o d.png");
     EXPECT_EQ(outcome.Status, 0);
-    EXPECT_EQ(outcome.Text, "");
+    EXPECT_EQ(outcome.Errors, "");
+}
+
+TEST_F(Draw, TheSameDocumentGivesTheSameBytes) {
+    const std::string example = MILLICHART_EXAMPLES "/pie-china-age-2020.chart.json";
+    for (const std::string ending : {".png", ".svg", ".pdf"}) {
+        Run("millichart draw " + example + " -o 1" + ending + " && millichart draw " + example + " -o 2" +
+            ending);
+        EXPECT_FALSE(Read("1" + ending).empty());
+        EXPECT_EQ(Read("1" + ending), Read("2" + ending));
+    }
 }
 
 TEST_F(Draw, LabelsMoveWithTheirOffsetsWithOrWithoutNames) {
     const std::string labelled = R"({"kind": "pie", "property": {"PieBasicProp": {"StartAngle": -90},
         "PieLabelProp": {"ShowPercentLabel": 1}}, "data": {"values": [1, 2]}, "labelOffsets": ["0 0", ")";
-    Millichart("draw " + Write("a.json", labelled + "0 0\"]}") + " -o " + Path("a.png"));
-    Millichart("draw " + Write("b.json", labelled + "0 30\"]}") + " -o " + Path("b.png"));
-    const std::string a = ReadAll(Path("a.png"));
-    const std::string b = ReadAll(Path("b.png"));
-    EXPECT_GT(PngNumber(b, "IHDR", 4), PngNumber(a, "IHDR", 4))
+    Write("a.json", labelled + "0 0\"]}");
+    Write("b.json", labelled + "0 30\"]}");
+    EXPECT_EQ(Run("millichart draw a.json b.json").Status, 0);
+    EXPECT_GT(PngSize("b.png").second, PngSize("a.png").second)
         << "the page grows with the label that moved down";
-}
-
-TEST_F(Draw, SaysWhatIsWrongAndWhere) {
-    EXPECT_EQ(Complaint(R"({"kind": "pye"})"), "kind: found \"pye\", expected \"pie\"\n");
-    EXPECT_EQ(Complaint(R"({"version": 2, "kind": "pie", "data": {"values": [1]}})"),
-              "version: found 2, expected 1\n");
-    EXPECT_EQ(Complaint(R"({"kind": "pie", "data": {"values": [1, "x", {}]}})"),
-              "data/values/2: found {}, expected a text\ndata/values/1: found \"x\", expected a number\n");
-    EXPECT_EQ(Complaint(R"({"kind": "pie", "data": {"values": []}})"),
-              "found nothing to draw, expected values in data/values and a size above 0\n");
-    EXPECT_EQ(
-        Complaint(R"({"kind": "pie", "location": "1", "data": {"values": [1]}, "property": {"PieBasicProp":
-        {"PieStyle": "4D", "PenSepLine": [], "ComponentColor": ["#12345"]}, "PieLabelProp": 3}})"),
-        "property/PieBasicProp/PieStyle: found \"4D\", expected one of \"2D\", \"3D\"\n"
-        "property/PieBasicProp/PenSepLine: found [], expected a text\n"
-        "property/PieBasicProp/ComponentColor/0: found \"#12345\", expected a colour such as #FF336699\n"
-        "property/PieLabelProp: found 3, expected a group\n"
-        "location: found \"1\", expected a point such as \"12.5 40\"\n");
 }
 
 TEST_F(Draw, SaysWhereADocumentCannotBeRead) {
@@ -102,12 +102,12 @@ TEST_F(Draw, SaysWhereADocumentCannotBeRead) {
     EXPECT_NE(Complaint("{\"kind\": \"pie\",\n  \"data\": tru}").find("line 2, column 1"), std::string::npos);
     EXPECT_NE(Complaint("{\"kind\": \"\xFF\"}").find("line 1, column 1"), std::string::npos);
     EXPECT_NE(Complaint(std::string(100000, '[')).find("64"), std::string::npos);
-    const Outcome missing = Millichart("draw " + Path("none.json") + " -o " + Path("a.png"));
+    const Outcome missing = Run("millichart draw none.json -o a.png");
     EXPECT_EQ(missing.Status, 1);
-    EXPECT_NE(missing.Text.find("none.json: cannot be read"), std::string::npos);
-    const Outcome folder = Millichart("draw " + Path("") + " -o " + Path("a.png"));
+    EXPECT_EQ(missing.Errors, "millichart: none.json: cannot be read: No such file or directory\n");
+    const Outcome folder = Run("millichart draw . -o a.png");
     EXPECT_EQ(folder.Status, 1);
-    EXPECT_NE(folder.Text.find("cannot be read: it is a folder"), std::string::npos);
+    EXPECT_EQ(folder.Errors, "millichart: .: cannot be read: it is a folder\n");
 }
 
 TEST_F(Draw, UnsoundNumbersAreRefusedNotDrawn) {
@@ -120,31 +120,128 @@ TEST_F(Draw, UnsoundNumbersAreRefusedNotDrawn) {
 }
 
 TEST_F(Draw, UnknownKeysAreToldAndIgnored) {
-    std::string text = kSmall;
+    std::string text = kSmallPie;
     text.insert(text.size() - 1, R"(, "Colour": 1)");
-    const std::string input = Write("u.json", text);
-    const Outcome outcome = Millichart("draw " + input + " -o " + Path("u.png"));
+    Write("u.json", text);
+    const Outcome outcome = Run("millichart draw u.json");
     EXPECT_EQ(outcome.Status, 0);
-    EXPECT_EQ(outcome.Text, "millichart: " + input + ": Colour: an unknown key, ignored\n");
+    EXPECT_EQ(outcome.Errors, "millichart: u.json:1: warning: Colour: an unknown key, ignored\n");
 }
 
 TEST_F(Draw, AFailureLeavesTheOldPictureWhole) {
-    const std::string picture = Write("p.png", "old");
-    EXPECT_EQ(Millichart("draw " + Write("b.json", "{") + " -o " + picture).Status, 1);
-    EXPECT_EQ(ReadAll(picture), "old");
+    Write("p.png", "old");
+    Write("broken.json", "{");
+    Write("good.json", kSmallPie);
+    EXPECT_EQ(Run("millichart draw broken.json -o p.png").Status, 1);
 
-    const Outcome outcome =
-        Millichart("draw " + Write("g.json", kSmall) + " -o " + Path("no/such/folder.png"));
+    // As on a full disk: no file may grow beyond a few hundred bytes.
+    const Outcome full = Run("ulimit -f 1; millichart draw good.json -o p.png --dpi 600");
+    EXPECT_EQ(full.Status, 1);
+    EXPECT_EQ(full.Errors, "millichart: p.png: cannot be written: File too large\n");
+    EXPECT_EQ(Read("p.png"), "old");
+    EXPECT_EQ(Run("ls").Output, "broken.json\ngood.json\np.png\n") << "nothing is left behind";
+}
+
+TEST_F(Draw, SaysWhyAPictureCannotBeWritten) {
+    Write("g.json", kSmallPie);
+    Write("file", "");
+    const auto complaint = [this](const std::string& output) {
+        const Outcome outcome = Run("millichart draw g.json --format svg -o " + output);
+        EXPECT_EQ(outcome.Status, 1) << output;
+        return outcome.Errors;
+    };
+    EXPECT_EQ(complaint("no/g.svg"), "millichart: no/g.svg: cannot be written: No such file or directory\n");
+    EXPECT_EQ(complaint("file/g.svg"), "millichart: file/g.svg: cannot be written: Not a directory\n");
+    EXPECT_EQ(complaint("file/"), "millichart: file/: cannot be made a folder: File exists\n");
+    EXPECT_EQ(complaint("g.json"), "millichart: g.json: the picture would take the place of its document\n");
+    EXPECT_EQ(complaint("/dev/full"), "millichart: /dev/full: cannot be written: No space left on device\n");
+    EXPECT_EQ(complaint("- >/dev/full"),
+              "millichart: standard output: cannot be written: No space left on device\n");
+    EXPECT_EQ(Read("g.json"), kSmallPie);
+}
+
+TEST_F(Draw, NamesPicturesAfterTheirDocuments) {
+    fs::create_directories(File("in"));
+    for (const char* name : {"in/a.chart.json", "in/b.json", "in/c.txt"}) {
+        Write(name, kSmallPie);
+    }
+    EXPECT_EQ(Run("cd in; millichart draw *").Status, 0);
+    EXPECT_EQ(Run("millichart draw in/a.chart.json in/b.json --format svg -o out").Status, 0);
+    EXPECT_EQ(Run("millichart draw in/b.json -o out").Status, 0);
+    EXPECT_EQ(Run("ls in out").Output, "in:\na.chart.json\na.png\nb.json\nb.png\nc.txt\nc.txt.png\n\n"
+                                       "out:\na.svg\nb.png\nb.svg\n");
+    const Outcome twice = Run("millichart draw in/b.json in/../in/b.json -o twice");
+    EXPECT_EQ(twice.Status, 1);
+    EXPECT_EQ(twice.Errors,
+              "millichart: in/../in/b.json: twice/b.png is already the picture of another input\n");
+}
+
+TEST_F(Draw, AnInputThatFailsDoesNotStopTheOthers) {
+    Write("1.json", kSmallPie);
+    Write("2.json", "{");
+    Write("3.json", kSmallPie);
+    const Outcome outcome = Run("millichart draw 1.json 2.json none.json 3.json");
     EXPECT_EQ(outcome.Status, 1);
-    EXPECT_NE(outcome.Text.find("folder.png: cannot be written: No such file or directory"),
-              std::string::npos);
-    EXPECT_EQ(Millichart("draw " + Path("g.json") + " -o " + Path("")).Status, 1);
+    EXPECT_EQ(outcome.Errors,
+              "millichart: 2.json: line 1, column 2: found the end of the document, expected a key "
+              "in double quotes\nmillichart: none.json: cannot be read: No such file or directory\n")
+        << "and no progress where there is no terminal";
+    EXPECT_TRUE(Exists("1.png") && Exists("3.png"));
+}
+
+TEST_F(Draw, ThePageHasTheChartInItsMiddle) {
+    Write("s.json", kSmallPie);
+    EXPECT_EQ(Run("millichart draw s.json --dpi 254 --page 80x60").Status, 0);
+    EXPECT_EQ(PngSize("s.png"), std::pair(800U, 600U));
+    Run("millichart draw s.json --page 80x60 --background '#80112233' -o s.svg");
+    const std::string svg = Read("s.svg");
+    EXPECT_NE(svg.find("M40 26.75 L30 26.75 A10 6.75"), std::string::npos) << svg;
+    EXPECT_NE(svg.find("#112233"), std::string::npos) << svg;
+    const Outcome small = Run("millichart draw s.json --page 10x60.5");
+    EXPECT_EQ(
+        small.Errors,
+        "millichart: s.json: warning: the chart of 20 x 20 mm is cut off by the page of 10 x 60.5 mm\n");
+    EXPECT_EQ(small.Status, 0);
+}
+
+TEST_F(Draw, TheBackgroundMayBeAbsent) {
+    constexpr std::size_t kColorType = 25;
+    Write("s.json", kSmallPie);
+    Run("millichart draw s.json -o white.png; millichart draw s.json -o bare.png --background none");
+    EXPECT_EQ(Read("white.png").at(kColorType), 2) << "RGB";
+    EXPECT_EQ(Read("bare.png").at(kColorType), 6) << "RGBA";
 }
 
 TEST_F(Draw, WrongUsageIsStatusTwo) {
-    EXPECT_EQ(Millichart("").Status, 2);
-    EXPECT_EQ(Millichart("draw").Status, 2);
-    EXPECT_EQ(Millichart("paint x").Status, 2);
-    EXPECT_EQ(Millichart("draw a.json -o a.png --dpi 0").Status, 2);
-    EXPECT_EQ(Millichart("draw --help").Status, 0);
+    Write("a.json", kSmallPie);
+    for (const char* arguments : {"",
+                                  "draw",
+                                  "paint x",
+                                  "draw a.json --dpi 0",
+                                  "draw a.json -o a.gif",
+                                  "draw a.json --page 1x",
+                                  "draw a.json --page 1x6000",
+                                  "draw a.json --page nanx1",
+                                  "draw a.json --background red",
+                                  "draw a.json --format gif",
+                                  "draw a.json -o a.png --format svg",
+                                  "draw a.json -o -",
+                                  "draw -",
+                                  "draw - - --format png -o x",
+                                  "draw a.json a.json -o -",
+                                  "draw a.json a.json --data x.csv",
+                                  "new",
+                                  "new bar",
+                                  "check",
+                                  "inspect a.json a.json"}) {
+        const Outcome outcome = Run(std::string("millichart ") + arguments + " </dev/null");
+        EXPECT_EQ(outcome.Status, 2) << arguments;
+        EXPECT_EQ(outcome.Errors.find("millichart: "), 0U) << arguments << "\n" << outcome.Errors;
+        EXPECT_EQ(outcome.Output, "") << arguments;
+    }
+    EXPECT_EQ(Run("ls").Output, "a.json\n");
+    EXPECT_EQ(Run("millichart draw --help").Status, 0);
+    EXPECT_EQ(
+        Run("millichart drw a.json").Errors,
+        "millichart: found \"drw\", expected draw, new, check or inspect; millichart --help tells more\n");
 }

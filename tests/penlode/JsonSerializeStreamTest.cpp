@@ -305,6 +305,9 @@ TEST(JsonSerializeStream, UnknownKeysAreReportedInDocumentOrder) {
     stream.Pop();
     EXPECT_TRUE(stream.Has("y"));
     EXPECT_FALSE(stream.Has("x"));
+    EXPECT_TRUE(stream.IsList("y"));
+    EXPECT_FALSE(stream.IsList("z"));
+    EXPECT_FALSE(stream.IsList("x"));
     const Problems expected{{Kind::UnknownKey, "z", "1", ""},
                             {Kind::UnknownKey, "G/多", "{\"b\":2}", ""},
                             {Kind::UnknownKey, "N/0", "{\"e\":6}", ""},

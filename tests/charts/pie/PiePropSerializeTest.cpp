@@ -232,3 +232,25 @@ TEST(PiePropSerialize, TruncatedAndHugeStreamsStaySound) {
     ASSERT_TRUE(back.Problem());
     EXPECT_EQ(back.Problem()->Found, "a count of -1");
 }
+
+/// As an editor does it: what a newer version or another program wrote stands where it stood.
+TEST(PiePropSerialize, ForeignKeysSurviveALoadAndSave) {
+    CJsonSerializeStream stream(R"({"kind": "pie", "theirs": {"deep": [1, null]}, "P": {"PieBasicProp":
+        {"Glow": 0.5, "FixedWidth": 30}, "Note": "ours"}, "data": {"values": [1]}})");
+    PieProp prop;
+    CPiePropSerialize::SerializePieProp(stream, prop, "P");
+    prop.Basic.FixedWidth = 31.0F;
+    stream.BeginSaving();
+    CPiePropSerialize::SerializePieProp(stream, prop, "P");
+
+    CJsonSerializeStream again(stream.Text());
+    PieProp loaded;
+    CPiePropSerialize::SerializePieProp(again, loaded, "P");
+    EXPECT_EQ(loaded, prop);
+    std::string foreign;
+    for (const penlode::StreamProblem& unknown : again.UnknownKeys()) {
+        foreign += unknown.Place + " " + unknown.Found + "\n";
+    }
+    EXPECT_EQ(foreign, "kind \"pie\"\ntheirs {\"deep\":[1,null]}\nP/PieBasicProp/Glow 0.5\nP/Note \"ours\"\n"
+                       "data {\"values\":[1]}\n");
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+enum class Severity { Error, Warning, Note };
+
+/// What the command has to tell about a file. All texts are UTF-8.
+struct Message {
+    std::string File;
+    Severity Weight = Severity::Error;
+    std::size_t Line = 0;    ///< from 1; 0 where no line is meant
+    std::string Place = {};  ///< keys joined by "/", or "line 3, column 7"; empty for the whole file
+    std::string Found = {};  ///< empty where there is nothing to show
+    std::string Wanted = {}; ///< what was expected, or the default that was taken
+    std::string Text = {};   ///< the sentence; empty for "found ..., expected ..."
+};
+
+/// The message on one line: `sales.json:12: data/values/3: found "x", expected a number`. Warnings and notes
+/// say that they are.
+std::string ToLine(const Message& message);
+
+/// The sentence alone, without file and place.
+std::string SentenceOf(const Message& message);
+
+/// All messages as a JSON list of objects, one a line.
+std::string ToJson(const std::vector<Message>& messages);
+
+const char* NameOf(Severity severity);
+
+/// "1 value", "2 values"
+std::string Counted(std::size_t count, const std::string& noun);
+
+bool HasErrors(const std::vector<Message>& messages);
+
+} // namespace cli

@@ -1,0 +1,97 @@
+#include "OutputNames.h"
+
+#include "InputFile.h"
+#include "UserError.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+
+namespace cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsFolder(const DrawOptions& options) {
+    std::error_code error;
+    return options.Output != kStandardStream &&
+           (options.Inputs.size() > 1 || options.Output->ends_with('/') ||
+            fs::is_directory(*options.Output, error));
+}
+
+/// NAME for NAME.chart.json and NAME.json.
+std::string BaseName(const std::string& input) {
+    std::string name = fs::path(input).filename().string();
+    for (const std::string_view ending : {".json", ".chart"}) {
+        if (name.ends_with(ending) && name.size() > ending.size()) {
+            name.resize(name.size() - ending.size());
+        }
+    }
+    return name;
+}
+
+void CheckOneFile(const DrawOptions& options) {
+    const bool isStandard = options.Output == kStandardStream;
+    const auto told = isStandard ? std::nullopt : FormatOfName(*options.Output);
+    if (!told && !options.Format) {
+        throw UsageError(isStandard ? "-o -: expected --format png, svg or pdf with it"
+                                    : "-o " + *options.Output +
+                                          ": expected a name that ends in .png, .svg or .pdf, or --format");
+    }
+    if (told && options.Format && *told != *options.Format) {
+        throw UsageError("-o " + *options.Output + ": its ending tells another format than --format");
+    }
+}
+
+void MakeFolder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw UserError(folder.string(), "cannot be made a folder: " + error.message());
+    }
+}
+
+void RefuseToOverwrite(const std::string& input, const std::string& output) {
+    std::error_code error;
+    if (input != kStandardStream && fs::equivalent(input, output, error)) {
+        throw UserError(input, "the picture would take the place of its document");
+    }
+}
+
+} // namespace
+
+void CheckOutputs(const DrawOptions& options) {
+    const auto standard = std::count(options.Inputs.begin(), options.Inputs.end(), kStandardStream);
+    if (standard + (options.Data == kStandardStream ? 1 : 0) > 1) {
+        throw UsageError("-: the standard input can be read only once");
+    }
+    if (options.Data && options.Inputs.size() > 1) {
+        throw UsageError("--data: expected one FILE with it");
+    }
+    if (options.Inputs.size() > 1 && options.Output == kStandardStream) {
+        throw UsageError("-o -: expected one FILE with it");
+    }
+    if (options.Output ? !IsFolder(options) : standard == 1 && options.Inputs.size() == 1) {
+        DrawOptions named = options;
+        named.Output = options.Output.value_or(kStandardStream);
+        CheckOneFile(named);
+    }
+}
+
+OutputName OutputOf(const DrawOptions& options, const std::string& input) {
+    const bool toStandard = !options.Output && input == kStandardStream;
+    if (toStandard || (options.Output && !IsFolder(options))) {
+        const std::string name = options.Output.value_or(kStandardStream);
+        RefuseToOverwrite(input, name);
+        return {name, options.Format ? *options.Format : *FormatOfName(name)};
+    }
+    const PictureFormat format = options.Format.value_or(PictureFormat::Png);
+    const fs::path folder = options.Output ? fs::path(*options.Output) : fs::path(input).parent_path();
+    if (options.Output) {
+        MakeFolder(folder);
+    }
+    const std::string base = input == kStandardStream ? "chart" : BaseName(input);
+    return {(folder / (base + EndingOf(format))).string(), format};
+}
+
+} // namespace cli

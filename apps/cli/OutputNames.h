@@ -1,0 +1,22 @@
+#pragma once
+
+#include "DrawCommand.h"
+
+#include <string>
+
+namespace cli {
+
+struct OutputName {
+    std::string Name; ///< "-" for the standard output
+    PictureFormat Format;
+};
+
+/// Throws UsageError for options that do not go together, before anything is drawn.
+void CheckOutputs(const DrawOptions& options);
+
+/// Where an input's picture goes: -o, or NAME.png for NAME.chart.json, in the folder that -o names or else
+/// beside the input. The format is the one asked for, or that of the name's ending, or PNG. Makes the folder.
+/// Throws UserError.
+OutputName OutputOf(const DrawOptions& options, const std::string& input);
+
+} // namespace cli

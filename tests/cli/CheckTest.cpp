@@ -1,0 +1,155 @@
+#include "CommandTest.h"
+
+namespace {
+
+using cli_test::kSmallPie;
+using cli_test::Outcome;
+
+/// A broken document, and what `check` says of it but for notes and the last line.
+struct Broken {
+    std::string Document;
+    std::string Said;
+};
+
+std::string Pie(const std::string& property, const std::string& rest = R"("data": {"values": [1, 2]})") {
+    return "{\n\"kind\": \"pie\",\n\"property\": {\n" + property + "\n},\n" + rest + "\n}\n";
+}
+
+class Check : public cli_test::CommandTest {
+protected:
+    static std::string WithoutNotes(const std::string& text) {
+        std::istringstream lines(text);
+        std::string rest;
+        for (std::string line; std::getline(lines, line);) {
+            const bool isSummary =
+                line.find(" errors, ") != std::string::npos || line.find(" error, ") != std::string::npos;
+            rest += line.find(": note: ") == std::string::npos && !isSummary ? line + "\n" : "";
+        }
+        return rest;
+    }
+};
+
+const Broken kBroken[] = {
+    {"", "b.json: line 1, column 1: found the end of the document, expected a value\n"},
+    {"{\n  \"kind\": \"pie\"\n  \"data\": {}\n}",
+     "b.json: line 3, column 3: found \"data\", expected a comma or }\n"},
+    {"{\n  'kind': \"pie\"\n}", "b.json: line 2, column 3: found ', expected a key in double quotes\n"},
+    {"{\"kind\": \"pie\", \"data\": {\"values\": [1, 2,]}}",
+     "b.json: line 1, column 42: found ], expected a value\n"},
+    {"{\"kind\": \"p\xFFie\"}", "b.json: line 1, column 12: found byte 0xFF, expected UTF-8\n"},
+    {"[]", "b.json: line 1, column 1: found [], expected a group in braces\n"},
+    {"{}", "b.json: kind: found no such key, expected \"pie\"\n"},
+    {"{\n\"kind\": \"pye\", \"data\": 1}", "b.json:2: kind: found \"pye\", expected \"pie\"\n"},
+    {"{\"version\": 2,\n\"kind\": \"pie\", \"data\": {\"values\": [1]}}",
+     "b.json:1: version: found 2, expected 1\n"},
+    {Pie("", ""), "b.json: line 7, column 1: found }, expected a key in double quotes\n"},
+    {Pie("", R"("data": {"values": []})"),
+     "b.json: found nothing to draw, expected values in data/values and a size above 0\n"},
+    {Pie("", R"("data": [1, 2])"), "b.json:6: data: found [1,2], expected a group\n"},
+    {Pie("", "\"data\": {\"values\": [\n1,\n\"x\",\n{}]}"),
+     "b.json:8: data/values/1: found \"x\", expected a number\n"
+     "b.json:9: data/values/2: found {}, expected a text\n"},
+    {Pie("", R"("data": {"values": [1e300]})"),
+     "b.json: the chart does not fit a page of 5000 x 5000 mm, check its sizes and values\n"},
+    {Pie("", R"("data": {"values": [1], "csv": "d.csv"})"),
+     "b.json:6: data/csv: found \"d.csv\", expected either values or csv, not both\n"
+     "d.csv: cannot be read: No such file or directory\n"},
+    {Pie("\"PieBasicProp\": {\n\"PieStyle\": \"4D\",\n\"FixedSize\": \"yes\",\n\"FixedWidth\": \"20 mm\",\n"
+         "\"PenSepLine\": [],\n\"ComponentColor\": [\"#123456\",\n\"#12345\"]}"),
+     "b.json:5: property/PieBasicProp/PieStyle: found \"4D\", expected one of \"2D\", \"3D\"\n"
+     "b.json:6: property/PieBasicProp/FixedSize: found \"yes\", expected a whole number\n"
+     "b.json:7: property/PieBasicProp/FixedWidth: found \"20 mm\", expected a number\n"
+     "b.json:8: property/PieBasicProp/PenSepLine: found [], expected a text\n"
+     "b.json:10: property/PieBasicProp/ComponentColor/1: found \"#12345\", expected a colour such as "
+     "#FF336699\n"},
+    {Pie("\"PieLabelProp\": {\"PieLabelTextProperty\": {\n\"字体\": \"宋体\",\n\"TextColor\": \"red\"}}"),
+     "b.json:5: property/PieLabelProp/PieLabelTextProperty/字体: found \"宋体\", expected a font such as "
+     "\"Arial 4 "
+     "bold\"\n"
+     "b.json:6: property/PieLabelProp/PieLabelTextProperty/TextColor: found \"red\", expected a colour such "
+     "as "
+     "#FF336699\n"},
+    {Pie("\"PieBasicProp\": {\"ComponentName\": [\"A||B\", \"C|\"]}, \"PieLegendProp\": 3"),
+     "b.json:4: property/PieBasicProp/ComponentName/0: found \"A||B\", expected a text without || and "
+     "without | at its end\n"
+     "b.json:4: property/PieBasicProp/ComponentName/1: found \"C|\", expected a text without || and without "
+     "| at its end\n"
+     "b.json:4: property/PieLegendProp: found 3, expected a group\n"},
+    {Pie("\"PieBasicProp\": {\n\"FixedSize\": 1,\n\"FixedSize\": 0}"),
+     "b.json:6: property/PieBasicProp/FixedSize: found the key again, expected each key once\n"},
+    {Pie("", R"("location": "1", "labelOffsets": "0 0", "legendOffset": "a b", "data": {"values": [1]})"),
+     "b.json:6: location: found \"1\", expected a point such as \"12.5 40\"\n"
+     "b.json:6: labelOffsets: found \"0 0\", expected a list\n"
+     "b.json:6: legendOffset: found \"a b\", expected a point such as \"12.5 40\"\n"},
+};
+
+} // namespace
+
+TEST_F(Check, TwentyBrokenDocuments) {
+    EXPECT_EQ(std::size(kBroken), 20U);
+    for (const Broken& broken : kBroken) {
+        Write("b.json", broken.Document);
+        const Outcome outcome = Run("millichart check b.json");
+        EXPECT_EQ(WithoutNotes(outcome.Output), broken.Said) << broken.Document;
+        EXPECT_EQ(outcome.Status, 1) << broken.Document;
+        EXPECT_EQ(outcome.Errors, "");
+    }
+}
+
+TEST_F(Check, DoubtfulThingsAreWarningsAndNoFailure) {
+    Write("b.json",
+          Pie("\"PieBasicProp\": {\n\"PieStile\": 1,\n\"Fixedwidth\": 2,\n\"LegendPos\": 3,\n\"旧\": 4,\n"
+              "\"ComponentName\": [\"A\"],\n\"ComponentColor\": []},\n\"Notes\": {\"by\": \"me\"}"));
+    const Outcome outcome = Run("millichart check b.json");
+    EXPECT_EQ(outcome.Status, 0);
+    EXPECT_EQ(
+        WithoutNotes(outcome.Output),
+        "b.json:5: warning: property/PieBasicProp/PieStile: an unknown key, ignored; is \"PieStyle\" meant?\n"
+        "b.json:6: warning: property/PieBasicProp/Fixedwidth: an unknown key, ignored; is \"FixedWidth\" "
+        "meant?\n"
+        "b.json:7: warning: property/PieBasicProp/LegendPos: an unknown key, ignored; is "
+        "\"property/PieLegendProp/LegendPos\" meant?\n"
+        "b.json:8: warning: property/PieBasicProp/旧: an unknown key, ignored\n"
+        "b.json:9: warning: property/PieBasicProp/ComponentName: found 1 name, expected 2, one a value\n"
+        "b.json:10: warning: property/PieBasicProp/ComponentColor: found 0 colours, expected 2, one a value\n"
+        "b.json:11: warning: property/Notes: an unknown key, ignored\n");
+}
+
+TEST_F(Check, MissingKeysAreNotesWithWhatIsTaken) {
+    Write("s.json", kSmallPie);
+    const Outcome outcome = Run("millichart check s.json");
+    EXPECT_EQ(outcome.Status, 0);
+    for (const char* line :
+         {"s.json: note: title: missing, taken as empty\n",
+          "s.json: note: property/PieBasicProp/FixedWidth: missing, \"20\" is taken\n",
+          "s.json: note: property/PieLegendProp: missing, every key in it takes its default\n",
+          "s.json: note: property/PieLegendProp/LegendPos: missing, \"RightCenter\" is taken\n",
+          "s.json: note: labelOffsets: missing, an empty list is taken\n"}) {
+        EXPECT_NE(outcome.Output.find(line), std::string::npos) << line;
+    }
+    EXPECT_NE(outcome.Output.find("\ns.json: 0 errors, 0 warnings, 4"), std::string::npos) << outcome.Output;
+}
+
+TEST_F(Check, JsonForPrograms) {
+    Write("b.json", "{\"kind\": \"pye\"}");
+    Write("empty.json", "");
+    const Outcome outcome = Run("millichart check --json b.json empty.json | grep -v note");
+    EXPECT_EQ(
+        outcome.Output,
+        "[\n"
+        "  "
+        "{\"file\":\"b.json\",\"line\":1,\"severity\":\"error\",\"place\":\"kind\",\"found\":\"\\\"pye\\\"\","
+        "\"expected\":\"\\\"pie\\\"\",\"message\":\"found \\\"pye\\\", expected \\\"pie\\\"\"},\n"
+        "  {\"file\":\"empty.json\",\"line\":1,\"severity\":\"error\",\"place\":\"line 1, column 1\","
+        "\"found\":\"the end of the document\",\"expected\":\"a value\",\"message\":\"found the end of the "
+        "document, expected a value\"}\n]\n");
+    EXPECT_EQ(Run("millichart check --json b.json").Status, 1);
+    EXPECT_EQ(Run("millichart new pie | millichart check --json -").Output, "[]\n");
+}
+
+TEST_F(Check, TheExamplesAreInOrder) {
+    const Outcome outcome = Run("millichart check " MILLICHART_EXAMPLES "/*.json");
+    EXPECT_EQ(outcome.Status, 0);
+    EXPECT_EQ(outcome.Output.find("error: "), std::string::npos);
+    EXPECT_EQ(outcome.Output.find("warning: "), std::string::npos) << outcome.Output;
+}

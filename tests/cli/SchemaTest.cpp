@@ -1,0 +1,74 @@
+#include "CommandTest.h"
+
+#include <regex>
+
+namespace {
+
+using cli_test::Outcome;
+
+constexpr int kNoValidator = 77;
+
+class Schema : public cli_test::CommandTest {
+protected:
+    Outcome Validate(const std::string& files) const {
+        return Run("python3 " MILLICHART_TESTS "/validate.py " MILLICHART_DOCS "/chart.schema.json " + files);
+    }
+
+    bool HasValidator() const { return Validate("").Status != kNoValidator; }
+
+    /// A complete document with one value replaced.
+    std::string Changed(const std::string& pattern, const std::string& replacement) const {
+        const std::string whole = Run("millichart new pie").Output;
+        std::string changed = std::regex_replace(whole, std::regex(pattern), replacement,
+                                                 std::regex_constants::format_first_only);
+        EXPECT_NE(changed, whole) << pattern;
+        return changed;
+    }
+};
+
+} // namespace
+
+#define NEED_VALIDATOR()                                                                                     \
+    if (!HasValidator())                                                                                     \
+    GTEST_SKIP() << "python3-jsonschema is not installed"
+
+TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
+    NEED_VALIDATOR();
+    const Outcome outcome = Validate(MILLICHART_EXAMPLES "/*.json");
+    EXPECT_EQ(outcome.Output + outcome.Errors, "");
+    EXPECT_EQ(outcome.Status, 0);
+    Run("millichart new pie -o pie.json");
+    EXPECT_EQ(Validate("pie.json").Output, "");
+    Write("short.json",
+          R"({"kind": "pie", "property": {"PieBasicProp": {"ComponentName": ["a", 2], "FixedSize": true,
+        "ComponentColor": ["#336699"]}}, "data": {"csv": "d.csv"}})");
+    EXPECT_EQ(Validate("short.json").Output, "");
+}
+
+/// What the schema refuses, `check` refuses or warns of too.
+TEST_F(Schema, RefusesWhatCheckRefuses) {
+    NEED_VALIDATOR();
+    int count = 0;
+    for (const auto& [pattern, replacement] : {std::pair("\"pie\"", "\"pye\""),
+                                               {"\"2D\"", "\"4D\""},
+                                               {"\"60\"", "\"60 mm\""},
+                                               {"#FF3B6FB6", "blue"},
+                                               {"#FFFFFFFF 0.3 solid", "#FFFFFFFF wavy"},
+                                               {"Arial 3.4", "Arial"},
+                                               {"\"0 0\"", "\"1\""},
+                                               {"RightCenter", "Right"},
+                                               {"42.5", "\"x\""},
+                                               {"\"PieStyle\"", "\"PieStile\""},
+                                               {"\"version\": \"1\"", "\"version\": 2"}}) {
+        const std::string name = std::to_string(++count) + ".json";
+        Write(name, Changed(pattern, replacement));
+        const std::string said = Run("millichart check " + name + " | grep -v note: | head -1").Output;
+        EXPECT_EQ(said.find(name + ":"), 0U) << replacement;
+        EXPECT_EQ(said.find(" errors, "), std::string::npos) << replacement << ": " << said;
+    }
+    const std::string refused = Validate("*.json").Output;
+    for (int i = 1; i <= count; ++i) {
+        EXPECT_NE(("\n" + refused).find("\n" + std::to_string(i) + ".json: "), std::string::npos) << i << "\n"
+                                                                                                  << refused;
+    }
+}
