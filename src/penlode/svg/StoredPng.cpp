@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-/// The PNG specification (ISO/IEC 15948) with the zlib and deflate formats of RFC 1950 and RFC 1951.
+/// PNG (ISO/IEC 15948) with the zlib and deflate formats of RFC 1950 and RFC 1951.
 namespace penlode::svg {
 namespace {
 
