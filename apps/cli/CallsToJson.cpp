@@ -70,7 +70,7 @@ struct NamedArgument {
         for (const GraphicsPath::Figure& figure : path.Figures()) {
             Json pieces = Json::array();
             for (const GraphicsPath::Piece& piece : figure.Pieces) {
-                pieces.push_back(std::visit([this](const auto& held) { return Piece(held); }, piece));
+                pieces.push_back(std::visit([](const auto& held) { return Piece(held); }, piece));
             }
             figures.push_back({{"closed", figure.Closed}, {"pieces", pieces}});
         }
