@@ -50,8 +50,6 @@ public:
 
     friend bool operator==(const CountingIterator& a, const CountingIterator& b) { return a.m_at == b.m_at; }
 
-    friend bool operator!=(const CountingIterator& a, const CountingIterator& b) { return a.m_at != b.m_at; }
-
 private:
     const char* m_at;
     LineCount* m_count;
