@@ -113,7 +113,12 @@ private:
         return true;
     }
 
+    /// Documents nest no deeper; what does is refused by the stream and needs no places.
     bool Open(bool isList) {
+        constexpr std::size_t kMostLevels = 64;
+        if (m_levels.size() >= kMostLevels) {
+            return false;
+        }
         Value();
         m_levels.push_back({isList, m_levels.empty() ? kHashStart : m_levels.back().Entry, 0, 0});
         return true;
