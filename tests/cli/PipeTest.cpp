@@ -28,8 +28,8 @@ TEST_F(Pipe, CheckAndInspectReadItToo) {
 }
 
 TEST_F(Pipe, ProgressIsShownOnATerminalAlone) {
-    if (Run("command -v script").Status != 0) {
-        GTEST_SKIP() << "there is no script(1) to make a terminal";
+    if (Run("script -qec true /dev/null").Status != 0) {
+        GTEST_SKIP() << "script(1) is missing or cannot make a terminal here";
     }
     Write("1.json", kSmallPie);
     Write("2.json", kSmallPie);
