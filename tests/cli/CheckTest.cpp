@@ -48,7 +48,7 @@ const Broken kBroken[] = {
     {Pie("", R"("data": [1, 2])"), "b.json:6: data: found [1,2], expected a group\n"},
     {Pie("", "\"data\": {\"values\": [\n1,\n\"x\",\n{}]}"),
      "b.json:8: data/values/1: found \"x\", expected a number\n"
-     "b.json:9: data/values/2: found {}, expected a text\n"},
+     "b.json:9: data/values/2: found {}, expected a number\n"},
     {Pie("", R"("data": {"values": [1e300]})"),
      "b.json: the chart does not fit a page of 5000 x 5000 mm, check its sizes and values\n"},
     {Pie("", R"("data": {"values": [1], "csv": "d.csv"})"),
