@@ -3,7 +3,6 @@
 namespace {
 
 using cli_test::kSmallPie;
-using cli_test::Outcome;
 
 /// A broken document, and what `check` says of it but for notes and the last line.
 struct Broken {

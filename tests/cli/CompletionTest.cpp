@@ -4,8 +4,6 @@
 
 namespace {
 
-using cli_test::Outcome;
-
 class Completion : public cli_test::CommandTest {
 protected:
     /// What bash offers for the last word, in alphabetical order.

@@ -2,8 +2,6 @@
 
 namespace {
 
-using cli_test::Outcome;
-
 class CsvFile : public cli_test::CommandTest {
 protected:
     CsvFile() {

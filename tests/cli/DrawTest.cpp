@@ -7,8 +7,6 @@ namespace fs = std::filesystem;
 namespace {
 
 using cli_test::kSmallPie;
-using cli_test::Outcome;
-using cli_test::ReadAll;
 
 /// A number of a PNG's chunk, big-endian.
 std::uint32_t BigEndian(const std::string& bytes, std::size_t at) {

@@ -1,7 +1,6 @@
 #include "CommandTest.h"
 
 using Inspect = cli_test::CommandTest;
-using cli_test::Outcome;
 
 TEST_F(Inspect, ShowsLayoutAndCallsInTheChartsOwnMillimetres) {
     Write("i.json", R"({"kind": "pie", "property": {"PieBasicProp": {"PieStyle": "2D", "FixedSize": 1,

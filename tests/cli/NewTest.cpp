@@ -1,7 +1,6 @@
 #include "CommandTest.h"
 
 using New = cli_test::CommandTest;
-using cli_test::Outcome;
 
 TEST_F(New, EveryKindIsCompleteAndDraws) {
     for (const std::string kind : {"pie"}) {

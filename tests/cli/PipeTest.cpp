@@ -2,7 +2,6 @@
 
 using Pipe = cli_test::CommandTest;
 using cli_test::kSmallPie;
-using cli_test::Outcome;
 
 TEST_F(Pipe, EveryFormatGoesThroughIt) {
     const Outcome outcome = Run("millichart new pie | tee d.json | millichart draw - --format png >p.png &&"

@@ -4,8 +4,6 @@
 
 namespace {
 
-using cli_test::Outcome;
-
 constexpr int kNoValidator = 77;
 
 class Schema : public cli_test::CommandTest {
