@@ -9,6 +9,8 @@
 #include "Progress.h"
 #include "UserError.h"
 
+#include <filesystem>
+#include <new>
 #include <set>
 
 namespace cli {
@@ -18,6 +20,13 @@ using penlode::RectF;
 using penlode::SizeF;
 
 constexpr float kMargin = 5.0F;
+
+/// One name for a file, however it is called.
+std::string CanonicalName(const std::string& name) {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::weakly_canonical(name, error);
+    return error ? name : path.string();
+}
 
 std::string Millimetres(SizeF size) {
     return ToJson(static_cast<double>(size.Width)).dump() + " x " +
@@ -78,7 +87,8 @@ bool DrawOne(const DrawOptions& options, const std::string& input, std::set<std:
         return false;
     }
     const OutputName output = OutputOf(options, input);
-    if (output.Name != kStandardStream && !drawn.insert(output.Name).second) {
+    RefuseToOverwrite(output.Name, shownName, options, document.DataFiles);
+    if (output.Name != kStandardStream && !drawn.insert(CanonicalName(output.Name)).second) {
         throw UserError(shownName, output.Name + " is already the picture of another input");
     }
     WriteOutput(output.Name, Render(options, document, shownName, output));
@@ -98,6 +108,9 @@ bool Draw(const DrawOptions& options) {
             allDrawn = DrawOne(options, input, drawn) && allDrawn;
         } catch (const UserError& error) {
             Tell(error.what());
+            allDrawn = false;
+        } catch (const std::bad_alloc&) {
+            Tell(ShownName(input) + ": " + kTooLittleMemory);
             allDrawn = false;
         }
     }

@@ -48,11 +48,16 @@ const Broken kBroken[] = {
     {Pie("", "\"data\": {\"values\": [\n1,\n\"x\",\n{}]}"),
      "b.json:8: data/values/1: found \"x\", expected a number\n"
      "b.json:9: data/values/2: found {}, expected a number\n"},
+    {Pie("", "\"data\": {\"values\": [1,\n-2,\nnull,\"inf\"]}"),
+     "b.json:7: data/values/1: found -2, expected 0 or more\n"
+     "b.json:8: data/values/2: found null, expected a number\n"
+     "b.json:8: data/values/3: found \"inf\", expected a number\n"},
     {Pie("", R"("data": {"values": [1e300]})"),
      "b.json: the chart does not fit a page of 5000 x 5000 mm, check its sizes and values\n"},
     {Pie("", R"("data": {"values": [1], "csv": "d.csv"})"),
      "b.json:6: data/csv: found \"d.csv\", expected either values or csv, not both\n"
      "d.csv: cannot be read: No such file or directory\n"},
+    {Pie("", R"("data": {"csv": ""})"), "b.json:6: data/csv: found \"\", expected the name of a CSV file\n"},
     {Pie("\"PieBasicProp\": {\n\"PieStyle\": \"4D\",\n\"FixedSize\": \"yes\",\n\"FixedWidth\": \"20 mm\",\n"
          "\"PenSepLine\": [],\n\"ComponentColor\": [\"#123456\",\n\"#12345\"]}"),
      "b.json:5: property/PieBasicProp/PieStyle: found \"4D\", expected one of \"2D\", \"3D\"\n"
@@ -84,8 +89,7 @@ const Broken kBroken[] = {
 
 } // namespace
 
-TEST_F(Check, TwentyBrokenDocuments) {
-    EXPECT_EQ(std::size(kBroken), 20U);
+TEST_F(Check, BrokenDocuments) {
     for (const Broken& broken : kBroken) {
         Write("b.json", broken.Document);
         const Outcome outcome = Run("millichart check b.json");
@@ -97,7 +101,8 @@ TEST_F(Check, TwentyBrokenDocuments) {
 
 TEST_F(Check, DoubtfulThingsAreWarningsAndNoFailure) {
     Write("b.json",
-          Pie("\"PieBasicProp\": {\n\"PieStile\": 1,\n\"Fixedwidth\": 2,\n\"LegendPos\": 3,\n\"旧\": 4,\n"
+          Pie("\"PieBasicProp\": {\"FixedSize\": 1,\n\"PieStile\": 1,\n\"Fixedwidth\": 2,\n\"LegendPos\": "
+              "3,\n\"旧\": 4,\n"
               "\"ComponentName\": [\"A\"],\n\"ComponentColor\": []},\n\"Notes\": {\"by\": \"me\"}"));
     const Outcome outcome = Run("millichart check b.json");
     EXPECT_EQ(outcome.Status, 0);
@@ -112,6 +117,41 @@ TEST_F(Check, DoubtfulThingsAreWarningsAndNoFailure) {
         "b.json:9: warning: property/PieBasicProp/ComponentName: found 1 name, expected 2, one a value\n"
         "b.json:10: warning: property/PieBasicProp/ComponentColor: found 0 colours, expected 2, one a value\n"
         "b.json:11: warning: property/Notes: an unknown key, ignored\n");
+}
+
+TEST_F(Check, FewMessagesAreShownAndAllOfThemInJson) {
+    std::string values = "-1";
+    std::string rows;
+    for (int i = 1; i < 60; ++i) {
+        values += ",\n-1";
+        rows += "a,-1\n";
+    }
+    Write("b.json", Pie("", "\"data\": {\"values\": [\n" + values + "]}"));
+    Write("d.csv", rows);
+    const std::string said = WithoutNotes(Run("millichart check b.json --data d.csv").Output);
+    EXPECT_NE(said.find("\nb.json:56: data/values/49: found"), std::string::npos) << said;
+    EXPECT_EQ(said.find("b.json:57:"), std::string::npos);
+    EXPECT_NE(said.find("\nb.json: and 10 more\nd.csv:1: "), std::string::npos) << said;
+    EXPECT_NE(said.find("\nd.csv:50: column 2: found -1, expected 0 or more\nd.csv: and 9 more\n"),
+              std::string::npos);
+    const std::string drawn = Run("millichart draw b.json").Errors;
+    EXPECT_EQ(drawn.find("\nmillichart: b.json: and 10 more\n"), drawn.rfind("\nmillichart: ")) << drawn;
+    const Outcome json = Run("millichart check --json b.json | grep -c '\"error\"'");
+    EXPECT_EQ(json.Output, "60\n");
+}
+
+TEST_F(Check, NothingInAFileCanSteerATerminal) {
+    Write("d.csv", "a,\"\x1B[2J\n\xC2\x9B\x07\"\n");
+    Write("b\x1B[31m\n.json", R"({"kind": "pie", "data": {"csv": "d.csv"}})");
+    const Outcome drawn =
+        Run("millichart draw b*.json none\x1B.json; millichart check b*.json | grep -v note: >&2");
+    EXPECT_EQ(drawn.Errors,
+              "millichart: d.csv:1: column 2: found \"\\x1B[2J\\x0A\\xC2\\x9B\\x07\", expected a "
+              "number, or a heading without digits\n"
+              "millichart: none\\x1B.json: cannot be read: No such file or directory\n"
+              "d.csv:1: column 2: found \"\\x1B[2J\\x0A\\xC2\\x9B\\x07\", expected a number, or a "
+              "heading without digits\n"
+              "b\\x1B[31m\\x0A.json: 1 error, 0 warnings, 47 notes\n");
 }
 
 TEST_F(Check, MissingKeysAreNotesWithWhatIsTaken) {
