@@ -38,9 +38,13 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
     Run("millichart new pie -o pie.json");
     EXPECT_EQ(Validate("pie.json").Output, "");
     Write("short.json",
-          R"({"kind": "pie", "property": {"PieBasicProp": {"ComponentName": ["a", 2], "FixedSize": true,
-        "ComponentColor": ["#336699"]}}, "data": {"csv": "d.csv"}})");
-    EXPECT_EQ(Validate("short.json").Output, "");
+          R"({"kind": "pie", "title": 2024, "source": true, "property": {"PieBasicProp": {"FixedSize": true,
+        "ComponentName": ["a|b", 2], "FixedWidth": true, "BaseValue": " 1e2 ", "ComponentColor": ["#336699"]},
+        "PieLabelProp": {"PieLabelTextProperty": {"Angle": "-0000000000090"}}},
+        "data": {"values": [0, "2.5", true]}})");
+    EXPECT_EQ(Run("millichart check short.json").Status, 0);
+    Write("csv.json", R"({"kind": "pie", "data": {"csv": "d.csv"}})");
+    EXPECT_EQ(Validate("short.json csv.json").Output, "");
 }
 
 /// What the schema refuses, `check` refuses or warns of too.
@@ -56,6 +60,16 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
                                                {"\"0 0\"", "\"1\""},
                                                {"RightCenter", "Right"},
                                                {"42.5", "\"x\""},
+                                               {"42.5", "-42.5"},
+                                               {"42.5", "\"-42.5\""},
+                                               {"42.5", "null"},
+                                               {"#FFFFFFFF 0.3 solid", "#FFFFFFFF . solid"},
+                                               {"Arial 3.4", "Arial +"},
+                                               {"\"0 0\"", "\"1.2.3 0\""},
+                                               {"\"Angle\": \"0\"", "\"Angle\": 2147483648"},
+                                               {"\"North\"", "\"North|\""},
+                                               {"\"values\"", "\"worth\": 1, \"values\""},
+                                               {"\"source\"", "\"sauce\": \"\", \"source\""},
                                                {"\"PieStyle\"", "\"PieStile\""},
                                                {"\"version\": \"1\"", "\"version\": 2"}}) {
         const std::string name = std::to_string(++count) + ".json";
