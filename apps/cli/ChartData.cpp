@@ -14,6 +14,17 @@ std::string Beside(const std::string& folder, const std::string& name) {
 
 } // namespace
 
+Message OtherNames(const std::string& place) {
+    return {"",
+            Severity::Warning,
+            0,
+            place,
+            "",
+            "",
+            "other names than in the CSV file, and the document's are taken; leave out " +
+                place.substr(place.rfind('/') + 1) + " for those of the file"};
+}
+
 std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source) {
     const bool isNamed = stream.Has("csv");
     const std::string named = isNamed ? LoadText(stream, "csv", "") : "";

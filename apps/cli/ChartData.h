@@ -18,6 +18,9 @@ struct DataSource {
     std::vector<std::string>* Files; ///< takes the name of each file that is read
 };
 
+/// The warning that a document's names at `place` are others than those that came with its CSV file.
+Message OtherNames(const std::string& place);
+
 /// The table that a chart's data are in: of the file that the user named, or of the one under "csv" in the
 /// stream's current group. Nothing when the data stand in the document. A document with both "csv" and
 /// `key`, under which its own data stand, is refused.

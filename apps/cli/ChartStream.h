@@ -29,6 +29,13 @@ public:
 
     bool Has(const std::string& tag) const { return m_json.Has(tag); }
 
+    bool IsList(const std::string& tag) const { return m_json.IsList(tag); }
+
+    std::size_t ListSize(const std::string& tag) const { return m_json.ListSize(tag); }
+
+    /// Numbers, and NaN for each null or empty text.
+    std::vector<double> LoadNumbersAndGaps(const std::string& tag);
+
     /// The keys that were asked for, UTF-8, by the place of their group.
     const std::map<std::string, std::vector<std::string>>& AskedKeys() const { return m_asked; }
 

@@ -12,13 +12,6 @@
 namespace cli {
 namespace {
 
-/// Cells up to the last one that is not empty.
-std::size_t FilledCells(const CsvRow& row) {
-    const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
-                                   [](const std::string& cell) { return !cell.empty(); });
-    return static_cast<std::size_t>(row.Cells.rend() - last);
-}
-
 std::string ColumnPlace(std::size_t column) {
     return "column " + std::to_string(column + 1);
 }
@@ -88,6 +81,12 @@ void DataTable::Refuse(const std::string& found, const std::string& wanted) {
 void DataTable::Tell(Message message) {
     m_isSound = false;
     m_messages->push_back(std::move(message));
+}
+
+std::size_t FilledCells(const CsvRow& row) {
+    const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
+                                   [](const std::string& cell) { return !cell.empty(); });
+    return static_cast<std::size_t>(row.Cells.rend() - last);
 }
 
 bool IsHeading(const std::string& cell) {

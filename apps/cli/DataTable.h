@@ -45,6 +45,9 @@ private:
     bool m_isSound = true;
 };
 
+/// How many cells a row has up to the last one that is not empty.
+std::size_t FilledCells(const CsvRow& row);
+
 /// Is the text of a number's cell a word over a column, and no malformed or missing number?
 bool IsHeading(const std::string& cell);
 

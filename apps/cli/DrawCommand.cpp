@@ -1,6 +1,7 @@
 #include "DrawCommand.h"
 
 #include "ChartDocument.h"
+#include "ChartExtent.h"
 #include "Console.h"
 #include "FontReport.h"
 #include "InputFile.h"
@@ -58,7 +59,7 @@ SizeF PageOf(const DrawOptions& options, const RectF& extent, const std::string&
 /// The file's bytes.
 std::string Render(const DrawOptions& options, const ChartDocument& document, const std::string& shownName,
                    const OutputName& output) {
-    const RectF extent = document.Content->Extent();
+    const RectF extent = ExtentWithTexts(*document.Content);
     const SizeF page = PageOf(options, extent, shownName);
     const std::unique_ptr<Picture> picture =
         MakePicture({output.Format, page, options.Dpi, options.Background, document.Title,

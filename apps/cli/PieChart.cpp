@@ -101,9 +101,7 @@ private:
         if (names.empty() || (data.NamesGoFirst && !data.Names.empty())) {
             names = std::move(data.Names);
         } else if (!data.Names.empty() && data.Names != names) {
-            m_doubts.push_back({"", Severity::Warning, 0, kNamesPlace, "", "",
-                                "other names than in the CSV file, and the document's are taken; leave out "
-                                "ComponentName for those of the file"});
+            m_doubts.push_back(OtherNames(kNamesPlace));
         }
     }
 

@@ -2,8 +2,11 @@
 
 #include "penlode/JsonTree.h"
 #include "penlode/StringUtil.h"
+#include "penlode/TextForms.h"
 
 #include <charconv>
+#include <cmath>
+#include <limits>
 #include <optional>
 #include <unordered_map>
 #include <unordered_set>
@@ -62,6 +65,8 @@ struct CJsonSerializeStream::Document {
     std::optional<std::string> LoadText(const std::string& tag, const std::string& defaultValue);
     std::optional<std::vector<std::string>> LoadList(const std::string& tag,
                                                      const std::vector<std::string>& defaults);
+    const Json::array_t* AskList(const std::string& tag, const std::vector<std::string>& defaults);
+    double LoadNumberOrGap(const std::string& tag, const Json& item, std::size_t index);
     std::string LoadItem(const std::string& tag, const Json::array_t& items, std::size_t index);
     Json* EnterGroup(const std::string& tag, int index, std::string& place);
     Json* MakeGroup(const std::string& tag, int index);
@@ -150,24 +155,49 @@ std::optional<std::string> CJsonSerializeStream::Document::LoadText(const std::s
 
 std::optional<std::vector<std::string>>
 CJsonSerializeStream::Document::LoadList(const std::string& tag, const std::vector<std::string>& defaults) {
+    const Json::array_t* const items = AskList(tag, defaults);
+    if (items == nullptr) {
+        return std::nullopt;
+    }
+    std::vector<std::string> texts;
+    texts.reserve(items->size());
+    for (std::size_t i = 0; i < items->size(); ++i) {
+        texts.push_back(LoadItem(tag, *items, i));
+    }
+    return texts;
+}
+
+/// The items of a list that is asked for; null, and reported, when there is none.
+const Json::array_t* CJsonSerializeStream::Document::AskList(const std::string& tag,
+                                                             const std::vector<std::string>& defaults) {
     const Json* const entry = Ask(tag);
     if (entry == nullptr) {
         Report(Kind::MissingKey, PlaceOf(tag), "", ListText(defaults));
-        return std::nullopt;
+        return nullptr;
     }
     if (!entry->is_array()) {
         Report(Kind::WrongType, PlaceOf(tag), Shown(*entry), "a list");
-        return std::nullopt;
+        return nullptr;
     }
     LastList = entry;
     LastListPlace = PlaceOf(tag);
-    const auto& items = entry->get_ref<const Json::array_t&>();
-    std::vector<std::string> texts;
-    texts.reserve(items.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        texts.push_back(LoadItem(tag, items, i));
+    return &entry->get_ref<const Json::array_t&>();
+}
+
+double CJsonSerializeStream::Document::LoadNumberOrGap(const std::string& tag, const Json& item,
+                                                       std::size_t index) {
+    constexpr double gap = std::numeric_limits<double>::quiet_NaN();
+    if (item.is_number()) {
+        return item.get<double>();
     }
-    return texts;
+    std::string text = item.is_string() ? item.get<std::string>() : std::string();
+    double number = gap;
+    const bool isGap = item.is_null() || (item.is_string() && text.empty());
+    if (!isGap && !(item.is_string() && ser_evaluate(number, text, false) && std::isfinite(number))) {
+        Report(Kind::Refused, JoinedPlace(PlaceOf(tag), std::to_string(index)), Shown(item), kFloatForm);
+        return gap;
+    }
+    return number;
 }
 
 /// An item that is no text is empty, so that the others keep their places.
@@ -352,6 +382,24 @@ void CJsonSerializeStream::Refuse(const std::string& tag, const std::string& fou
 
 bool CJsonSerializeStream::Has(const std::string& tag) const {
     return m_document->Find(tag) != nullptr;
+}
+
+std::size_t CJsonSerializeStream::ListSize(const std::string& tag) const {
+    const Json* const entry = m_document->Find(tag);
+    return entry != nullptr && entry->is_array() ? entry->size() : 0;
+}
+
+std::vector<double> CJsonSerializeStream::LoadNumbersAndGaps(const std::string& tag) {
+    const Json::array_t* const items = m_document->AskList(tag, {});
+    std::vector<double> numbers;
+    if (items == nullptr) {
+        return numbers;
+    }
+    numbers.reserve(items->size());
+    for (std::size_t i = 0; i < items->size(); ++i) {
+        numbers.push_back(m_document->LoadNumberOrGap(tag, (*items)[i], i));
+    }
+    return numbers;
 }
 
 bool CJsonSerializeStream::IsList(const std::string& tag) const {

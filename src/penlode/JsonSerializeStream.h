@@ -65,6 +65,12 @@ public:
     bool Has(const std::string& tag) const;
     /// Is that entry a list? Asking does not count as loading it.
     bool IsList(const std::string& tag) const;
+    /// The items of that list; 0 for what is none. Asking does not count as loading it.
+    std::size_t ListSize(const std::string& tag) const;
+
+    /// Loads a list of numbers, or of their texts. A null or an empty text is a gap, NaN; what is no finite
+    /// number is a gap too, and refused. Nothing where there is no list.
+    std::vector<double> LoadNumbersAndGaps(const std::string& tag);
 
 private:
     struct Document;
