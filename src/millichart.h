@@ -3,6 +3,7 @@
 /// Everything that a host needs: the charts, their records, the serializers and the streams. The engine that
 /// a host draws on is included by its own header, such as penlode/cairo/GraphicsEngine.h.
 #include "charts/pie/BasicHalfPie.h"
+#include "charts/pie/BasicHalfPieHalfPie.h"
 #include "charts/pie/BasicPie.h"
 #include "charts/pie/HalfPieProp.h"
 #include "charts/pie/HalfPiePropSerialize.h"
