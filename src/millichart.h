@@ -2,6 +2,9 @@
 
 /// Everything that a host needs: the charts, their records, the serializers and the streams. The engine that
 /// a host draws on is included by its own header, such as penlode/cairo/GraphicsEngine.h.
+#include "charts/histogram/BasicHistogram.h"
+#include "charts/histogram/HistogramProp.h"
+#include "charts/histogram/HistogramPropSerialize.h"
 #include "charts/pie/BasicHalfPie.h"
 #include "charts/pie/BasicHalfPieHalfPie.h"
 #include "charts/pie/BasicPie.h"
