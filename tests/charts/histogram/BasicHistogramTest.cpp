@@ -1,5 +1,6 @@
 #include "charts/histogram/BasicHistogram.h"
 
+#include "support/Rects.h"
 #include "support/Texts.h"
 
 #include <cmath>
@@ -35,13 +36,6 @@ CBasicHistogram LaidOut(const HistogramProp& prop, const Groups& groups,
     chart.SetLocation({100, 200});
     chart.Layout();
     return chart;
-}
-
-void ExpectNear(const RectF& actual, const RectF& expected) {
-    EXPECT_NEAR(actual.X, expected.X, 1e-4F);
-    EXPECT_NEAR(actual.Y, expected.Y, 1e-4F);
-    EXPECT_NEAR(actual.Width, expected.Width, 1e-4F);
-    EXPECT_NEAR(actual.Height, expected.Height, 1e-4F);
 }
 
 /// Everything round the plot, with texts of known sizes.
