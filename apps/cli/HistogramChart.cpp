@@ -48,7 +48,7 @@ public:
             CloseGaps();
         }
         m_chart.SetHistogramProp(prop);
-        ValueRange(stream, prop.Plot.LogarithmScale != 0)
+        ValueRange(stream, prop.Plot.LogarithmScale != 0, *source.Messages)
             .ApplyTo(m_chart, LargestOf(m_data.Values, isStacked));
         m_chart.SetComponentValue(m_data.Values);
         m_chart.SetGroupName(m_data.GroupNames);

@@ -63,7 +63,7 @@ void ReadTable(DataTable& table, HistogramData& data) {
 
 void LoadGroups(ChartStream& stream, HistogramData& data) {
     bool hasNames = false;
-    const std::size_t count = stream.ListSize(kGroups);
+    const std::size_t count = stream.CountGroups(kGroups);
     for (std::size_t i = 0; i < count; ++i) {
         stream.Push(kGroups, static_cast<int>(i));
         hasNames = hasNames || stream.Has("name");
@@ -91,16 +91,19 @@ HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source) {
     HistogramData data;
     stream.Push("data", -1);
     std::optional<DataTable> table = LoadDataTable(stream, kGroups, source);
-    if (table) {
-        ReadTable(*table, data);
-        data.NamesGoFirst = source.NamedByUser.has_value();
-    } else if (stream.IsList(kGroups)) {
+    if (stream.Offers(kGroups) && stream.IsList(kGroups)) {
         LoadGroups(stream, data);
-    } else {
-        stream.Refuse(kGroups, stream.Has(kGroups) ? "no list" : "no such key",
-                      "a list of groups, each with a name and values, or csv with a file");
+    } else if (!table) {
+        source.Messages->push_back({"", Severity::Error, 0, "data/groups",
+                                    stream.Has(kGroups) ? "no list" : "no such key",
+                                    "a list of groups, each with a name and values, or csv with a file"});
     }
     stream.Pop();
+    if (table) {
+        data = {};
+        ReadTable(*table, data);
+        data.NamesGoFirst = source.NamedByUser.has_value();
+    }
     return data;
 }
 

@@ -36,40 +36,42 @@ bool IsLogarithmRange(const std::vector<double>& r) {
 
 } // namespace
 
-ValueRange::ValueRange(ChartStream& stream, bool isLogarithmic) {
-    if (!stream.Has("range")) {
+ValueRange::ValueRange(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) {
+    if (!stream.Has("range") || !stream.Push("range", -1)) {
         return;
     }
-    stream.Push("range", -1);
-    if (stream.Has(kLargest)) {
+    if (stream.Offers(kLargest)) {
         m_largest = {LoadNumber(stream, kLargest, 0.0)};
     }
-    if (stream.Has(kNatural)) {
+    if (stream.Offers(kNatural)) {
         m_natural = LoadNumbers(stream, kNatural);
     }
-    if (stream.Has(kLogarithm)) {
+    if (stream.Offers(kLogarithm)) {
         m_logarithm = LoadNumbers(stream, kLogarithm);
     }
-    Check(stream, isLogarithmic);
+    Check(stream, isLogarithmic, messages);
     stream.Pop();
 }
 
-void ValueRange::Check(ChartStream& stream, bool isLogarithmic) const {
-    const char* const wanted = isLogarithmic ? kLogarithm : kNatural;
-    const char* const foreign = isLogarithmic ? kNatural : kLogarithm;
+void ValueRange::Check(const ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const {
+    const std::string own = isLogarithmic ? kLogarithm : kNatural;
+    const std::string foreign = isLogarithmic ? kNatural : kLogarithm;
+    const auto tell = [&](const std::string& key, const std::string& found, const std::string& wanted) {
+        messages.push_back({"", Severity::Error, 0, key.empty() ? "range" : "range/" + key, found, wanted});
+    };
     if (stream.Has(foreign)) {
-        stream.Refuse(foreign, "a range of the other scale",
-                      std::string(wanted) + ", as LogarithmScale is " + (isLogarithmic ? "on" : "off"));
-    } else if (stream.Has(wanted) && stream.Has(kLargest)) {
-        stream.Refuse(kLargest, "two ranges", std::string("either it or ") + wanted);
+        tell(foreign, "a range of the other scale",
+             own + ", as LogarithmScale is " + (isLogarithmic ? "on" : "off"));
+    } else if (stream.Has(own) && stream.Has(kLargest)) {
+        tell(kLargest, "a second range", "either it or " + own);
     } else if (stream.Has(kNatural) && !IsNaturalRange(m_natural)) {
-        stream.Refuse(kNatural, ListShown(m_natural),
-                      "minimum, larger maximum, major step and minor step, both above 0 and for fewer than "
-                      "100000 ticks");
+        tell(kNatural, ListShown(m_natural),
+             "minimum, larger maximum, major step and minor step, both above 0 and for fewer than 100000 "
+             "ticks");
     } else if (stream.Has(kLogarithm) && !IsLogarithmRange(m_logarithm)) {
-        stream.Refuse(kLogarithm, ListShown(m_logarithm), "minimum above 0 and larger maximum");
-    } else if (!stream.Has(kNatural) && !stream.Has(kLogarithm) && !stream.Has(kLargest)) {
-        stream.Refuse("", "no range", std::string(kLargest) + " or " + wanted);
+        tell(kLogarithm, ListShown(m_logarithm), "minimum above 0 and larger maximum");
+    } else if (!stream.Has(own) && !stream.Has(kLargest)) {
+        tell("", "no range", std::string(kLargest) + " or " + own);
     }
 }
 

@@ -18,7 +18,7 @@ namespace cli {
 class ValueRange {
 public:
     /// Refuses what is not one sound range of the chart's scale.
-    ValueRange(ChartStream& stream, bool isLogarithmic);
+    ValueRange(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages);
 
     template <class Chart> void ApplyTo(Chart& chart, double largest) const {
         if (m_natural.size() == 4) {
@@ -31,7 +31,7 @@ public:
     }
 
 private:
-    void Check(ChartStream& stream, bool isLogarithmic) const;
+    void Check(const ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const;
 
     std::vector<double> m_largest;
     std::vector<double> m_natural;

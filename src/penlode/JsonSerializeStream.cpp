@@ -218,6 +218,7 @@ Json* CJsonSerializeStream::Document::EnterGroup(const std::string& tag, int ind
         Entered.insert(entry);
         const auto item = static_cast<std::size_t>(index);
         entry = item < entry->size() ? &(*entry)[item] : nullptr;
+        Asked.insert(entry);
         place = JoinedPlace(place, std::to_string(index));
     } else if (entry != nullptr && index > 0) {
         Report(Kind::WrongType, place, Shown(*entry), "a list of groups");
@@ -250,7 +251,7 @@ Json* CJsonSerializeStream::Document::MakeGroup(const std::string& tag, int inde
 void CJsonSerializeStream::Document::AddUnknown(const Json& group, const std::string& place,
                                                 std::vector<StreamProblem>& unknown) const {
     for (const auto& [key, entry] : group.items()) {
-        const bool asked = group.is_object() ? Asked.contains(&entry) : Entered.contains(&entry);
+        const bool asked = Asked.contains(&entry);
         if (!asked) {
             unknown.push_back({Kind::UnknownKey, JoinedPlace(place, key), Shown(entry), ""});
         } else if (Entered.contains(&entry)) {
@@ -384,9 +385,13 @@ bool CJsonSerializeStream::Has(const std::string& tag) const {
     return m_document->Find(tag) != nullptr;
 }
 
-std::size_t CJsonSerializeStream::ListSize(const std::string& tag) const {
-    const Json* const entry = m_document->Find(tag);
-    return entry != nullptr && entry->is_array() ? entry->size() : 0;
+std::size_t CJsonSerializeStream::CountGroups(const std::string& tag) {
+    const Json* const entry = m_document->Ask(tag);
+    if (entry == nullptr || !entry->is_array()) {
+        return 0;
+    }
+    m_document->Entered.insert(entry);
+    return entry->size();
 }
 
 std::vector<double> CJsonSerializeStream::LoadNumbersAndGaps(const std::string& tag) {

@@ -65,8 +65,8 @@ public:
     bool Has(const std::string& tag) const;
     /// Is that entry a list? Asking does not count as loading it.
     bool IsList(const std::string& tag) const;
-    /// The items of that list; 0 for what is none. Asking does not count as loading it.
-    std::size_t ListSize(const std::string& tag) const;
+    /// How many groups there are to push in a list of them; 0 for what is no list.
+    std::size_t CountGroups(const std::string& tag);
 
     /// Loads a list of numbers, or of their texts. A null or an empty text is a gap, NaN; what is no finite
     /// number is a gap too, and refused. Nothing where there is no list.

@@ -28,6 +28,12 @@ protected:
     }
 };
 
+const std::string kGroups = R"("data": {"groups": [{"values": [5]}]})";
+
+std::string Histogram(const std::string& rest) {
+    return "{\n\"kind\": \"histogram\",\n" + rest + "}";
+}
+
 const Broken kBroken[] = {
     {"", "b.json: line 1, column 1: found the end of the document, expected a value\n"},
     {"{\n  \"kind\": \"pie\"\n  \"data\": {}\n}",
@@ -37,8 +43,9 @@ const Broken kBroken[] = {
      "b.json: line 1, column 42: found ], expected a value\n"},
     {"{\"kind\": \"p\xFFie\"}", "b.json: line 1, column 12: found byte 0xFF, expected UTF-8\n"},
     {"[]", "b.json: line 1, column 1: found [], expected a group in braces\n"},
-    {"{}", "b.json: kind: found no such key, expected \"pie\"\n"},
-    {"{\n\"kind\": \"pye\", \"data\": 1}", "b.json:2: kind: found \"pye\", expected \"pie\"\n"},
+    {"{}", "b.json: kind: found no such key, expected " + cli_test::kKinds + "\n"},
+    {"{\n\"kind\": \"pye\", \"data\": 1}",
+     "b.json:2: kind: found \"pye\", expected " + cli_test::kKinds + "\n"},
     {"{\"version\": 2,\n\"kind\": \"pie\", \"data\": {\"values\": [1]}}",
      "b.json:1: version: found 2, expected 1\n"},
     {Pie("", ""), "b.json: line 7, column 1: found }, expected a key in double quotes\n"},
@@ -85,6 +92,29 @@ const Broken kBroken[] = {
      "b.json:6: location: found \"1\", expected a point such as \"12.5 40\"\n"
      "b.json:6: labelOffsets: found \"0 0\", expected a list\n"
      "b.json:6: legendOffset: found \"a b\", expected a point such as \"12.5 40\"\n"},
+    {Histogram(R"("data": {})"),
+     "b.json: data/groups: found no such key, expected a list of groups, each with a "
+     "name and values, or csv with a file\n"},
+    {Histogram(
+         "\"data\": {\"groups\": [\n{\"name\": [1], \"values\": [1, \"x\", true]},\n{\"values\": 3}, 4]}"),
+     "b.json:4: data/groups/0/name: found [1], expected a text\n"
+     "b.json:4: data/groups/0/values/1: found \"x\", expected a number\n"
+     "b.json:4: data/groups/0/values/2: found true, expected a number\n"
+     "b.json:5: data/groups/1/values: found 3, expected a list\n"
+     "b.json:5: data/groups/2: found 4, expected a group\n"},
+    {Histogram(kGroups + R"(, "range": {"LogarithmValueRange": [1, 10]})"),
+     "b.json:3: range/LogarithmValueRange: found a range of the other scale, expected NaturalValueRange, as "
+     "LogarithmScale is off\n"},
+    {Histogram(kGroups + R"(, "range": {"NaturalValueRange": [0, 10, 0, 1]})"),
+     "b.json:3: range/NaturalValueRange: found [0, 10, 0, 1], expected minimum, larger maximum, "
+     "major "
+     "step and minor step, both above 0 and for fewer than 100000 ticks\n"},
+    {Histogram(kGroups + R"(, "range": {"NaturalValueRange": [0, 10, 5, 1], "InitializeValueRange": 9})"),
+     "b.json:3: range/InitializeValueRange: found a second range, expected either it or NaturalValueRange\n"},
+    {Histogram(kGroups + R"(, "range": {"InitialiseValueRange": 9})"),
+     "b.json:3: range: found no range, expected InitializeValueRange or NaturalValueRange\n"
+     "b.json:3: warning: range/InitialiseValueRange: an unknown key, ignored; is \"InitializeValueRange\" "
+     "meant?\n"},
 };
 
 } // namespace
@@ -170,15 +200,15 @@ TEST_F(Check, MissingKeysAreNotesWithWhatIsTaken) {
 }
 
 TEST_F(Check, JsonForPrograms) {
-    Write("b.json", "{\"kind\": \"pye\"}");
+    Write("b.json", R"({"kind": "pie", "version": 2, "data": {"values": [1]}})");
     Write("empty.json", "");
     const Outcome outcome = Run("millichart check --json b.json empty.json | grep -v note");
     EXPECT_EQ(
         outcome.Output,
         "[\n"
         "  "
-        "{\"file\":\"b.json\",\"line\":1,\"severity\":\"error\",\"place\":\"kind\",\"found\":\"\\\"pye\\\"\","
-        "\"expected\":\"\\\"pie\\\"\",\"message\":\"found \\\"pye\\\", expected \\\"pie\\\"\"},\n"
+        "{\"file\":\"b.json\",\"line\":1,\"severity\":\"error\",\"place\":\"version\",\"found\":\"2\","
+        "\"expected\":\"1\",\"message\":\"found 2, expected 1\"},\n"
         "  {\"file\":\"empty.json\",\"line\":1,\"severity\":\"error\",\"place\":\"line 1, column 1\","
         "\"found\":\"the end of the document\",\"expected\":\"a value\",\"message\":\"found the end of the "
         "document, expected a value\"}\n]\n");

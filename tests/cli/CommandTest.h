@@ -37,6 +37,9 @@ private:
     TemporaryFolder m_folder;
 };
 
+/// The kinds of charts as messages list them.
+inline const std::string kKinds = R"("pie", "histogram")";
+
 /// A pie of 20 mm that draws without a word.
 inline const char* const kSmallPie =
     R"({"kind": "pie", "property": {"PieBasicProp": {"FixedSize": 1}}, "data": {"values": [1, 2.5]}})";

@@ -82,7 +82,7 @@ TEST_F(Draw, TheExamplesOfTheFormatsDescription) {
             ++drawn;
         }
     }
-    EXPECT_EQ(drawn, 2);
+    EXPECT_GE(drawn, 3);
 }
 
 TEST_F(Draw, TheSameDocumentGivesTheSameBytes) {

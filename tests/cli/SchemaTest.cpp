@@ -35,8 +35,8 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
     const Outcome outcome = Validate(MILLICHART_EXAMPLES "/*.json");
     EXPECT_EQ(outcome.Output + outcome.Errors, "");
     EXPECT_EQ(outcome.Status, 0);
-    Run("millichart new pie -o pie.json");
-    EXPECT_EQ(Validate("pie.json").Output, "");
+    Run("millichart new pie -o pie.json; millichart new histogram -o histogram.json");
+    EXPECT_EQ(Validate("pie.json histogram.json").Output, "");
     Write("short.json",
           R"({"kind": "pie", "title": 2024, "source": true, "property": {"PieBasicProp": {"FixedSize": true,
         "ComponentName": ["a|b", 2], "FixedWidth": true, "BaseValue": " 1e2 ", "ComponentColor": ["#336699"]},
@@ -44,7 +44,11 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
         "data": {"values": [0, "2.5", true]}})");
     EXPECT_EQ(Run("millichart check short.json").Status, 0);
     Write("csv.json", R"({"kind": "pie", "data": {"csv": "d.csv"}})");
-    EXPECT_EQ(Validate("short.json csv.json").Output, "");
+    Write("bars.json",
+          R"({"kind": "histogram", "data": {"groups": [{"name": 2024, "values": [1, null, "", "2"]}]},
+        "range": {"InitializeValueRange": 3}})");
+    EXPECT_EQ(Run("millichart check bars.json").Status, 0);
+    EXPECT_EQ(Validate("short.json csv.json bars.json").Output, "");
 }
 
 /// What the schema refuses, `check` refuses or warns of too.
