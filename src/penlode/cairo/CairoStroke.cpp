@@ -162,6 +162,10 @@ void StrokeRuns(const Painter& painter, const DevicePen& pen, const std::vector<
 
 } // namespace
 
+bool HasRoundPen(const Painter& painter) {
+    return IsRound(PenShape(painter.ToDevice()));
+}
+
 DevicePen::DevicePen(const Pen& pen, const Painter& painter, bool snapped)
     : m_color(pen.GetColor()), m_dashStyle(pen.GetDashStyle()),
       m_width(std::clamp(std::abs(static_cast<double>(pen.GetWidth())) * painter.ToDevice().LengthFactor(),

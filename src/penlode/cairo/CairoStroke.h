@@ -30,6 +30,9 @@ private:
     double m_width;
 };
 
+/// Whether the transform leaves a pen's width the same in all directions.
+bool HasRoundPen(const Painter& painter);
+
 /// Strokes a polyline in device units. Far parts are cut off; long polylines go to Cairo piece by piece,
 /// since its cost grows with what crosses a scanline inside one path.
 void StrokePolyline(const Painter& painter, const DevicePen& pen, std::vector<PointD> points, bool closed);

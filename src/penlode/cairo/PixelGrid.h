@@ -15,6 +15,9 @@
 /// so what shares an edge on the page shares it on the surface, at any resolution.
 namespace penlode {
 
+/// A polyline of so many points is data: no frame, no step and no legend's sample has as many.
+inline constexpr std::size_t kShortestDataLine = 65;
+
 class PixelGrid {
 public:
     /// Without edges.
@@ -44,8 +47,8 @@ public:
     /// The box's outline as the centres of its lines.
     BoxD Outline(const BoxD& box, double lineWidth) const;
 
-    /// All segments along an axis, and no more of them than a frame has. Such a polyline, and no other, is
-    /// snapped.
+    /// All segments along an axis, and fewer points than data have, whose steps only happen to be steep. Such
+    /// a polyline, and no other, is snapped.
     static bool IsAxisParallel(std::span<const PointD> polyline);
 
     /// The centres of a polyline's lines, grown at both ends by half a pixel for odd widths, so that the
