@@ -19,6 +19,9 @@
 /// column stay as they are, and so do the polyline's ends.
 namespace penlode {
 
+/// A polyline of so many points is data: no frame, no step and no legend's sample has as many.
+inline constexpr std::size_t kShortestDataLine = 65;
+
 /// The columns by which a surface is divided, in device units.
 struct ThinningGrid {
     double ColumnWidth;
@@ -27,7 +30,7 @@ struct ThinningGrid {
     double Right;
 };
 
-/// Columns at which documents are thinned: finer than a page is printed or looked at.
+/// Columns at which documents are thinned: finer than pages are printed.
 inline constexpr double kDocumentColumnsPerInch = 600.0;
 
 namespace thinning {

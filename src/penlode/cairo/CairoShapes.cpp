@@ -1,6 +1,7 @@
 #include "penlode/cairo/CairoShapes.h"
 
 #include "penlode/FarClip.h"
+#include "penlode/LineThinning.h"
 #include "penlode/cairo/CairoDataLine.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoStroke.h"

@@ -1,6 +1,7 @@
 #include "penlode/cairo/GraphicsEngine.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/ShapePaths.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoGradient.h"
 #include "penlode/cairo/CairoImage.h"
@@ -11,39 +12,6 @@
 #include <algorithm>
 
 namespace penlode {
-namespace {
-
-std::span<const PointF> SpanOf(const PointF* points, std::int32_t count) {
-    return {points, static_cast<std::size_t>(count)};
-}
-
-/// A path's numbers are looked at when it is drawn.
-GraphicsPath ArcOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    path.AddArc(rect, startAngle, sweepAngle);
-    return path;
-}
-
-GraphicsPath EllipseOf(const RectF& rect) {
-    GraphicsPath path;
-    path.AddEllipse(rect);
-    return path;
-}
-
-GraphicsPath CurveOf(std::span<const PointF> points) {
-    GraphicsPath path;
-    path.AddCurve(points);
-    return path;
-}
-
-GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    path.AddPie(rect, startAngle, sweepAngle);
-    return path;
-}
-
-} // namespace
-
 Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
     if (!IsUsable(pen) || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
@@ -72,9 +40,6 @@ Status CGraphicsEngine::DrawArc(const Pen* pen, float x, float y, float width, f
     if (!IsUsable(pen) || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
         return Status::InvalidParameter;
     }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
-    }
     return m_target->Draw(
         State(), [&](const Painter& p) { return StrokePath(p, *pen, ArcOf(rect, startAngle, sweepAngle)); });
 }
@@ -84,18 +49,12 @@ Status CGraphicsEngine::DrawEllipse(const Pen* pen, float x, float y, float widt
     if (!IsUsable(pen) || !IsFinite(rect)) {
         return Status::InvalidParameter;
     }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
-    }
     return m_target->Draw(State(), [&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
     if (!IsUsable(pen) || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
         return Status::InvalidParameter;
-    }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
     }
     return m_target->Draw(
         State(), [&](const Painter& p) { return StrokePath(p, *pen, PieOf(rect, startAngle, sweepAngle)); });
@@ -160,9 +119,6 @@ Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, f
     if (brush == nullptr || !IsFinite(rect)) {
         return Status::InvalidParameter;
     }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
-    }
     return m_target->Draw(
         State(), [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
 }
@@ -171,9 +127,6 @@ Status CGraphicsEngine::FillPie(const SolidBrush* brush, const RectF& rect, floa
                                 float sweepAngle) {
     if (brush == nullptr || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
         return Status::InvalidParameter;
-    }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
     }
     return m_target->Draw(State(), [&](const Painter& p) {
         return penlode::FillPath(p, brush->FillColor, PieOf(rect, startAngle, sweepAngle));

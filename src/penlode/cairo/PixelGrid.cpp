@@ -1,5 +1,7 @@
 #include "penlode/cairo/PixelGrid.h"
 
+#include "penlode/LineThinning.h"
+
 #include <cstddef>
 
 namespace penlode {

@@ -15,9 +15,6 @@
 /// so what shares an edge on the page shares it on the surface, at any resolution.
 namespace penlode {
 
-/// A polyline of so many points is data: no frame, no step and no legend's sample has as many.
-inline constexpr std::size_t kShortestDataLine = 65;
-
 class PixelGrid {
 public:
     /// Without edges.

@@ -1,6 +1,7 @@
 #include "penlode/svg/SvgEngine.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/ShapePaths.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
 #include "penlode/svg/SvgClip.h"
@@ -20,33 +21,6 @@
 
 namespace penlode {
 namespace {
-
-std::span<const PointF> SpanOf(const PointF* points, std::int32_t count) {
-    return {points, static_cast<std::size_t>(count)};
-}
-
-/// An arc or sector, nothing of an ellipse without extent.
-GraphicsPath ArcOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    if (HasExtent(rect)) {
-        path.AddArc(rect, startAngle, sweepAngle);
-    }
-    return path;
-}
-
-GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    if (HasExtent(rect)) {
-        path.AddPie(rect, startAngle, sweepAngle);
-    }
-    return path;
-}
-
-GraphicsPath CurveOf(std::span<const PointF> points) {
-    GraphicsPath path;
-    path.AddCurve(points);
-    return path;
-}
 
 bool IsFiniteArc(const RectF& rect, float startAngle, float sweepAngle) {
     return IsFinite(rect) && AreFinite(startAngle, sweepAngle);
@@ -277,7 +251,7 @@ std::int32_t CSvgEngine::GradientFill(const RectL& bounds, const PointF& origin,
     if (!svg::CanMap(map.ToPage)) {
         return 1;
     }
-    const svg::GradientArea area{bounds, origin, {vertices, vertexCount}};
+    const GradientArea area{bounds, origin, {vertices, vertexCount}};
     svg::SvgDefinitions& definitions = m_drawing->Document.Definitions();
     const auto elements =
         mode == GradientMode::Triangle

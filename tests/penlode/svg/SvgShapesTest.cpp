@@ -210,3 +210,16 @@ TEST(SvgShapes, PagesOfAnySizeHaveOne) {
     EXPECT_NE(head({kNan, -5}).find("width=\"0mm\" height=\"0mm\" viewBox=\"0 0 0 0\""), std::string::npos);
     EXPECT_NE(head({INFINITY, 1e30F}).find("width=\"0mm\" height=\"1000000mm\""), std::string::npos);
 }
+
+TEST(SvgShapes, DataAreWrittenAsFineAsTheyCanBePrinted) {
+    std::vector<PointF> noise;
+    for (int i = 0; i < 200000; ++i) {
+        noise.push_back({static_cast<float>(i) * 0.0004F, static_cast<float>(i * 7919 % 6000) * 0.01F});
+    }
+    CSvgEngine engine({80, 60});
+    engine.DrawLines(&kPen, noise.data(), static_cast<std::int32_t>(noise.size()));
+    const std::string body = Body(engine);
+    EXPECT_EQ(body.substr(0, 23), "<polyline points=\"0,0 0");
+    EXPECT_NE(body.find(" 80,20.81\""), std::string::npos);
+    EXPECT_LT(body.size(), 160000U);
+}
