@@ -3,6 +3,7 @@
 #include <cstring>
 #include <png.h>
 #include <vector>
+#include <zlib.h>
 
 namespace byhand {
 namespace {
@@ -33,6 +34,7 @@ std::string EncodePng(const Picture& picture) {
                  PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
                  PNG_FILTER_TYPE_DEFAULT);
     png_set_compression_level(png, 1);
+    png_set_compression_strategy(png, Z_RLE);
     png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
     png_write_info(png, info);
     std::vector<unsigned char> row(static_cast<std::size_t>(width) * 3U);

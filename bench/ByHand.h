@@ -21,7 +21,7 @@ struct Picture {
     std::unique_ptr<cairo_t, Destroy> Context;
 };
 
-/// An RGB file at a low level of compression, each row less the one above.
+/// An RGB file, each row less the one above, its runs compressed.
 std::string EncodePng(const Picture& picture);
 
 } // namespace byhand

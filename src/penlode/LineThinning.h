@@ -35,26 +35,7 @@ inline constexpr double kDocumentColumnsPerInch = 600.0;
 
 namespace thinning {
 
-/// A stretch of one column, from its left edge on and up to its right, both in columns.
-struct Column {
-    double Left = 0.0;
-    double Right = 0.0;
-
-    bool Holds(double x) const { return x >= Left && x < Right; }
-};
-
-inline Column ColumnOf(double x, double first, double last) {
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    if (x < first) {
-        return {-kInfinity, first};
-    }
-    if (x >= last) {
-        return {last, kInfinity};
-    }
-    return {std::floor(x), std::floor(x) + 1.0};
-}
-
-/// The places in the list of a column's points.
+/// Places in the list of a column's points.
 struct Extremes {
     std::size_t First = 0;
     std::size_t Lowest = 0;
@@ -72,40 +53,89 @@ struct Extremes {
     }
 };
 
-} // namespace thinning
+/// A stretch of the device from its left edge on and up to its right.
+struct Stretch {
+    double Left;
+    double Right;
+};
 
-/// Calls `visit` with each point that stays, in device units. The points are finite.
-template <class Visit>
-void ThinLine(std::span<const PointF> points, const Matrix& toDevice, const ThinningGrid& grid,
-              Visit&& visit) {
-    const Matrix toColumns = toDevice * Matrix::Scale(1.0 / grid.ColumnWidth, 1.0);
-    const double first = std::floor(grid.Left / grid.ColumnWidth);
-    const double last = std::ceil(grid.Right / grid.ColumnWidth);
-    const auto report = [&](std::size_t place) { visit(Mapped(toDevice, points[place])); };
-    thinning::Column column;
-    thinning::Extremes extremes;
+inline Stretch ColumnAt(double x, const ThinningGrid& grid) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    if (x < grid.Left) {
+        return {-kInfinity, grid.Left};
+    }
+    if (x >= grid.Right) {
+        return {grid.Right, kInfinity};
+    }
+    const double column = std::floor(x / grid.ColumnWidth);
+    return {column * grid.ColumnWidth, (column + 1.0) * grid.ColumnWidth};
+}
+
+/// Reports the places of the points that stay. `along` and `across` are a point's coordinates in which
+/// columns and heights are told apart; `columnOf` is the stretch of `along` that is one column with that
+/// point.
+template <class Along, class Across, class ColumnOf, class Report>
+void Scan(std::span<const PointF> points, Along along, Across across, ColumnOf columnOf, Report report) {
+    Stretch column{};
+    Extremes extremes;
     double low = 0.0;
     double high = 0.0;
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const PointD p = Mapped(toColumns, points[i]);
-        if (i == 0 || !column.Holds(p.X)) {
+        const double x = along(points[i]);
+        const double y = across(points[i]);
+        if (i == 0 || !(x >= column.Left && x < column.Right)) {
             if (i > 0) {
                 extremes.Report(i - 1, report);
             }
-            column = thinning::ColumnOf(p.X, first, last);
+            column = columnOf(points[i]);
             extremes = {i, i, i};
-            low = high = p.Y;
-        } else if (p.Y < low) {
-            low = p.Y;
+            low = high = y;
+        } else if (y < low) {
+            low = y;
             extremes.Lowest = i;
-        } else if (p.Y > high) {
-            high = p.Y;
+        } else if (y > high) {
+            high = y;
             extremes.Highest = i;
         }
     }
     if (!points.empty()) {
         extremes.Report(points.size() - 1, report);
     }
+}
+
+/// A column as it lies on the world's x axis, for transforms that leave columns upright. The point that it
+/// was found for lies in it, whatever the rounding.
+inline Stretch InWorld(const Stretch& column, const Matrix& m, double x) {
+    const double a = (column.Left - m.Dx) / m.M11;
+    const double b = (column.Right - m.Dx) / m.M11;
+    return {std::min({a, b, x}),
+            std::max({a, b, std::nextafter(x, std::numeric_limits<double>::infinity())})};
+}
+
+} // namespace thinning
+
+/// Calls `visit` with each point that stays, in device units. The points are finite.
+template <class Visit>
+void ThinLine(std::span<const PointF> points, const Matrix& toDevice, const ThinningGrid& grid,
+              Visit&& visit) {
+    const auto report = [&](std::size_t place) { visit(Mapped(toDevice, points[place])); };
+    if (toDevice.M12 == 0.0 && toDevice.M21 == 0.0 && toDevice.M11 != 0.0) {
+        const auto columnOf = [&](PointF p) {
+            const double x = Mapped(toDevice, p).X;
+            return thinning::InWorld(thinning::ColumnAt(x, grid), toDevice, p.X);
+        };
+        thinning::Scan(
+            points, [](PointF p) { return double{p.X}; }, [](PointF p) { return double{p.Y}; }, columnOf,
+            report);
+        return;
+    }
+    const auto columnOf = [&](PointF p) {
+        const double x = Mapped(toDevice, p).X;
+        return thinning::InWorld(thinning::ColumnAt(x, grid), {}, x);
+    };
+    thinning::Scan(
+        points, [&](PointF p) { return Mapped(toDevice, p).X; },
+        [&](PointF p) { return Mapped(toDevice, p).Y; }, columnOf, report);
 }
 
 } // namespace penlode

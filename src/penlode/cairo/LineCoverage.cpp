@@ -7,7 +7,6 @@
 #include <cmath>
 #include <limits>
 #include <optional>
-#include <utility>
 
 namespace penlode {
 namespace {
@@ -167,32 +166,32 @@ void LineCoverage::AddJoin(const Segment& before, const Segment& after) {
     }
 }
 
-/// The sections whose middles lie between two places.
-LineCoverage::Range LineCoverage::SectionsBetween(double left, double right) const {
-    const auto at = [&](double x) {
-        const double place = (x - m_area.Left) * m_sectionsPerPixel - 0.5;
-        return Ceiling(std::clamp(place, 0.0, static_cast<double>(m_spans.Size())));
-    };
-    return {at(left), at(right)};
+LineCoverage::Corner LineCoverage::CornerAt(PointD point) const {
+    const double x = (point.X - m_area.Left) * m_sectionsPerPixel - 0.5;
+    return {x, point.Y - m_area.Top, Ceiling(std::clamp(x, 0.0, static_cast<double>(m_spans.Size())))};
 }
 
 /// Each section that a convex shape has a part in is crossed by two of its edges.
 void LineCoverage::AddConvex(std::span<const PointD> corners) {
-    PointD from = corners.back();
-    double left = from.X;
-    double right = from.X;
-    for (const PointD to : corners) {
-        AddEdge(from, to);
-        left = std::min(left, to.X);
-        right = std::max(right, to.X);
+    Corner from = CornerAt(corners.back());
+    std::size_t first = from.Section;
+    std::size_t end = from.Section;
+    for (const PointD corner : corners) {
+        const Corner to = CornerAt(corner);
+        if (from.Section < to.Section) {
+            AddEdge(from, to);
+        } else if (to.Section < from.Section) {
+            AddEdge(to, from);
+        }
+        first = std::min(first, to.Section);
+        end = std::max(end, to.Section);
         from = to;
     }
     const double height = m_area.Height();
     const auto fixed = [height](double y) {
         return static_cast<std::int32_t>(std::clamp(y, 0.0, height) * kPixel + 0.5);
     };
-    const Range range = SectionsBetween(left, right);
-    for (std::size_t i = range.First; i < range.End; ++i) {
+    for (std::size_t i = first; i < end; ++i) {
         const SectionSpans::Span span{fixed(m_tops[i]), fixed(m_bottoms[i])};
         if (!span.IsEmpty()) {
             m_spans.Add(i, span);
@@ -202,16 +201,10 @@ void LineCoverage::AddConvex(std::span<const PointD> corners) {
     }
 }
 
-void LineCoverage::AddEdge(PointD from, PointD to) {
-    if (from.X > to.X) {
-        std::swap(from, to);
-    }
-    const Range range = SectionsBetween(from.X, to.X);
-    const double slope = (to.Y - from.Y) / (to.X - from.X);
-    const double step = 1.0 / m_sectionsPerPixel;
-    for (std::size_t i = range.First; i < range.End; ++i) {
-        const double x = m_area.Left + (static_cast<double>(i) + 0.5) * step;
-        const double y = from.Y - m_area.Top + (x - from.X) * slope;
+void LineCoverage::AddEdge(const Corner& left, const Corner& right) {
+    const double slope = (right.Y - left.Y) / (right.X - left.X);
+    for (std::size_t i = left.Section; i < right.Section; ++i) {
+        const double y = left.Y + (static_cast<double>(i) - left.X) * slope;
         m_tops[i] = std::min(m_tops[i], y);
         m_bottoms[i] = std::max(m_bottoms[i], y);
     }

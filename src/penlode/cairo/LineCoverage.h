@@ -35,16 +35,18 @@ private:
         PointD Direction;
     };
 
-    struct Range {
-        std::size_t First;
-        std::size_t End;
+    /// A corner of a shape, its x counted in sections.
+    struct Corner {
+        double X;
+        double Y;
+        std::size_t Section; ///< the first whose middle lies right of the corner
     };
 
     void AddSegment(const Segment& segment);
     void AddJoin(const Segment& before, const Segment& after);
     void AddConvex(std::span<const PointD> corners);
-    void AddEdge(PointD from, PointD to);
-    Range SectionsBetween(double left, double right) const;
+    void AddEdge(const Corner& left, const Corner& right);
+    Corner CornerAt(PointD point) const;
 
     BoxD m_area;
     double m_radius;
