@@ -78,6 +78,7 @@ int main(int argc, char** argv) {
     bench::Suite suite;
     bench::AddLineCases(suite);
     bench::AddPieCases(suite);
+    bench::AddCurveCases(suite);
     Register(suite);
     ShortestTimes times;
     benchmark::RunSpecifiedBenchmarks(&times);

@@ -38,5 +38,6 @@ struct Suite {
 
 void AddLineCases(Suite& suite);
 void AddPieCases(Suite& suite);
+void AddCurveCases(Suite& suite);
 
 } // namespace bench
