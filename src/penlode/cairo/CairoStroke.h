@@ -6,6 +6,10 @@
 
 namespace penlode {
 
+/// Shorter steps, in device units, nobody sees.
+inline constexpr double kShortestStepInPixels = 1.0 / 8.0;
+inline constexpr double kShortestStepOnPages = 1.0 / 32.0;
+
 /// A pen as it is drawn under a painter's transform: its width in device units, not thinner than the
 /// surface's thinnest line and, where it is snapped, in whole pixels.
 class DevicePen {

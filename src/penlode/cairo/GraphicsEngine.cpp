@@ -10,15 +10,29 @@
 #include "penlode/cairo/CairoText.h"
 
 #include <algorithm>
+#include <array>
 
 namespace penlode {
+namespace {
+
+std::array<PointF, 2> Diagonal(const RectF& rect) {
+    return {rect.TopLeft(), {rect.Right(), rect.Bottom()}};
+}
+
+Pen LookOf(const SolidBrush& brush) {
+    return Pen(brush.FillColor, 0.0F);
+}
+
+} // namespace
+
 Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
     if (!IsUsable(pen) || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return StrokeBox(p, *pen, {x, y, width, height});
-    });
+    return m_target->DrawMark(State(), MarkShape::Box, *pen, Diagonal({x, y, width, height}),
+                              [&](const Painter& p) {
+                                  return StrokeBox(p, *pen, {x, y, width, height});
+                              });
 }
 
 Status CGraphicsEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
@@ -49,7 +63,8 @@ Status CGraphicsEngine::DrawEllipse(const Pen* pen, float x, float y, float widt
     if (!IsUsable(pen) || !IsFinite(rect)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
+    return m_target->DrawMark(State(), MarkShape::Ellipse, *pen, Diagonal(rect),
+                              [&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
@@ -64,8 +79,9 @@ Status CGraphicsEngine::DrawPolygon(const Pen* pen, const PointF* points, std::i
     if (!IsUsable(pen) || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(),
-                          [&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
+    return m_target->DrawMark(
+        State(), MarkShape::Polygon, *pen, SpanOf(points, count),
+        [&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
 }
 
 Status CGraphicsEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
@@ -109,9 +125,10 @@ Status CGraphicsEngine::FillRectangle(const SolidBrush* brush, float x, float y,
     if (brush == nullptr || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return FillBox(p, brush->FillColor, {x, y, width, height});
-    });
+    return m_target->DrawMark(State(), MarkShape::FilledBox, LookOf(*brush), Diagonal({x, y, width, height}),
+                              [&](const Painter& p) {
+                                  return FillBox(p, brush->FillColor, {x, y, width, height});
+                              });
 }
 
 Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
@@ -119,8 +136,9 @@ Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, f
     if (brush == nullptr || !IsFinite(rect)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(
-        State(), [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
+    return m_target->DrawMark(
+        State(), MarkShape::FilledEllipse, LookOf(*brush), Diagonal(rect),
+        [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
@@ -137,9 +155,9 @@ Status CGraphicsEngine::FillPolygon(const SolidBrush* brush, const PointF* point
     if (brush == nullptr || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count));
-    });
+    return m_target->DrawMark(
+        State(), MarkShape::FilledPolygon, LookOf(*brush), SpanOf(points, count),
+        [&](const Painter& p) { return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count)); });
 }
 
 Status CGraphicsEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cmath>
 #include <span>
+#include <utility>
 
 namespace penlode {
 namespace {
@@ -44,9 +45,21 @@ struct CSvgEngine::Drawing {
     svg::PageMap Map(const CSurfaceState& state) const { return {state.WorldToDevice(), Page}; }
 
     void Write(const CSurfaceState& state, const std::string& element) {
+        LastShape.clear();
         if (!element.empty()) {
             Document.Add(Groups.For(state, Document.Definitions()), element);
         }
+    }
+
+    /// Data denser than the page draw one marker many times over: an opaque one that is the same as the last
+    /// is not written again.
+    void WriteShape(const CSurfaceState& state, std::string element, Color color) {
+        if (color.A() == 0xFFU && element == LastShape && state.ClipGeneration() == LastClip) {
+            return;
+        }
+        Write(state, element);
+        LastShape = std::move(element);
+        LastClip = state.ClipGeneration();
     }
 
     /// Writes what `shape` makes of the map to the page and the pen.
@@ -57,7 +70,7 @@ struct CSvgEngine::Drawing {
         }
         const svg::PageMap map = Map(state);
         if (svg::CanMap(map.ToPage) && pen->GetColor().A() != 0) {
-            Write(state, shape(map, svg::StrokePaint(*pen, map.ToPage.LengthFactor())));
+            WriteShape(state, shape(map, svg::StrokePaint(*pen, map.ToPage.LengthFactor())), pen->GetColor());
         }
         return Status::Ok;
     }
@@ -69,7 +82,8 @@ struct CSvgEngine::Drawing {
         }
         const svg::PageMap map = Map(state);
         if (svg::CanMap(map.ToPage) && brush->FillColor.A() != 0) {
-            Write(state, shape(map, svg::Paint{svg::FillAttributes(brush->FillColor)}));
+            WriteShape(state, shape(map, svg::Paint{svg::FillAttributes(brush->FillColor)}),
+                       brush->FillColor);
         }
         return Status::Ok;
     }
@@ -86,6 +100,8 @@ struct CSvgEngine::Drawing {
     svg::SvgDocument Document;
     svg::SvgGroups Groups;
     svg::SvgFamilies Families;
+    std::string LastShape; ///< the last element written, if it was a shape
+    std::uint64_t LastClip = 0;
 };
 
 CSvgEngine::CSvgEngine(SizeF millimetres, const SvgOptions& options)

@@ -144,3 +144,30 @@ TEST(DataLine, ItIsClippedAndKeepsItsPlaceFarOutside) {
     EXPECT_EQ(Drawn(*engine),
               "....................\n.........##.........\n.........##.........\n....................\n");
 }
+
+TEST(DataLine, MarkersOnOnePlaceAreDrawnOnce) {
+    const auto once = PixelSurface(20, 20);
+    const auto often = PixelSurface(20, 20);
+    const SolidBrush brush{kBlack};
+    once->FillEllipse(&brush, 4, 4, 9, 9);
+    for (int i = 0; i < 50; ++i) {
+        often->FillEllipse(&brush, 4.0F + 0.002F * static_cast<float>(i), 4, 9, 9);
+    }
+    EXPECT_EQ(often->Pixels().Pixels, once->Pixels().Pixels);
+    // What lies elsewhere, shines through, or is drawn over something else is drawn.
+    once->FillEllipse(&brush, 4.2F, 4, 9, 9);
+    EXPECT_NE(often->Pixels().Pixels, once->Pixels().Pixels);
+    const SolidBrush white{kWhite};
+    const SolidBrush glass{Color{0x40FF0000}};
+    for (const auto& engine : {once.get(), often.get()}) {
+        engine->FillRectangle(&white, 0, 0, 20, 20);
+        engine->FillRectangle(&glass, 2, 2, 5, 5);
+    }
+    const Color light = PixelAt(often->Pixels(), 3, 3);
+    often->FillRectangle(&glass, 2, 2, 5, 5);
+    EXPECT_NE(PixelAt(often->Pixels(), 3, 3), light);
+    often->FillRectangle(&white, 0, 0, 20, 20);
+    often->FillRectangle(&brush, 0, 0, 20, 20);
+    often->FillRectangle(&white, 0, 0, 20, 20);
+    EXPECT_EQ(InkOf(*often), 0);
+}

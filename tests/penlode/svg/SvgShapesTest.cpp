@@ -223,3 +223,17 @@ TEST(SvgShapes, DataAreWrittenAsFineAsTheyCanBePrinted) {
     EXPECT_NE(body.find(" 80,20.81\""), std::string::npos);
     EXPECT_LT(body.size(), 160000U);
 }
+
+TEST(SvgShapes, OpaqueMarkersOnOnePlaceAreWrittenOnce) {
+    CSvgEngine engine({80, 60});
+    const SolidBrush glass{Color{0x80CC0000}};
+    for (int i = 0; i < 3; ++i) {
+        engine.FillRectangle(&kBrush, 1, 2, 3, 4);
+    }
+    engine.FillRectangle(&glass, 1, 2, 3, 4);
+    engine.FillRectangle(&glass, 1, 2, 3, 4);
+    engine.FillRectangle(&kBrush, 1, 2, 3, 4);
+    const std::string box = "<rect x=\"1\" y=\"2\" width=\"3\" height=\"4\"";
+    const std::string faint = box + " fill=\"#cc0000\" fill-opacity=\"0.502\"/>\n";
+    EXPECT_EQ(Body(engine), box + kFill + faint + faint + box + kFill);
+}
