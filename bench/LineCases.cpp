@@ -38,17 +38,16 @@ Values MakeValues(std::size_t count, bool isWalk) {
 }
 
 std::unique_ptr<penlode::CGraphicsEngine> DrawnByEngine(const std::vector<double>& values) {
-    std::vector<penlode::PointF> points;
-    points.reserve(values.size());
+    const auto points = std::make_unique_for_overwrite<penlode::PointF[]>(values.size());
     const double step = static_cast<double>(kWidth) / static_cast<double>(values.size() - 1);
     for (std::size_t i = 0; i < values.size(); ++i) {
-        points.push_back(
-            {static_cast<float>(static_cast<double>(i) * step), static_cast<float>(values[i] * kHeight)});
+        points[i] = {static_cast<float>(static_cast<double>(i) * step),
+                     static_cast<float>(values[i] * kHeight)};
     }
     // 25.4 dots per inch: a millimetre is a pixel.
     auto engine = penlode::CGraphicsEngine::ForRaster({kWidth, kHeight}, 25.4, penlode::kWhite);
     const penlode::Pen pen(penlode::kBlack, static_cast<float>(kLineWidth));
-    engine->DrawLines(&pen, points.data(), static_cast<std::int32_t>(points.size()));
+    engine->DrawLines(&pen, points.get(), static_cast<std::int32_t>(values.size()));
     return engine;
 }
 

@@ -53,13 +53,14 @@ struct Extremes {
     }
 };
 
-/// A stretch of the device from its left edge on and up to its right.
-struct Stretch {
-    double Left;
-    double Right;
+/// A stretch from its left edge on and up to its right.
+template <class Number> struct Stretch {
+    Number Left;
+    Number Right;
 };
 
-inline Stretch ColumnAt(double x, const ThinningGrid& grid) {
+/// The column in which x lies, in device units.
+inline Stretch<double> ColumnAt(double x, const ThinningGrid& grid) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     if (x < grid.Left) {
         return {-kInfinity, grid.Left};
@@ -71,71 +72,125 @@ inline Stretch ColumnAt(double x, const ThinningGrid& grid) {
     return {column * grid.ColumnWidth, (column + 1.0) * grid.ColumnWidth};
 }
 
-/// Reports the places of the points that stay. `along` and `across` are a point's coordinates in which
-/// columns and heights are told apart; `columnOf` is the stretch of `along` that is one column with that
-/// point.
-template <class Along, class Across, class ColumnOf, class Report>
-void Scan(std::span<const PointF> points, Along along, Across across, ColumnOf columnOf, Report report) {
-    Stretch column{};
+/// The stretch between two places that holds x, whatever their rounding.
+template <class Number> Stretch<Number> Holding(Number x, double a, double b) {
+    constexpr Number kInfinity = std::numeric_limits<Number>::infinity();
+    return {std::min(x, static_cast<Number>(std::min(a, b))),
+            std::max(std::nextafter(x, kInfinity), static_cast<Number>(std::max(a, b)))};
+}
+
+/// Points as they are told apart when all columns stand upright in the world: as they are.
+struct UprightView {
+    const Matrix& ToDevice;
+    const ThinningGrid& Grid;
+
+    float Along(PointF p) const { return p.X; }
+
+    float Across(PointF p) const { return p.Y; }
+
+    Stretch<float> ColumnOf(PointF p) const {
+        const auto [left, right] = ColumnAt(Mapped(ToDevice, p).X, Grid);
+        return Holding(p.X, (left - ToDevice.Dx) / ToDevice.M11, (right - ToDevice.Dx) / ToDevice.M11);
+    }
+};
+
+/// Under any other transform: as they lie on the device.
+struct DeviceView {
+    const Matrix& ToDevice;
+    const ThinningGrid& Grid;
+
+    double Along(PointF p) const { return Mapped(ToDevice, p).X; }
+
+    double Across(PointF p) const { return Mapped(ToDevice, p).Y; }
+
+    Stretch<double> ColumnOf(PointF p) const {
+        const auto [left, right] = ColumnAt(Along(p), Grid);
+        return Holding(Along(p), left, right);
+    }
+};
+
+/// A column, its lowest and its highest point so far.
+template <class Number> struct Box {
+    Stretch<Number> Column;
+    Number Low;
+    Number High;
+};
+
+/// Points that are looked at without a branch between them, so that a compiler looks at several at once; g++
+/// unrolls shorter loops instead.
+inline constexpr std::size_t kBlock = 32;
+
+/// How many of the next points, in whole blocks, lie in the box: of many millions nearly all. What is no
+/// number lies nowhere.
+template <class View, class Number>
+std::size_t CountInside(std::span<const PointF> points, const Box<Number> box, const View& view) {
+    std::size_t count = 0;
+    for (; count + kBlock <= points.size(); count += kBlock) {
+        const PointF* block = points.data() + count;
+        unsigned inside = 1;
+        for (std::size_t i = 0; i < kBlock; ++i) {
+            inside &= static_cast<unsigned>(view.Along(block[i]) >= box.Column.Left) &
+                      static_cast<unsigned>(view.Along(block[i]) < box.Column.Right) &
+                      static_cast<unsigned>(view.Across(block[i]) >= box.Low) &
+                      static_cast<unsigned>(view.Across(block[i]) <= box.High);
+        }
+        if (inside == 0) {
+            break;
+        }
+    }
+    return count;
+}
+
+/// Reports the places of the points that stay. False, and no more of them, at a point that is not finite.
+template <class View, class Report>
+bool Scan(std::span<const PointF> points, const View& view, const Report& report) {
+    using Number = decltype(view.Along(PointF{}));
+    Box<Number> box{};
     Extremes extremes;
-    double low = 0.0;
-    double high = 0.0;
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const double x = along(points[i]);
-        const double y = across(points[i]);
-        if (i == 0 || !(x >= column.Left && x < column.Right)) {
+        if (i > 0 && i % kBlock == 0) {
+            i += CountInside(points.subspan(i), box, view);
+            if (i == points.size()) {
+                break;
+            }
+        }
+        const Number x = view.Along(points[i]);
+        const Number y = view.Across(points[i]);
+        if (!std::isfinite(x) || !std::isfinite(y)) {
+            return false;
+        }
+        if (i == 0 || x < box.Column.Left || x >= box.Column.Right) {
             if (i > 0) {
                 extremes.Report(i - 1, report);
             }
-            column = columnOf(points[i]);
+            box = {view.ColumnOf(points[i]), y, y};
             extremes = {i, i, i};
-            low = high = y;
-        } else if (y < low) {
-            low = y;
+        } else if (y < box.Low) {
+            box.Low = y;
             extremes.Lowest = i;
-        } else if (y > high) {
-            high = y;
+        } else if (y > box.High) {
+            box.High = y;
             extremes.Highest = i;
         }
     }
     if (!points.empty()) {
         extremes.Report(points.size() - 1, report);
     }
-}
-
-/// A column as it lies on the world's x axis, for transforms that leave columns upright. The point that it
-/// was found for lies in it, whatever the rounding.
-inline Stretch InWorld(const Stretch& column, const Matrix& m, double x) {
-    const double a = (column.Left - m.Dx) / m.M11;
-    const double b = (column.Right - m.Dx) / m.M11;
-    return {std::min({a, b, x}),
-            std::max({a, b, std::nextafter(x, std::numeric_limits<double>::infinity())})};
+    return true;
 }
 
 } // namespace thinning
 
-/// Calls `visit` with each point that stays, in device units. The points are finite.
+/// Calls `visit` with each point that stays, in device units. False when a point is not finite, after some of
+/// those before it.
 template <class Visit>
-void ThinLine(std::span<const PointF> points, const Matrix& toDevice, const ThinningGrid& grid,
+bool ThinLine(std::span<const PointF> points, const Matrix& toDevice, const ThinningGrid& grid,
               Visit&& visit) {
     const auto report = [&](std::size_t place) { visit(Mapped(toDevice, points[place])); };
     if (toDevice.M12 == 0.0 && toDevice.M21 == 0.0 && toDevice.M11 != 0.0) {
-        const auto columnOf = [&](PointF p) {
-            const double x = Mapped(toDevice, p).X;
-            return thinning::InWorld(thinning::ColumnAt(x, grid), toDevice, p.X);
-        };
-        thinning::Scan(
-            points, [](PointF p) { return double{p.X}; }, [](PointF p) { return double{p.Y}; }, columnOf,
-            report);
-        return;
+        return thinning::Scan(points, thinning::UprightView{toDevice, grid}, report);
     }
-    const auto columnOf = [&](PointF p) {
-        const double x = Mapped(toDevice, p).X;
-        return thinning::InWorld(thinning::ColumnAt(x, grid), {}, x);
-    };
-    thinning::Scan(
-        points, [&](PointF p) { return Mapped(toDevice, p).X; },
-        [&](PointF p) { return Mapped(toDevice, p).Y; }, columnOf, report);
+    return thinning::Scan(points, thinning::DeviceView{toDevice, grid}, report);
 }
 
 } // namespace penlode

@@ -5,6 +5,9 @@
 #include "penlode/cairo/CairoStroke.h"
 #include "penlode/cairo/LineCoverage.h"
 
+#include <optional>
+#include <utility>
+
 namespace penlode {
 namespace {
 
@@ -26,11 +29,13 @@ ThinningGrid GridOf(const Painter& painter, double margin) {
             box.Right};
 }
 
-std::vector<PointD> Thinned(const Painter& painter, double margin, std::span<const PointF> points) {
+/// Nothing when a point is not finite.
+std::optional<std::vector<PointD>> Thinned(const Painter& painter, double margin,
+                                           std::span<const PointF> points) {
     std::vector<PointD> thinned;
-    ThinLine(points, painter.ToDevice(), GridOf(painter, margin),
-             [&](PointD point) { thinned.push_back(point); });
-    return thinned;
+    const bool finite = ThinLine(points, painter.ToDevice(), GridOf(painter, margin),
+                                 [&](PointD point) { thinned.push_back(point); });
+    return finite ? std::optional(std::move(thinned)) : std::nullopt;
 }
 
 int SectionsFor(const std::vector<PolylineRun>& runs, double lineWidth, bool thinned) {
@@ -83,16 +88,16 @@ void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<
 
 Status StrokeDataLine(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
     const DevicePen drawn(pen, painter, false);
-    std::vector<PointD> line = Thinned(painter, drawn.Margin(), points);
-    if (!std::all_of(line.begin(), line.end(), [](PointD p) { return IsFinite(p); })) {
-        return Status::ValueOverflow;
+    std::optional<std::vector<PointD>> line = Thinned(painter, drawn.Margin(), points);
+    if (!line) {
+        return Status::InvalidParameter;
     }
     const bool smooth = cairo_get_antialias(painter.Context()) != CAIRO_ANTIALIAS_NONE;
     if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter)) {
-        const bool thinned = line.size() < points.size();
-        StrokeByCoverage(painter, drawn, std::move(line), thinned);
+        const bool thinned = line->size() < points.size();
+        StrokeByCoverage(painter, drawn, std::move(*line), thinned);
     } else {
-        StrokePolyline(painter, drawn, std::move(line), false);
+        StrokePolyline(painter, drawn, std::move(*line), false);
     }
     return Status::Ok;
 }

@@ -10,7 +10,8 @@
 namespace penlode {
 
 /// Strokes a polyline of data, given in world coordinates and however long, thinned to what the surface can
-/// show. It is never snapped.
+/// show. It is never snapped. InvalidParameter, and nothing drawn, when a point is not finite: they are
+/// looked at once, here.
 Status StrokeDataLine(const Painter& painter, const Pen& pen, std::span<const PointF> points);
 
 } // namespace penlode

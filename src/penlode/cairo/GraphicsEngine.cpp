@@ -1,6 +1,7 @@
 #include "penlode/cairo/GraphicsEngine.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/LineThinning.h"
 #include "penlode/ShapePaths.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoGradient.h"
@@ -35,12 +36,18 @@ Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float wi
                               });
 }
 
+/// Data are looked at when they are thinned, so that millions of points are gone through once.
 Status CGraphicsEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
-    if (!IsUsable(pen) || !AreUsable(points, count)) {
+    const bool isData = points != nullptr && count >= static_cast<std::int32_t>(kShortestDataLine);
+    if (!IsUsable(pen) || (!isData && !AreUsable(points, count))) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(),
-                          [&](const Painter& p) { return StrokeLines(p, *pen, SpanOf(points, count)); });
+    bool seen = false;
+    const Status answer = m_target->Draw(State(), [&](const Painter& p) {
+        seen = true;
+        return StrokeLines(p, *pen, SpanOf(points, count));
+    });
+    return seen || AreUsable(points, count) ? answer : Status::InvalidParameter;
 }
 
 Status CGraphicsEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {

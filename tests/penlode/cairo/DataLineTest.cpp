@@ -171,3 +171,20 @@ TEST(DataLine, MarkersOnOnePlaceAreDrawnOnce) {
     often->FillRectangle(&white, 0, 0, 20, 20);
     EXPECT_EQ(InkOf(*often), 0);
 }
+
+TEST(DataLine, OneBadPointAmongManyIsRefused) {
+    const Pen pen(kBlack, 1.0F);
+    for (const float bad :
+         {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
+        for (const bool folded : {false, true}) {
+            const auto engine = PixelSurface(20, 20);
+            std::vector<PointF> points(1000, PointF{5, 5});
+            points[1] = {5, 9};
+            (folded ? points[777].X : points[778].Y) = bad;
+            const Matrix flat{folded ? 0.0 : 1.0, 0.0, 0.0, 1.0, 0.0, 0.0};
+            engine->SetTransform(&flat);
+            EXPECT_EQ(engine->DrawLines(&pen, points.data(), 1000), Status::InvalidParameter);
+            EXPECT_EQ(InkOf(*engine), 0);
+        }
+    }
+}
