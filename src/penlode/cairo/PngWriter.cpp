@@ -1,32 +1,43 @@
 #include "penlode/cairo/PngWriter.h"
 
-#include "penlode/PngChunks.h"
-#include "penlode/RunDeflater.h"
 #include "penlode/Units.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <csetjmp>
 #include <cstring>
+#include <limits>
+#include <new>
+#include <png.h>
 #include <utility>
 #include <vector>
+#include <zlib.h>
 
 namespace penlode {
 namespace {
 
-using Row = std::vector<std::uint32_t>;
+/// A chart is flat areas: less the row above, long runs of one byte. Looking for these alone is faster than
+/// zlib's lowest level, and its files are smaller.
+constexpr int kCompressionLevel = 1;
+constexpr int kCompressionStrategy = Z_RLE;
 
-/// The words of a row.
-void ReadRow(const PremultipliedPixels& pixels, std::int32_t y, Row& row) {
-    std::memcpy(row.data(), pixels.Data + static_cast<std::ptrdiff_t>(y) * pixels.Stride, row.size() * 4);
+const unsigned char* RowOf(const PremultipliedPixels& pixels, std::int32_t y) {
+    return pixels.Data + static_cast<std::ptrdiff_t>(y) * pixels.Stride;
 }
 
-bool IsOpaque(const PremultipliedPixels& pixels, Row& row) {
+std::uint32_t WordAt(const unsigned char* row, std::size_t x) {
+    std::uint32_t word = 0;
+    std::memcpy(&word, row + 4 * x, sizeof word);
+    return word;
+}
+
+bool IsOpaque(const PremultipliedPixels& pixels) {
+    const auto width = static_cast<std::size_t>(pixels.Width);
     for (std::int32_t y = 0; y < pixels.Height; ++y) {
-        ReadRow(pixels, y, row);
+        const unsigned char* row = RowOf(pixels, y);
         std::uint32_t common = 0xFF000000U;
-        for (const std::uint32_t word : row) {
-            common &= word;
+        for (std::size_t x = 0; x < width; ++x) {
+            common &= WordAt(row, x);
         }
         if (common != 0xFF000000U) {
             return false;
@@ -35,58 +46,95 @@ bool IsOpaque(const PremultipliedPixels& pixels, Row& row) {
     return true;
 }
 
-/// What a pixel's bytes are more than those of the one above, as one word.
-std::uint32_t Less(std::uint32_t pixel, std::uint32_t above) {
-    constexpr std::uint32_t kHighBits = 0x80808080U;
-    return ((pixel | kHighBits) - (above & ~kHighBits)) ^ ((pixel ^ ~above) & kHighBits);
+/// Red, green and blue.
+void PutColor(std::uint32_t argb, unsigned char* out) {
+    out[0] = static_cast<unsigned char>(argb >> 16U);
+    out[1] = static_cast<unsigned char>(argb >> 8U);
+    out[2] = static_cast<unsigned char>(argb);
 }
 
-/// Writes rows as differences from the row above (PNG's filter type 2).
-class RowWriter {
-public:
-    RowWriter(std::size_t width, bool opaque) : m_size(opaque ? 3 : 4), m_stream(m_size), m_above(width, 0) {}
-
-    /// Straight colours; alpha is left out of opaque pictures.
-    void Add(const Row& row) {
-        m_stream.Put(2);
-        std::array<unsigned char, 4> bytes{};
-        std::size_t x = 0;
-        while (x < row.size()) {
-            const std::uint32_t change = Change(row, x);
-            bytes = {static_cast<unsigned char>(change >> 16U), static_cast<unsigned char>(change >> 8U),
-                     static_cast<unsigned char>(change), static_cast<unsigned char>(change >> 24U)};
-            std::for_each_n(bytes.begin(), m_size, [&](unsigned char byte) { m_stream.Put(byte); });
-            const std::size_t first = ++x;
-            while (x < row.size() && Change(row, x) == change) {
-                ++x;
-            }
-            if (x > first) {
-                m_stream.Repeat(bytes.data(), x - first);
-            }
+/// One row as red, green, blue and, unless opaque, alpha.
+void FillRow(const unsigned char* row, std::size_t width, bool opaque, unsigned char* out) {
+    if (opaque) {
+        for (std::size_t x = 0; x < width; ++x, out += 3) {
+            PutColor(WordAt(row, x), out);
         }
-        m_stream.EndRow();
-        m_above = row;
+        return;
     }
+    for (std::size_t x = 0; x < width; ++x, out += 4) {
+        const std::uint32_t argb = Unpremultiplied(WordAt(row, x));
+        PutColor(argb, out);
+        out[3] = static_cast<unsigned char>(argb >> 24U);
+    }
+}
 
-    std::string Finish() { return m_stream.Finish(); }
+bool Append(std::string& file, png_bytep bytes, png_size_t count) {
+    try {
+        file.append(reinterpret_cast<const char*>(bytes), count);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
 
-private:
-    std::uint32_t Change(const Row& row, std::size_t x) const { return Less(row[x], m_above[x]); }
+void WriteBytes(png_structp png, png_bytep bytes, png_size_t count) {
+    if (!Append(*static_cast<std::string*>(png_get_io_ptr(png)), bytes, count)) {
+        png_error(png, "out of memory");
+    }
+}
 
-    std::size_t m_size;
-    RunDeflater m_stream;
-    Row m_above;
+void FlushNothing(png_structp) {}
+
+void KeepQuiet(png_structp, png_const_charp) {}
+
+/// The message is of no use here; an encoding either succeeds or gives nothing.
+[[noreturn]] void GiveUp(png_structp png, png_const_charp) {
+    png_longjmp(png, 1);
+}
+
+png_uint_32 PixelsPerMetre(double dpi) {
+    return static_cast<png_uint_32>(std::lround(dpi / kMillimetresPerInch * 1000.0));
+}
+
+/// Everything that an encoding needs, made before the jump target is set: libpng leaves a failed call by
+/// longjmp, which must not skip a destructor.
+struct Encoding {
+    PremultipliedPixels Pixels;
+    double DpiX;
+    double DpiY;
+    bool Opaque;
+    std::vector<unsigned char> Row;
+    std::string File;
+    png_structp Png = nullptr;
+    png_infop Info = nullptr;
+
+    ~Encoding() { png_destroy_write_struct(&Png, &Info); }
 };
 
-std::string Header(const PremultipliedPixels& pixels, bool opaque) {
-    constexpr std::string_view kRgb("\x08\x02\0\0\0", 5);
-    constexpr std::string_view kRgba("\x08\x06\0\0\0", 5);
-    return BigEndian(static_cast<std::uint32_t>(pixels.Width)) +
-           BigEndian(static_cast<std::uint32_t>(pixels.Height)) + std::string(opaque ? kRgb : kRgba);
+void WriteHeader(Encoding& e) {
+    png_set_IHDR(e.Png, e.Info, static_cast<png_uint_32>(e.Pixels.Width),
+                 static_cast<png_uint_32>(e.Pixels.Height), 8,
+                 e.Opaque ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA, PNG_INTERLACE_NONE,
+                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    png_set_pHYs(e.Png, e.Info, PixelsPerMetre(e.DpiX), PixelsPerMetre(e.DpiY), PNG_RESOLUTION_METER);
+    png_set_compression_level(e.Png, kCompressionLevel);
+    png_set_compression_strategy(e.Png, kCompressionStrategy);
+    png_set_filter(e.Png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
+    png_write_info(e.Png, e.Info);
 }
 
-std::string PixelsPerMetre(double dpi) {
-    return BigEndian(static_cast<std::uint32_t>(std::lround(dpi / kMillimetresPerInch * 1000.0)));
+bool Write(Encoding& e) {
+    if (setjmp(png_jmpbuf(e.Png))) {
+        return false;
+    }
+    png_set_write_fn(e.Png, &e.File, WriteBytes, FlushNothing);
+    WriteHeader(e);
+    for (std::int32_t y = 0; y < e.Pixels.Height; ++y) {
+        FillRow(RowOf(e.Pixels, y), static_cast<std::size_t>(e.Pixels.Width), e.Opaque, e.Row.data());
+        png_write_row(e.Png, e.Row.data());
+    }
+    png_write_end(e.Png, e.Info);
+    return true;
 }
 
 } // namespace
@@ -95,22 +143,15 @@ std::string EncodePng(const PremultipliedPixels& pixels, double dpiX, double dpi
     if (pixels.Data == nullptr) {
         return {};
     }
-    Row row(static_cast<std::size_t>(pixels.Width));
-    const bool opaque = IsOpaque(pixels, row);
-    RowWriter rows(row.size(), opaque);
-    for (std::int32_t y = 0; y < pixels.Height; ++y) {
-        ReadRow(pixels, y, row);
-        if (!opaque) {
-            std::transform(row.begin(), row.end(), row.begin(), Unpremultiplied);
-        }
-        rows.Add(row);
+    const bool opaque = IsOpaque(pixels);
+    Encoding encoding{pixels, dpiX, dpiY, opaque, {}, {}};
+    encoding.Row.resize(static_cast<std::size_t>(pixels.Width) * (opaque ? 3U : 4U));
+    encoding.Png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, GiveUp, KeepQuiet);
+    encoding.Info = encoding.Png == nullptr ? nullptr : png_create_info_struct(encoding.Png);
+    if (encoding.Info == nullptr || !Write(encoding)) {
+        return {};
     }
-    std::string file(kPngSignature);
-    AddPngChunk(file, "IHDR", Header(pixels, opaque));
-    AddPngChunk(file, "pHYs", PixelsPerMetre(dpiX) + PixelsPerMetre(dpiY) + '\x01');
-    AddPngStream(file, rows.Finish());
-    AddPngChunk(file, "IEND", "");
-    return file;
+    return std::move(encoding.File);
 }
 
 std::uint32_t Unpremultiplied(std::uint32_t argb) {

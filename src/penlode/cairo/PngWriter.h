@@ -14,7 +14,7 @@ struct PremultipliedPixels {
 };
 
 /// A PNG file with the resolution (pHYs, in whole pixels per metre): 8-bit RGB when every pixel is opaque,
-/// else RGBA. The same pixels give the same bytes. Empty without pixels.
+/// else RGBA. The same pixels give the same bytes. Empty when the encoder fails.
 std::string EncodePng(const PremultipliedPixels& pixels, double dpiX, double dpiY);
 
 /// A premultiplied word with straight colours.
