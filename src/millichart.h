@@ -2,7 +2,17 @@
 
 /// Everything that a host needs: the charts, their records, the serializers and the streams. The engine that
 /// a host draws on is included by its own header, such as penlode/cairo/GraphicsEngine.h.
+#include "charts/histogram/BasicHistogram.h"
+#include "charts/histogram/HistogramProp.h"
+#include "charts/histogram/HistogramPropSerialize.h"
+#include "charts/pie/BasicHalfPie.h"
+#include "charts/pie/BasicHalfPieHalfPie.h"
+#include "charts/pie/BasicHalfPieHistogram.h"
 #include "charts/pie/BasicPie.h"
+#include "charts/pie/HalfPieHistogramProp.h"
+#include "charts/pie/HalfPieHistogramPropSerialize.h"
+#include "charts/pie/HalfPieProp.h"
+#include "charts/pie/HalfPiePropSerialize.h"
 #include "charts/pie/PieProp.h"
 #include "charts/pie/PiePropSerialize.h"
 #include "foundation/CaptionProp.h"

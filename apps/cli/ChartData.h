@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ChartStream.h"
+#include "DataTable.h"
 #include "Message.h"
 
 #include <optional>
@@ -14,15 +15,15 @@ struct DataSource {
     std::string Folder;                     ///< the document's; a CSV file that it names stands there
     std::optional<std::string> NamedByUser; ///< a CSV file that replaces the document's own data
     std::vector<Message>* Messages;
+    std::vector<std::string>* Files; ///< takes the name of each file that is read
 };
 
-/// One number a part, and its name if the data came with names (narrow).
-struct NamedValues {
-    std::vector<std::string> Names;
-    std::vector<double> Values;
-};
+/// The warning that a document's names at `place` are others than those that came with its CSV file.
+Message OtherNames(const std::string& place);
 
-/// The group "data" of a document: "values", or "csv" with a file of two columns, names and values.
-NamedValues LoadNamedValues(ChartStream& stream, const DataSource& source);
+/// The table that a chart's data are in: of the file that the user named, or of the one under "csv" in the
+/// stream's current group. Nothing when the data stand in the document. A document with both "csv" and
+/// `key`, under which its own data stand, is refused.
+std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source);
 
 } // namespace cli

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <new>
 
 namespace cli {
 namespace {
@@ -83,7 +84,7 @@ void Load(const std::string& text, const std::string& input, const std::optional
     if (!json.IsUnreadable()) {
         const std::string folder = std::filesystem::path(input).parent_path().string();
         LoadHead(stream, document);
-        LoadContent(stream, {folder, data, &document.Messages}, document);
+        LoadContent(stream, {folder, data, &document.Messages, &document.DataFiles}, document);
     }
     Append(document.Messages, ProblemMessages(json, stream));
     if (document.Content != nullptr && !HasErrors(document.Messages)) {
@@ -102,6 +103,8 @@ ChartDocument LoadChartDocument(const std::string& input, const std::optional<st
         CompleteMessages(shownName, text, document.Messages);
     } catch (const UserError& error) {
         document.Messages.push_back({shownName, Severity::Error, 0, "", "", "", error.Reason()});
+    } catch (const std::bad_alloc&) {
+        document.Messages = {{shownName, Severity::Error, 0, "", "", "", kTooLittleMemory}};
     }
     if (HasErrors(document.Messages)) {
         document.Content = nullptr;

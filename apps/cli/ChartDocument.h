@@ -14,9 +14,10 @@ namespace cli {
 struct ChartDocument {
     std::unique_ptr<Chart> Content; ///< null when there are errors
     std::string Kind;
-    std::string Title;             ///< UTF-8, like the description
-    std::string Description;       ///< the document's description and its source
-    std::vector<Message> Messages; ///< in the document's order, notes last
+    std::string Title;                  ///< UTF-8, like the description
+    std::string Description;            ///< the document's description and its source
+    std::vector<Message> Messages;      ///< in the document's order, notes last
+    std::vector<std::string> DataFiles; ///< the other files that it was made of
 };
 
 /// Reads a document of the format in docs/document-format.md, "-" being the standard input. `data` names a

@@ -1,4 +1,5 @@
 #include "Chart.h"
+#include "HistogramChart.h"
 #include "PieChart.h"
 
 #include <algorithm>
@@ -6,7 +7,7 @@
 namespace cli {
 namespace {
 
-constexpr ChartKind kKinds[] = {kPieKind};
+constexpr ChartKind kKinds[] = {kPieKind, kHistogramKind};
 
 } // namespace
 

@@ -32,6 +32,11 @@ void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
     m_json.Ser(tag, values, replaced == m_defaultLists.end() ? defaults : replaced->second);
 }
 
+std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
+    Ask(tag);
+    return m_json.LoadNumbersAndGaps(tag);
+}
+
 void ChartStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
     Ask(tag);
     if (m_joinedTags.contains(tag) && m_json.IsList(tag)) {

@@ -29,6 +29,23 @@ public:
 
     bool Has(const std::string& tag) const { return m_json.Has(tag); }
 
+    /// As Has, and remembers the key as one that may stand here.
+    bool Offers(const std::string& tag) {
+        Ask(tag);
+        return Has(tag);
+    }
+
+    bool IsList(const std::string& tag) const { return m_json.IsList(tag); }
+
+    /// How many groups there are to push in a list of them; 0 for what is no list.
+    std::size_t CountGroups(const std::string& tag) {
+        Ask(tag);
+        return m_json.CountGroups(tag);
+    }
+
+    /// Numbers, and NaN for each null or empty text.
+    std::vector<double> LoadNumbersAndGaps(const std::string& tag);
+
     /// The keys that were asked for, UTF-8, by the place of their group.
     const std::map<std::string, std::vector<std::string>>& AskedKeys() const { return m_asked; }
 

@@ -15,7 +15,7 @@ constexpr std::array kWeights{Severity::Error, Severity::Warning, Severity::Note
 
 /// sales.json: 2 errors, 0 warnings, 1 note
 std::string Summary(const std::string& input, const std::vector<Message>& messages) {
-    std::string line = ShownName(input);
+    std::string line = Printable(ShownName(input));
     const char* separator = ": ";
     for (const Severity weight : kWeights) {
         const auto count = std::count_if(messages.begin(), messages.end(), [weight](const Message& message) {
@@ -29,8 +29,8 @@ std::string Summary(const std::string& input, const std::vector<Message>& messag
 
 std::string Lines(const std::vector<Message>& messages) {
     std::string lines;
-    for (const Message& message : messages) {
-        lines += ToLine(message) + "\n";
+    for (const std::string& line : ToLines(messages, true)) {
+        lines += line + "\n";
     }
     return lines;
 }

@@ -12,6 +12,8 @@ namespace cli {
 namespace {
 
 constexpr float kLargestPage = 5000.0F;
+constexpr double kLeastDpi = 10.0;
+constexpr double kMostDpi = 2400.0;
 constexpr const char* kDataHelp = "a CSV file (name, value) that replaces the document's data";
 
 bool ParseSide(std::string text, float& side) {
@@ -24,6 +26,10 @@ bool ParsePage(const std::string& text, penlode::SizeF& page) {
            ParseSide(text.substr(cross + 1), page.Height);
 }
 
+bool ParseDpi(std::string text, double& dpi) {
+    return penlode::ser_evaluate(dpi, text, false) && dpi >= kLeastDpi && dpi <= kMostDpi;
+}
+
 bool ParseBackground(std::string text, penlode::Color& color) {
     if (text == "none") {
         color = penlode::Color{0U};
@@ -33,9 +39,9 @@ bool ParseBackground(std::string text, penlode::Color& color) {
 }
 
 /// An option whose text is read by `parse`; complains with the form that it should have.
-template <class T>
-void AddParsed(CLI::App& command, const std::string& name, std::optional<T>& target,
-               bool (*parse)(std::string, T&), const char* form, const std::string& help) {
+template <class T, class Target>
+void AddParsed(CLI::App& command, const std::string& name, Target& target, bool (*parse)(std::string, T&),
+               const char* form, const std::string& help) {
     command.add_option_function<std::string>(
         name,
         [&target, parse, name, form](const std::string& text) {
@@ -63,9 +69,8 @@ void AddDraw(CLI::App& app, DrawOptions& options) {
         },
         "png, svg or pdf", "png, svg or pdf, where the name of -o does not tell");
     draw.add_option("--data", options.Data, kDataHelp);
-    draw.add_option("--dpi", options.Dpi, "dots per inch of a PNG")
-        ->check(CLI::Range(10.0, 2400.0))
-        ->capture_default_str();
+    AddParsed<double>(draw, "--dpi", options.Dpi, ParseDpi, "a number from 10 to 2400",
+                      "dots per inch of a PNG, from 10 to 2400; without it 96");
     AddParsed<penlode::SizeF>(
         draw, "--page", options.Page,
         [](std::string text, penlode::SizeF& page) { return ParsePage(text, page); },
@@ -117,7 +122,8 @@ Wish ParseCommandLine(int argc, char** argv) {
     CLI::App app{"Draws chart documents.", "millichart"};
     app.require_subcommand(1);
     app.failure_message([](const CLI::App*, const CLI::Error& error) {
-        return std::string("millichart: ") + error.what() + "; millichart --help tells more\n";
+        return Printable(std::string("millichart: ") + error.what() + "; millichart --help tells more") +
+               "\n";
     });
     app.set_version_flag("--version", "millichart " MILLICHART_VERSION);
     DrawOptions draw;

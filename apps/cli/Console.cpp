@@ -1,7 +1,6 @@
 #include "Console.h"
 
 #include <iostream>
-#include <sstream>
 
 namespace cli {
 namespace {
@@ -14,23 +13,18 @@ bool g_lineIsShown = false;
 
 void Tell(const std::string& message) {
     ShowPassingLine("");
-    std::istringstream lines(message);
-    for (std::string line; std::getline(lines, line);) {
-        std::cerr << "millichart: " << line << '\n';
-    }
+    std::cerr << "millichart: " << Printable(message) << '\n';
 }
 
 void TellProblems(const std::vector<Message>& messages) {
-    for (const Message& message : messages) {
-        if (message.Weight != Severity::Note) {
-            Tell(ToLine(message));
-        }
+    for (const std::string& line : ToLines(messages, false)) {
+        Tell(line);
     }
 }
 
 void ShowPassingLine(const std::string& line) {
     if (g_lineIsShown || !line.empty()) {
-        std::cerr << kClearLine << line << std::flush;
+        std::cerr << kClearLine << Printable(line) << std::flush;
     }
     g_lineIsShown = !line.empty();
 }

@@ -7,10 +7,10 @@
 
 namespace cli {
 
-/// One message on the standard error stream, each of its lines after the program's name.
+/// One message on a line of the standard error stream, after the program's name.
 void Tell(const std::string& message);
 
-/// Errors and warnings; notes are left out.
+/// Errors and warnings, not too many; notes are left out.
 void TellProblems(const std::vector<Message>& messages);
 
 /// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.

@@ -16,7 +16,7 @@ char SeparatorOf(std::string_view text) {
     bool quoted = false;
     for (const char c : text) {
         quoted = quoted != (c == '"');
-        if (!quoted && c == '\n') {
+        if (!quoted && c == '\n' && *std::max_element(counts.begin(), counts.end()) > 0) {
             break;
         }
         const auto found = std::find(kSeparators.begin(), kSeparators.end(), c);

@@ -18,7 +18,8 @@ struct CsvTable {
     std::size_t OpenQuote = 0; ///< the line of a quote that never closes, or 0
 };
 
-/// Reads comma, semicolon or tab separated text, whichever the first line has most of.
+/// Reads comma, semicolon or tab separated text, whichever the first line with any has
+/// most of.
 /// A cell in double quotes may hold separators, line breaks and doubled quotes. Lines end with LF or CRLF; a
 /// byte order mark is passed over. Blanks round an unquoted cell are dropped.
 CsvTable ParseCsv(std::string_view text);

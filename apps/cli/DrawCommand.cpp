@@ -1,6 +1,7 @@
 #include "DrawCommand.h"
 
 #include "ChartDocument.h"
+#include "ChartExtent.h"
 #include "Console.h"
 #include "FontReport.h"
 #include "InputFile.h"
@@ -9,6 +10,8 @@
 #include "Progress.h"
 #include "UserError.h"
 
+#include <filesystem>
+#include <new>
 #include <set>
 
 namespace cli {
@@ -18,6 +21,13 @@ using penlode::RectF;
 using penlode::SizeF;
 
 constexpr float kMargin = 5.0F;
+
+/// One name for a file, however it is called.
+std::string CanonicalName(const std::string& name) {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::weakly_canonical(name, error);
+    return error ? name : path.string();
+}
 
 std::string Millimetres(SizeF size) {
     return ToJson(static_cast<double>(size.Width)).dump() + " x " +
@@ -49,7 +59,7 @@ SizeF PageOf(const DrawOptions& options, const RectF& extent, const std::string&
 /// The file's bytes.
 std::string Render(const DrawOptions& options, const ChartDocument& document, const std::string& shownName,
                    const OutputName& output) {
-    const RectF extent = document.Content->Extent();
+    const RectF extent = ExtentWithTexts(*document.Content);
     const SizeF page = PageOf(options, extent, shownName);
     const std::unique_ptr<Picture> picture =
         MakePicture({output.Format, page, options.Dpi, options.Background, document.Title,
@@ -78,7 +88,8 @@ bool DrawOne(const DrawOptions& options, const std::string& input, std::set<std:
         return false;
     }
     const OutputName output = OutputOf(options, input);
-    if (output.Name != kStandardStream && !drawn.insert(output.Name).second) {
+    RefuseToOverwrite(output.Name, shownName, options, document.DataFiles);
+    if (output.Name != kStandardStream && !drawn.insert(CanonicalName(output.Name)).second) {
         throw UserError(shownName, output.Name + " is already the picture of another input");
     }
     WriteOutput(output.Name, Render(options, document, shownName, output));
@@ -98,6 +109,9 @@ bool Draw(const DrawOptions& options) {
             allDrawn = DrawOne(options, input, drawn) && allDrawn;
         } catch (const UserError& error) {
             Tell(error.what());
+            allDrawn = false;
+        } catch (const std::bad_alloc&) {
+            Tell(ShownName(input) + ": " + kTooLittleMemory);
             allDrawn = false;
         }
     }

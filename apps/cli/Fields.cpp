@@ -50,6 +50,17 @@ std::string LoadText(CSerializeStream& stream, const char* key, const std::strin
     return text;
 }
 
+double LoadNumber(CSerializeStream& stream, const char* key, double defaultNumber) {
+    std::string defaultText;
+    penlode::ser_evaluate(defaultNumber, defaultText, true);
+    const std::string text = LoadText(stream, key, defaultText);
+    double number = defaultNumber;
+    if (!ParseNumber(text, number)) {
+        stream.Refuse(key, text, penlode::kFloatForm);
+    }
+    return number;
+}
+
 PointF LoadPoint(CSerializeStream& stream, const char* key) {
     const std::string text = LoadText(stream, key, "0 0");
     PointF point;

@@ -12,6 +12,7 @@ namespace cli {
 
 /// A narrow text.
 std::string LoadText(penlode::CSerializeStream& stream, const char* key, const std::string& defaultText);
+double LoadNumber(penlode::CSerializeStream& stream, const char* key, double defaultNumber);
 penlode::PointF LoadPoint(penlode::CSerializeStream& stream, const char* key);
 std::vector<penlode::PointF> LoadPoints(penlode::CSerializeStream& stream, const char* key);
 std::vector<double> LoadNumbers(penlode::CSerializeStream& stream, const char* key);

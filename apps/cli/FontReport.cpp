@@ -1,29 +1,17 @@
 #include "FontReport.h"
 
+#include "TextListener.h"
 #include "penlode/FontFace.h"
 #include "penlode/StringUtil.h"
-#include "penlode/recording/RecordingEngine.h"
 
 #include <map>
-#include <variant>
 
 namespace cli {
 namespace {
 
 using penlode::CStringUtil;
-using penlode::RecordedCall;
 
 constexpr std::size_t kMostShown = 20;
-
-/// A font and a text of one drawing call, if it has them.
-template <class T> const T* ArgumentOf(const RecordedCall& call) {
-    for (const RecordedCall::Value& value : call.Arguments) {
-        if (const T* found = std::get_if<T>(&value)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
 
 void AddNew(std::wstring& characters, const std::wstring& more) {
     for (const wchar_t character : more) {
@@ -42,16 +30,11 @@ std::string FaceMessage(const std::wstring& family) {
 } // namespace
 
 FontReport ReportFonts(const Chart& chart) {
-    penlode::CRecordingEngine recorder;
-    chart.Draw(recorder);
     std::map<std::wstring, std::wstring> missingByFamily;
-    for (const RecordedCall& call : recorder.Calls()) {
-        const auto* font = ArgumentOf<penlode::Font>(call);
-        const auto* text = ArgumentOf<std::wstring>(call);
-        if (font != nullptr && text != nullptr) {
-            AddNew(missingByFamily[font->Family], penlode::MissingCharacters(*text, *font));
-        }
-    }
+    TextListener listener([&](const std::wstring& text, const penlode::Font& font, const penlode::RectF&) {
+        AddNew(missingByFamily[font.Family], penlode::MissingCharacters(text, font));
+    });
+    chart.Draw(listener);
     FontReport report;
     for (const auto& [family, missing] : missingByFamily) {
         report.Faces.push_back(FaceMessage(family));

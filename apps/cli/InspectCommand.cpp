@@ -2,6 +2,7 @@
 
 #include "CallsToJson.h"
 #include "ChartDocument.h"
+#include "ChartExtent.h"
 #include "Console.h"
 #include "InputFile.h"
 #include "OutputFile.h"
@@ -24,7 +25,7 @@ bool Inspect(const InspectOptions& options) {
     document.Content->Draw(recorder);
     const Json inspected{{"file", ShownName(options.Input)},
                          {"kind", document.Kind},
-                         {"extent", ToJson(document.Content->Extent())},
+                         {"extent", ToJson(ExtentWithTexts(*document.Content))},
                          {"layout", document.Content->Layout()},
                          {"calls", CallsToJson(recorder.Calls())}};
     WriteOutput(kStandardStream, Printed(inspected, kLevels));

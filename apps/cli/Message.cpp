@@ -1,6 +1,7 @@
 #include "Message.h"
 
 #include <algorithm>
+#include <map>
 #include <nlohmann/json.hpp>
 
 namespace cli {
@@ -10,6 +11,19 @@ using Json = nlohmann::ordered_json;
 
 /// How the place of what is not JSON begins.
 constexpr const char* kLinePlace = "line ";
+
+constexpr std::size_t kMostShown = 50;
+
+/// Also the two bytes of a control character from U+0080 to U+009F.
+bool IsControl(std::string_view text, std::size_t i) {
+    const auto at = [text](std::size_t position) {
+        return position < text.size() ? static_cast<unsigned char>(text[position]) : 0U;
+    };
+    const auto isHigh = [&at](std::size_t lead) {
+        return at(lead) == 0xC2U && at(lead + 1) >= 0x80U && at(lead + 1) < 0xA0U;
+    };
+    return at(i) < 0x20U || at(i) == 0x7FU || isHigh(i) || (i > 0 && isHigh(i - 1));
+}
 
 Json ObjectOf(const Message& message) {
     Json object;
@@ -24,6 +38,22 @@ Json ObjectOf(const Message& message) {
 }
 
 } // namespace
+
+std::string Printable(std::string_view text) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string shown;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (!IsControl(text, i)) {
+            shown += text[i];
+            continue;
+        }
+        shown += "\\x";
+        shown += kDigits[byte >> 4U];
+        shown += kDigits[byte & 15U];
+    }
+    return shown;
+}
 
 const char* NameOf(Severity severity) {
     switch (severity) {
@@ -53,7 +83,27 @@ std::string ToLine(const Message& message) {
     if (!message.Place.empty()) {
         line += message.Place + ": ";
     }
-    return line + SentenceOf(message);
+    return Printable(line + SentenceOf(message));
+}
+
+std::vector<std::string> ToLines(const std::vector<Message>& messages, bool withNotes) {
+    std::map<std::string, std::size_t> totals;
+    for (const Message& message : messages) {
+        totals[message.File] += message.Weight == Severity::Note ? 0 : 1;
+    }
+    std::map<std::string, std::size_t> counts;
+    std::vector<std::string> lines;
+    for (const Message& message : messages) {
+        const bool isNote = message.Weight == Severity::Note;
+        const std::size_t count = isNote ? 0 : ++counts[message.File];
+        if (isNote ? withNotes : count <= kMostShown) {
+            lines.push_back(ToLine(message));
+        } else if (count == kMostShown + 1) {
+            const std::string more = std::to_string(totals[message.File] - kMostShown);
+            lines.push_back(Printable(message.File + ": and " + more + " more"));
+        }
+    }
+    return lines;
 }
 
 std::string ToJson(const std::vector<Message>& messages) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace cli {
@@ -19,9 +20,17 @@ struct Message {
     std::string Text = {};   ///< the sentence; empty for "found ..., expected ..."
 };
 
+/// The text on one line, with control characters written out as \x1B, so that names and values from a file
+/// cannot steer a terminal.
+std::string Printable(std::string_view text);
+
 /// The message on one line: `sales.json:12: data/values/3: found "x", expected a number`. Warnings and notes
 /// say that they are.
 std::string ToLine(const Message& message);
+
+/// Messages on one line each: of each file the first 50 errors and warnings and how many there are more, and
+/// every note if they are wanted.
+std::vector<std::string> ToLines(const std::vector<Message>& messages, bool withNotes);
 
 /// The sentence alone, without file and place.
 std::string SentenceOf(const Message& message);

@@ -15,8 +15,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string BesideName(const std::string& name) {
-    return name + "." + std::to_string(std::random_device{}()) + ".part";
+/// Short and hidden, in the file's folder.
+std::string AsideName(const std::string& name) {
+    const std::string own = ".millichart-" + std::to_string(std::random_device{}());
+    return fs::path(name).replace_filename(own).string();
+}
+
+/// Who may read and write the old file may do so with the new one.
+void KeepMode(const std::string& old, const std::string& fresh) {
+    std::error_code error;
+    const fs::file_status status = fs::status(old, error);
+    if (fs::exists(status)) {
+        fs::permissions(fresh, status.permissions(), error);
+    }
 }
 
 bool Put(std::FILE* file, std::string_view bytes) {
@@ -53,11 +64,12 @@ std::string BehindLinks(const std::string& name) {
 
 void WriteFileWhole(const std::string& name, std::string_view bytes) {
     const std::string target = BehindLinks(name);
-    const std::string part = BesideName(target);
+    const std::string part = AsideName(target);
     std::error_code error;
     if (!WriteBytes(part, bytes)) {
         error = std::error_code(errno, std::generic_category());
     } else {
+        KeepMode(target, part);
         fs::rename(part, target, error);
     }
     if (error) {

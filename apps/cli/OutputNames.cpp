@@ -30,13 +30,21 @@ std::string BaseName(const std::string& input) {
     return name;
 }
 
+/// What an output needs whose name tells no format.
+std::string NeededFormat(const DrawOptions& options) {
+    if (!options.Output) {
+        return "standard input: expected --format png, svg or pdf, or -o FILE, with it";
+    }
+    return "-o " + *options.Output +
+           (options.Output == kStandardStream
+                ? ": expected --format png, svg or pdf with it"
+                : ": expected a name that ends in .png, .svg or .pdf, or --format");
+}
+
 void CheckOneFile(const DrawOptions& options) {
-    const bool isStandard = options.Output == kStandardStream;
-    const auto told = isStandard ? std::nullopt : FormatOfName(*options.Output);
+    const auto told = options.Output ? FormatOfName(*options.Output) : std::nullopt;
     if (!told && !options.Format) {
-        throw UsageError(isStandard ? "-o -: expected --format png, svg or pdf with it"
-                                    : "-o " + *options.Output +
-                                          ": expected a name that ends in .png, .svg or .pdf, or --format");
+        throw UsageError(NeededFormat(options));
     }
     if (told && options.Format && *told != *options.Format) {
         throw UsageError("-o " + *options.Output + ": its ending tells another format than --format");
@@ -48,13 +56,6 @@ void MakeFolder(const fs::path& folder) {
     fs::create_directories(folder, error);
     if (error) {
         throw UserError(folder.string(), "cannot be made a folder: " + error.message());
-    }
-}
-
-void RefuseToOverwrite(const std::string& input, const std::string& output) {
-    std::error_code error;
-    if (input != kStandardStream && fs::equivalent(input, output, error)) {
-        throw UserError(input, "the picture would take the place of its document");
     }
 }
 
@@ -72,9 +73,22 @@ void CheckOutputs(const DrawOptions& options) {
         throw UsageError("-o -: expected one FILE with it");
     }
     if (options.Output ? !IsFolder(options) : standard == 1 && options.Inputs.size() == 1) {
-        DrawOptions named = options;
-        named.Output = options.Output.value_or(kStandardStream);
-        CheckOneFile(named);
+        CheckOneFile(options);
+    }
+}
+
+void RefuseToOverwrite(const std::string& output, const std::string& shownInput, const DrawOptions& options,
+                       const std::vector<std::string>& dataFiles) {
+    std::error_code error;
+    if (output == kStandardStream || !fs::is_regular_file(output, error)) {
+        return;
+    }
+    std::vector<std::string> read = options.Inputs;
+    read.insert(read.end(), dataFiles.begin(), dataFiles.end());
+    for (const std::string& file : read) {
+        if (file != kStandardStream && fs::equivalent(file, output, error)) {
+            throw UserError(shownInput, "its picture would take the place of " + file);
+        }
     }
 }
 
@@ -82,7 +96,6 @@ OutputName OutputOf(const DrawOptions& options, const std::string& input) {
     const bool toStandard = !options.Output && input == kStandardStream;
     if (toStandard || (options.Output && !IsFolder(options))) {
         const std::string name = options.Output.value_or(kStandardStream);
-        RefuseToOverwrite(input, name);
         return {name, options.Format ? *options.Format : *FormatOfName(name)};
     }
     const PictureFormat format = options.Format.value_or(PictureFormat::Png);

@@ -3,6 +3,7 @@
 #include "DrawCommand.h"
 
 #include <string>
+#include <vector>
 
 namespace cli {
 
@@ -18,5 +19,10 @@ void CheckOutputs(const DrawOptions& options);
 /// beside the input. The format is the one asked for, or that of the name's ending, or PNG. Makes the folder.
 /// Throws UserError.
 OutputName OutputOf(const DrawOptions& options, const std::string& input);
+
+/// Throws UserError when the output is a file that is read: one of the inputs, or one of `dataFiles`, which
+/// the input was made of.
+void RefuseToOverwrite(const std::string& output, const std::string& shownInput, const DrawOptions& options,
+                       const std::vector<std::string>& dataFiles);
 
 } // namespace cli

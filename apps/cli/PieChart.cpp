@@ -2,6 +2,7 @@
 
 #include "Fields.h"
 #include "Palette.h"
+#include "PieData.h"
 #include "millichart.h"
 #include "penlode/StringUtil.h"
 
@@ -13,17 +14,32 @@ using penlode::CStringUtil;
 
 constexpr const char* kNames = "ComponentName";
 constexpr const char* kColors = "ComponentColor";
+constexpr const char* kSizePlace = "property/PieBasicProp/FixedSize";
+constexpr const char* kWidthPlace = "property/PieBasicProp/FixedWidth";
 constexpr const char* kNamesPlace = "property/PieBasicProp/ComponentName";
 constexpr const char* kColorsPlace = "property/PieBasicProp/ComponentColor";
+
+constexpr float kSmallestPie = 5.0F;
+
+Message SmallPie(float width, bool isFixed) {
+    const std::string found = "the pie is only " + ToJson(static_cast<double>(width)).dump() + " mm across";
+    return isFixed ? Message{"", Severity::Warning, 0, kWidthPlace, "", "", found}
+                   : Message{"",
+                             Severity::Warning,
+                             0,
+                             kSizePlace,
+                             "",
+                             "",
+                             found + ", by its values' total; with 1 here it is as wide as FixedWidth"};
+}
 
 class PieChart final : public Chart {
 public:
     PieChart(ChartStream& stream, const DataSource& source) {
         PieProp prop = LoadProp(stream);
-        NamedValues data = LoadNamedValues(stream, source);
-        if (prop.Basic.ComponentName.empty()) {
-            prop.Basic.ComponentName = std::move(data.Names);
-        }
+        RefuseTooMany(prop.Basic.ComponentName, *source.Messages);
+        PieData data = LoadPieData(stream, source);
+        TakeNames(data, prop.Basic.ComponentName);
         if (stream.TookDefaultList(kColors)) {
             prop.Basic.ComponentColor = PaletteColors(data.Values.size());
         }
@@ -54,8 +70,11 @@ public:
     }
 
     std::vector<Message> Doubts() const override {
-        std::vector<Message> doubts;
+        std::vector<Message> doubts = m_doubts;
         const millichart::PieBasicProp& basic = m_pie.GetPieProp().Basic;
+        if (const float width = m_pie.GetLayout().Pie.Width; width < kSmallestPie) {
+            doubts.push_back(SmallPie(width, basic.FixedSize != 0));
+        }
         if (const std::size_t names = basic.ComponentName.size(); names != 0 && names != m_values) {
             doubts.push_back({"", Severity::Warning, 0, kNamesPlace, Counted(names, "name"),
                               std::to_string(m_values) + ", one a value"});
@@ -68,6 +87,24 @@ public:
     }
 
 private:
+    /// A legend would lay out each of them, values or not.
+    static void RefuseTooMany(std::vector<std::string>& names, std::vector<Message>& messages) {
+        if (names.size() > kMostSlices) {
+            messages.push_back(
+                {"", Severity::Error, 0, kNamesPlace, Counted(names.size(), "name"), FewerSlices()});
+            names.clear();
+        }
+    }
+
+    /// The document's own names stand, unless the user put other data in its place.
+    void TakeNames(PieData& data, std::vector<std::string>& names) {
+        if (names.empty() || (data.NamesGoFirst && !data.Names.empty())) {
+            names = std::move(data.Names);
+        } else if (!data.Names.empty() && data.Names != names) {
+            m_doubts.push_back(OtherNames(kNamesPlace));
+        }
+    }
+
     static PieProp LoadProp(ChartStream& stream) {
         stream.AllowList(kNames);
         stream.SetDefaultList(kColors, PaletteTexts());
@@ -78,6 +115,7 @@ private:
 
     millichart::CBasicPie m_pie;
     std::size_t m_values = 0;
+    std::vector<Message> m_doubts; ///< those of the load
 };
 
 PieProp ExampleProp(std::size_t parts) {

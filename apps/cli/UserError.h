@@ -18,6 +18,9 @@ private:
     std::string m_reason;
 };
 
+/// Why something was not done when memory ran out.
+inline constexpr const char* kTooLittleMemory = "there is too little memory";
+
 /// A wish that cannot be carried out as it was spelt, told after the name of the option.
 class UsageError : public std::runtime_error {
 public:

@@ -3,6 +3,8 @@
 #include "System.h"
 #include "UserError.h"
 
+#include <new>
+
 namespace {
 
 constexpr int kInputFailed = 1;
@@ -37,6 +39,8 @@ int main(int argc, char** argv) {
         return cli::kWrongUsage;
     } catch (const cli::UserError& error) {
         cli::Tell(error.what());
+    } catch (const std::bad_alloc&) {
+        cli::Tell(cli::kTooLittleMemory);
     } catch (const std::exception& error) {
         cli::Tell(std::string("stopped: ") + error.what());
     }

@@ -15,4 +15,14 @@ std::string FixedText(double value, int decimals) {
     return {buffer.data(), result.ptr};
 }
 
+std::string WithoutTrailingZeros(std::string number) {
+    if (number.find('.') != std::string::npos) {
+        number.erase(number.find_last_not_of('0') + 1);
+        if (number.back() == '.') {
+            number.pop_back();
+        }
+    }
+    return number;
+}
+
 } // namespace millichart

@@ -10,4 +10,7 @@ namespace millichart {
 /// exactly, ties to even, "-" for negatives, "inf" and "nan".
 MILLICHART_API std::string FixedText(double value, int decimals);
 
+/// 2.500 as 2.5 and 3.00 as 3: a number's text without the zeros at the end of its decimals.
+MILLICHART_API std::string WithoutTrailingZeros(std::string number);
+
 } // namespace millichart

@@ -1,5 +1,6 @@
 #include "foundation/TextPropertyOperation.h"
 
+#include "penlode/EngineArguments.h"
 #include "penlode/StringUtil.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextPro
 
 void CTextPropertyOperation::DrawTextAtCenter(IGraphicsEngine* engine, const std::string& text,
                                               const TextProperty& property, PointF point) {
-    if (engine == nullptr) {
+    if (engine == nullptr || !penlode::AreFinite(point.X, point.Y)) {
         return;
     }
     const penlode::SolidBrush brush{property.TextColor};

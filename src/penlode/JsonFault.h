@@ -1,19 +1,21 @@
 #pragma once
 
+#include "penlode/Export.h"
 #include "penlode/StreamProblem.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-/// Places in a JSON text, and plain words for what a parser cannot read there. Internal to the keyed stream.
+/// Places in a JSON text, and plain words for what a parser cannot read there. Internal to the keyed stream,
+/// but for Shortened.
 namespace penlode {
 
 /// Texts of a document that appear in problems are no longer than this, in characters.
 inline constexpr std::size_t kMostShown = 60;
 
 /// At most kMostShown characters of a UTF-8 text; a cut is marked by "…".
-std::string Shortened(std::string text);
+PENLODE_API std::string Shortened(std::string text);
 
 /// An Unreadable problem at a byte offset, given as line and column in characters, both from 1. A byte order
 /// mark takes no column.

@@ -2,8 +2,13 @@
 
 #include "penlode/JsonTree.h"
 #include "penlode/StringUtil.h"
+#include "penlode/TextForms.h"
 
+#include <charconv>
+#include <cmath>
+#include <limits>
 #include <optional>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -38,28 +43,30 @@ struct CJsonSerializeStream::Document {
     bool Saving = true;
     bool Unreadable = false;
     std::vector<StreamProblem> Problems;
-    std::unordered_set<const Json*> Asked;      ///< entries that a load asked for
-    std::unordered_set<const Json*> Entered;    ///< the groups among them, whose own entries count too
-    std::unordered_set<std::string> WrongTypes; ///< places of which was told that they hold no text
+    std::unordered_set<const Json*> Asked;   ///< entries that a load asked for
+    std::unordered_set<const Json*> Entered; ///< the groups among them, whose own entries count too
+    /// What was told of places that hold no text, by place.
+    std::unordered_map<std::string, std::size_t> WrongTypes;
+    const Json* LastList = nullptr; ///< the list that was loaded last, for what is refused of it
+    std::string LastListPlace;
     std::vector<StreamProblem> UnknownBeforeSaving;
 
     bool HasRoom() const { return !Unreadable && Problems.size() < kMostProblems; }
 
-    /// A value of which was told that it is no text need not be told to be the wrong text.
-    bool TakesRefusalAt(const std::string& tag) const {
-        return HasRoom() && !WrongTypes.contains(PlaceOf(tag));
-    }
-
     Json* Current() { return OpenGroups.empty() ? &Root : OpenGroups.back().Node; }
 
     Json* Find(const std::string& tag);
+    const Json* RefusedValue(const std::string& tag, const std::string& place);
     Json* Ask(const std::string& tag);
     std::string PlaceOf(const std::string& tag) const;
     void Report(Kind what, std::string place, std::string found, std::string expected);
+    bool NameWhatWasExpected(const std::string& place, const std::string& expected);
     void Save(const std::string& tag, Json value);
     std::optional<std::string> LoadText(const std::string& tag, const std::string& defaultValue);
     std::optional<std::vector<std::string>> LoadList(const std::string& tag,
                                                      const std::vector<std::string>& defaults);
+    const Json::array_t* AskList(const std::string& tag, const std::vector<std::string>& defaults);
+    double LoadNumberOrGap(const std::string& tag, const Json& item, std::size_t index);
     std::string LoadItem(const std::string& tag, const Json::array_t& items, std::size_t index);
     Json* EnterGroup(const std::string& tag, int index, std::string& place);
     Json* MakeGroup(const std::string& tag, int index);
@@ -74,6 +81,21 @@ Json* CJsonSerializeStream::Document::Find(const std::string& tag) {
     }
     const auto entry = group->find(CStringUtil::AnsiToUtf8(tag));
     return entry == group->end() ? nullptr : &*entry;
+}
+
+/// The value at the place of `tag`: an item of the list that was loaded last, whose tag ends as in
+/// "values/3", or an entry; null for items of other lists, for which a search each would take too long.
+const Json* CJsonSerializeStream::Document::RefusedValue(const std::string& tag, const std::string& place) {
+    const std::size_t slash = tag.rfind('/');
+    if (slash == std::string::npos) {
+        return Find(tag);
+    }
+    const std::size_t digits = place.size() - (tag.size() - slash) + 1;
+    std::size_t item = 0;
+    const bool isIndex =
+        std::from_chars(place.data() + digits, place.data() + place.size(), item).ec == std::errc();
+    const bool isOfLastList = LastList != nullptr && place.compare(0, digits - 1, LastListPlace) == 0;
+    return isIndex && isOfLastList && item < LastList->size() ? &(*LastList)[item] : nullptr;
 }
 
 Json* CJsonSerializeStream::Document::Ask(const std::string& tag) {
@@ -92,12 +114,23 @@ std::string CJsonSerializeStream::Document::PlaceOf(const std::string& tag) cons
 /// A document that could not be read has one problem, not one for each key that it therefore lacks.
 void CJsonSerializeStream::Document::Report(Kind what, std::string place, std::string found,
                                             std::string expected) {
-    if (what == Kind::WrongType) {
-        WrongTypes.insert(place);
-    }
     if (HasRoom()) {
+        if (what == Kind::WrongType) {
+            WrongTypes.emplace(place, Problems.size());
+        }
         Problems.push_back({what, std::move(place), std::move(found), std::move(expected)});
     }
+}
+
+/// A value of which was told that it is no text need not be told to be the wrong text, but who refuses it
+/// knows better what it should be.
+bool CJsonSerializeStream::Document::NameWhatWasExpected(const std::string& place,
+                                                         const std::string& expected) {
+    const auto told = WrongTypes.find(place);
+    if (told != WrongTypes.end()) {
+        Problems[told->second].Expected = expected;
+    }
+    return told != WrongTypes.end();
 }
 
 void CJsonSerializeStream::Document::Save(const std::string& tag, Json value) {
@@ -122,22 +155,49 @@ std::optional<std::string> CJsonSerializeStream::Document::LoadText(const std::s
 
 std::optional<std::vector<std::string>>
 CJsonSerializeStream::Document::LoadList(const std::string& tag, const std::vector<std::string>& defaults) {
+    const Json::array_t* const items = AskList(tag, defaults);
+    if (items == nullptr) {
+        return std::nullopt;
+    }
+    std::vector<std::string> texts;
+    texts.reserve(items->size());
+    for (std::size_t i = 0; i < items->size(); ++i) {
+        texts.push_back(LoadItem(tag, *items, i));
+    }
+    return texts;
+}
+
+/// The items of a list that is asked for; null, and reported, when there is none.
+const Json::array_t* CJsonSerializeStream::Document::AskList(const std::string& tag,
+                                                             const std::vector<std::string>& defaults) {
     const Json* const entry = Ask(tag);
     if (entry == nullptr) {
         Report(Kind::MissingKey, PlaceOf(tag), "", ListText(defaults));
-        return std::nullopt;
+        return nullptr;
     }
     if (!entry->is_array()) {
         Report(Kind::WrongType, PlaceOf(tag), Shown(*entry), "a list");
-        return std::nullopt;
+        return nullptr;
     }
-    const auto& items = entry->get_ref<const Json::array_t&>();
-    std::vector<std::string> texts;
-    texts.reserve(items.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        texts.push_back(LoadItem(tag, items, i));
+    LastList = entry;
+    LastListPlace = PlaceOf(tag);
+    return &entry->get_ref<const Json::array_t&>();
+}
+
+double CJsonSerializeStream::Document::LoadNumberOrGap(const std::string& tag, const Json& item,
+                                                       std::size_t index) {
+    constexpr double gap = std::numeric_limits<double>::quiet_NaN();
+    if (item.is_number()) {
+        return item.get<double>();
     }
-    return texts;
+    std::string text = item.is_string() ? item.get<std::string>() : std::string();
+    double number = gap;
+    const bool isGap = item.is_null() || (item.is_string() && text.empty());
+    if (!isGap && !(item.is_string() && ser_evaluate(number, text, false) && std::isfinite(number))) {
+        Report(Kind::Refused, JoinedPlace(PlaceOf(tag), std::to_string(index)), Shown(item), kFloatForm);
+        return gap;
+    }
+    return number;
 }
 
 /// An item that is no text is empty, so that the others keep their places.
@@ -158,6 +218,7 @@ Json* CJsonSerializeStream::Document::EnterGroup(const std::string& tag, int ind
         Entered.insert(entry);
         const auto item = static_cast<std::size_t>(index);
         entry = item < entry->size() ? &(*entry)[item] : nullptr;
+        Asked.insert(entry);
         place = JoinedPlace(place, std::to_string(index));
     } else if (entry != nullptr && index > 0) {
         Report(Kind::WrongType, place, Shown(*entry), "a list of groups");
@@ -190,7 +251,7 @@ Json* CJsonSerializeStream::Document::MakeGroup(const std::string& tag, int inde
 void CJsonSerializeStream::Document::AddUnknown(const Json& group, const std::string& place,
                                                 std::vector<StreamProblem>& unknown) const {
     for (const auto& [key, entry] : group.items()) {
-        const bool asked = group.is_object() ? Asked.contains(&entry) : Entered.contains(&entry);
+        const bool asked = Asked.contains(&entry);
         if (!asked) {
             unknown.push_back({Kind::UnknownKey, JoinedPlace(place, key), Shown(entry), ""});
         } else if (Entered.contains(&entry)) {
@@ -305,22 +366,45 @@ std::string CJsonSerializeStream::GetFullFileName() {
     return m_document->FileName;
 }
 
-/// Shows the entry as the document has it, where it is a value of its own and not an item of a list.
+/// Shows the value as the document has it.
 void CJsonSerializeStream::Refuse(const std::string& tag, const std::string& found,
                                   const std::string& expected) {
-    if (m_document->Saving || !m_document->TakesRefusalAt(tag)) {
+    Document& document = *m_document;
+    const std::string wanted = CStringUtil::AnsiToUtf8(expected);
+    std::string place = document.PlaceOf(tag);
+    if (document.Saving || document.NameWhatWasExpected(place, wanted) || !document.HasRoom()) {
         return;
     }
-    const bool isItem = tag.find('/') != std::string::npos;
-    const Json* const entry = isItem ? nullptr : m_document->Find(tag);
+    const Json* const value = document.RefusedValue(tag, place);
     const Json shown =
-        entry != nullptr && entry->is_primitive() ? *entry : Json(CStringUtil::AnsiToUtf8(found));
-    m_document->Report(Kind::Refused, m_document->PlaceOf(tag), Shown(shown),
-                       CStringUtil::AnsiToUtf8(expected));
+        value != nullptr && value->is_primitive() ? *value : Json(CStringUtil::AnsiToUtf8(found));
+    document.Report(Kind::Refused, std::move(place), Shown(shown), wanted);
 }
 
 bool CJsonSerializeStream::Has(const std::string& tag) const {
     return m_document->Find(tag) != nullptr;
+}
+
+std::size_t CJsonSerializeStream::CountGroups(const std::string& tag) {
+    const Json* const entry = m_document->Ask(tag);
+    if (entry == nullptr || !entry->is_array()) {
+        return 0;
+    }
+    m_document->Entered.insert(entry);
+    return entry->size();
+}
+
+std::vector<double> CJsonSerializeStream::LoadNumbersAndGaps(const std::string& tag) {
+    const Json::array_t* const items = m_document->AskList(tag, {});
+    std::vector<double> numbers;
+    if (items == nullptr) {
+        return numbers;
+    }
+    numbers.reserve(items->size());
+    for (std::size_t i = 0; i < items->size(); ++i) {
+        numbers.push_back(m_document->LoadNumberOrGap(tag, (*items)[i], i));
+    }
+    return numbers;
 }
 
 bool CJsonSerializeStream::IsList(const std::string& tag) const {

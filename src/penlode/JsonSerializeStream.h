@@ -65,6 +65,12 @@ public:
     bool Has(const std::string& tag) const;
     /// Is that entry a list? Asking does not count as loading it.
     bool IsList(const std::string& tag) const;
+    /// How many groups there are to push in a list of them; 0 for what is no list.
+    std::size_t CountGroups(const std::string& tag);
+
+    /// Loads a list of numbers, or of their texts. A null or an empty text is a gap, NaN; what is no finite
+    /// number is a gap too, and refused. Nothing where there is no list.
+    std::vector<double> LoadNumbersAndGaps(const std::string& tag);
 
 private:
     struct Document;

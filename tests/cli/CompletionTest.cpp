@@ -4,8 +4,6 @@
 
 namespace {
 
-using cli_test::Outcome;
-
 class Completion : public cli_test::CommandTest {
 protected:
     /// What bash offers for the last word, in alphabetical order.
@@ -38,6 +36,7 @@ TEST_F(Completion, BashOffersWhatFits) {
     EXPECT_EQ(Offered("\"\""), "--help --version check draw inspect new ");
     EXPECT_EQ(Offered("dr"), "draw ");
     EXPECT_EQ(Offered("new p"), "pie ");
+    EXPECT_EQ(Offered("new h"), "histogram ");
     EXPECT_EQ(Offered("draw a.json --format s"), "svg ");
     EXPECT_EQ(Offered("draw --ou"), "--outlines --output ");
     EXPECT_EQ(Offered("draw a"), "a.chart.json ");

@@ -1,9 +1,8 @@
 #include "CommandTest.h"
 
 using Inspect = cli_test::CommandTest;
-using cli_test::Outcome;
 
-TEST_F(Inspect, ShowsLayoutAndCallsInTheChartsOwnMillimetres) {
+TEST_F(Inspect, ShowsLayoutAndCallsWhereTheLocationPutsThem) {
     Write("i.json", R"({"kind": "pie", "property": {"PieBasicProp": {"PieStyle": "2D", "FixedSize": 1,
         "FixedWidth": 20.0004, "StartAngle": 0, "ComponentColor": ["#336699"], "PenSepLine": "#80000000 0.25 dash"},
         "PieLegendProp": {"ShowLegend": 0}}, "data": {"values": [1, 2]}, "location": "100 50"})");

@@ -1,10 +1,9 @@
 #include "CommandTest.h"
 
 using New = cli_test::CommandTest;
-using cli_test::Outcome;
 
 TEST_F(New, EveryKindIsCompleteAndDraws) {
-    for (const std::string kind : {"pie"}) {
+    for (const std::string kind : {"pie", "histogram"}) {
         const Outcome outcome = Run("millichart new " + kind +
                                     " -o n.json && millichart check n.json && "
                                     "millichart draw n.json && millichart new " +
@@ -18,6 +17,6 @@ TEST_F(New, EveryKindIsCompleteAndDraws) {
 TEST_F(New, OtherKindsAreRefused) {
     const Outcome outcome = Run("millichart new bar -o n.json");
     EXPECT_EQ(outcome.Status, 2);
-    EXPECT_EQ(outcome.Errors, "millichart: KIND: found \"bar\", expected \"pie\"\n");
+    EXPECT_EQ(outcome.Errors, "millichart: KIND: found \"bar\", expected " + cli_test::kKinds + "\n");
     EXPECT_FALSE(Exists("n.json"));
 }

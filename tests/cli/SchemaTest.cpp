@@ -4,8 +4,6 @@
 
 namespace {
 
-using cli_test::Outcome;
-
 constexpr int kNoValidator = 77;
 
 class Schema : public cli_test::CommandTest {
@@ -37,12 +35,20 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
     const Outcome outcome = Validate(MILLICHART_EXAMPLES "/*.json");
     EXPECT_EQ(outcome.Output + outcome.Errors, "");
     EXPECT_EQ(outcome.Status, 0);
-    Run("millichart new pie -o pie.json");
-    EXPECT_EQ(Validate("pie.json").Output, "");
+    Run("millichart new pie -o pie.json; millichart new histogram -o histogram.json");
+    EXPECT_EQ(Validate("pie.json histogram.json").Output, "");
     Write("short.json",
-          R"({"kind": "pie", "property": {"PieBasicProp": {"ComponentName": ["a", 2], "FixedSize": true,
-        "ComponentColor": ["#336699"]}}, "data": {"csv": "d.csv"}})");
-    EXPECT_EQ(Validate("short.json").Output, "");
+          R"({"kind": "pie", "title": 2024, "source": true, "property": {"PieBasicProp": {"FixedSize": true,
+        "ComponentName": ["a|b", 2], "FixedWidth": true, "BaseValue": " 1e2 ", "ComponentColor": ["#336699"]},
+        "PieLabelProp": {"PieLabelTextProperty": {"Angle": "-0000000000090"}}},
+        "data": {"values": [0, "2.5", true]}})");
+    EXPECT_EQ(Run("millichart check short.json").Status, 0);
+    Write("csv.json", R"({"kind": "pie", "data": {"csv": "d.csv"}})");
+    Write("bars.json",
+          R"({"kind": "histogram", "data": {"groups": [{"name": 2024, "values": [1, null, "", "2"]}]},
+        "range": {"InitializeValueRange": 3}})");
+    EXPECT_EQ(Run("millichart check bars.json").Status, 0);
+    EXPECT_EQ(Validate("short.json csv.json bars.json").Output, "");
 }
 
 /// What the schema refuses, `check` refuses or warns of too.
@@ -58,6 +64,16 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
                                                {"\"0 0\"", "\"1\""},
                                                {"RightCenter", "Right"},
                                                {"42.5", "\"x\""},
+                                               {"42.5", "-42.5"},
+                                               {"42.5", "\"-42.5\""},
+                                               {"42.5", "null"},
+                                               {"#FFFFFFFF 0.3 solid", "#FFFFFFFF . solid"},
+                                               {"Arial 3.4", "Arial +"},
+                                               {"\"0 0\"", "\"1.2.3 0\""},
+                                               {"\"Angle\": \"0\"", "\"Angle\": 2147483648"},
+                                               {"\"North\"", "\"North|\""},
+                                               {"\"values\"", "\"worth\": 1, \"values\""},
+                                               {"\"source\"", "\"sauce\": \"\", \"source\""},
                                                {"\"PieStyle\"", "\"PieStile\""},
                                                {"\"version\": \"1\"", "\"version\": 2"}}) {
         const std::string name = std::to_string(++count) + ".json";

@@ -174,19 +174,26 @@ TEST(JsonSerializeStream, WrongTypesYieldDefaultsAndKeepListPositions) {
 
 TEST(JsonSerializeStream, TextsThatMeanNothingAreRefusedAsTheyAreWritten) {
     CJsonSerializeStream stream(
-        R"({"Ink": "蓝", "G": {"Line": "#FF000000 0.1 wavy", "Face": 12}, "List": ["x"]})");
+        R"({"Ink": "蓝", "G": {"Line": "#FF000000 0.1 wavy", "Face": 12, "List": [-1, null]}, "List": ["x"]})");
     Color ink = kWhite;
     stream.Ser("Ink", ink, Color{0x12345678U});
     EXPECT_EQ(ink, Color{0x12345678U});
     stream.Push("G", -1);
     EXPECT_EQ(LoadObject<Pen>(stream, "Line"), Owned<Pen>(Pen()));
     EXPECT_EQ(LoadObject<Font>(stream, "Face"), Owned<Font>(Font()));
+    EXPECT_EQ(LoadList(stream, "List"), (Texts{"-1", ""}));
+    stream.Refuse("List/0", "-1", "0 or more");
+    stream.Refuse("List/1", "", "a number");
+    stream.Refuse("List/2", "y", "nothing");
     stream.Pop();
     stream.Refuse("List", "x", "a number");
     const Problems expected{
         {Kind::Refused, "Ink", "\"蓝\"", "a colour such as #FF336699"},
         {Kind::Refused, "G/Line", "\"#FF000000 0.1 wavy\"", "a pen such as \"#FF000000 0.1 dash\""},
         {Kind::Refused, "G/Face", "12", "a font such as \"Arial 4 bold\""},
+        {Kind::WrongType, "G/List/1", "null", "a number"},
+        {Kind::Refused, "G/List/0", "-1", "0 or more"},
+        {Kind::Refused, "G/List/2", "\"y\"", "nothing"},
         {Kind::Refused, "List", "\"x\"", "a number"}};
     EXPECT_EQ(stream.Problems(), expected);
 }

@@ -12,7 +12,8 @@
 /// How a program ended and what it wrote. A status of -1: it did not end by itself.
 struct Outcome {
     int Status = -1;
-    std::string Text;
+    std::string Output;
+    std::string Errors; ///< where they were caught
 };
 
 /// Runs a command line and reads its standard output; add 2>&1 for the errors as well.
@@ -25,7 +26,7 @@ inline Outcome Shell(const std::string& commandLine) {
     std::array<char, 4096> piece{};
     for (std::size_t size = 1; size > 0;) {
         size = std::fread(piece.data(), 1, piece.size(), pipe);
-        outcome.Text.append(piece.data(), size);
+        outcome.Output.append(piece.data(), size);
     }
     const int status = pclose(pipe);
     outcome.Status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;

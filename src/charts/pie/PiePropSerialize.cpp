@@ -1,5 +1,6 @@
 #include "charts/pie/PiePropSerialize.h"
 
+#include "charts/pie/PieFieldSerialize.h"
 #include "foundation/LegendPropSerialize.h"
 #include "foundation/SerializeFrame.h"
 #include "foundation/TextPropertySerialize.h"
@@ -49,15 +50,9 @@ void CPiePropSerialize::SerializePieBasicProp(penlode::ISerialize& stream, PieBa
 void CPiePropSerialize::SerializePieBasicProp(penlode::CSerializeStream& stream, PieBasicProp& prop) {
     KeyedRecord record(stream, "PieBasicProp");
     record.Enumeration("PieStyle", prop.PieStyle, kPieStyleNames, PieStyle::WithDepth);
-    record.Integer("FixedSize", prop.FixedSize, 0);
-    record.Float("FixedWidth", prop.FixedWidth, 20.0F);
-    record.Float("BaseValue", prop.BaseValue, 100.0F);
-    record.Float("BasePieWidth", prop.BasePieWidth, 10.0F);
+    SerializeSize(record, prop);
     record.Float("StartAngle", prop.StartAngle, 180.0F);
-    record.Integer("DrawSepLine", prop.DrawSepLine, 1);
-    record.Pen("PenSepLine", prop.PenSepLine);
-    record.JoinedTexts("ComponentName", prop.ComponentName);
-    record.ColorList("ComponentColor", prop.ComponentColor);
+    SerializeSlices(record, prop);
 }
 
 } // namespace millichart

@@ -1,5 +1,6 @@
 #include "charts/pie/BasicPie.h"
 
+#include "support/Rects.h"
 #include "support/Texts.h"
 
 #include <cmath>
@@ -28,13 +29,6 @@ CBasicPie LaidOut(const PieProp& prop, const std::vector<double>& values, PointF
     pie.SetLocation(location);
     pie.Layout();
     return pie;
-}
-
-void ExpectNear(const RectF& actual, const RectF& expected) {
-    EXPECT_NEAR(actual.X, expected.X, 1e-4F);
-    EXPECT_NEAR(actual.Y, expected.Y, 1e-4F);
-    EXPECT_NEAR(actual.Width, expected.Width, 1e-4F);
-    EXPECT_NEAR(actual.Height, expected.Height, 1e-4F);
 }
 
 } // namespace

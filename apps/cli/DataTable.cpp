@@ -1,0 +1,99 @@
+#include "DataTable.h"
+
+#include "Fields.h"
+#include "InputFile.h"
+#include "UserError.h"
+#include "penlode/JsonFault.h"
+#include "penlode/TextForms.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace cli {
+namespace {
+
+std::string ColumnPlace(std::size_t column) {
+    return "column " + std::to_string(column + 1);
+}
+
+/// As spreadsheet programs of many languages write numbers.
+bool HasDecimalComma(std::string cell) {
+    std::replace(cell.begin(), cell.end(), ',', '.');
+    double number = 0.0;
+    return ParseNumber(cell, number);
+}
+
+} // namespace
+
+DataTable::DataTable(const std::string& file, std::vector<Message>& messages)
+    : m_file(ShownName(file)), m_messages(&messages) {
+    try {
+        Parse(ReadInput(file));
+    } catch (const UserError& error) {
+        Tell({m_file, Severity::Error, 0, "", "", "", error.Reason()});
+    }
+}
+
+void DataTable::Parse(const std::string& text) {
+    if (!IsUtf8(text)) {
+        Refuse("another encoding", "UTF-8; a spreadsheet program calls it \"CSV UTF-8\"");
+        return;
+    }
+    CsvTable table = ParseCsv(text);
+    if (table.OpenQuote != 0) {
+        Tell({m_file, Severity::Error, table.OpenQuote, "", "a quote that never closes", "a closing quote"});
+        return;
+    }
+    m_rows = std::move(table.Rows);
+    std::erase_if(m_rows, [](const CsvRow& row) { return FilledCells(row) == 0; });
+}
+
+bool DataTable::HasWidth(const CsvRow& row, std::size_t width, const std::string& wanted) {
+    const std::size_t cells = std::max(FilledCells(row), std::min(row.Cells.size(), width));
+    if (cells != width) {
+        Tell({m_file, Severity::Error, row.Line, "", Counted(cells, "cell"), wanted});
+    }
+    return cells == width;
+}
+
+bool DataTable::Number(const CsvRow& row, std::size_t column, const std::string& wanted, double& number) {
+    const bool isNumber = ParseNumber(row.Cells[column], number);
+    if (!isNumber) {
+        RefuseCell(row, column,
+                   wanted + (HasDecimalComma(row.Cells[column]) ? ", with a decimal point" : ""));
+    }
+    return isNumber;
+}
+
+void DataTable::RefuseCell(const CsvRow& row, std::size_t column, const std::string& wanted) {
+    const std::string& cell = row.Cells[column];
+    double number = 0.0;
+    const std::string shown = ParseNumber(cell, number) ? cell
+                              : cell.empty()            ? "nothing"
+                                                        : '"' + penlode::Shortened(cell) + '"';
+    Tell({m_file, Severity::Error, row.Line, ColumnPlace(column), shown, wanted});
+}
+
+void DataTable::Refuse(const std::string& found, const std::string& wanted) {
+    Tell({m_file, Severity::Error, 0, "", found, wanted});
+}
+
+void DataTable::Tell(Message message) {
+    m_isSound = false;
+    m_messages->push_back(std::move(message));
+}
+
+std::size_t FilledCells(const CsvRow& row) {
+    const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
+                                   [](const std::string& cell) { return !cell.empty(); });
+    return static_cast<std::size_t>(row.Cells.rend() - last);
+}
+
+bool IsHeading(const std::string& cell) {
+    double number = 0.0;
+    std::string text = cell; // "nan" and "inf" are numbers too, if not ones to draw
+    return !cell.empty() && cell.find_first_of("0123456789") == std::string::npos &&
+           !penlode::ser_evaluate(number, text, false);
+}
+
+} // namespace cli

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ChartData.h"
+
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// The bars of a chart: one list a group, one number a component. NaN is a gap.
+struct HistogramData {
+    std::vector<std::string> GroupNames;     ///< narrow; one a group, or none
+    std::vector<std::string> ComponentNames; ///< narrow; those of a CSV file's heading
+    std::vector<std::vector<double>> Values;
+    bool NamesGoFirst = false; ///< the user put these data in the place of the document's, names and all
+
+    /// Bars of the largest group.
+    std::size_t Components() const;
+};
+
+/// The group "data" of a document: "groups", each a name and values, or "csv" with a file of a column of
+/// group names and one of values a component, under a heading with the components' names. What is wrong is
+/// told.
+HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source);
+
+/// Where a value stands in a document.
+std::string HistogramValuePlace(std::size_t group, std::size_t component);
+
+} // namespace cli

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "ChartStream.h"
+#include "Message.h"
+
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// The range of a value axis as a document gives it in its group "range", by the library's own words:
+///
+///     "range": {"InitializeValueRange": 37}
+///     "range": {"NaturalValueRange": [0, 40, 10, 2]}
+///     "range": {"LogarithmValueRange": [1, 1000]}
+///
+/// Without that group it is found from the largest value.
+class ValueRange {
+public:
+    /// Refuses what is not one sound range of the chart's scale.
+    ValueRange(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages);
+
+    template <class Chart> void ApplyTo(Chart& chart, double largest) const {
+        if (m_natural.size() == 4) {
+            chart.SetNaturalValueRange(m_natural[0], m_natural[1], m_natural[2], m_natural[3]);
+        } else if (m_logarithm.size() == 2) {
+            chart.SetLogarithmValueRange(m_logarithm[0], m_logarithm[1]);
+        } else {
+            chart.InitializeValueRange(m_largest.empty() ? largest : m_largest.front());
+        }
+    }
+
+private:
+    void Check(const ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const;
+
+    std::vector<double> m_largest;
+    std::vector<double> m_natural;
+    std::vector<double> m_logarithm;
+};
+
+/// Looks for values that a value axis from `min` to `max` does not hold, one after the other.
+class RangeDoubts {
+public:
+    template <class Chart> static RangeDoubts Of(const Chart& chart, bool isLogarithmic) {
+        double min = 0.0;
+        double max = 0.0;
+        double step = 0.0;
+        if (isLogarithmic) {
+            chart.GetLogarithmValueRange(min, max);
+        } else {
+            chart.GetNaturalValueRange(min, max, step, step);
+        }
+        return {min, max};
+    }
+
+    /// `place` is where the value stands, for the first one that does not fit.
+    template <class Place> void Look(double value, const Place& place) {
+        if (value < m_min || value > m_max) {
+            m_first = m_outside == 0 ? place() : m_first;
+            ++m_outside;
+        }
+    }
+
+    /// Nothing or one warning.
+    std::vector<Message> Doubts() const;
+
+private:
+    RangeDoubts(double min, double max) : m_min(min), m_max(max) {}
+
+    double m_min;
+    double m_max;
+    std::size_t m_outside = 0;
+    std::string m_first;
+};
+
+} // namespace cli

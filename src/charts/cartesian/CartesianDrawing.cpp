@@ -1,0 +1,78 @@
+#include "charts/cartesian/CartesianDrawing.h"
+
+#include "foundation/TextPropertyOperation.h"
+
+#include <algorithm>
+
+namespace millichart {
+
+using penlode::IGraphicsEngine;
+using penlode::PointF;
+using penlode::RectF;
+
+namespace {
+
+void DrawVerTicks(IGraphicsEngine& engine, const penlode::Pen* pen, const std::vector<PointF>& ticks,
+                  TickSpan tick) {
+    if (tick.From == tick.To) {
+        return;
+    }
+    for (const PointF point : ticks) {
+        engine.DrawLine(pen, point.X - tick.From, point.Y, point.X - tick.To, point.Y);
+    }
+}
+
+} // namespace
+
+TickSpan TickOf(std::int32_t style, float length) {
+    switch (style) {
+    case ScaleStyle::Outer:
+        return {0.0F, length};
+    case ScaleStyle::Inner:
+        return {0.0F, -length};
+    case ScaleStyle::Cross:
+        return {length * 0.5F, -length * 0.5F};
+    default:
+        return {};
+    }
+}
+
+void DrawVerAxisLine(IGraphicsEngine& engine, const VerAxisProp& prop, const CartesianLayout& layout) {
+    const RectF& plot = layout.Plot;
+    const penlode::Pen* pen = prop.VerAxisPen.Get();
+    engine.DrawLine(pen, plot.X, plot.Y, plot.X, plot.Y + plot.Height);
+    DrawVerTicks(engine, pen, layout.VerMajorTicks, TickOf(prop.MajorScaleStyle, kMajorTickLength));
+    DrawVerTicks(engine, pen, layout.VerMinorTicks, TickOf(prop.MinorScaleStyle, kMinorTickLength));
+}
+
+void DrawVerLabels(IGraphicsEngine& engine, const VerAxisProp& prop, const CartesianLayout& layout) {
+    if (prop.ShowVerAxisLabel == 0) {
+        return;
+    }
+    for (std::size_t i = 0; i < layout.VerLabelRects.size(); ++i) {
+        CTextPropertyOperation::DrawTextAtCenter(&engine, layout.VerLabelTexts[i],
+                                                 prop.VerAxisLabelTextProperty,
+                                                 layout.VerLabelRects[i].Center());
+    }
+}
+
+void DrawHorGrid(IGraphicsEngine& engine, const penlode::Pen* pen, const std::vector<PointF>& ticks,
+                 float plotWidth) {
+    for (const PointF tick : ticks) {
+        engine.DrawLine(pen, tick.X, tick.Y, tick.X + plotWidth, tick.Y);
+    }
+}
+
+void DrawHorAxisLine(IGraphicsEngine& engine, const penlode::Pen* pen, const RectF& plot) {
+    const float bottom = plot.Y + plot.Height;
+    engine.DrawLine(pen, plot.X, bottom, plot.X + plot.Width, bottom);
+}
+
+void DrawCaptionText(IGraphicsEngine& engine, std::int32_t isShown, const std::string& caption,
+                     const TextProperty& property, const RectF& rect) {
+    if (isShown != 0) {
+        CTextPropertyOperation::DrawTextAtCenter(&engine, caption, property, rect.Center());
+    }
+}
+
+} // namespace millichart

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "charts/cartesian/ValueAxis.h"
+#include "charts/cartesian/VerAxisProp.h"
+#include "foundation/Legend.h"
+#include "penlode/Geometry.h"
+
+#include <string>
+#include <vector>
+
+/// What bar and line charts share in their layout: captions, the value axis, the legend.
+///
+///                caption
+///     +---+----------------------+
+///     | v | plot                 |
+///     | e |                      |  legend
+///     | r |                      |
+///     +---+----------------------+
+///              horizontal axis
+namespace millichart {
+
+/// Room for ticks beside an axis, and between it and its labels, in mm.
+inline constexpr float kTickRoom = 1.0F;
+
+/// Where the shared parts of a bar or line chart stand, in mm of the page.
+struct CartesianLayout {
+    penlode::RectF Whole; ///< legend included
+    penlode::RectF Caption;
+    penlode::RectF VerCaption;
+    penlode::RectF HorCaption;
+    penlode::RectF Plot;
+    penlode::SizeF VerCaptionSize;
+    penlode::SizeF HorCaptionSize;
+    std::vector<penlode::PointF> VerMajorTicks;  ///< on the plot's left edge
+    std::vector<penlode::PointF> VerMinorTicks;  ///< on the plot's left edge
+    std::vector<std::string> VerLabelTexts;      ///< one per major tick, or none
+    std::vector<penlode::RectF> VerLabelRects;   ///< parallel to the texts
+    std::vector<penlode::SizeF> VerLabelSizes;   ///< parallel to the texts
+    std::vector<penlode::PointF> HorTicks;       ///< on the plot's bottom edge
+    std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
+};
+
+/// Everything empty at `location`; caption sizes are kept.
+void Reset(CartesianLayout& layout, penlode::PointF location);
+
+/// The text's size, or (0, 0) when its flag is off.
+penlode::SizeF CaptionSize(std::int32_t isShown, const std::string& caption, const TextProperty& property);
+
+/// `kTickRoom` if any of the styles is not "none", else 0.
+float TickAllowance(std::int32_t style, std::int32_t otherStyle = ScaleStyle::None);
+
+/// Takes the axis's label texts and their sizes, if labels are shown.
+void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout);
+
+/// As wide as caption, labels and ticks, and `plotHeight` high. Labels must have been taken.
+penlode::SizeF VerAxisSize(const VerAxisProp& prop, float plotHeight, const CartesianLayout& layout);
+
+/// Puts the ticks on the plot's left edge, if the axis is shown.
+void PlaceVerTicks(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout);
+
+/// Right-aligned left of the plot, each centred on its major tick.
+void PlaceVerLabels(const VerAxisProp& prop, CartesianLayout& layout);
+
+/// Places the items and unites the whole with them, if the legend is shown.
+void PlaceLegend(const LegendProp& prop, const std::vector<std::string>& names, float swatchFactor,
+                 CartesianLayout& layout);
+
+/// Moves everything but sizes.
+void Move(CartesianLayout& layout, penlode::PointF by);
+void Move(std::vector<penlode::PointF>& points, penlode::PointF by);
+void Move(std::vector<penlode::RectF>& rects, penlode::PointF by);
+
+} // namespace millichart

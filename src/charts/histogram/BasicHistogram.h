@@ -1,0 +1,135 @@
+#pragma once
+
+#include "charts/cartesian/CartesianFigure.h"
+#include "charts/histogram/HistogramProp.h"
+#include "foundation/Export.h"
+#include "penlode/Geometry.h"
+#include "penlode/IGraphicsEngine.h"
+
+#include <vector>
+
+namespace millichart {
+
+/// Where everything of a bar chart stands, in mm of the page.
+struct HistogramLayout : CartesianLayout {
+    std::vector<penlode::RectF> GroupNameRects; ///< one per group, or none
+    std::vector<penlode::SizeF> GroupNameSizes; ///< parallel to the rectangles
+    /// One list a group, one bar a component that has both a name and a value. A negative value's bar has a
+    /// negative height.
+    std::vector<std::vector<penlode::RectF>> ComponentRects;
+    float ComponentWidth = -1.0F; ///< of one bar; -1 before a layout with groups
+    float GroupGap = -1.0F;       ///< between groups, as it came out; -1 before a layout with groups
+};
+
+/// The bar chart: a cluster of bars, or one stacked bar, a group, over a linear or logarithmic value axis.
+///
+///     CBasicHistogram chart;
+///     chart.SetHistogramProp(prop);
+///     chart.SetComponentValue({{12.0, 30.0}, {18.0, 25.0}});
+///     chart.InitializeValueRange(30.0);
+///     chart.SetLocation({20.0F, 20.0F});
+///     chart.Layout();
+///     chart.Draw(&engine);
+///
+/// Setters only store; Layout computes every rectangle from what is stored; Draw and the getters read the
+/// last layout. Copies share the value axis and nothing else. Lists may be shorter than they should be: what
+/// is missing is not drawn.
+class MILLICHART_API CBasicHistogram {
+public:
+    /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
+    /// long and has no range yet. An axis that stays keeps its range and its length, whatever the plot's
+    /// height is now.
+    bool SetHistogramProp(const HistogramProp& prop);
+
+    const HistogramProp& GetHistogramProp() const { return m_prop; }
+
+    /// One list a group, one value a component.
+    void SetComponentValue(const std::vector<std::vector<double>>& values) { m_values = values; }
+
+    /// Narrow texts, one a group; shown only if there are as many as groups.
+    void SetGroupName(const std::vector<std::string>& names) { m_groupNames = names; }
+
+    /// The top-left corner, legend included.
+    void SetLocation(penlode::PointF location) { m_location = location; }
+
+    penlode::PointF GetLocation() const { return m_location; }
+
+    /// Takes a round range that holds `largest`. The range operations do nothing before the first
+    /// SetHistogramProp, nor those of the other scale.
+    void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
+
+    void SetNaturalValueRange(double min, double max, double step, double minorStep) {
+        m_axis.SetNaturalRange(min, max, step, minorStep);
+    }
+
+    void GetNaturalValueRange(double& min, double& max, double& step, double& minorStep) const {
+        m_axis.GetNaturalRange(min, max, step, minorStep);
+    }
+
+    void SetLogarithmValueRange(double min, double max) { m_axis.SetLogarithmRange(min, max); }
+
+    void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
+
+    /// With no groups, everything is empty at the location.
+    void Layout();
+
+    /// Everything, the legend included.
+    penlode::RectF GetPositionAll() const { return m_layout.Whole; }
+
+    const HistogramLayout& GetLayout() const { return m_layout; }
+
+    /// Nothing on a null engine.
+    void Draw(penlode::IGraphicsEngine* engine) const;
+
+protected:
+    penlode::SizeF CalcCaptionSize() const;
+    penlode::SizeF CalcVerCaptionSize() const;
+    penlode::SizeF CalcHorCaptionSize() const;
+    penlode::SizeF CalcPlotSize() const;
+    penlode::SizeF CalcVerAxisSize();
+    penlode::SizeF CalcHorAxisSize();
+    void CalcVerAxisLabelText();
+    /// The names' largest height; 0 when they are not shown or not as many as the groups.
+    float CalcGroupNameSize();
+    void CalcComponentWidth();
+    void CalcVerAxisScale();
+    void CalcHorAxisScale();
+    void CalcVerAxisLabelRect();
+    void CalcGroupNameRect();
+    void CalcConponentRect();
+    /// From a bar's front to its back: right and, `dy` being negative, up. (0, 0) for flat bars.
+    void Calc3DComponentBackSurfaceOffset(float& dx, float& dy) const;
+
+    void DrawBackground(penlode::IGraphicsEngine* engine) const;
+    void DrawVerAxis(penlode::IGraphicsEngine* engine) const;
+    void DrawHorAxis(penlode::IGraphicsEngine* engine) const;
+    void DrawPlot(penlode::IGraphicsEngine* engine) const;
+    void DrawComponent2D(penlode::IGraphicsEngine* engine, const penlode::RectF& bar,
+                         penlode::Color color) const;
+    void DrawComponent3D(penlode::IGraphicsEngine* engine, const penlode::RectF& bar,
+                         penlode::Color color) const;
+    void DrawCaption(penlode::IGraphicsEngine* engine) const;
+
+private:
+    void CalcFrame();
+    void PlaceLegendAndShift();
+    /// The bars of one group, whose left edge is at `x`; moves `x` to the group's right edge.
+    std::vector<penlode::RectF> SideBySide(const std::vector<double>& values, float& x) const;
+    std::vector<penlode::RectF> Stacked(const std::vector<double>& values, float& x) const;
+    std::size_t BarsOf(std::size_t group) const;
+    std::string ComponentInfo(std::size_t group, std::size_t component) const;
+    void DrawFlatBackground(penlode::IGraphicsEngine& engine) const;
+    void DrawDeepBackground(penlode::IGraphicsEngine& engine) const;
+    void DrawDeepWalls(penlode::IGraphicsEngine& engine, const penlode::RectF& back) const;
+    void DrawDeepGrids(penlode::IGraphicsEngine& engine, penlode::PointF depth) const;
+    void DrawComponentInfo(penlode::IGraphicsEngine& engine, std::size_t group, std::size_t component) const;
+
+    ValueAxis m_axis;
+    HistogramProp m_prop;
+    penlode::PointF m_location;
+    std::vector<std::vector<double>> m_values;
+    std::vector<std::string> m_groupNames;
+    HistogramLayout m_layout;
+};
+
+} // namespace millichart

@@ -1,0 +1,272 @@
+#include "charts/cartesian/CartesianDrawing.h"
+#include "charts/histogram/BasicHistogram.h"
+#include "foundation/NumberText.h"
+#include "foundation/TextPropertyOperation.h"
+
+#include <algorithm>
+#include <array>
+
+namespace millichart {
+
+using penlode::Color;
+using penlode::IGraphicsEngine;
+using penlode::PointF;
+using penlode::RectF;
+
+namespace {
+
+constexpr std::uint32_t kTopShade = 60;
+constexpr std::uint32_t kSideShade = 100;
+
+using Quad = std::array<PointF, 4>;
+
+void FillQuad(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const Quad& corners) {
+    engine.FillPolygon(&brush, corners.data(), static_cast<std::int32_t>(corners.size()));
+}
+
+void FillRect(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const RectF& rect) {
+    engine.FillRectangle(&brush, rect.X, rect.Y, rect.Width, rect.Height);
+}
+
+void DrawFromTo(IGraphicsEngine& engine, const penlode::Pen* pen, PointF from, PointF to) {
+    engine.DrawLine(pen, from.X, from.Y, to.X, to.Y);
+}
+
+/// A grid line that runs from its tick back along a side wall or the floor, and on along the back wall.
+void DrawBentLine(IGraphicsEngine& engine, const penlode::Pen* sidePen, const penlode::Pen* backPen,
+                  PointF tick, PointF depth, PointF alongBack) {
+    DrawFromTo(engine, sidePen, tick, tick + depth);
+    DrawFromTo(engine, backPen, tick + depth, tick + alongBack + depth);
+}
+
+PointF TopLeft(const RectF& rect) {
+    return rect.TopLeft();
+}
+
+PointF BottomLeft(const RectF& rect) {
+    return {rect.X, rect.Y + rect.Height};
+}
+
+PointF TopRight(const RectF& rect) {
+    return {rect.X + rect.Width, rect.Y};
+}
+
+PointF BottomRight(const RectF& rect) {
+    return {rect.X + rect.Width, rect.Y + rect.Height};
+}
+
+} // namespace
+
+void CBasicHistogram::Draw(IGraphicsEngine* engine) const {
+    if (engine == nullptr) {
+        return;
+    }
+    DrawBackground(engine);
+    DrawVerAxis(engine);
+    DrawHorAxis(engine);
+    DrawPlot(engine);
+    DrawCaption(engine);
+    CLegendOperation::Draw(engine, m_prop.Legend, m_prop.Plot.ComponentName, m_prop.Plot.ComponentColor,
+                           m_layout.LegendItemRects);
+}
+
+void CBasicHistogram::DrawBackground(IGraphicsEngine* engine) const {
+    if (m_prop.Plot.PieStyle == BarStyle::Flat) {
+        DrawFlatBackground(*engine);
+    } else {
+        DrawDeepBackground(*engine);
+    }
+}
+
+void CBasicHistogram::DrawFlatBackground(IGraphicsEngine& engine) const {
+    const HistogramPlotProp& prop = m_prop.Plot;
+    const RectF& plot = m_layout.Plot;
+    if (prop.ShowBackground != 0) {
+        FillRect(engine, {prop.PlotBackgroundColor}, plot);
+    }
+    if (prop.ShowEdge != 0) {
+        engine.DrawRectangle(prop.EdgePen.Get(), plot.X, plot.Y, plot.Width, plot.Height);
+    }
+    const HistogramVerAxisProp& ver = m_prop.VerAxis;
+    if (ver.ShowVerAxis != 0 && ver.ShowHorMinorGrid != 0) {
+        DrawHorGrid(engine, ver.HorMinorGridPen.Get(), m_layout.VerMinorTicks, plot.Width);
+    }
+    if (ver.ShowVerAxis != 0 && ver.ShowHorMajorGrid != 0) {
+        DrawHorGrid(engine, ver.HorMajorGridPen.Get(), m_layout.VerMajorTicks, plot.Width);
+    }
+    if (m_prop.HorAxis.ShowHorAxis != 0 && m_prop.HorAxis.ShowVerGrid != 0) {
+        for (const PointF tick : m_layout.HorTicks) {
+            engine.DrawLine(m_prop.HorAxis.VerGridPen.Get(), tick.X, tick.Y, tick.X, tick.Y - plot.Height);
+        }
+    }
+}
+
+void CBasicHistogram::DrawDeepBackground(IGraphicsEngine& engine) const {
+    PointF depth;
+    Calc3DComponentBackSurfaceOffset(depth.X, depth.Y);
+    const RectF& plot = m_layout.Plot;
+    const RectF back = penlode::Translated(plot, depth);
+    if (m_prop.Plot.ShowBackground != 0) {
+        DrawDeepWalls(engine, back);
+    }
+    if (m_prop.Plot.ShowEdge != 0) {
+        const penlode::Pen* pen = m_prop.Plot.EdgePen.Get();
+        engine.DrawRectangle(pen, back.X, back.Y, back.Width, back.Height);
+        DrawFromTo(engine, pen, TopLeft(plot), TopLeft(back));
+        DrawFromTo(engine, pen, BottomLeft(plot), BottomLeft(back));
+        DrawFromTo(engine, pen, BottomRight(plot), BottomRight(back));
+    }
+    DrawDeepGrids(engine, depth);
+}
+
+/// The back, the left wall and the floor; the front stays open.
+void CBasicHistogram::DrawDeepWalls(IGraphicsEngine& engine, const RectF& back) const {
+    const RectF& plot = m_layout.Plot;
+    const penlode::SolidBrush brush{m_prop.Plot.PlotBackgroundColor};
+    FillRect(engine, brush, back);
+    FillQuad(engine, brush, {TopLeft(plot), BottomLeft(plot), BottomLeft(back), TopLeft(back)});
+    FillQuad(engine, brush, {BottomLeft(plot), BottomRight(plot), BottomRight(back), BottomLeft(back)});
+}
+
+/// A major line shows its own pen on the left wall only, and the minor pen on the back.
+void CBasicHistogram::DrawDeepGrids(IGraphicsEngine& engine, PointF depth) const {
+    const HistogramVerAxisProp& ver = m_prop.VerAxis;
+    const penlode::Pen* minorPen = ver.HorMinorGridPen.Get();
+    const PointF across{m_layout.Plot.Width, 0.0F};
+    if (ver.ShowVerAxis != 0 && ver.ShowHorMinorGrid != 0) {
+        for (const PointF tick : m_layout.VerMinorTicks) {
+            DrawBentLine(engine, minorPen, minorPen, tick, depth, across);
+        }
+    }
+    if (ver.ShowVerAxis != 0 && ver.ShowHorMajorGrid != 0) {
+        for (const PointF tick : m_layout.VerMajorTicks) {
+            DrawBentLine(engine, ver.HorMajorGridPen.Get(), minorPen, tick, depth, across);
+        }
+    }
+    const HistogramHorAxisProp& hor = m_prop.HorAxis;
+    if (hor.ShowHorAxis != 0 && hor.ShowVerGrid != 0) {
+        const penlode::Pen* pen = hor.VerGridPen.Get();
+        for (const PointF tick : m_layout.HorTicks) {
+            DrawBentLine(engine, pen, pen, tick, depth, {0.0F, -m_layout.Plot.Height});
+        }
+    }
+}
+
+void CBasicHistogram::DrawVerAxis(IGraphicsEngine* engine) const {
+    const HistogramVerAxisProp& axis = m_prop.VerAxis;
+    if (axis.ShowVerAxis == 0) {
+        return;
+    }
+    DrawVerAxisLine(*engine, axis, m_layout);
+    DrawVerLabels(*engine, axis, m_layout);
+    DrawCaptionText(*engine, axis.ShowVerCaption, axis.VerCaption, axis.VerCaptionTextProperty,
+                    m_layout.VerCaption);
+}
+
+void CBasicHistogram::DrawHorAxis(IGraphicsEngine* engine) const {
+    const HistogramHorAxisProp& axis = m_prop.HorAxis;
+    if (axis.ShowHorAxis == 0) {
+        return;
+    }
+    const penlode::Pen* pen = axis.HorAxisPen.Get();
+    DrawHorAxisLine(*engine, pen, m_layout.Plot);
+    TickSpan tick = TickOf(axis.ScaleStyle, kMajorTickLength);
+    if (axis.ScaleStyle == ScaleStyle::Cross) {
+        std::swap(tick.From, tick.To);
+    }
+    for (const PointF point : m_layout.HorTicks) {
+        if (tick.From != tick.To) {
+            engine->DrawLine(pen, point.X, point.Y + tick.From, point.X, point.Y + tick.To);
+        }
+    }
+    const std::size_t names = std::min(m_layout.GroupNameRects.size(), m_groupNames.size());
+    for (std::size_t i = 0; axis.ShowGroupName != 0 && i < names; ++i) {
+        CTextPropertyOperation::DrawTextAtCenter(engine, m_groupNames[i], axis.GroupNameTextProperty,
+                                                 m_layout.GroupNameRects[i].Center());
+    }
+    DrawCaptionText(*engine, axis.ShowHorCaption, axis.HorCaption, axis.HorCaptionTextProperty,
+                    m_layout.HorCaption);
+}
+
+/// All bars first, so that none covers a label.
+void CBasicHistogram::DrawPlot(IGraphicsEngine* engine) const {
+    for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
+        const std::size_t bars = std::min(BarsOf(group), m_prop.Plot.ComponentColor.size());
+        for (std::size_t i = 0; i < bars; ++i) {
+            const RectF& bar = m_layout.ComponentRects[group][i];
+            if (m_prop.Plot.PieStyle == BarStyle::Flat) {
+                DrawComponent2D(engine, bar, m_prop.Plot.ComponentColor[i]);
+            } else {
+                DrawComponent3D(engine, bar, m_prop.Plot.ComponentColor[i]);
+            }
+        }
+    }
+    for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
+        for (std::size_t i = 0; i < BarsOf(group); ++i) {
+            DrawComponentInfo(*engine, group, i);
+        }
+    }
+}
+
+/// How many bars of the last layout still have both a name and a value.
+std::size_t CBasicHistogram::BarsOf(std::size_t group) const {
+    const std::size_t values = group < m_values.size() ? m_values[group].size() : 0;
+    return std::min({m_layout.ComponentRects[group].size(), m_prop.Plot.ComponentName.size(), values});
+}
+
+std::string CBasicHistogram::ComponentInfo(std::size_t group, std::size_t component) const {
+    const HistogramPlotProp& prop = m_prop.Plot;
+    std::string text;
+    if (prop.ShowComponentName != 0) {
+        text = prop.ComponentName[component];
+    }
+    if (prop.ShowComponentName != 0 && prop.ShowComponentValue != 0) {
+        text += prop.ConponentInfoSeparator + (prop.ConponentInfoInSingleRow == 0 ? "\n" : "");
+    }
+    if (prop.ShowComponentValue != 0) {
+        text += FixedText(m_values[group][component], 0);
+    }
+    return text;
+}
+
+/// On the bar's top side by side, at its right when stacked.
+void CBasicHistogram::DrawComponentInfo(IGraphicsEngine& engine, std::size_t group,
+                                        std::size_t component) const {
+    const RectF& bar = m_layout.ComponentRects[group][component];
+    const TextProperty& property = m_prop.Plot.ComponentInfoTextProperty;
+    const std::string text = ComponentInfo(group, component);
+    if (text.empty()) {
+        return;
+    }
+    if (m_prop.Plot.Juxtaposition != 0) {
+        CTextPropertyOperation::DrawTextAtBottomCenter(&engine, text, property,
+                                                       {bar.X + bar.Width * 0.5F, bar.Y});
+    } else {
+        CTextPropertyOperation::DrawTextAtLeftCenter(&engine, text, property,
+                                                     {bar.X + bar.Width, bar.Y + bar.Height * 0.5F});
+    }
+}
+
+void CBasicHistogram::DrawComponent2D(IGraphicsEngine* engine, const RectF& bar, Color color) const {
+    FillRect(*engine, {color}, bar);
+}
+
+/// Front, top, right side. The front keeps its colour's alpha; the faces in shadow are opaque.
+void CBasicHistogram::DrawComponent3D(IGraphicsEngine* engine, const RectF& bar, Color color) const {
+    PointF depth;
+    Calc3DComponentBackSurfaceOffset(depth.X, depth.Y);
+    const RectF back = penlode::Translated(bar, depth);
+    FillRect(*engine, {color}, bar);
+    FillQuad(*engine, {penlode::Shaded(color, kTopShade)},
+             {TopLeft(bar), TopRight(bar), TopRight(back), TopLeft(back)});
+    FillQuad(*engine, {penlode::Shaded(color, kSideShade)},
+             {TopRight(bar), BottomRight(bar), BottomRight(back), TopRight(back)});
+}
+
+void CBasicHistogram::DrawCaption(IGraphicsEngine* engine) const {
+    const CaptionProp& caption = m_prop.Caption;
+    DrawCaptionText(*engine, caption.ShowCaption, caption.Caption, caption.CaptionTextProperty,
+                    m_layout.Caption);
+}
+
+} // namespace millichart

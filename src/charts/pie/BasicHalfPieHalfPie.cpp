@@ -1,0 +1,101 @@
+#include "charts/pie/BasicHalfPieHalfPie.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace millichart {
+
+using penlode::IGraphicsEngine;
+using penlode::PointF;
+using penlode::RectF;
+
+namespace {
+
+// No label stands so far off the page.
+constexpr float kSeparator = -99999.0F;
+// A host may have turned the separator into other units and back.
+constexpr double kSeparatorTolerance = 0.1;
+
+bool IsSeparator(float coordinate) {
+    return std::fabs(static_cast<double>(coordinate) - kSeparator) < kSeparatorTolerance;
+}
+
+/// Entries are points or rectangles.
+template <class Entry>
+std::vector<Entry> Joined(const std::vector<Entry>& first, const std::vector<Entry>& second) {
+    std::vector<Entry> all = first;
+    all.push_back({kSeparator, kSeparator});
+    all.insert(all.end(), second.begin(), second.end());
+    return all;
+}
+
+template <class Entry> struct Halves {
+    std::vector<Entry> First;
+    std::vector<Entry> Second;
+};
+
+/// The entries before and after the first separator; nothing if there is none.
+template <class Entry> std::optional<Halves<Entry>> Split(const std::vector<Entry>& all) {
+    const auto separator = std::find_if(all.begin(), all.end(), [](const Entry& entry) {
+        return IsSeparator(entry.X) && IsSeparator(entry.Y);
+    });
+    if (separator == all.end()) {
+        return std::nullopt;
+    }
+    return Halves<Entry>{{all.begin(), separator}, {separator + 1, all.end()}};
+}
+
+} // namespace
+
+void CBasicHalfPieHalfPie::SetComponentValue(const std::vector<double>& first,
+                                             const std::vector<double>& second) {
+    m_firstValues = first;
+    m_secondValues = second;
+}
+
+void CBasicHalfPieHalfPie::Layout() {
+    m_first.SetLocation(m_location);
+    m_second.SetLocation(m_location);
+    m_first.SetHalfPieProp(m_prop.First);
+    m_second.SetHalfPieProp(m_prop.Second);
+    m_first.SetComponentValue(m_firstValues);
+    m_second.SetComponentValue(m_secondValues);
+    m_first.Layout();
+    m_second.Layout();
+    m_whole = penlode::Union(m_first.GetPositionAll(), m_second.GetPositionAll());
+}
+
+void CBasicHalfPieHalfPie::Draw(IGraphicsEngine* engine) const {
+    m_first.Draw(engine);
+    m_second.Draw(engine);
+}
+
+void CBasicHalfPieHalfPie::GetChildPosition(RectF&, std::vector<RectF>& labels, std::vector<RectF>&) const {
+    labels = Joined(m_first.GetLayout().LabelRects, m_second.GetLayout().LabelRects);
+}
+
+void CBasicHalfPieHalfPie::SetChildPosition(const RectF&, const std::vector<RectF>& labels,
+                                            const std::vector<RectF>&) {
+    if (const auto halves = Split(labels)) {
+        m_first.SetChildPosition({}, halves->First, {});
+        m_second.SetChildPosition({}, halves->Second, {});
+    }
+}
+
+void CBasicHalfPieHalfPie::GetChildOffset(std::vector<PointF>& labels, std::vector<PointF>& legend) const {
+    std::vector<PointF> first;
+    std::vector<PointF> second;
+    m_first.GetChildOffset(first, legend);
+    m_second.GetChildOffset(second, legend);
+    labels = Joined(first, second);
+}
+
+void CBasicHalfPieHalfPie::SetChildOffset(const std::vector<PointF>& labels, const std::vector<PointF>&) {
+    if (const auto halves = Split(labels)) {
+        m_first.SetChildOffset(halves->First, {});
+        m_second.SetChildOffset(halves->Second, {});
+    }
+}
+
+} // namespace millichart

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "charts/pie/BasicHalfPie.h"
+
+namespace millichart {
+
+/// Two half pies round one centre, usually an upper and a lower one, to compare two series across the
+/// diameter.
+///
+///     CBasicHalfPieHalfPie chart;
+///     chart.SetHalfPieHalfPieProp(prop); // prop.Second.Basic.WhichPart = HalfPiePart::Lower
+///     chart.SetComponentValue({30.0, 70.0}, {20.0, 60.0});
+///     chart.SetLocation({50.0F, 50.0F});
+///     chart.Layout();
+///     chart.Draw(&engine);
+///
+/// Setters only store; Layout hands everything to the two halves and lays them out; Draw and the getters read
+/// the last layout. A plain value: copies share nothing.
+///
+/// The labels of both halves are exchanged as one list: the first half's, a separator at
+/// (-99999, -99999), the second half's.
+class MILLICHART_API CBasicHalfPieHalfPie {
+public:
+    /// Copies the record. At the next Layout each half's label offsets become as many as its names.
+    void SetHalfPieHalfPieProp(const HalfPieHalfPieProp& prop) { m_prop = prop; }
+
+    const HalfPieHalfPieProp& GetHalfPieHalfPieProp() const { return m_prop; }
+
+    void SetComponentValue(const std::vector<double>& first, const std::vector<double>& second);
+
+    /// The common centre of both circles.
+    void SetLocation(penlode::PointF location) { m_location = location; }
+
+    penlode::PointF GetLocation() const { return m_location; }
+
+    void Layout();
+
+    /// Both halves with their labels. A half without values counts as the bare location.
+    penlode::RectF GetPositionAll() const { return m_whole; }
+
+    /// The halves as the last Layout left them.
+    const CBasicHalfPie& GetFirstHalf() const { return m_first; }
+
+    const CBasicHalfPie& GetSecondHalf() const { return m_second; }
+
+    /// The first half, then the second over it. Nothing on a null engine.
+    void Draw(penlode::IGraphicsEngine* engine) const;
+
+    /// Where the labels stand. `pie` and `legend` are left as they are.
+    void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,
+                          std::vector<penlode::RectF>& legend) const;
+    /// Where the user moved the labels; shows after the next Layout. A list without a separator changes
+    /// nothing.
+    void SetChildPosition(const penlode::RectF& pie, const std::vector<penlode::RectF>& labels,
+                          const std::vector<penlode::RectF>& legend);
+    /// The user's displacements, which every Layout adds. `legend` is left as it is.
+    void GetChildOffset(std::vector<penlode::PointF>& labels, std::vector<penlode::PointF>& legend) const;
+    /// A list without a separator changes nothing.
+    void SetChildOffset(const std::vector<penlode::PointF>& labels,
+                        const std::vector<penlode::PointF>& legend);
+
+private:
+    HalfPieHalfPieProp m_prop;
+    std::vector<double> m_firstValues;
+    std::vector<double> m_secondValues;
+    penlode::PointF m_location;
+    penlode::RectF m_whole;
+    CBasicHalfPie m_first;
+    CBasicHalfPie m_second;
+};
+
+} // namespace millichart

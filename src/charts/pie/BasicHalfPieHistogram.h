@@ -1,0 +1,74 @@
+#pragma once
+
+#include "charts/histogram/BasicHistogram.h"
+#include "charts/pie/BasicHalfPie.h"
+#include "charts/pie/HalfPieHistogramProp.h"
+
+namespace millichart {
+
+/// A half pie, usually a lower one, with bars standing on the line through its centre:
+///
+///          | |  |
+///        | | |  | |     the bar chart, centred over the pie's centre
+///     ---------------
+///      \           /    the half pie
+///        `-.___.-'
+///
+/// Setters only store; Layout hands everything to the half pie and the bar chart and lays them out; Draw and
+/// the getters read the last layout. Copies share the bar chart's value axis and nothing else.
+class MILLICHART_API CBasicHalfPieHistogram {
+public:
+    /// Copies the record and, in the copy, switches off what would stand round the bars: caption, axes with
+    /// their labels and captions, grids. The plot's background, the bars with their labels and the legend
+    /// stay as given. An upper half overlaps the bars.
+    void SetHalfPieHistogramProp(const HalfPieHistogramProp& prop);
+
+    const HalfPieHistogramProp& GetHalfPieHistogramProp() const { return m_prop; }
+
+    /// The half pie's values; the bars', one list a group; and the largest value that the bars' axis has to
+    /// hold. The axis takes its range from the last at the first Layout and at any that follows a change of
+    /// scale, and keeps it otherwise.
+    void SetComponentValue(const std::vector<double>& slices, const std::vector<std::vector<double>>& groups,
+                           double largest);
+
+    /// The half pie's centre.
+    void SetLocation(penlode::PointF location) { m_location = location; }
+
+    penlode::PointF GetLocation() const { return m_location; }
+
+    void Layout();
+
+    /// Half pie, labels, bars and their legend.
+    penlode::RectF GetPositionAll() const { return m_whole; }
+
+    /// Both as the last Layout left them.
+    const CBasicHalfPie& GetHalfPie() const { return m_halfPie; }
+
+    const CBasicHistogram& GetHistogram() const { return m_histogram; }
+
+    /// The half pie, then the bars over it. Nothing on a null engine.
+    void Draw(penlode::IGraphicsEngine* engine) const;
+
+    /// The half pie's movable parts; the bar chart's do not move.
+    void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,
+                          std::vector<penlode::RectF>& legend) const;
+    void SetChildPosition(const penlode::RectF& pie, const std::vector<penlode::RectF>& labels,
+                          const std::vector<penlode::RectF>& legend);
+    void GetChildOffset(std::vector<penlode::PointF>& labels, std::vector<penlode::PointF>& legend) const;
+    void SetChildOffset(const std::vector<penlode::PointF>& labels,
+                        const std::vector<penlode::PointF>& legend);
+
+private:
+    void StandOnTheCentre();
+
+    HalfPieHistogramProp m_prop;
+    std::vector<double> m_slices;
+    std::vector<std::vector<double>> m_groups;
+    penlode::PointF m_location;
+    double m_largest = 0.0;
+    penlode::RectF m_whole;
+    CBasicHalfPie m_halfPie;
+    CBasicHistogram m_histogram;
+};
+
+} // namespace millichart

@@ -1,0 +1,247 @@
+#include "charts/histogram/HistogramPropSerialize.h"
+
+#include "penlode/BinarySerialize.h"
+#include "penlode/JsonSerializeStream.h"
+#include "support/ListingStream.h"
+#include "support/Texts.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace millichart;
+using penlode::CBinarySerialize;
+using penlode::CJsonSerializeStream;
+using penlode::Color;
+
+namespace {
+
+/// Every field differs from its neighbours and from both kinds of default.
+HistogramProp SomeHistogram() {
+    HistogramProp prop;
+    prop.Caption.ShowCaption = 1;
+    prop.Caption.Caption = Narrow(L"发电量");
+    prop.Caption.CaptionTextProperty.Angle = 1;
+    HistogramVerAxisProp& ver = prop.VerAxis;
+    ver.ShowVerAxis = 2;
+    ver.MajorScaleStyle = ScaleStyle::Cross;
+    ver.MinorScaleStyle = ScaleStyle::Inner;
+    ver.VerAxisPen = penlode::Pen(Color{0xFF000001}, 0.3F);
+    ver.ShowVerAxisLabel = 0;
+    ver.VerAxisLabelTextProperty.Angle = 2;
+    ver.ShowHorMajorGrid = 0;
+    ver.HorMajorGridPen = penlode::Pen(Color{0xFF000002}, 0.4F, penlode::DashStyle::Dash);
+    ver.ShowHorMinorGrid = 3;
+    ver.HorMinorGridPen = penlode::Pen(Color{0xFF000003}, 0.5F, penlode::DashStyle::Dot);
+    ver.ShowVerCaption = 4;
+    ver.VerCaption = "TWh";
+    ver.VerCaptionTextProperty.Angle = 90;
+    HistogramHorAxisProp& hor = prop.HorAxis;
+    hor.ShowHorAxis = 5;
+    hor.HorAxisPen = penlode::Pen(Color{0xFF000004}, 0.6F);
+    hor.ScaleStyle = ScaleStyle::None;
+    hor.ShowGroupName = 6;
+    hor.GroupNameTextProperty.Angle = 3;
+    hor.ShowVerGrid = 0;
+    hor.VerGridPen = penlode::Pen(Color{0xFF000005}, 0.7F);
+    hor.ShowHorCaption = 7;
+    hor.HorCaption = "year";
+    hor.HorCaptionTextProperty.Angle = 4;
+    HistogramPlotProp& plot = prop.Plot;
+    plot.ShowBackground = 0;
+    plot.PlotBackgroundColor = Color{0xFFFAFAFA};
+    plot.ShowEdge = 8;
+    plot.EdgePen = penlode::Pen(Color{0xFF000006}, 0.8F);
+    plot.ComponentName = {Narrow(L"水|力"), "", "wind"};
+    plot.ComponentColor = {Color{0xFF4472C4}, Color{0x80ED7D31}};
+    plot.ShowComponentName = 9;
+    plot.ShowComponentValue = 10;
+    plot.ConponentInfoInSingleRow = 0;
+    plot.ConponentInfoSeparator = Narrow(L"：");
+    plot.ComponentInfoTextProperty.Angle = 5;
+    plot.PlotWidth = 120.5F;
+    plot.PlotHeight = 60.25F;
+    plot.GroupDistane = 4.5F;
+    plot.Juxtaposition = 0;
+    plot.PieStyle = BarStyle::WithDepth;
+    plot.LogarithmScale = 11;
+    prop.Legend.ShowLegend = 12;
+    prop.Legend.LegendPos = LegendPosition::TopRight;
+    return prop;
+}
+
+HistogramProp Loaded(const char* json) {
+    CJsonSerializeStream stream(json);
+    HistogramProp prop = SomeHistogram();
+    CHistogramPropSerialize::SerializeHistogramProp(stream, prop, "H");
+    return prop;
+}
+
+/// The lines that belong to texts' looks but for their angles, and the braces, left out.
+std::string WithoutLooks(const std::string& json) {
+    std::string kept;
+    for (std::size_t at = 0; at < json.size();) {
+        const std::size_t end = json.find('\n', at) + 1;
+        const std::string line = json.substr(at, end - at);
+        at = end;
+        const std::size_t text = line.find_first_not_of(' ');
+        const bool isBrace = line[text] == '}' || line[text] == '{' || line[text] == ']';
+        const bool isLook =
+            line.find("字体") != std::string::npos || line.find("Prefix") != std::string::npos ||
+            line.find("Postfix") != std::string::npos || line.find("DrawEdge") != std::string::npos ||
+            line.find("DrawBackGround") != std::string::npos ||
+            line.find("\"TextColor") != std::string::npos || line.find("\"EdgeColor") != std::string::npos ||
+            line.find("\"BkColor") != std::string::npos;
+        kept += isBrace || isLook ? "" : line.substr(text);
+    }
+    return kept;
+}
+
+} // namespace
+
+TEST(HistogramPropSerialize, KeyedAsADocument) {
+    HistogramProp prop = SomeHistogram();
+    CJsonSerializeStream stream;
+    CHistogramPropSerialize::SerializeHistogramProp(stream, prop, "property");
+    EXPECT_EQ(WithoutLooks(stream.Text()), R"("property": {
+"CaptionProp": {
+"ShowCaption": "1",
+"Caption": "发电量",
+"CaptionTextProperty": {
+"Angle": "1"
+"HistogramVerAxisProp": {
+"ShowVerAxis": "2",
+"MajorScaleStyle": "cross",
+"MinorScaleStyle": "inner",
+"VerAxisPen": "#FF000001 0.3 solid",
+"ShowVerAxisLabel": "0",
+"VerAxisLabelTextProperty": {
+"Angle": "2"
+"ShowHorMajorGrid": "0",
+"HorMajorGridPen": "#FF000002 0.4 dash",
+"ShowHorMinorGrid": "3",
+"HorMinorGridPen": "#FF000003 0.5 dot",
+"ShowVerCaption": "4",
+"VerCaption": "TWh",
+"VerCaptionTextProperty": {
+"Angle": "90"
+"HistogramHorAxisProp": {
+"ShowHorAxis": "5",
+"ScaleStyle": "none",
+"HorAxisPen": "#FF000004 0.6 solid",
+"ShowGroupName": "6",
+"GroupNameTextProperty": {
+"Angle": "3"
+"ShowVerGrid": "0",
+"VerGridPen": "#FF000005 0.7 solid",
+"ShowHorCaption": "7",
+"HorCaption": "year",
+"HorCaptionTextProperty": {
+"Angle": "4"
+"HistogramPlotProp": {
+"ShowBackground": "0",
+"PlotBackgroundColor": "#FFFAFAFA",
+"ShowEdge": "8",
+"EdgePen": "#FF000006 0.8 solid",
+"ShowComponentName": "9",
+"ShowComponentValue": "10",
+"ConponentInfoInSingleRow": "0",
+"ConponentInfoSeparator": "：",
+"ComponentInfoTextProperty": {
+"Angle": "5"
+"ComponentName": [
+"水|力",
+"",
+"wind"
+"ComponentColor": [
+"#FF4472C4",
+"#80ED7D31"
+"PlotWidth": "120.5",
+"PlotHeight": "60.25",
+"GroupDistane": "4.5",
+"Juxtaposition": "0",
+"PieStyle": "3D",
+"LogarithmScale": "11"
+"HistogramLegendProp": {
+"ShowLegend": "12",
+"LegendPos": "TopRight",
+"ShowEdge": "1",
+"ShowBackground": "0",
+"BackgroundColor": "#FFFFFFFF",
+"ItemDist": "0",
+"PenEdge": "#FF000000 0.1 solid",
+"Font": "宋体 4"
+)");
+    CJsonSerializeStream back(stream.Text());
+    HistogramProp loaded;
+    CHistogramPropSerialize::SerializeHistogramProp(back, loaded, "property");
+    EXPECT_EQ(loaded, SomeHistogram());
+    EXPECT_TRUE(back.Problems().empty());
+}
+
+TEST(HistogramPropSerialize, AnEmptyDocumentGivesExactlyTheLoadDefaults) {
+    HistogramProp expected;
+    expected.VerAxis.ShowVerAxis = 0;
+    expected.VerAxis.ShowHorMinorGrid = 1;
+    expected.VerAxis.ShowVerCaption = 1;
+    expected.HorAxis.ShowGroupName = 1;
+    expected.HorAxis.VerGridPen = penlode::Pen(penlode::kBlack, 0.0F);
+    expected.HorAxis.ShowHorCaption = 1;
+    expected.Plot.EdgePen = penlode::Pen(Color{0xFFDA8080}, 0.2F);
+    expected.Plot.ShowComponentName = 1;
+    expected.Plot.ShowComponentValue = 1;
+    for (TextProperty* text :
+         {&expected.Caption.CaptionTextProperty, &expected.VerAxis.VerAxisLabelTextProperty,
+          &expected.VerAxis.VerCaptionTextProperty, &expected.HorAxis.GroupNameTextProperty,
+          &expected.HorAxis.HorCaptionTextProperty, &expected.Plot.ComponentInfoTextProperty}) {
+        text->BkColor = penlode::kBlack;
+        text->DrawEdge = 1;
+        text->DrawBackGround = 1;
+    }
+    EXPECT_EQ(Loaded("{}"), expected);
+    EXPECT_EQ(Loaded(R"({"H": {"HistogramPlotProp": {"PieStyle": "4D"}, "HistogramVerAxisProp":
+        {"MajorScaleStyle": "Outer", "VerAxisPen": "thick"}}})"),
+              expected);
+    EXPECT_EQ(Loaded(R"({"H": {"HistogramPlotProp": {"PieStyle": "3D"}}})").Plot.PieStyle,
+              BarStyle::WithDepth);
+}
+
+TEST(HistogramPropSerialize, PositionalOrderIsFixed) {
+    HistogramProp prop = SomeHistogram();
+    ListingStream list;
+    CHistogramPropSerialize::SerializeHistogramProp(list, prop);
+    std::string order = list.Text();
+    std::replace(order.begin(), order.end(), '\n', ';');
+    const auto look = [](const char* angle) {
+        return "font 宋体 4;colour #FF000000;colour #FF000000;colour #FFFFFFFF;int 0;int 0;text ;text ;int " +
+               std::string(angle) + ";";
+    };
+    // The looks of a record's texts come last, in the group axis the tick style before the pen.
+    EXPECT_EQ(order, "int 1;text 发电量;" + look("1") +
+                         "int 2;int 3;int 2;pen #FF000001 0.3 solid;int 0;int 0;pen #FF000002 0.4 dash;"
+                         "int 3;pen #FF000003 0.5 dot;int 4;text TWh;" +
+                         look("2") + look("90") +
+                         "int 5;int 0;pen #FF000004 0.6 solid;int 6;int 0;pen #FF000005 0.7 solid;"
+                         "int 7;text year;" +
+                         look("3") + look("4") +
+                         "int 0;colour #FFFAFAFA;int 8;pen #FF000006 0.8 solid;int 9;int 10;int 0;text ：;"
+                         "float 120.5;float 60.25;float 4.5;int 0;int 1;int 11;" +
+                         look("5") + "list [水|力][][wind];int 2;colour #FF4472C4;colour #80ED7D31;" +
+                         "int 12;int 8;int 1;int 0;colour #FFFFFFFF;float 0;pen #FF000000 0.1 solid;"
+                         "font 宋体 4;");
+}
+
+TEST(HistogramPropSerialize, PositionalRoundTripAndTruncation) {
+    HistogramProp prop = SomeHistogram();
+    CBinarySerialize out;
+    CHistogramPropSerialize::SerializeHistogramProp(out, prop);
+    CBinarySerialize in(out.Bytes());
+    HistogramProp loaded;
+    CHistogramPropSerialize::SerializeHistogramProp(in, loaded);
+    EXPECT_EQ(loaded, SomeHistogram());
+    EXPECT_EQ(in.Remaining(), 0U);
+    for (std::size_t length = 0; length < out.Bytes().size(); length += 7) {
+        CBinarySerialize part(std::string_view(out.Bytes()).substr(0, length));
+        CHistogramPropSerialize::SerializeHistogramProp(part, loaded);
+        EXPECT_TRUE(part.Failed()) << length;
+    }
+}
