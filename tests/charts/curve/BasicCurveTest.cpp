@@ -184,11 +184,12 @@ TEST(BasicCurve, ALongCurveIsPlacedAsItsValuesAreOneByOne) {
         values.push_back(40.0 * std::sin(i * 0.01));
         times.push_back(1299 - i);
     }
-    for (const std::size_t null : {0, 511, 512, 1299}) {
+    for (const std::size_t null : {0U, 511U, 512U, 1299U}) {
         values[null] = kNull;
     }
     values[1024] = kNan;
-    const CurveFigure curve = LaidOut(PlotAlone(), {values}, {times}).GetLayout().Curves[0];
+    CBasicCurve chart = LaidOut(PlotAlone(), {values}, {times});
+    const CurveFigure curve = chart.GetLayout().Curves[0];
     ASSERT_EQ(curve.Points.size(), 1300U);
     for (std::size_t i = 0; i < curve.Points.size(); ++i) {
         const CurveFigure one =
@@ -199,6 +200,16 @@ TEST(BasicCurve, ALongCurveIsPlacedAsItsValuesAreOneByOne) {
     }
     EXPECT_TRUE(std::isnan(curve.Points[1024].Y));
     EXPECT_TRUE(curve.HasNull && curve.HasUnplaced);
+
+    // Nothing of a layout is left in the next one, whether that is shorter or longer.
+    for (const std::size_t count : {1000U, 3U, 2000U}) {
+        chart.SetCurveData({std::vector<double>(count, 20)}, {std::vector<std::int32_t>(count, 5)});
+        chart.Layout();
+        const CurveFigure& next = chart.GetLayout().Curves[0];
+        EXPECT_EQ(next.Points, Points(count, {100, 215}));
+        EXPECT_EQ(next.NullFlags, std::vector<bool>(count));
+        EXPECT_FALSE(next.HasNull || next.HasUnplaced);
+    }
 }
 
 TEST(BasicCurve, TheAxisIsReplacedOnlyWithItsScaleAndSharedByCopies) {
