@@ -2,6 +2,7 @@
 #include "support/Drawings.h"
 #include "support/Texts.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace millichart;
@@ -148,6 +149,8 @@ TEST(BasicCurveDraw, ALineRunsThroughItsNullsAsZero) {
         prop.Plot.NullValueStyle = {style};
         EXPECT_EQ(Lines(prop, {kNull, 10, kNull, kNull, 20}), "[5] (0 30) (10 15) (20 30) (30 30) (40 0)\n");
     }
+    // A value that is no number breaks the line all the same.
+    EXPECT_EQ(Lines(prop, {kNull, 10, std::nan(""), 20}), "[2] (0 30) (10 15)\n[1] (30 0)\n");
     const std::string withMarkers = Drawn(LaidOut(prop, {{kNull, 10, 20}}, {{0, 1, 8}}));
     EXPECT_EQ(Only(withMarkers, "FillRectangle "), "#FF000000 (9.5 14.5 1 1)\n#FF000000 (79.5 -0.5 1 1)\n");
     // 0 has no place on a logarithmic axis.
