@@ -1,4 +1,5 @@
 #include "Chart.h"
+#include "CurveChart.h"
 #include "HistogramChart.h"
 #include "PieChart.h"
 
@@ -7,7 +8,7 @@
 namespace cli {
 namespace {
 
-constexpr ChartKind kKinds[] = {kPieKind, kHistogramKind};
+constexpr ChartKind kKinds[] = {kPieKind, kHistogramKind, kCurveKind};
 
 } // namespace
 

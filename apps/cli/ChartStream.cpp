@@ -26,7 +26,7 @@ void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
                       const std::vector<std::string>& defaults) {
     Ask(tag);
     if (!m_json.Has(tag)) {
-        m_missingLists.insert(tag);
+        m_missing.insert(tag);
     }
     const auto replaced = m_defaultLists.find(tag);
     m_json.Ser(tag, values, replaced == m_defaultLists.end() ? defaults : replaced->second);
@@ -39,6 +39,9 @@ std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
 
 void ChartStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
     Ask(tag);
+    if (!m_json.Has(tag)) {
+        m_missing.insert(tag);
+    }
     if (m_joinedTags.contains(tag) && m_json.IsList(tag)) {
         value = JoinedList(tag);
     } else {

@@ -39,8 +39,8 @@ public:
         HistogramProp prop = LoadProp(stream);
         m_data = LoadHistogramData(stream, source);
         m_components = m_data.Components();
-        TakeNames(prop.Plot.ComponentName, stream.TookDefaultList(kNames));
-        if (stream.TookDefaultList(kColors)) {
+        TakeNames(prop.Plot.ComponentName, stream.TookDefault(kNames));
+        if (stream.TookDefault(kColors)) {
             prop.Plot.ComponentColor = PaletteColors(prop.Plot.ComponentName.size());
         }
         const bool isStacked = prop.Plot.Juxtaposition == 0;

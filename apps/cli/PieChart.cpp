@@ -40,7 +40,7 @@ public:
         RefuseTooMany(prop.Basic.ComponentName, *source.Messages);
         PieData data = LoadPieData(stream, source);
         TakeNames(data, prop.Basic.ComponentName);
-        if (stream.TookDefaultList(kColors)) {
+        if (stream.TookDefault(kColors)) {
             prop.Basic.ComponentColor = PaletteColors(data.Values.size());
         }
         m_values = data.Values.size();

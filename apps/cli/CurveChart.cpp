@@ -1,0 +1,234 @@
+#include "CurveChart.h"
+
+#include "CartesianLayoutToJson.h"
+#include "CurveData.h"
+#include "Fields.h"
+#include "Palette.h"
+#include "ValueRange.h"
+#include "millichart.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace cli {
+namespace {
+
+using millichart::CurveProp;
+
+constexpr const char* kNames = "CurveName";
+constexpr const char* kNamesPlace = "property/CurvePlotProp/CurveName";
+
+constexpr float kLineWidth = 0.4F;
+constexpr float kMarkerWidth = 1.6F;
+constexpr std::size_t kMostLabels = 12;
+
+/// The largest value that is not null. -infinity when there is none.
+double LargestOf(const std::vector<std::vector<double>>& curves) {
+    double largest = -HUGE_VAL;
+    for (const std::vector<double>& values : curves) {
+        for (const double value : values) {
+            largest = std::max(largest, value);
+        }
+    }
+    return largest < millichart::kCurveNullThreshold ? -HUGE_VAL : largest;
+}
+
+/// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
+std::int32_t ReadableStep(std::size_t count) {
+    for (std::int32_t power = 1; power < 1000000000; power *= 10) {
+        for (const std::int32_t digit : {1, 2, 5}) {
+            if (count / static_cast<std::size_t>(digit * power) < kMostLabels) {
+                return digit * power;
+            }
+        }
+    }
+    return 1000000000;
+}
+
+Json FigureToJson(const millichart::CurveFigure& curve) {
+    Json nulls = Json::array();
+    for (std::size_t i = 0; curve.HasNull && i < curve.NullFlags.size(); ++i) {
+        if (curve.NullFlags[i]) {
+            nulls.push_back(i);
+        }
+    }
+    return {{"points", ListToJson(curve.Points)}, {"nulls", std::move(nulls)}};
+}
+
+class CurveChart final : public Chart {
+public:
+    CurveChart(ChartStream& stream, const DataSource& source) {
+        CurveProp prop = LoadProp(stream);
+        CurveData data = LoadCurveData(stream, source);
+        m_curves = data.Values.size();
+        TakeNames(data, prop.Plot.CurveName, stream.TookDefault(kNames));
+        TakeLooks(stream, prop.Plot);
+        if (data.Labels.empty()) {
+            data.Labels = TimeLabels(data);
+        }
+        TakeSteps(stream, data.Labels.size(), prop.HorAxis);
+        m_chart.SetCurveProp(prop);
+        ValueRange(stream, prop.Plot.LogarithmScale != 0, *source.Messages)
+            .ApplyTo(m_chart, LargestOf(data.Values));
+        LookForValuesOutside(data.Values);
+        m_chart.SetCurveData(std::move(data.Values), std::move(data.Times));
+        m_chart.SetHorAxisLabel(data.Labels);
+        m_chart.SetLocation(LoadPoint(stream, "location"));
+        m_chart.Layout();
+    }
+
+    penlode::RectF Extent() const override { return m_chart.GetPositionAll(); }
+
+    void Draw(penlode::IGraphicsEngine& engine) const override { m_chart.Draw(&engine); }
+
+    Json Layout() const override {
+        const millichart::CurveLayout& layout = m_chart.GetLayout();
+        Json json = CartesianLayoutToJson(layout);
+        json["horLabelRects"] = ListToJson(layout.HorLabelRects);
+        Json curves = Json::array();
+        for (const millichart::CurveFigure& curve : layout.Curves) {
+            curves.push_back(FigureToJson(curve));
+        }
+        json["curves"] = std::move(curves);
+        return json;
+    }
+
+    std::vector<Message> Doubts() const override {
+        std::vector<Message> doubts = m_doubts;
+        if (const std::size_t names = m_chart.GetCurveProp().Plot.CurveName.size(); names != m_curves) {
+            doubts.push_back({"", Severity::Warning, 0, kNamesPlace, Counted(names, "name"),
+                              std::to_string(m_curves) + ", one a curve"});
+        }
+        return doubts;
+    }
+
+private:
+    static CurveProp LoadProp(ChartStream& stream) {
+        stream.SetDefaultList("CurveColor", PaletteTexts());
+        CurveProp prop;
+        millichart::CCurvePropSerialize::SerializeCurveProp(stream, prop, "property");
+        return prop;
+    }
+
+    /// The document's own names stand, unless the user put other data in its place. Without any, curves are
+    /// drawn and have none.
+    void TakeNames(const CurveData& data, std::vector<std::string>& names, bool areMissing) {
+        if (!data.CurveNames.empty() && (areMissing || names.empty() || data.NamesGoFirst)) {
+            names = data.CurveNames;
+        } else if (areMissing) {
+            names.assign(m_curves, "");
+        } else if (!data.CurveNames.empty() && data.CurveNames != names) {
+            m_doubts.push_back(OtherNames(kNamesPlace));
+        }
+    }
+
+    /// Where the document leaves the look of lines open, they can be told apart and seen.
+    static void TakeLooks(const ChartStream& stream, millichart::CurvePlotProp& plot) {
+        const std::size_t count = plot.CurveName.size();
+        if (stream.TookDefault("CurveColor")) {
+            plot.CurveColor = PaletteColors(count);
+        }
+        if (stream.TookDefault("CurveDotColor")) {
+            plot.CurveDotColor = plot.CurveColor;
+        }
+        if (stream.TookDefault("CurveWidth")) {
+            plot.CurveWidth.assign(count, kLineWidth);
+        }
+        if (stream.TookDefault("CurveDotWidth")) {
+            plot.CurveDotWidth.assign(count, kMarkerWidth);
+        }
+    }
+
+    static void TakeSteps(const ChartStream& stream, std::size_t labels, millichart::CurveHorAxisProp& axis) {
+        for (const auto& [key, step] : {std::pair("ScaleStep", &axis.ScaleStep),
+                                        {"LabelStep", &axis.LabelStep},
+                                        {"VerGridStep", &axis.VerGridStep}}) {
+            if (stream.TookDefault(key)) {
+                *step = ReadableStep(labels);
+            }
+        }
+    }
+
+    void LookForValuesOutside(const std::vector<std::vector<double>>& curves) {
+        RangeDoubts doubts = RangeDoubts::Of(m_chart, m_chart.GetCurveProp().Plot.LogarithmScale != 0);
+        for (std::size_t curve = 0; curve < curves.size(); ++curve) {
+            for (std::size_t i = 0; i < curves[curve].size(); ++i) {
+                if (const double value = curves[curve][i]; value >= millichart::kCurveNullThreshold) {
+                    doubts.Look(value, [&] { return CurveValuePlace(curve, i); });
+                }
+            }
+        }
+        const std::vector<Message> outside = doubts.Doubts();
+        m_doubts.insert(m_doubts.end(), outside.begin(), outside.end());
+    }
+
+    millichart::CBasicCurve m_chart;
+    std::size_t m_curves = 0;
+    std::vector<Message> m_doubts; ///< those of the load
+};
+
+CurveProp ExampleProp() {
+    const penlode::Font font{L"Arial", 3.4F};
+    const penlode::Pen grid(penlode::Color{0xFFD0D0D0}, 0.1F);
+    CurveProp prop;
+    prop.Caption.ShowCaption = 1;
+    prop.Caption.Caption = "Visitors by month\n";
+    prop.Caption.CaptionTextProperty.Font = penlode::Font{L"Arial", 4.5F};
+    prop.VerAxis.MajorScaleStyle = millichart::ScaleStyle::Inner;
+    prop.VerAxis.MinorScaleStyle = millichart::ScaleStyle::None;
+    prop.VerAxis.VerAxisLabelTextProperty.Font = font;
+    prop.VerAxis.HorMajorGridPen = grid;
+    prop.VerAxis.ShowVerCaption = 1;
+    // The empty lines keep captions off the plot and the labels.
+    prop.VerAxis.VerCaption = "thousand\n";
+    prop.VerAxis.VerCaptionTextProperty.Font = font;
+    prop.VerAxis.VerCaptionTextProperty.Angle = 90;
+    prop.HorAxis.ScaleStyle = millichart::ScaleStyle::Inner;
+    prop.HorAxis.HorLabelTextProperty.Font = font;
+    prop.HorAxis.HorCaptionTextProperty.Font = font;
+    prop.HorAxis.ShowVerGrid = 0;
+    prop.Plot.ShowEdge = 0;
+    // The blank keeps a name off its sample in the legend.
+    prop.Plot.CurveName = {" Museum", " Gardens"};
+    prop.Plot.CurveColor = PaletteColors(prop.Plot.CurveName.size());
+    prop.Plot.CurveWidth = {0.5F, 0.5F};
+    prop.Plot.CurveDashStyle = {0, 0};
+    prop.Plot.CurveDotStyle = {millichart::CurveDotStyle::SolidCircle,
+                               millichart::CurveDotStyle::SolidSquare};
+    prop.Plot.CurveDotColor = prop.Plot.CurveColor;
+    prop.Plot.CurveDotWidth = {1.8F, 1.6F};
+    prop.Plot.NullValueStyle = {millichart::CurveNullValueStyle::Break,
+                                millichart::CurveNullValueStyle::Break};
+    prop.Plot.PlotWidth = 110.0F;
+    prop.Plot.PlotHeight = 60.0F;
+    prop.Legend.ShowLegend = 1;
+    prop.Legend.ShowEdge = 0;
+    prop.Legend.ItemDist = 1.0F;
+    prop.Legend.Font = font;
+    return prop;
+}
+
+} // namespace
+
+std::unique_ptr<Chart> LoadCurveChart(ChartStream& stream, const DataSource& source) {
+    return std::make_unique<CurveChart>(stream, source);
+}
+
+Json CurveExample() {
+    CurveProp prop = ExampleProp();
+    penlode::CJsonSerializeStream record;
+    millichart::CCurvePropSerialize::SerializeCurveProp(record, prop, "property");
+    const Json months{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+    return {{"title", "Visitors by month"},
+            {"description", "Figures made up as an example; put your own in their place."},
+            {"source", ""},
+            {"property", Json::parse(record.Text())["property"]},
+            {"data",
+             {{"curves",
+               {{{"times", months}, {"values", {41, 38, 45, 52, 57, 49, 63, 68, 55, 50, 43, 47}}},
+                {{"times", months}, {"values", {6, 9, 22, 48, 71, 78, 83, 80, 54, 27, nullptr, 11}}}}},
+              {"labels", {"J", "F", "M", "A", "M", "J", "J", "A", "S", "O", "N", "D"}}}},
+            {"location", "0 0"}};
+}
+
+} // namespace cli
