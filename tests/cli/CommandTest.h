@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace cli_test {
 
@@ -37,8 +38,18 @@ private:
     TemporaryFolder m_folder;
 };
 
-/// The kinds of charts as messages list them.
-inline const std::string kKinds = R"("pie", "histogram")";
+/// The kinds of charts in the command's order.
+inline const std::vector<std::string> kKindNames{"pie", "half-pie", "half-pie-half-pie", "half-pie-histogram",
+                                                 "histogram"};
+
+/// As messages list them.
+inline const std::string kKinds = [] {
+    std::string kinds;
+    for (const std::string& kind : kKindNames) {
+        kinds += (kinds.empty() ? "\"" : ", \"") + kind + "\"";
+    }
+    return kinds;
+}();
 
 /// A pie of 20 mm that draws without a word.
 inline const char* const kSmallPie =
