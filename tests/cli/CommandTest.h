@@ -34,6 +34,21 @@ protected:
         return outcome;
     }
 
+    /// What `inspect` shows of a document, which becomes h.json, in lines with `key`.
+    std::string Shown(const std::string& document, const std::string& key,
+                      const std::string& options = "") const {
+        Write("h.json", document);
+        const Outcome outcome = Run("millichart inspect h.json " + options + " | grep '\"" + key + "\":'");
+        EXPECT_EQ(outcome.Errors, "");
+        return outcome.Output;
+    }
+
+    /// What `check` says of a document, which becomes h.json, but for notes.
+    std::string Warnings(const std::string& document) const {
+        Write("h.json", document);
+        return Run("millichart check h.json | grep -v note").Output;
+    }
+
 private:
     TemporaryFolder m_folder;
 };
