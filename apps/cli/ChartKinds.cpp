@@ -1,4 +1,7 @@
 #include "Chart.h"
+#include "HalfPieChart.h"
+#include "HalfPieHalfPieChart.h"
+#include "HalfPieHistogramChart.h"
 #include "HistogramChart.h"
 #include "PieChart.h"
 
@@ -7,7 +10,8 @@
 namespace cli {
 namespace {
 
-constexpr ChartKind kKinds[] = {kPieKind, kHistogramKind};
+constexpr ChartKind kKinds[] = {kPieKind, kHalfPieKind, kHalfPieHalfPieKind, kHalfPieHistogramKind,
+                                kHistogramKind};
 
 } // namespace
 

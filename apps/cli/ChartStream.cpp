@@ -24,9 +24,9 @@ std::string ChartStream::Ask(const std::string& tag) {
 
 void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
                       const std::vector<std::string>& defaults) {
-    Ask(tag);
+    const std::string place = Ask(tag);
     if (!m_json.Has(tag)) {
-        m_missingLists.insert(tag);
+        m_missingLists.insert(place);
     }
     const auto replaced = m_defaultLists.find(tag);
     m_json.Ser(tag, values, replaced == m_defaultLists.end() ? defaults : replaced->second);

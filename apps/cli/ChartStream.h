@@ -24,8 +24,8 @@ public:
         m_defaultLists[tag] = std::move(texts);
     }
 
-    /// Was a list under this tag asked for and not there?
-    bool TookDefaultList(const std::string& tag) const { return m_missingLists.contains(tag); }
+    /// Was a list asked for at this place, as in "property/PieBasicProp/ComponentColor", and not there?
+    bool TookDefaultList(const std::string& place) const { return m_missingLists.contains(place); }
 
     bool Has(const std::string& tag) const { return m_json.Has(tag); }
 
@@ -81,7 +81,7 @@ private:
     penlode::CJsonSerializeStream& m_json;
     std::set<std::string> m_joinedTags;
     std::map<std::string, std::vector<std::string>> m_defaultLists;
-    std::set<std::string> m_missingLists;
+    std::set<std::string> m_missingLists; ///< places
     std::map<std::string, std::vector<std::string>> m_asked;
     std::vector<std::string> m_places{""};
 };
