@@ -2,6 +2,9 @@
 
 /// Everything that a host needs: the charts, their records, the serializers and the streams. The engine that
 /// a host draws on is included by its own header, such as penlode/cairo/GraphicsEngine.h.
+#include "charts/curve/BasicCurve.h"
+#include "charts/curve/CurveProp.h"
+#include "charts/curve/CurvePropSerialize.h"
 #include "charts/histogram/BasicHistogram.h"
 #include "charts/histogram/HistogramProp.h"
 #include "charts/histogram/HistogramPropSerialize.h"

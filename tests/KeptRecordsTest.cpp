@@ -1,5 +1,5 @@
 #include "millichart.h"
-#include "support/Records.h"
+#include "support/SomeRecords.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -79,6 +79,8 @@ const KeptRecord kKept[] = {
          CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp),
     Kept("HistogramProp", SomeHistogram(), CHistogramPropSerialize::SerializeHistogramProp,
          CHistogramPropSerialize::SerializeHistogramProp),
+    Kept("CurveProp", SomeCurves(), CCurvePropSerialize::SerializeCurveProp,
+         CCurvePropSerialize::SerializeCurveProp),
 };
 
 std::ostream& operator<<(std::ostream& stream, const KeptRecord& record) {

@@ -4,6 +4,7 @@
 #include "Message.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,17 @@ public:
     /// Reads a file, "-" being the standard input. One that cannot be read is told and has no rows.
     DataTable(const std::string& file, std::vector<Message>& messages);
 
-    /// Without rows whose cells are all empty.
-    const std::vector<CsvRow>& Rows() const { return m_rows; }
+    /// All rows but those whose cells are all empty.
+    const std::vector<CsvRow>& Rows();
+
+    /// Visits the same rows one after the other and keeps none, for tables of millions.
+    template <class Visit> void ForEachRow(Visit visit) {
+        CsvReader reader(m_text);
+        for (CsvRow row; reader.Next(row);) {
+            visit(row);
+        }
+        CheckQuotes(reader);
+    }
 
     /// Has nothing been told of it?
     bool IsSound() const { return m_isSound; }
@@ -37,16 +47,14 @@ public:
 
 private:
     void Tell(Message message);
-    void Parse(const std::string& text);
+    void CheckQuotes(const CsvReader& reader);
 
     std::string m_file;
     std::vector<Message>* m_messages;
-    std::vector<CsvRow> m_rows;
+    std::string m_text;
+    std::optional<std::vector<CsvRow>> m_rows;
     bool m_isSound = true;
 };
-
-/// How many cells a row has up to the last one that is not empty.
-std::size_t FilledCells(const CsvRow& row);
 
 /// Is the text of a number's cell a word over a column, and no malformed or missing number?
 bool IsHeading(const std::string& cell);

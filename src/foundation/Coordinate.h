@@ -3,6 +3,7 @@
 #include "foundation/Export.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,9 @@ public:
     virtual void GetMinorTickPositions(std::vector<float>& positions) const = 0;
     /// One text a major tick.
     virtual void GetTickLabels(std::vector<std::string>& labels) const = 0;
+    /// ValueToPosition of each value, with the very same results, in one call for a whole run of data.
+    /// `positions` is as long as `values`.
+    virtual void ValuesToPositions(std::span<const double> values, std::span<float> positions) const;
 };
 
 } // namespace millichart

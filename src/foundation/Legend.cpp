@@ -120,6 +120,13 @@ void CLegendOperation::DrawBox(penlode::IGraphicsEngine* engine, const LegendPro
     }
 }
 
+void CLegendOperation::DrawName(penlode::IGraphicsEngine* engine, const LegendProp& prop,
+                                const std::string& name, const RectF& place) {
+    const penlode::SolidBrush black{penlode::kBlack};
+    const std::wstring text = penlode::CStringUtil::AnsiToWideString(name);
+    engine->DrawString(text.c_str(), -1, prop.Font.Get(), place, &kCenteredFormat, &black);
+}
+
 void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& prop,
                             const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
                             const std::vector<RectF>& items) {
@@ -127,7 +134,6 @@ void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& 
         return;
     }
     DrawBox(engine, prop, items);
-    const penlode::SolidBrush black{penlode::kBlack};
     const penlode::Pen frame(penlode::kBlack, kSwatchFrameWidth);
     for (std::size_t i = 0; i < items.size(); ++i) {
         const RectF& item = items[i];
@@ -139,9 +145,8 @@ void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& 
         }
         engine->DrawRectangle(&frame, corner.X, corner.Y, side, side);
         if (i < names.size()) {
-            const std::wstring name = penlode::CStringUtil::AnsiToWideString(names[i]);
-            const RectF place{item.X + item.Height, item.Y, item.Width - item.Height, item.Height};
-            engine->DrawString(name.c_str(), -1, prop.Font.Get(), place, &kCenteredFormat, &black);
+            DrawName(engine, prop, names[i],
+                     {item.X + item.Height, item.Y, item.Width - item.Height, item.Height});
         }
     }
 }

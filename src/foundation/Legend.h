@@ -69,6 +69,10 @@ public:
     /// The fill and the frame of the legend's box, the union of its items.
     static void DrawBox(penlode::IGraphicsEngine* engine, const LegendProp& prop,
                         const std::vector<penlode::RectF>& items);
+
+    /// An item's name, black, in the middle of `place`.
+    static void DrawName(penlode::IGraphicsEngine* engine, const LegendProp& prop, const std::string& name,
+                         const penlode::RectF& place);
 };
 
 /// The union of all rectangles; (0, 0, 0, 0) for none.

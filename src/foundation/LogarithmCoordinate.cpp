@@ -63,8 +63,18 @@ void CLogarithmCoordinate::RebuildTicks() {
 }
 
 float CLogarithmCoordinate::ValueToPosition(double value) const {
+    float position = 0.0F;
+    ValuesToPositions({&value, 1}, {&position, 1});
+    return position;
+}
+
+void CLogarithmCoordinate::ValuesToPositions(std::span<const double> values,
+                                             std::span<float> positions) const {
     const double start = std::log10(m_min);
-    return static_cast<float>((std::log10(value) - start) * m_length / (std::log10(m_max) - start));
+    const double decades = std::log10(m_max) - start;
+    std::transform(values.begin(), values.end(), positions.begin(), [&](double value) {
+        return static_cast<float>((std::log10(value) - start) * m_length / decades);
+    });
 }
 
 void CLogarithmCoordinate::GetMajorTickPositions(std::vector<float>& positions) const {

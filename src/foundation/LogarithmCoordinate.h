@@ -27,6 +27,7 @@ public:
     void GetMinorTickPositions(std::vector<float>& positions) const override;
     /// Each with the decimals that its power of ten needs: 0.001, 100.
     void GetTickLabels(std::vector<std::string>& labels) const override;
+    void ValuesToPositions(std::span<const double> values, std::span<float> positions) const override;
 
 private:
     void RebuildTicks();

@@ -2,6 +2,7 @@
 
 #include "foundation/NumberText.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace millichart {
@@ -98,6 +99,12 @@ void CNaturalCoordinate::GetTickLabels(std::vector<std::string>& labels) const {
     for (const double tick : m_ticks) {
         labels.push_back(FixedText(tick, decimals));
     }
+}
+
+/// The call to the final function is made inline here.
+void CNaturalCoordinate::ValuesToPositions(std::span<const double> values, std::span<float> positions) const {
+    std::transform(values.begin(), values.end(), positions.begin(),
+                   [this](double value) { return ValueToPosition(value); });
 }
 
 } // namespace millichart

@@ -26,6 +26,7 @@ public:
     void GetMinorTickPositions(std::vector<float>& positions) const override;
     /// Whole numbers if the largest tick is at least 1, else two decimals.
     void GetTickLabels(std::vector<std::string>& labels) const override;
+    void ValuesToPositions(std::span<const double> values, std::span<float> positions) const override;
 
 private:
     void RebuildTicks();

@@ -4,7 +4,6 @@
 #include "penlode/TextForms.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace millichart {
 
@@ -18,6 +17,10 @@ template <class T> std::string TextOf(T value) {
     std::string text;
     ser_evaluate(value, text, true);
     return text;
+}
+
+template <class T> bool Evaluate(T& value, std::string& text, bool toText) {
+    return ser_evaluate(value, text, toText);
 }
 
 /// A stray byte at a text's end would take the separator behind it for its second half.
@@ -115,21 +118,45 @@ void KeyedRecord::TextList(const char* key, std::vector<std::string>& values) {
     m_stream.Ser(key, values, {});
 }
 
-void KeyedRecord::ColorList(const char* key, std::vector<penlode::Color>& values) {
-    std::vector<std::string> texts;
-    if (m_stream.IsSaving()) {
-        std::transform(values.begin(), values.end(), std::back_inserter(texts), TextOf<penlode::Color>);
+template <class T, class Convert>
+void KeyedRecord::List(const char* key, std::vector<T>& values, T fallback, const std::string& form,
+                       Convert convert) {
+    const bool isSaving = m_stream.IsSaving();
+    std::vector<std::string> texts(isSaving ? values.size() : 0);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        convert(values[i], texts[i], true);
     }
     m_stream.Ser(key, texts, {});
-    if (m_stream.IsSaving()) {
+    if (isSaving) {
         return;
     }
-    values.assign(texts.size(), penlode::kBlack);
+    values.assign(texts.size(), fallback);
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (!ser_evaluate(values[i], texts[i], false)) {
-            m_stream.Refuse(key + std::string("/") + std::to_string(i), texts[i], penlode::kColorForm);
+        if (!convert(values[i], texts[i], false)) {
+            m_stream.Refuse(key + std::string("/") + std::to_string(i), texts[i], form);
         }
     }
+}
+
+void KeyedRecord::ColorList(const char* key, std::vector<penlode::Color>& values) {
+    List(key, values, penlode::kBlack, penlode::kColorForm, Evaluate<penlode::Color>);
+}
+
+void KeyedRecord::IntegerList(const char* key, std::vector<std::int32_t>& values) {
+    List(key, values, 0, penlode::kIntegerForm, Evaluate<std::int32_t>);
+}
+
+void KeyedRecord::FloatList(const char* key, std::vector<float>& values, float fallback) {
+    List(key, values, fallback, penlode::kFloatForm, Evaluate<float>);
+}
+
+void KeyedRecord::EnumerationList(const char* key, std::vector<std::int32_t>& values, EnumNames names) {
+    List(key, values, 0, ListedNames(names), [names](std::int32_t& value, std::string& text, bool toText) {
+        if (toText) {
+            text = NameOf(value, names);
+        }
+        return toText || ValueOf(text, names, value);
+    });
 }
 
 void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values) {
@@ -143,24 +170,37 @@ void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values)
     }
 }
 
-void PositionalRecord::Field(std::vector<penlode::Color>& values) {
+template <class T> void PositionalRecord::List(std::vector<T>& values, const char* items) {
     auto count = static_cast<std::int32_t>(values.size());
     Field(count);
     if (m_stream.IsSaving()) {
-        std::for_each(values.begin(), values.end(), [this](penlode::Color color) { m_stream.Write(color); });
+        std::for_each(values.begin(), values.end(), [this](T value) { m_stream.Write(value); });
         return;
     }
     values.clear();
     if (count < 0) {
-        m_stream.Refuse("a count of " + TextOf(count), "a count of colours");
+        m_stream.Refuse("a count of " + TextOf(count), items);
     }
+    // Item by item, so that a count which nothing follows takes no memory.
     for (std::int32_t i = 0; i < count && !m_stream.Failed(); ++i) {
-        penlode::Color color = penlode::kBlack;
-        m_stream.Read(color);
+        T value{};
+        m_stream.Read(value);
         if (!m_stream.Failed()) {
-            values.push_back(color);
+            values.push_back(value);
         }
     }
+}
+
+void PositionalRecord::Field(std::vector<penlode::Color>& values) {
+    List(values, "a count of colours");
+}
+
+void PositionalRecord::Field(std::vector<float>& values) {
+    List(values, "a count of numbers");
+}
+
+void PositionalRecord::Field(std::vector<std::int32_t>& values) {
+    List(values, "a count of whole numbers");
 }
 
 std::vector<std::string> SplitJoinedTexts(const std::string& joined) {

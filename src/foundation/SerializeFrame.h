@@ -57,13 +57,21 @@ public:
     void Font(const std::string& key, penlode::Owned<penlode::Font>& value,
               const penlode::Font& defaultValue = penlode::Font{});
     void TextList(const char* key, std::vector<std::string>& values);
-    /// A colour that means nothing loads as opaque black, so that the others keep their places.
+    /// Lists have no default. An item that means nothing keeps its place, so that the others keep theirs: as
+    /// opaque black, as 0, or as `fallback`.
     void ColorList(const char* key, std::vector<penlode::Color>& values);
+    void IntegerList(const char* key, std::vector<std::int32_t>& values);
+    void FloatList(const char* key, std::vector<float>& values, float fallback);
+    /// Items stored as Enumeration stores them.
+    void EnumerationList(const char* key, std::vector<std::int32_t>& values, EnumNames names);
     /// All texts in one, each followed by "||". What follows the last "||" is dropped on load.
     void JoinedTexts(const char* key, std::vector<std::string>& values);
 
 private:
     template <class T> void Number(const char* key, T& value, T defaultValue, const char* form);
+    /// `convert` turns an item into its text, or the text into the item and tells whether it could.
+    template <class T, class Convert>
+    void List(const char* key, std::vector<T>& values, T fallback, const std::string& form, Convert convert);
 
     penlode::CSerializeStream& m_stream;
 };
@@ -73,7 +81,8 @@ class MILLICHART_API PositionalRecord {
 public:
     explicit PositionalRecord(penlode::ISerialize& stream) : m_stream(stream) {}
 
-    /// One field after another: integers, floats, texts, colours, pens, fonts, lists of texts or colours.
+    /// One field after another: integers, floats, texts, colours, pens, fonts, lists of texts, colours,
+    /// floats or integers.
     template <class... Fields> void operator()(Fields&... fields) { (Field(fields), ...); }
 
 private:
@@ -85,8 +94,11 @@ private:
         }
     }
     template <class T> void Field(penlode::Owned<T>& value);
-    /// A count and the items.
     void Field(std::vector<penlode::Color>& values);
+    void Field(std::vector<float>& values);
+    void Field(std::vector<std::int32_t>& values);
+    /// A count and the items.
+    template <class T> void List(std::vector<T>& values, const char* items);
 
     penlode::ISerialize& m_stream;
 };

@@ -4,14 +4,12 @@
 #include "penlode/Geometry.h"
 #include "penlode/GraphicsPath.h"
 #include "penlode/GraphicsTypes.h"
-#include "penlode/IGraphicsEngine.h"
 #include "penlode/Pen.h"
 #include "penlode/Region.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <span>
 
 /// What an engine asks of its arguments before it draws. An operation whose arguments fail answers
 /// InvalidParameter.
@@ -76,19 +74,6 @@ inline bool HasExtent(const RectF& rect) {
 /// A font of no size has no glyphs and no lines.
 inline bool IsDrawable(const Font& font) {
     return std::isfinite(font.Size) && font.Size > 0.0F;
-}
-
-/// Whether every entry of a gradient's mesh names vertices that are there.
-inline bool AreVerticesThere(std::span<const GradientRect> rects, std::size_t count) {
-    return std::all_of(rects.begin(), rects.end(), [count](const GradientRect& r) {
-        return r.UpperLeft < count && r.LowerRight < count;
-    });
-}
-
-inline bool AreVerticesThere(std::span<const GradientTriangle> triangles, std::size_t count) {
-    return std::all_of(triangles.begin(), triangles.end(), [count](const GradientTriangle& t) {
-        return t.Vertex1 < count && t.Vertex2 < count && t.Vertex3 < count;
-    });
 }
 
 } // namespace penlode

@@ -2,7 +2,9 @@
 #include "foundation/NaturalCoordinate.h"
 #include "foundation/NumberText.h"
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -183,6 +185,29 @@ TEST(LogarithmCoordinate, UnsoundRangesHaveNoTicks) {
     }
     axis.SetRange(5e-324, 1.7e308);
     EXPECT_LT(LabelsOf(axis).size(), 700U);
+}
+
+TEST(Coordinate, MappingManyValuesEqualsMappingEach) {
+    CNaturalCoordinate natural;
+    natural.SetRange(-0.3, 7.1, 1, 0.1);
+    CLogarithmCoordinate logarithm;
+    logarithm.SetRange(0.003, 700);
+    std::vector<double> values{0.0, -0.0, -1.0, 1e300, -1e-300, kNan, kInfinity, -kInfinity};
+    for (int i = 0; i < 1000; ++i) {
+        values.push_back(std::exp(i * 0.017 - 8.0) / 3.0);
+    }
+    for (CCoordinate* axis : {static_cast<CCoordinate*>(&natural), static_cast<CCoordinate*>(&logarithm)}) {
+        axis->SetLength(33.3F);
+        Positions many(values.size());
+        axis->ValuesToPositions(values, many);
+        Positions inherited(values.size());
+        axis->CCoordinate::ValuesToPositions(values, inherited);
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const auto each = std::bit_cast<std::uint32_t>(axis->ValueToPosition(values[i]));
+            EXPECT_EQ(std::bit_cast<std::uint32_t>(many[i]), each) << values[i];
+            EXPECT_EQ(std::bit_cast<std::uint32_t>(inherited[i]), each) << values[i];
+        }
+    }
 }
 
 TEST(NumberText, TrailingZerosGo) {

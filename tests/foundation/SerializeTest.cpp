@@ -5,9 +5,10 @@
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
-#include "support/Records.h"
+#include "support/SomeRecords.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 using namespace millichart;
 using penlode::CBinarySerialize;
@@ -139,6 +140,19 @@ TEST(Serialize, PositionalRoundTrips) {
     EXPECT_EQ(loadedCaption, SomeCaption());
     EXPECT_EQ(loadedLegend, SomeLegend());
     EXPECT_EQ(in.Remaining(), 0U);
+}
+
+TEST(Serialize, ACountThatNothingFollowsTakesNoMemory) {
+    std::vector<float> widths{1.0F};
+    std::vector<std::int32_t> styles{1};
+    for (const std::int32_t count : {std::numeric_limits<std::int32_t>::max(), -1}) {
+        CBinarySerialize out;
+        out.Write(count);
+        CBinarySerialize in(out.Bytes());
+        PositionalRecord record(in);
+        record(widths, styles);
+        EXPECT_TRUE(in.Failed() && widths.empty() && styles.empty()) << count;
+    }
 }
 
 TEST(Serialize, WhatMeansNothingIsRefusedWithItsPlace) {

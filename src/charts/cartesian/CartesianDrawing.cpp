@@ -63,9 +63,27 @@ void DrawHorGrid(IGraphicsEngine& engine, const penlode::Pen* pen, const std::ve
     }
 }
 
+void DrawVerGrid(IGraphicsEngine& engine, const penlode::Pen* pen, const std::vector<PointF>& ticks,
+                 float plotHeight, std::size_t step) {
+    for (std::size_t i = 0; i < ticks.size(); i += step) {
+        engine.DrawLine(pen, ticks[i].X, ticks[i].Y, ticks[i].X, ticks[i].Y - plotHeight);
+    }
+}
+
 void DrawHorAxisLine(IGraphicsEngine& engine, const penlode::Pen* pen, const RectF& plot) {
     const float bottom = plot.Y + plot.Height;
     engine.DrawLine(pen, plot.X, bottom, plot.X + plot.Width, bottom);
+}
+
+void DrawHorTicks(IGraphicsEngine& engine, const penlode::Pen* pen, const std::vector<PointF>& ticks,
+                  TickSpan tick, std::size_t step) {
+    for (std::size_t i = 0; tick.From != tick.To && i < ticks.size(); i += step) {
+        engine.DrawLine(pen, ticks[i].X, ticks[i].Y + tick.From, ticks[i].X, ticks[i].Y + tick.To);
+    }
+}
+
+void FillRect(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const RectF& rect) {
+    engine.FillRectangle(&brush, rect.X, rect.Y, rect.Width, rect.Height);
 }
 
 void DrawCaptionText(IGraphicsEngine& engine, std::int32_t isShown, const std::string& caption,

@@ -28,8 +28,18 @@ void DrawVerLabels(penlode::IGraphicsEngine& engine, const VerAxisProp& prop, co
 void DrawHorGrid(penlode::IGraphicsEngine& engine, const penlode::Pen* pen,
                  const std::vector<penlode::PointF>& ticks, float plotWidth);
 
+/// One line up the plot from every `step`th point, the first included.
+void DrawVerGrid(penlode::IGraphicsEngine& engine, const penlode::Pen* pen,
+                 const std::vector<penlode::PointF>& ticks, float plotHeight, std::size_t step = 1);
+
 /// The axis line on the plot's bottom edge.
 void DrawHorAxisLine(penlode::IGraphicsEngine& engine, const penlode::Pen* pen, const penlode::RectF& plot);
+
+/// A tick down from every `step`th point, the first included.
+void DrawHorTicks(penlode::IGraphicsEngine& engine, const penlode::Pen* pen,
+                  const std::vector<penlode::PointF>& ticks, TickSpan tick, std::size_t step = 1);
+
+void FillRect(penlode::IGraphicsEngine& engine, const penlode::SolidBrush& brush, const penlode::RectF& rect);
 
 /// In the middle of `rect`, if its flag is on.
 void DrawCaptionText(penlode::IGraphicsEngine& engine, std::int32_t isShown, const std::string& caption,

@@ -38,6 +38,24 @@ float TickAllowance(std::int32_t style, std::int32_t otherStyle) {
     return style != ScaleStyle::None || otherStyle != ScaleStyle::None ? kTickRoom : 0.0F;
 }
 
+void PlaceFrame(const FrameSizes& sizes, PointF location, SizeF depth, CartesianLayout& layout) {
+    const SizeF verCaption = layout.VerCaptionSize;
+    const SizeF horCaption = layout.HorCaptionSize;
+    RectF& whole = layout.Whole;
+    RectF& plot = layout.Plot;
+    whole = {location.X, location.Y, sizes.Plot.Width + sizes.VerAxis.Width + depth.Width,
+             sizes.Plot.Height + sizes.Caption.Height + sizes.HorAxis.Height + depth.Height};
+    plot = {location.X + sizes.VerAxis.Width, location.Y + sizes.Caption.Height + depth.Height,
+            sizes.Plot.Width, sizes.Plot.Height};
+    layout.Caption = {plot.X + (plot.Width - sizes.Caption.Width) * 0.5F, location.Y + depth.Height,
+                      sizes.Caption.Width, sizes.Caption.Height};
+    layout.VerCaption = {location.X, plot.Y + (plot.Height - verCaption.Height) * 0.5F + depth.Height,
+                         verCaption.Width, verCaption.Height};
+    layout.HorCaption = {plot.X + (plot.Width - horCaption.Width) * 0.5F,
+                         whole.Y + whole.Height - horCaption.Height + depth.Height, horCaption.Width,
+                         horCaption.Height};
+}
+
 void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout) {
     if (prop.ShowVerAxisLabel == 0) {
         return;

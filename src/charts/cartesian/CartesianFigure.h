@@ -49,6 +49,20 @@ penlode::SizeF CaptionSize(std::int32_t isShown, const std::string& caption, con
 /// `kTickRoom` if any of the styles is not "none", else 0.
 float TickAllowance(std::int32_t style, std::int32_t otherStyle = ScaleStyle::None);
 
+/// What stands round a plot, and the plot.
+struct FrameSizes {
+    penlode::SizeF Caption;
+    penlode::SizeF VerAxis;
+    penlode::SizeF HorAxis;
+    penlode::SizeF Plot;
+};
+
+/// Places the whole, the plot and the captions, whose sizes must have been taken. `depth` is what a plot with
+/// depth reaches to the right and up; captions below and beside it take that height a second time, as
+/// documents that were laid out earlier have them.
+void PlaceFrame(const FrameSizes& sizes, penlode::PointF location, penlode::SizeF depth,
+                CartesianLayout& layout);
+
 /// Takes the axis's label texts and their sizes, if labels are shown.
 void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout);
 

@@ -3,9 +3,15 @@
 #include "foundation/LogarithmCoordinate.h"
 #include "foundation/NaturalCoordinate.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace millichart {
+namespace {
+
+constexpr float kNowhere = std::numeric_limits<float>::quiet_NaN();
+
+} // namespace
 
 bool ValueAxis::ChooseScale(bool logarithmic, float length) {
     const bool isLogarithmic = dynamic_cast<const CLogarithmCoordinate*>(m_axis.get()) != nullptr;
@@ -52,7 +58,15 @@ void ValueAxis::GetLogarithmRange(double& min, double& max) const {
 }
 
 float ValueAxis::ValueToPosition(double value) const {
-    return m_axis == nullptr ? std::numeric_limits<float>::quiet_NaN() : m_axis->ValueToPosition(value);
+    return m_axis == nullptr ? kNowhere : m_axis->ValueToPosition(value);
+}
+
+void ValueAxis::ValuesToPositions(std::span<const double> values, std::span<float> positions) const {
+    if (m_axis != nullptr) {
+        m_axis->ValuesToPositions(values, positions);
+    } else {
+        std::fill(positions.begin(), positions.end(), kNowhere);
+    }
 }
 
 std::vector<float> ValueAxis::MajorTicks() const {

@@ -23,6 +23,8 @@ public:
     void GetLogarithmRange(double& min, double& max) const;
 
     float ValueToPosition(double value) const;
+    /// Of each value; `positions` is as long as `values`.
+    void ValuesToPositions(std::span<const double> values, std::span<float> positions) const;
     std::vector<float> MajorTicks() const;
     std::vector<float> MinorTicks() const;
     std::vector<std::string> TickLabels() const;

@@ -45,34 +45,13 @@ void CBasicHistogram::Layout() {
     PlaceLegendAndShift();
 }
 
-/// The plot with what stands round it. Captions below and beside the plot take the depth a second time, as
-/// documents that were laid out earlier have them.
 void CBasicHistogram::CalcFrame() {
-    const SizeF caption = CalcCaptionSize();
-    const SizeF verAxis = CalcVerAxisSize();
-    const SizeF horAxis = CalcHorAxisSize();
-    const SizeF plotSize = CalcPlotSize();
+    const FrameSizes sizes{CalcCaptionSize(), CalcVerAxisSize(), CalcHorAxisSize(), CalcPlotSize()};
     CalcComponentWidth();
     float dx = 0.0F;
     float dy = 0.0F;
     Calc3DComponentBackSurfaceOffset(dx, dy);
-    const float depth = -dy;
-
-    const SizeF verCaption = m_layout.VerCaptionSize;
-    const SizeF horCaption = m_layout.HorCaptionSize;
-    RectF& whole = m_layout.Whole;
-    RectF& plot = m_layout.Plot;
-    whole = {m_location.X, m_location.Y, plotSize.Width + verAxis.Width + dx,
-             plotSize.Height + caption.Height + horAxis.Height + depth};
-    plot = {m_location.X + verAxis.Width, m_location.Y + caption.Height + depth, plotSize.Width,
-            plotSize.Height};
-    m_layout.Caption = {plot.X + (plot.Width - caption.Width) * 0.5F, m_location.Y + depth, caption.Width,
-                        caption.Height};
-    m_layout.VerCaption = {whole.X, plot.Y + (plot.Height - verCaption.Height) * 0.5F + depth,
-                           verCaption.Width, verCaption.Height};
-    m_layout.HorCaption = {plot.X + (plot.Width - horCaption.Width) * 0.5F,
-                           whole.Y + whole.Height - horCaption.Height + depth, horCaption.Width,
-                           horCaption.Height};
+    PlaceFrame(sizes, m_location, {dx, -dy}, m_layout);
 }
 
 SizeF CBasicHistogram::CalcCaptionSize() const {

@@ -24,10 +24,6 @@ void FillQuad(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const Q
     engine.FillPolygon(&brush, corners.data(), static_cast<std::int32_t>(corners.size()));
 }
 
-void FillRect(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const RectF& rect) {
-    engine.FillRectangle(&brush, rect.X, rect.Y, rect.Width, rect.Height);
-}
-
 void DrawFromTo(IGraphicsEngine& engine, const penlode::Pen* pen, PointF from, PointF to) {
     engine.DrawLine(pen, from.X, from.Y, to.X, to.Y);
 }
@@ -95,9 +91,7 @@ void CBasicHistogram::DrawFlatBackground(IGraphicsEngine& engine) const {
         DrawHorGrid(engine, ver.HorMajorGridPen.Get(), m_layout.VerMajorTicks, plot.Width);
     }
     if (m_prop.HorAxis.ShowHorAxis != 0 && m_prop.HorAxis.ShowVerGrid != 0) {
-        for (const PointF tick : m_layout.HorTicks) {
-            engine.DrawLine(m_prop.HorAxis.VerGridPen.Get(), tick.X, tick.Y, tick.X, tick.Y - plot.Height);
-        }
+        DrawVerGrid(engine, m_prop.HorAxis.VerGridPen.Get(), m_layout.HorTicks, plot.Height);
     }
 }
 
@@ -174,11 +168,7 @@ void CBasicHistogram::DrawHorAxis(IGraphicsEngine* engine) const {
     if (axis.ScaleStyle == ScaleStyle::Cross) {
         std::swap(tick.From, tick.To);
     }
-    for (const PointF point : m_layout.HorTicks) {
-        if (tick.From != tick.To) {
-            engine->DrawLine(pen, point.X, point.Y + tick.From, point.X, point.Y + tick.To);
-        }
-    }
+    DrawHorTicks(*engine, pen, m_layout.HorTicks, tick);
     const std::size_t names = std::min(m_layout.GroupNameRects.size(), m_groupNames.size());
     for (std::size_t i = 0; axis.ShowGroupName != 0 && i < names; ++i) {
         CTextPropertyOperation::DrawTextAtCenter(engine, m_groupNames[i], axis.GroupNameTextProperty,

@@ -1,6 +1,5 @@
 #include "penlode/cairo/CairoGradient.h"
 
-#include "penlode/EngineArguments.h"
 #include "penlode/FarClip.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoShapes.h"
@@ -9,24 +8,6 @@
 
 namespace penlode {
 namespace {
-
-/// Red, green and blue from 0 to 1.
-using Tint = std::array<double, 3>;
-
-struct TintedPoint {
-    PointD Place;
-    Tint Colour;
-};
-
-Tint TintOf(const GradientVertex& v) {
-    constexpr double kFull = 0xFF00;
-    return {std::min(v.Red / kFull, 1.0), std::min(v.Green / kFull, 1.0), std::min(v.Blue / kFull, 1.0)};
-}
-
-TintedPoint Moved(const GradientArea& area, std::uint32_t index) {
-    const GradientVertex& v = area.Vertices[index];
-    return {{static_cast<double>(v.X) + area.Origin.X, static_cast<double>(v.Y) + area.Origin.Y}, TintOf(v)};
-}
 
 Tint Blend(std::span<const TintedPoint, 3> corners, const std::array<double, 3>& weights) {
     Tint sum{};
@@ -51,10 +32,8 @@ Tint TintAt(std::span<const TintedPoint, 3> t, PointD p) {
 }
 
 void ClipToBounds(const Painter& painter, const RectL& bounds) {
-    const PointD a{static_cast<double>(bounds.Left), static_cast<double>(bounds.Top)};
-    const PointD b{static_cast<double>(bounds.Right), static_cast<double>(bounds.Bottom)};
     std::vector<PointD> corners;
-    for (const PointD p : {a, PointD{b.X, a.Y}, b, PointD{a.X, b.Y}}) {
+    for (const PointD p : CornersOf(bounds)) {
         corners.push_back(Mapped(painter.ToDevice(), p));
     }
     if (painter.Snaps()) {
@@ -93,7 +72,7 @@ CairoPattern AxisBlend(const TintedPoint& from, const TintedPoint& to, bool vert
                                   : cairo_pattern_create_linear(first, 0.0, last, 0.0));
     const auto stop = [&](double offset, double place) {
         const Tint c = Between(from.Colour, to.Colour, end == start ? 0.0 : (place - start) / (end - start));
-        cairo_pattern_add_color_stop_rgb(pattern.get(), offset, c[0], c[1], c[2]);
+        cairo_pattern_add_color_stop_rgb(pattern.get(), offset, c[0] / 255.0, c[1] / 255.0, c[2] / 255.0);
     };
     stop(0.0, first);
     stop(1.0, last);
@@ -129,7 +108,7 @@ void AddPatch(cairo_pattern_t* mesh, std::span<const TintedPoint, 3> corners) {
     }
     for (unsigned int corner = 0; corner < 4; ++corner) {
         const Tint& c = corners[corner % 3].Colour;
-        cairo_mesh_pattern_set_corner_color_rgb(mesh, corner, c[0], c[1], c[2]);
+        cairo_mesh_pattern_set_corner_color_rgb(mesh, corner, c[0] / 255.0, c[1] / 255.0, c[2] / 255.0);
     }
     cairo_mesh_pattern_end_patch(mesh);
 }

@@ -1,6 +1,8 @@
 #include "penlode/cairo/CairoShapes.h"
 
 #include "penlode/FarClip.h"
+#include "penlode/LineThinning.h"
+#include "penlode/cairo/CairoDataLine.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoStroke.h"
 
@@ -134,6 +136,9 @@ Status StrokeBox(const Painter& painter, const Pen& pen, const RectF& rect) {
 }
 
 Status StrokeLines(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
+    if (points.size() >= kShortestDataLine) {
+        return StrokeDataLine(painter, pen, points);
+    }
     std::vector<PointD> line = MapAll(painter, points);
     const bool snapped = painter.Snaps() && AreFinite(line) && PixelGrid::IsAxisParallel(line);
     const DevicePen drawn(pen, painter, snapped);

@@ -10,8 +10,6 @@ namespace {
 constexpr double kWidestLine = 65536.0;
 constexpr std::size_t kLongestPath = 64;
 constexpr std::size_t kPieceLength = 32;
-constexpr double kShortestStepInPixels = 1.0 / 8.0;
-constexpr double kShortestStepOnPages = 1.0 / 32.0;
 
 /// A line with more dashes than any eye can tell apart is drawn solid.
 constexpr double kMostDashes = 100000.0;
@@ -161,6 +159,10 @@ void StrokeRuns(const Painter& painter, const DevicePen& pen, const std::vector<
 }
 
 } // namespace
+
+bool HasRoundPen(const Painter& painter) {
+    return IsRound(PenShape(painter.ToDevice()));
+}
 
 DevicePen::DevicePen(const Pen& pen, const Painter& painter, bool snapped)
     : m_color(pen.GetColor()), m_dashStyle(pen.GetDashStyle()),

@@ -6,6 +6,10 @@
 
 namespace penlode {
 
+/// Shorter steps, in device units, nobody sees.
+inline constexpr double kShortestStepInPixels = 1.0 / 8.0;
+inline constexpr double kShortestStepOnPages = 1.0 / 32.0;
+
 /// A pen as it is drawn under a painter's transform: its width in device units, not thinner than the
 /// surface's thinnest line and, where it is snapped, in whole pixels.
 class DevicePen {
@@ -29,6 +33,9 @@ private:
     DashStyle m_dashStyle;
     double m_width;
 };
+
+/// Whether the transform leaves a pen's width the same in all directions.
+bool HasRoundPen(const Painter& painter);
 
 /// Strokes a polyline in device units. Far parts are cut off; long polylines go to Cairo piece by piece,
 /// since its cost grows with what crosses a scanline inside one path.

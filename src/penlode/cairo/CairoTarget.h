@@ -1,6 +1,7 @@
 #pragma once
 
 #include "penlode/cairo/CairoCanvas.h"
+#include "penlode/cairo/CairoMark.h"
 #include "penlode/cairo/GraphicsEngine.h"
 
 #include <cmath>
@@ -18,6 +19,7 @@ struct CGraphicsEngine::Target {
     /// Runs one drawing operation. Under a transform that folds the plane it draws nothing, and is Ok.
     template <std::invocable<const Painter&> Operation>
     Status Draw(const CSurfaceState& state, Operation&& operation) {
+        LastMark.reset();
         if (Finished) {
             return Status::WrongState;
         }
@@ -32,11 +34,31 @@ struct CGraphicsEngine::Target {
         return answer == Status::Ok ? outcome : answer;
     }
 
+    /// The same for a small shape. One that lies on the one before is not drawn again, unless a host may have
+    /// drawn in between.
+    template <std::invocable<const Painter&> Operation>
+    Status DrawMark(const CSurfaceState& state, MarkShape shape, const Pen& look,
+                    std::span<const PointF> corners, Operation&& operation) {
+        if (corners.size() > Mark::kMostCorners || What == Kind::Host || Finished) {
+            return Draw(state, operation);
+        }
+        const Mark mark(shape, look, corners, Canvas.Setting(), state);
+        if (LastMark && LastMark->Hides(mark)) {
+            return Status::Ok;
+        }
+        const Status answer = Draw(state, operation);
+        if (answer == Status::Ok) {
+            LastMark = mark;
+        }
+        return answer;
+    }
+
     Kind What;
     double Dpi;
     std::unique_ptr<std::string> PdfFile; ///< outlives the canvas, which writes to it to the last
     CairoCanvas Canvas;
     bool Finished = false;
+    std::optional<Mark> LastMark; ///< drawn by the last operation, if it was one
 };
 
 } // namespace penlode

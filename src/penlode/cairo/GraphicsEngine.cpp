@@ -1,6 +1,8 @@
 #include "penlode/cairo/GraphicsEngine.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/LineThinning.h"
+#include "penlode/ShapePaths.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoGradient.h"
 #include "penlode/cairo/CairoImage.h"
@@ -9,37 +11,17 @@
 #include "penlode/cairo/CairoText.h"
 
 #include <algorithm>
+#include <array>
 
 namespace penlode {
 namespace {
 
-std::span<const PointF> SpanOf(const PointF* points, std::int32_t count) {
-    return {points, static_cast<std::size_t>(count)};
+std::array<PointF, 2> Diagonal(const RectF& rect) {
+    return {rect.TopLeft(), {rect.Right(), rect.Bottom()}};
 }
 
-/// A path's numbers are looked at when it is drawn.
-GraphicsPath ArcOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    path.AddArc(rect, startAngle, sweepAngle);
-    return path;
-}
-
-GraphicsPath EllipseOf(const RectF& rect) {
-    GraphicsPath path;
-    path.AddEllipse(rect);
-    return path;
-}
-
-GraphicsPath CurveOf(std::span<const PointF> points) {
-    GraphicsPath path;
-    path.AddCurve(points);
-    return path;
-}
-
-GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    path.AddPie(rect, startAngle, sweepAngle);
-    return path;
+Pen LookOf(const SolidBrush& brush) {
+    return Pen(brush.FillColor, 0.0F);
 }
 
 } // namespace
@@ -48,17 +30,24 @@ Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float wi
     if (!IsUsable(pen) || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return StrokeBox(p, *pen, {x, y, width, height});
-    });
+    return m_target->DrawMark(State(), MarkShape::Box, *pen, Diagonal({x, y, width, height}),
+                              [&](const Painter& p) {
+                                  return StrokeBox(p, *pen, {x, y, width, height});
+                              });
 }
 
+/// Data are looked at when they are thinned, so that millions of points are gone through once.
 Status CGraphicsEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
-    if (!IsUsable(pen) || !AreUsable(points, count)) {
+    const bool isData = points != nullptr && count >= static_cast<std::int32_t>(kShortestDataLine);
+    if (!IsUsable(pen) || (!isData && !AreUsable(points, count))) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(),
-                          [&](const Painter& p) { return StrokeLines(p, *pen, SpanOf(points, count)); });
+    bool seen = false;
+    const Status answer = m_target->Draw(State(), [&](const Painter& p) {
+        seen = true;
+        return StrokeLines(p, *pen, SpanOf(points, count));
+    });
+    return seen || AreUsable(points, count) ? answer : Status::InvalidParameter;
 }
 
 Status CGraphicsEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
@@ -72,9 +61,6 @@ Status CGraphicsEngine::DrawArc(const Pen* pen, float x, float y, float width, f
     if (!IsUsable(pen) || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
         return Status::InvalidParameter;
     }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
-    }
     return m_target->Draw(
         State(), [&](const Painter& p) { return StrokePath(p, *pen, ArcOf(rect, startAngle, sweepAngle)); });
 }
@@ -84,18 +70,13 @@ Status CGraphicsEngine::DrawEllipse(const Pen* pen, float x, float y, float widt
     if (!IsUsable(pen) || !IsFinite(rect)) {
         return Status::InvalidParameter;
     }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
-    }
-    return m_target->Draw(State(), [&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
+    return m_target->DrawMark(State(), MarkShape::Ellipse, *pen, Diagonal(rect),
+                              [&](const Painter& p) { return StrokePath(p, *pen, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
     if (!IsUsable(pen) || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
         return Status::InvalidParameter;
-    }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
     }
     return m_target->Draw(
         State(), [&](const Painter& p) { return StrokePath(p, *pen, PieOf(rect, startAngle, sweepAngle)); });
@@ -105,8 +86,9 @@ Status CGraphicsEngine::DrawPolygon(const Pen* pen, const PointF* points, std::i
     if (!IsUsable(pen) || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(),
-                          [&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
+    return m_target->DrawMark(
+        State(), MarkShape::Polygon, *pen, SpanOf(points, count),
+        [&](const Painter& p) { return StrokePolygon(p, *pen, SpanOf(points, count)); });
 }
 
 Status CGraphicsEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
@@ -150,9 +132,10 @@ Status CGraphicsEngine::FillRectangle(const SolidBrush* brush, float x, float y,
     if (brush == nullptr || !AreFinite(x, y, width, height)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return FillBox(p, brush->FillColor, {x, y, width, height});
-    });
+    return m_target->DrawMark(State(), MarkShape::FilledBox, LookOf(*brush), Diagonal({x, y, width, height}),
+                              [&](const Painter& p) {
+                                  return FillBox(p, brush->FillColor, {x, y, width, height});
+                              });
 }
 
 Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
@@ -160,20 +143,15 @@ Status CGraphicsEngine::FillEllipse(const SolidBrush* brush, float x, float y, f
     if (brush == nullptr || !IsFinite(rect)) {
         return Status::InvalidParameter;
     }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
-    }
-    return m_target->Draw(
-        State(), [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
+    return m_target->DrawMark(
+        State(), MarkShape::FilledEllipse, LookOf(*brush), Diagonal(rect),
+        [&](const Painter& p) { return penlode::FillPath(p, brush->FillColor, EllipseOf(rect)); });
 }
 
 Status CGraphicsEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
                                 float sweepAngle) {
     if (brush == nullptr || !IsFinite(rect) || !AreFinite(startAngle, sweepAngle)) {
         return Status::InvalidParameter;
-    }
-    if (!HasExtent(rect)) {
-        return Status::Ok;
     }
     return m_target->Draw(State(), [&](const Painter& p) {
         return penlode::FillPath(p, brush->FillColor, PieOf(rect, startAngle, sweepAngle));
@@ -184,9 +162,9 @@ Status CGraphicsEngine::FillPolygon(const SolidBrush* brush, const PointF* point
     if (brush == nullptr || !AreUsable(points, count)) {
         return Status::InvalidParameter;
     }
-    return m_target->Draw(State(), [&](const Painter& p) {
-        return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count));
-    });
+    return m_target->DrawMark(
+        State(), MarkShape::FilledPolygon, LookOf(*brush), SpanOf(points, count),
+        [&](const Painter& p) { return penlode::FillPolygon(p, brush->FillColor, SpanOf(points, count)); });
 }
 
 Status CGraphicsEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {

@@ -24,6 +24,10 @@ namespace penlode {
 /// lines, paths and small markers keep their shapes. On a page, places and widths are exact, and no line is
 /// thinner than 0.05 mm.
 ///
+/// A polyline may have any number of points: what it shows is drawn, as fine as half a pixel or, on a page,
+/// a 600th of an inch, and the rest costs next to nothing. An opaque shape that lies where the last one was
+/// drawn, as markers of dense data do, is not drawn again.
+///
 /// A rectangle of negative width or height draws nothing, and so does a fill without width or height. Lines
 /// of text beyond 8192 characters end there.
 ///

@@ -1,5 +1,7 @@
 #include "penlode/cairo/PixelGrid.h"
 
+#include "penlode/LineThinning.h"
+
 #include <cstddef>
 
 namespace penlode {
@@ -8,9 +10,6 @@ namespace {
 /// Device units by which two coordinates may differ and still count as one. Single-precision millimetres are
 /// this exact on the largest and finest surfaces.
 constexpr double kSame = 0.02;
-
-/// More points than any frame or step has: data, whose steps only happen to be steep.
-constexpr std::size_t kLongestFrame = 64;
 
 constexpr double kUnequalSides = 0.01;
 constexpr double kLargestMarker = 32.0;
@@ -123,7 +122,7 @@ BoxD PixelGrid::Outline(const BoxD& box, double lineWidth) const {
 }
 
 bool PixelGrid::IsAxisParallel(std::span<const PointD> polyline) {
-    if (polyline.size() < 2 || polyline.size() > kLongestFrame) {
+    if (polyline.size() < 2 || polyline.size() >= kShortestDataLine) {
         return false;
     }
     for (std::size_t i = 1; i < polyline.size(); ++i) {

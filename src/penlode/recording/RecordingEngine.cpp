@@ -1,6 +1,7 @@
 #include "penlode/recording/RecordingEngine.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/GradientVertices.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
 

@@ -1,6 +1,7 @@
 #include "penlode/svg/SvgEngine.h"
 
 #include "penlode/EngineArguments.h"
+#include "penlode/ShapePaths.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
 #include "penlode/svg/SvgClip.h"
@@ -17,36 +18,10 @@
 #include <algorithm>
 #include <cmath>
 #include <span>
+#include <utility>
 
 namespace penlode {
 namespace {
-
-std::span<const PointF> SpanOf(const PointF* points, std::int32_t count) {
-    return {points, static_cast<std::size_t>(count)};
-}
-
-/// An arc or sector, nothing of an ellipse without extent.
-GraphicsPath ArcOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    if (HasExtent(rect)) {
-        path.AddArc(rect, startAngle, sweepAngle);
-    }
-    return path;
-}
-
-GraphicsPath PieOf(const RectF& rect, float startAngle, float sweepAngle) {
-    GraphicsPath path;
-    if (HasExtent(rect)) {
-        path.AddPie(rect, startAngle, sweepAngle);
-    }
-    return path;
-}
-
-GraphicsPath CurveOf(std::span<const PointF> points) {
-    GraphicsPath path;
-    path.AddCurve(points);
-    return path;
-}
 
 bool IsFiniteArc(const RectF& rect, float startAngle, float sweepAngle) {
     return IsFinite(rect) && AreFinite(startAngle, sweepAngle);
@@ -70,9 +45,21 @@ struct CSvgEngine::Drawing {
     svg::PageMap Map(const CSurfaceState& state) const { return {state.WorldToDevice(), Page}; }
 
     void Write(const CSurfaceState& state, const std::string& element) {
+        LastShape.clear();
         if (!element.empty()) {
             Document.Add(Groups.For(state, Document.Definitions()), element);
         }
+    }
+
+    /// Data denser than the page draw one marker many times over: an opaque one that is the same as the last
+    /// is not written again.
+    void WriteShape(const CSurfaceState& state, std::string element, Color color) {
+        if (color.A() == 0xFFU && element == LastShape && state.ClipGeneration() == LastClip) {
+            return;
+        }
+        Write(state, element);
+        LastShape = std::move(element);
+        LastClip = state.ClipGeneration();
     }
 
     /// Writes what `shape` makes of the map to the page and the pen.
@@ -83,7 +70,7 @@ struct CSvgEngine::Drawing {
         }
         const svg::PageMap map = Map(state);
         if (svg::CanMap(map.ToPage) && pen->GetColor().A() != 0) {
-            Write(state, shape(map, svg::StrokePaint(*pen, map.ToPage.LengthFactor())));
+            WriteShape(state, shape(map, svg::StrokePaint(*pen, map.ToPage.LengthFactor())), pen->GetColor());
         }
         return Status::Ok;
     }
@@ -95,7 +82,8 @@ struct CSvgEngine::Drawing {
         }
         const svg::PageMap map = Map(state);
         if (svg::CanMap(map.ToPage) && brush->FillColor.A() != 0) {
-            Write(state, shape(map, svg::Paint{svg::FillAttributes(brush->FillColor)}));
+            WriteShape(state, shape(map, svg::Paint{svg::FillAttributes(brush->FillColor)}),
+                       brush->FillColor);
         }
         return Status::Ok;
     }
@@ -112,6 +100,8 @@ struct CSvgEngine::Drawing {
     svg::SvgDocument Document;
     svg::SvgGroups Groups;
     svg::SvgFamilies Families;
+    std::string LastShape; ///< the last element written, if it was a shape
+    std::uint64_t LastClip = 0;
 };
 
 CSvgEngine::CSvgEngine(SizeF millimetres, const SvgOptions& options)
@@ -277,7 +267,7 @@ std::int32_t CSvgEngine::GradientFill(const RectL& bounds, const PointF& origin,
     if (!svg::CanMap(map.ToPage)) {
         return 1;
     }
-    const svg::GradientArea area{bounds, origin, {vertices, vertexCount}};
+    const GradientArea area{bounds, origin, {vertices, vertexCount}};
     svg::SvgDefinitions& definitions = m_drawing->Document.Definitions();
     const auto elements =
         mode == GradientMode::Triangle

@@ -16,7 +16,8 @@ namespace penlode {
 ///     file << engine.Text();
 ///
 /// A fresh surface counts in millimetres at scale 1, from its top-left corner; its device unit is the
-/// millimetre. Numbers are written to a thousandth of one. No line is thinner than 0.05 mm. A container's
+/// millimetre. Numbers are written to a thousandth of one; of long polylines, what 600 dots per inch can
+/// show. No line is thinner than 0.05 mm. A container's
 /// drawings stand in a group of their own.
 ///
 /// A text takes up its measured width whatever face the reader has. Under a transform that is not a turn or

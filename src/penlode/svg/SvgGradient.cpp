@@ -20,22 +20,7 @@ constexpr int kMostCuts = 16;
 constexpr double kColorStep = 4.0;
 constexpr double kSmallestPart = 0.25;
 
-/// Red, green and blue from 0 to 255.
-using Tint = std::array<double, 3>;
-
-struct TintedPoint {
-    PointD Place;
-    Tint Colour;
-};
-
 using Triangle = std::array<TintedPoint, 3>;
-
-TintedPoint Moved(const GradientArea& area, std::uint32_t index) {
-    const GradientVertex& v = area.Vertices[index];
-    const auto channel = [](std::uint16_t value) { return std::min(value / 256.0, 255.0); };
-    return {{static_cast<double>(v.X) + area.Origin.X, static_cast<double>(v.Y) + area.Origin.Y},
-            {channel(v.Red), channel(v.Green), channel(v.Blue)}};
-}
 
 Color ColorOf(const Tint& tint) {
     const auto byte = [](double channel) { return static_cast<std::uint32_t>(std::lround(channel)); };
@@ -61,10 +46,8 @@ BoxD BoxAround(std::span<const PointD> points) {
 }
 
 std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
-    const PointD a{static_cast<double>(bounds.Left), static_cast<double>(bounds.Top)};
-    const PointD b{static_cast<double>(bounds.Right), static_cast<double>(bounds.Bottom)};
     std::vector<PointD> corners;
-    for (const PointD p : {a, PointD{b.X, a.Y}, b, PointD{a.X, b.Y}}) {
+    for (const PointD p : CornersOf(bounds)) {
         corners.push_back(Placed(toPage, p));
     }
     return corners;
@@ -219,10 +202,7 @@ void AddWhole(Triangle t, GradientParts& parts) {
 std::optional<std::string> GradientRects(const PageMap& map, const GradientArea& area,
                                          std::span<const GradientRect> rects, bool vertical,
                                          SvgDefinitions& definitions) {
-    const std::size_t count = area.Vertices.size();
-    if (!std::all_of(rects.begin(), rects.end(), [count](const GradientRect& rect) {
-            return rect.UpperLeft < count && rect.LowerRight < count;
-        })) {
+    if (!AreVerticesThere(rects, area.Vertices.size())) {
         return std::nullopt;
     }
     GradientParts parts(map, area);
@@ -246,10 +226,7 @@ std::optional<std::string> GradientRects(const PageMap& map, const GradientArea&
 std::optional<std::string> GradientTriangles(const PageMap& map, const GradientArea& area,
                                              std::span<const GradientTriangle> triangles,
                                              SvgDefinitions& definitions) {
-    const std::size_t count = area.Vertices.size();
-    if (!std::all_of(triangles.begin(), triangles.end(), [count](const GradientTriangle& entry) {
-            return entry.Vertex1 < count && entry.Vertex2 < count && entry.Vertex3 < count;
-        })) {
+    if (!AreVerticesThere(triangles, area.Vertices.size())) {
         return std::nullopt;
     }
     GradientParts parts(map, area);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/IGraphicsEngine.h"
+#include "penlode/GradientVertices.h"
 #include "penlode/svg/SvgDocument.h"
 #include "penlode/svg/SvgGeometry.h"
 
@@ -9,14 +9,6 @@
 #include <string>
 
 namespace penlode::svg {
-
-/// A vertex list moved to where it is filled, inside bounds. Colours are opaque whatever a vertex's alpha
-/// says, as on GDI, whose callers leave it 0.
-struct GradientArea {
-    RectL Bounds;
-    PointF Origin;
-    std::span<const GradientVertex> Vertices;
-};
 
 /// Elements for a mesh, one a line, cut to the bounds. Nothing when an entry names a vertex that is not
 /// there.

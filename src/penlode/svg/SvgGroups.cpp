@@ -20,6 +20,10 @@ void SvgGroups::End(std::uint32_t container) {
 }
 
 const std::vector<SvgGroup>& SvgGroups::For(const CSurfaceState& state, SvgDefinitions& definitions) {
+    if (m_current && m_clipGeneration == state.ClipGeneration()) {
+        return m_groups;
+    }
+    m_clipGeneration = state.ClipGeneration();
     std::vector<Region> clips = state.DeviceClips();
     if (m_current && clips == m_clips) {
         return m_groups;

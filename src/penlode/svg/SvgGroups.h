@@ -43,7 +43,8 @@ private:
     std::vector<SvgGroup> m_groups;
     std::size_t m_clipGroups = 0;
     std::vector<std::string> m_folded; ///< attributes of the groups that a mask stands for
-    bool m_current = false;
+    bool m_current = false;            ///< whether m_groups stand for m_containers and m_clips
+    std::uint64_t m_clipGeneration = 0;
 };
 
 } // namespace penlode::svg

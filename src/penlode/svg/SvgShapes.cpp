@@ -1,6 +1,9 @@
 #include "penlode/svg/SvgShapes.h"
 
 #include "penlode/FarClip.h"
+#include "penlode/LineThinning.h"
+#include "penlode/ShapePaths.h"
+#include "penlode/Units.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
 
@@ -121,15 +124,21 @@ std::string StrokedFigures(std::vector<FlatFigure> figures, const BoxD& box, con
     return solid ? PathOf(data, pen) : elements;
 }
 
-std::string PointsElement(const char* name, const PageMap& map, std::span<const PointF> points,
+std::string PointsElement(const char* name, const PageMap& map, std::vector<PointD> points,
                           const Paint& paint) {
-    std::vector<PointD> mapped = MapAll(map.ToPage, points);
-    if (AnyFar(mapped) && paint.Strokes) {
+    if (AnyFar(points) && paint.Strokes) {
         const bool closed = std::string_view(name) == "polygon";
-        return StrokedFigures({{std::move(mapped), closed}}, map.Surroundings(paint.Margin), paint);
+        return StrokedFigures({{std::move(points), closed}}, map.Surroundings(paint.Margin), paint);
     }
-    const PointList list = ListOf(CutIfFar(map, std::move(mapped)));
+    const PointList list = ListOf(CutIfFar(map, std::move(points)));
     return list.Count < 2 ? "" : SvgElement(name).Set("points", list.Text).Raw(paint.Attributes).Empty();
+}
+
+std::vector<PointD> ThinnedOnPage(const PageMap& map, std::span<const PointF> points, double margin) {
+    const ThinningGrid grid{kMillimetresPerInch / kDocumentColumnsPerInch, -margin, map.Page.Width + margin};
+    std::vector<PointD> thinned;
+    ThinLine(points, map.ToPage, grid, [&](PointD point) { thinned.push_back(point); });
+    return thinned;
 }
 
 /// A box on the page, axes kept.
@@ -211,11 +220,14 @@ std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint&
 }
 
 std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke) {
-    return PointsElement("polyline", map, points, stroke);
+    return PointsElement("polyline", map,
+                         points.size() < kShortestDataLine ? MapAll(map.ToPage, points)
+                                                           : ThinnedOnPage(map, points, stroke.Margin),
+                         stroke);
 }
 
 std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint) {
-    return PointsElement("polygon", map, points, paint);
+    return PointsElement("polygon", map, MapAll(map.ToPage, points), paint);
 }
 
 std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint) {
@@ -225,9 +237,7 @@ std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& p
     const PointD center = OnPage(map.ToPage, rect.Center());
     const bool circle = KeepsRightAngles(map.ToPage) && Number(rx) == Number(ry);
     if ((!circle && !KeepsAxesNearly(map.ToPage)) || AnyFar(MapAll(map.ToPage, CornersOf(rect)))) {
-        GraphicsPath path;
-        path.AddEllipse(rect);
-        return PathElement(map, path, paint);
+        return PathElement(map, EllipseOf(rect), paint);
     }
     SvgElement element(circle ? "circle" : "ellipse");
     element.Set("cx", center.X).Set("cy", center.Y);

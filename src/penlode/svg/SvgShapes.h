@@ -37,7 +37,8 @@ std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& strok
 std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill);
 
 std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke);
-/// Nothing for fewer than two points. Points that fall together when rounded are written once.
+/// Nothing for fewer than two points. Points that fall together when rounded are written once; of data, what
+/// 600 dots per inch can show.
 std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
 std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint);
 std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint);

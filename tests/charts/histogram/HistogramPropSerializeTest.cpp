@@ -4,8 +4,8 @@
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Records.h"
+#include "support/SomeRecords.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace millichart;
@@ -20,26 +20,6 @@ HistogramProp Loaded(const char* json) {
     HistogramProp prop = SomeHistogram();
     CHistogramPropSerialize::SerializeHistogramProp(stream, prop, "H");
     return prop;
-}
-
-/// The lines that belong to texts' looks but for their angles, and the braces, left out.
-std::string WithoutLooks(const std::string& json) {
-    std::string kept;
-    for (std::size_t at = 0; at < json.size();) {
-        const std::size_t end = json.find('\n', at) + 1;
-        const std::string line = json.substr(at, end - at);
-        at = end;
-        const std::size_t text = line.find_first_not_of(' ');
-        const bool isBrace = line[text] == '}' || line[text] == '{' || line[text] == ']';
-        const bool isLook =
-            line.find("字体") != std::string::npos || line.find("Prefix") != std::string::npos ||
-            line.find("Postfix") != std::string::npos || line.find("DrawEdge") != std::string::npos ||
-            line.find("DrawBackGround") != std::string::npos ||
-            line.find("\"TextColor") != std::string::npos || line.find("\"EdgeColor") != std::string::npos ||
-            line.find("\"BkColor") != std::string::npos;
-        kept += isBrace || isLook ? "" : line.substr(text);
-    }
-    return kept;
 }
 
 } // namespace
@@ -155,25 +135,20 @@ TEST(HistogramPropSerialize, PositionalOrderIsFixed) {
     HistogramProp prop = SomeHistogram();
     ListingStream list;
     CHistogramPropSerialize::SerializeHistogramProp(list, prop);
-    std::string order = list.Text();
-    std::replace(order.begin(), order.end(), '\n', ';');
-    const auto look = [](const char* angle) {
-        return "font 宋体 4;colour #FF000000;colour #FF000000;colour #FFFFFFFF;int 0;int 0;text ;text ;int " +
-               std::string(angle) + ";";
-    };
     // The looks of a record's texts come last, in the group axis the tick style before the pen.
-    EXPECT_EQ(order, "int 1;text 发电量;" + look("1") +
-                         "int 2;int 3;int 2;pen #FF000001 0.3 solid;int 0;int 0;pen #FF000002 0.4 dash;"
-                         "int 3;pen #FF000003 0.5 dot;int 4;text TWh;" +
-                         look("2") + look("90") +
-                         "int 5;int 0;pen #FF000004 0.6 solid;int 6;int 0;pen #FF000005 0.7 solid;"
-                         "int 7;text year;" +
-                         look("3") + look("4") +
-                         "int 0;colour #FFFAFAFA;int 8;pen #FF000006 0.8 solid;int 9;int 10;int 0;text ：;"
-                         "float 120.5;float 60.25;float 4.5;int 0;int 1;int 11;" +
-                         look("5") + "list [水|力][][wind];int 2;colour #FF4472C4;colour #80ED7D31;" +
-                         "int 12;int 8;int 1;int 0;colour #FFFFFFFF;float 0;pen #FF000000 0.1 solid;"
-                         "font 宋体 4;");
+    EXPECT_EQ(InOneLine(list.Text()),
+              "int 1;text 发电量;" + PositionalLook("1") +
+                  "int 2;int 3;int 2;pen #FF000001 0.3 solid;int 0;int 0;pen #FF000002 0.4 dash;"
+                  "int 3;pen #FF000003 0.5 dot;int 4;text TWh;" +
+                  PositionalLook("2") + PositionalLook("90") +
+                  "int 5;int 0;pen #FF000004 0.6 solid;int 6;int 0;pen #FF000005 0.7 solid;"
+                  "int 7;text year;" +
+                  PositionalLook("3") + PositionalLook("4") +
+                  "int 0;colour #FFFAFAFA;int 8;pen #FF000006 0.8 solid;int 9;int 10;int 0;text ：;"
+                  "float 120.5;float 60.25;float 4.5;int 0;int 1;int 11;" +
+                  PositionalLook("5") + "list [水|力][][wind];int 2;colour #FF4472C4;colour #80ED7D31;" +
+                  "int 12;int 8;int 1;int 0;colour #FFFFFFFF;float 0;pen #FF000000 0.1 solid;"
+                  "font 宋体 4;");
 }
 
 TEST(HistogramPropSerialize, PositionalRoundTripAndTruncation) {

@@ -4,7 +4,7 @@
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
-#include "support/Records.h"
+#include "support/SomeRecords.h"
 
 #include <cstring>
 #include <gtest/gtest.h>

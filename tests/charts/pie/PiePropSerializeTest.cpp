@@ -3,7 +3,7 @@
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
-#include "support/Records.h"
+#include "support/SomeRecords.h"
 
 #include <gtest/gtest.h>
 

@@ -60,6 +60,10 @@ TEST(FarClip, ExtremeNumbersAreHarmless) {
     const auto g = PixelSurface(40, 30);
     const float huge = std::numeric_limits<float>::max();
     const std::array<PointF, 4> corners{{{-huge, -huge}, {huge, -huge}, {huge, huge}, {-huge, huge}}};
+    std::vector<PointF> data;
+    for (std::size_t i = 0; i < 100; ++i) {
+        data.push_back(i % 3 == 0 ? PointF{static_cast<float>(i), 7} : corners[i % 4]);
+    }
     const Font giant{L"宋体", 1e30F, FontStyle::Regular};
     const Pen wide(kBlack, huge);
     for (const float scale : {1e-30F, 1.0F, 1e30F}) {
@@ -67,6 +71,8 @@ TEST(FarClip, ExtremeNumbersAreHarmless) {
         g->ScaleTransform(scale, scale, MatrixOrder::Prepend);
         g->DrawPolygon(&kPen, corners.data(), 4);
         g->DrawLines(&wide, corners.data(), 4);
+        g->DrawLines(&wide, data.data(), 100);
+        g->DrawLines(&kPen, data.data(), 100);
         g->DrawCurve(&kPen, corners.data(), 4);
         g->DrawPie(&kPen, {-huge, -huge, huge, huge}, 1e30F, huge);
         g->FillEllipse(&kBrush, -huge, -huge, huge, huge);

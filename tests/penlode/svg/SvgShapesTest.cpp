@@ -210,3 +210,30 @@ TEST(SvgShapes, PagesOfAnySizeHaveOne) {
     EXPECT_NE(head({kNan, -5}).find("width=\"0mm\" height=\"0mm\" viewBox=\"0 0 0 0\""), std::string::npos);
     EXPECT_NE(head({INFINITY, 1e30F}).find("width=\"0mm\" height=\"1000000mm\""), std::string::npos);
 }
+
+TEST(SvgShapes, DataAreWrittenAsFineAsTheyCanBePrinted) {
+    std::vector<PointF> noise;
+    for (int i = 0; i < 200000; ++i) {
+        noise.push_back({static_cast<float>(i) * 0.0004F, static_cast<float>(i * 7919 % 6000) * 0.01F});
+    }
+    CSvgEngine engine({80, 60});
+    engine.DrawLines(&kPen, noise.data(), static_cast<std::int32_t>(noise.size()));
+    const std::string body = Body(engine);
+    EXPECT_EQ(body.substr(0, 23), "<polyline points=\"0,0 0");
+    EXPECT_NE(body.find(" 80,20.81\""), std::string::npos);
+    EXPECT_LT(body.size(), 160000U);
+}
+
+TEST(SvgShapes, OpaqueMarkersOnOnePlaceAreWrittenOnce) {
+    CSvgEngine engine({80, 60});
+    const SolidBrush glass{Color{0x80CC0000}};
+    for (int i = 0; i < 3; ++i) {
+        engine.FillRectangle(&kBrush, 1, 2, 3, 4);
+    }
+    engine.FillRectangle(&glass, 1, 2, 3, 4);
+    engine.FillRectangle(&glass, 1, 2, 3, 4);
+    engine.FillRectangle(&kBrush, 1, 2, 3, 4);
+    const std::string box = "<rect x=\"1\" y=\"2\" width=\"3\" height=\"4\"";
+    const std::string faint = box + " fill=\"#cc0000\" fill-opacity=\"0.502\"/>\n";
+    EXPECT_EQ(Body(engine), box + kFill + faint + faint + box + kFill);
+}

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "charts/cartesian/CartesianFigure.h"
+#include "charts/curve/CurveFigure.h"
+#include "charts/curve/CurveProp.h"
+#include "charts/curve/CurveStyle.h"
+#include "foundation/Export.h"
+#include "penlode/IGraphicsEngine.h"
+
+#include <vector>
+
+namespace millichart {
+
+/// Where everything of a line chart stands, in mm of the page.
+struct CurveLayout : CartesianLayout {
+    std::vector<penlode::RectF> HorLabelRects; ///< one per label, or none
+    std::vector<penlode::SizeF> HorLabelSizes; ///< parallel to the rectangles
+    std::vector<CurveFigure> Curves;           ///< one per list of values
+};
+
+/// The line chart: curves of values over whole-number times, on a linear or logarithmic value axis.
+///
+///     CBasicCurve chart;
+///     chart.SetCurveProp(prop);
+///     chart.SetCurveData({{12.0, 30.0, 18.0}}, {{0, 10, 15}});
+///     chart.SetHorAxisLabel({"2000", "2015"});
+///     chart.InitializeValueRange(30.0);
+///     chart.SetLocation({20.0F, 20.0F});
+///     chart.Layout();
+///     chart.Draw(&engine);
+///
+/// Setters only store; Layout computes every point from what is stored; Draw and the getters read the last
+/// layout. Copies share the value axis and nothing else. Lists may be shorter than they should be: what is
+/// missing is not drawn, or looks as CurvePlotProp says.
+class MILLICHART_API CBasicCurve {
+public:
+    /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
+    /// long and has no range yet. An axis that stays keeps its range and its length, whatever the plot's
+    /// height is now.
+    bool SetCurveProp(const CurveProp& prop);
+
+    const CurveProp& GetCurveProp() const { return m_prop; }
+
+    /// One list a curve; value j of a curve is at its time j, and a value without a time is not there. Times
+    /// need no order. A value below kCurveNullThreshold is null. Lists that are handed over are not copied.
+    void SetCurveData(std::vector<std::vector<double>> values, std::vector<std::vector<std::int32_t>> times);
+
+    /// Narrow texts, spread evenly over the plot's width whatever the times are; shown if there are two or
+    /// more.
+    void SetHorAxisLabel(const std::vector<std::string>& labels) { m_labels = labels; }
+
+    /// The top-left corner, legend included.
+    void SetLocation(penlode::PointF location) { m_location = location; }
+
+    penlode::PointF GetLocation() const { return m_location; }
+
+    /// Takes a round range that holds `largest`. The range operations do nothing before the first
+    /// SetCurveProp, nor those of the other scale.
+    void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
+
+    void SetNaturalValueRange(double min, double max, double step, double minorStep) {
+        m_axis.SetNaturalRange(min, max, step, minorStep);
+    }
+
+    void GetNaturalValueRange(double& min, double& max, double& step, double& minorStep) const {
+        m_axis.GetNaturalRange(min, max, step, minorStep);
+    }
+
+    void SetLogarithmValueRange(double min, double max) { m_axis.SetLogarithmRange(min, max); }
+
+    void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
+
+    /// With no curves, everything is empty at the location.
+    void Layout();
+
+    /// Everything, the legend included.
+    penlode::RectF GetPositionAll() const { return m_layout.Whole; }
+
+    const CurveLayout& GetLayout() const { return m_layout; }
+
+    /// Nothing on a null engine. A line's call is made even for a run of no or one point, which draws
+    /// nothing.
+    void Draw(penlode::IGraphicsEngine* engine) const;
+
+protected:
+    /// The chart's caption, which runs across; the time axis's is measured in CalcHorAxisSize.
+    penlode::SizeF CalcHorCaptionSize() const;
+    penlode::SizeF CalcVerCaptionSize() const;
+    penlode::SizeF CalcCaptionSize() const;
+    penlode::SizeF CalcPlotSize() const;
+    penlode::SizeF CalcVerAxisSize();
+    penlode::SizeF CalcHorAxisSize();
+    /// The labels' largest width and height; (0, 0) when they are not shown or fewer than two.
+    penlode::SizeF CalcHorAxisLabelSize();
+    void CalcVerAxisLabelText();
+    void CalcVerAxisScale();
+    void CalcHorAxisScale();
+    void CalcVerAxisLabelRect();
+    void CalcHorAxisLabelRect();
+    void CalcTimeSpan();
+    void CalcCurvePoint();
+
+    void DrawVerAxis(penlode::IGraphicsEngine* engine) const;
+    void DrawHorAxis(penlode::IGraphicsEngine* engine) const;
+    void DrawPlot(penlode::IGraphicsEngine* engine) const;
+    /// One curve, or one sample in the legend: the line, then a marker at each of `markers`, which are as
+    /// many as the line's points and null where those are.
+    void DrawLine(penlode::IGraphicsEngine* engine, const CurveFigure& line,
+                  const std::vector<penlode::PointF>& markers, const CurveStyle& style) const;
+    void DrawLegend(penlode::IGraphicsEngine* engine) const;
+    void DrawCaption(penlode::IGraphicsEngine* engine) const;
+
+private:
+    void PlaceLegendAndShift();
+    void DrawHorLabels(penlode::IGraphicsEngine& engine) const;
+    void DrawLegendItem(penlode::IGraphicsEngine& engine, std::size_t index) const;
+
+    ValueAxis m_axis;
+    CurveProp m_prop;
+    penlode::PointF m_location;
+    std::vector<std::vector<double>> m_values;
+    std::vector<std::vector<std::int32_t>> m_times;
+    std::vector<std::string> m_labels;
+    CurveLayout m_layout;
+    TimeSpan m_timeSpan;
+};
+
+} // namespace millichart

@@ -1,0 +1,102 @@
+#include "charts/curve/CurveFigure.h"
+
+#include "charts/curve/CurveProp.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace millichart {
+
+using penlode::PointF;
+
+namespace {
+
+/// Values are placed so many at a time: what is known of them on the way then stays in the processor's
+/// nearest memory, and the list of points is neither read nor filled first.
+constexpr std::size_t kRun = 512;
+
+bool IsNull(double value) {
+    return value < kCurveNullThreshold;
+}
+
+/// How far up from the plot's bottom the values are. `first` is the index of the first of them.
+void TakeDistances(std::span<const double> values, std::size_t first, const ValueAxis& axis,
+                   std::span<float> distances, CurveFigure& curve) {
+    // Counting to the end is faster than looking for the first.
+    if (std::count_if(values.begin(), values.end(), IsNull) == 0) {
+        axis.ValuesToPositions(values, distances);
+        return;
+    }
+    curve.HasNull = true;
+    std::array<double, kRun> placed;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const bool isNull = IsNull(values[i]);
+        curve.NullFlags[first + i] = isNull;
+        placed[i] = isNull ? 0.0 : values[i];
+    }
+    axis.ValuesToPositions(std::span(placed).first(values.size()), distances);
+}
+
+/// Points at the times, `distances` up from the plot's bottom.
+void TakePoints(std::span<const std::int32_t> times, std::span<const float> distances,
+                const CurveScales& scales, std::span<PointF> points, CurveFigure& curve) {
+    const double left = scales.Plot.X;
+    const double start = scales.Times.Min;
+    const double span = scales.Times.Max - start;
+    const double perTime = span > 0.0 ? scales.Plot.Width / span : 0.0;
+    const float bottom = scales.Plot.Y + scales.Plot.Height;
+    std::int32_t unplaced = std::isfinite(static_cast<float>(span * perTime + left)) ? 0 : 1;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        points[i] = {static_cast<float>((times[i] - start) * perTime + left), bottom - distances[i]};
+    }
+    for (const float distance : distances) {
+        unplaced += std::isfinite(bottom - distance) ? 0 : 1;
+    }
+    curve.HasUnplaced |= unplaced > 0;
+}
+
+/// The list as long as it was, but no longer than `size`, with room for so many and not for very many more.
+void MakeRoom(std::vector<PointF>& points, std::size_t size) {
+    if (points.capacity() < size || points.capacity() / 2 > size) {
+        points = {};
+    }
+    points.reserve(size);
+    points.resize(std::min(points.size(), size));
+}
+
+} // namespace
+
+TimeSpan TimeSpanOf(std::span<const std::vector<std::int32_t>> curves, TimeSpan previous) {
+    TimeSpan span = previous;
+    bool isFirst = true;
+    for (const std::vector<std::int32_t>& times : curves) {
+        if (isFirst && !times.empty()) {
+            span = {times.front(), times.front()};
+            isFirst = false;
+        }
+        for (const std::int32_t time : times) {
+            span = {std::min(span.Min, time), std::max(span.Max, time)};
+        }
+    }
+    return span;
+}
+
+void PlaceCurve(std::span<const double> values, std::span<const std::int32_t> times,
+                const CurveScales& scales, CurveFigure& curve) {
+    MakeRoom(curve.Points, values.size());
+    curve.NullFlags.assign(values.size(), false);
+    curve.HasNull = false;
+    curve.HasUnplaced = false;
+    std::array<float, kRun> distances;
+    for (std::size_t first = 0; first < values.size(); first += kRun) {
+        const std::size_t count = std::min(kRun, values.size() - first);
+        const std::span run = std::span(distances).first(count);
+        TakeDistances(values.subspan(first, count), first, scales.Values, run, curve);
+        curve.Points.resize(std::max(curve.Points.size(), first + count));
+        TakePoints(times.subspan(first, count), run, scales, std::span(curve.Points).subspan(first, count),
+                   curve);
+    }
+}
+
+} // namespace millichart

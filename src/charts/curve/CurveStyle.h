@@ -1,0 +1,21 @@
+#pragma once
+
+#include "charts/curve/CurveProp.h"
+
+namespace millichart {
+
+/// The look of one curve, and of its sample in the legend. Lengths in mm.
+struct CurveStyle {
+    penlode::Color LineColor = penlode::kBlack;
+    float Width = 0.1F;
+    std::int32_t Dash = static_cast<std::int32_t>(penlode::DashStyle::Solid);
+    std::int32_t Dot = CurveDotStyle::None;
+    penlode::Color DotColor = penlode::kBlack;
+    float DotWidth = 1.0F;
+    std::int32_t NullValue = CurveNullValueStyle::Break;
+};
+
+/// The entries at `index` of the plot's lists; the values above where a list has none.
+CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index);
+
+} // namespace millichart

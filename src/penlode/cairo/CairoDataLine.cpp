@@ -1,0 +1,105 @@
+#include "penlode/cairo/CairoDataLine.h"
+
+#include "penlode/LineThinning.h"
+#include "penlode/Units.h"
+#include "penlode/cairo/CairoStroke.h"
+#include "penlode/cairo/LineCoverage.h"
+
+#include <optional>
+#include <utility>
+
+namespace penlode {
+namespace {
+
+constexpr double kColumnsPerPixel = 2.0;
+
+/// Sections of a pixel in which coverage is looked for: as fine as Cairo's own rows, or half as fine where
+/// the line is too dense to show it. A line that scribbles over the surface a million times gets fewer, so
+/// that it is drawn in a second or so.
+constexpr double kSectionsPerPixel = 16.0;
+constexpr double kSectionsPerDensePixel = 8.0;
+constexpr double kMostSections = 1e8;
+
+constexpr double kFarthestTip = 0.75;
+
+ThinningGrid GridOf(const Painter& painter, double margin) {
+    const BoxD box = painter.FarBox(margin);
+    const CanvasSetting& setting = painter.Setting();
+    return {setting.HasPixels ? 1.0 / kColumnsPerPixel : setting.Dpi / kDocumentColumnsPerInch, box.Left,
+            box.Right};
+}
+
+/// Nothing when a point is not finite.
+std::optional<std::vector<PointD>> Thinned(const Painter& painter, double margin,
+                                           std::span<const PointF> points) {
+    std::vector<PointD> thinned;
+    const bool finite = ThinLine(points, painter.ToDevice(), GridOf(painter, margin),
+                                 [&](PointD point) { thinned.push_back(point); });
+    return finite ? std::optional(std::move(thinned)) : std::nullopt;
+}
+
+int SectionsFor(const std::vector<PolylineRun>& runs, double lineWidth, bool thinned) {
+    double width = 0.0;
+    for (const PolylineRun& run : runs) {
+        for (std::size_t i = 1; i < run.Points.size(); ++i) {
+            width += std::abs(run.Points[i].X - run.Points[i - 1].X) + lineWidth;
+        }
+    }
+    const double finest = thinned ? kSectionsPerDensePixel : kSectionsPerPixel;
+    return static_cast<int>(std::clamp(kMostSections / width, 1.0, finest));
+}
+
+/// The corners of a thinned line are not quite those of the full one: a tip that reaches more than a pixel
+/// beyond the line's edge might stand alone.
+double MiterLimitFor(double lineWidth, bool thinned) {
+    return thinned ? std::min(kMiterLimit, 1.0 + 2.0 * kFarthestTip / lineWidth) : kMiterLimit;
+}
+
+/// The whole pixels on which the line can be seen.
+BoxD SeenArea(const Painter& painter, const std::vector<PolylineRun>& runs, double margin) {
+    BoxD line = BoxBetween(runs.front().Points.front(), runs.front().Points.front());
+    for (const PolylineRun& run : runs) {
+        for (const PointD p : run.Points) {
+            line = {std::min(line.Left, p.X), std::min(line.Top, p.Y), std::max(line.Right, p.X),
+                    std::max(line.Bottom, p.Y)};
+        }
+    }
+    const BoxD seen = Common(line.Grown(margin), painter.Setting().Area);
+    return {std::floor(seen.Left), std::floor(seen.Top), std::ceil(seen.Right), std::ceil(seen.Bottom)};
+}
+
+void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<PointD> points,
+                      bool thinned) {
+    const std::vector<PolylineRun> runs = ClippedPolyline(std::move(points), painter.FarBox(pen.Margin()));
+    if (runs.empty()) {
+        return;
+    }
+    const BoxD area = SeenArea(painter, runs, pen.Margin());
+    LineCoverage coverage(area, {pen.Width(), MiterLimitFor(pen.Width(), thinned)},
+                          SectionsFor(runs, pen.Width(), thinned));
+    for (const PolylineRun& run : runs) {
+        coverage.Add(run.Points);
+    }
+    painter.SetColor(pen.GetColor());
+    coverage.Paint(painter.Context());
+}
+
+} // namespace
+
+Status StrokeDataLine(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
+    const DevicePen drawn(pen, painter, false);
+    std::optional<std::vector<PointD>> line = Thinned(painter, drawn.Margin(), points);
+    if (!line) {
+        return Status::InvalidParameter;
+    }
+    const bool smooth = cairo_get_antialias(painter.Context()) != CAIRO_ANTIALIAS_NONE;
+    if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter)) {
+        const bool thinned = line->size() < points.size();
+        StrokeByCoverage(painter, drawn, std::move(*line), thinned);
+    } else {
+        StrokePolyline(painter, drawn, std::move(*line), false);
+    }
+    return Status::Ok;
+}
+
+} // namespace penlode

@@ -1,0 +1,36 @@
+#include "penlode/cairo/CairoMark.h"
+
+#include "penlode/cairo/CairoStroke.h"
+
+#include <algorithm>
+
+namespace penlode {
+
+Mark::Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, const CanvasSetting& setting,
+           const CSurfaceState& state)
+    : m_shape(shape), m_look(look), m_count(corners.size()),
+      m_reach(setting.HasPixels ? kShortestStepInPixels : kShortestStepOnPages),
+      m_smoothing(state.GetSmoothingMode()), m_clip(state.ClipGeneration()) {
+    const Matrix toDevice = state.WorldToDevice() * setting.FromState;
+    m_scale = toDevice.LengthFactor();
+    for (std::size_t i = 0; i < m_count; ++i) {
+        m_corners[i] = Mapped(toDevice, corners[i]);
+    }
+    if (shape == MarkShape::FilledBox && setting.HasPixels && KeepsAxesNearly(toDevice)) {
+        const BoxD box = PixelGrid::Box(BoxBetween(m_corners[0], m_corners[1]));
+        m_corners[0] = {box.Left, box.Top};
+        m_corners[1] = {box.Right, box.Bottom};
+    }
+}
+
+bool Mark::Hides(const Mark& next) const {
+    const auto isSamePlace = [this](PointD a, PointD b) {
+        return std::abs(a.X - b.X) <= m_reach && std::abs(a.Y - b.Y) <= m_reach;
+    };
+    return m_shape == next.m_shape && m_look == next.m_look && m_look.GetColor().A() == 0xFFU &&
+           m_count == next.m_count && m_scale == next.m_scale && m_smoothing == next.m_smoothing &&
+           m_clip == next.m_clip &&
+           std::equal(m_corners.begin(), m_corners.end(), next.m_corners.begin(), isSamePlace);
+}
+
+} // namespace penlode

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "penlode/Pen.h"
+#include "penlode/cairo/CairoCanvas.h"
+
+#include <array>
+#include <span>
+
+namespace penlode {
+
+enum class MarkShape { FilledBox, FilledEllipse, FilledPolygon, Box, Ellipse, Polygon };
+
+/// A small shape as it lies on the surface: data denser than pixels draw the same one many times over. To
+/// paint an opaque one again where it was painted last changes nothing but the softness of its edge.
+class Mark {
+public:
+    static constexpr std::size_t kMostCorners = 4;
+
+    /// Up to kMostCorners in world coordinates. What is filled has a pen of its colour.
+    Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, const CanvasSetting& setting,
+         const CSurfaceState& state);
+
+    /// Whether `next` would be painted over this one, to within an eighth of a pixel. Snapped boxes are to
+    /// cover the same pixels.
+    bool Hides(const Mark& next) const;
+
+private:
+    MarkShape m_shape;
+    Pen m_look;
+    std::size_t m_count;
+    std::array<PointD, kMostCorners> m_corners{}; ///< device units
+    double m_reach;                               ///< of one place, in device units
+    double m_scale;
+    SmoothingMode m_smoothing;
+    std::uint64_t m_clip;
+};
+
+} // namespace penlode

@@ -1,0 +1,246 @@
+#include "charts/curve/BasicCurve.h"
+#include "support/Drawings.h"
+#include "support/Texts.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+using namespace millichart;
+using penlode::Color;
+
+namespace {
+
+using Values = std::vector<std::vector<double>>;
+using Times = std::vector<std::vector<std::int32_t>>;
+
+constexpr double kNull = -9999999.0;
+
+/// No axes and no plot: curves alone, red and 0.5 wide, on a plot of 80 × 30 from (0, 0).
+CurveProp CurvesAlone(std::vector<std::string> names) {
+    CurveProp prop;
+    prop.VerAxis.ShowVerAxis = 0;
+    prop.HorAxis.ShowHorAxis = 0;
+    prop.Plot.ShowBackground = 0;
+    prop.Plot.ShowEdge = 0;
+    prop.Plot.CurveName = std::move(names);
+    prop.Plot.CurveColor = {Color{0xFFFF0000}};
+    prop.Plot.CurveWidth = {0.5F};
+    return prop;
+}
+
+CBasicCurve LaidOut(const CurveProp& prop, const Values& values, const Times& times,
+                    const std::vector<std::string>& labels = {}) {
+    CBasicCurve chart;
+    chart.SetCurveProp(prop);
+    chart.SetNaturalValueRange(0, 20, 10, 5);
+    chart.SetLogarithmValueRange(1, 100);
+    chart.SetCurveData(values, times);
+    chart.SetHorAxisLabel(labels);
+    chart.Layout();
+    return chart;
+}
+
+std::string Drawn(const CBasicCurve& chart) {
+    penlode::CRecordingEngine engine;
+    chart.Draw(&engine);
+    return engine.Text();
+}
+
+/// The polylines of one curve whose values follow each other 10 mm apart.
+std::string Lines(const CurveProp& prop, const std::vector<double>& values) {
+    return Only(Drawn(LaidOut(prop, {values}, {{0, 1, 2, 3, 4, 5, 6, 7, 8}})), "DrawLines #FFFF0000/0.5 ");
+}
+
+/// What one marker 2 wide about (0, 15) is drawn as.
+std::string Marker(std::int32_t style) {
+    CurveProp prop = CurvesAlone({"A"});
+    prop.Plot.CurveDotStyle = {style};
+    prop.Plot.CurveDotColor = {Color{0xFF00FF00}};
+    prop.Plot.CurveDotWidth = {2.0F};
+    const std::string drawing = Drawn(LaidOut(prop, {{10}}, {{0}}));
+    return drawing.substr(drawing.find('\n') + 1);
+}
+
+} // namespace
+
+TEST(BasicCurveDraw, AWholeChart) {
+    CurveProp prop;
+    prop.Caption.ShowCaption = 1;
+    prop.Caption.Caption = Narrow(L"水深");
+    prop.VerAxis.ShowHorMinorGrid = 1;
+    prop.VerAxis.HorMinorGridPen = penlode::Pen(Color{0xFFE0E0E0}, 0.1F, penlode::DashStyle::Dot);
+    prop.VerAxis.HorMajorGridPen = penlode::Pen(Color{0xFFC0C0C0}, 0.2F);
+    prop.VerAxis.MinorScaleStyle = ScaleStyle::Inner;
+    prop.VerAxis.ShowVerCaption = 1;
+    prop.VerAxis.VerCaption = "m";
+    prop.HorAxis.ScaleStyle = ScaleStyle::Cross;
+    prop.HorAxis.VerGridPen = penlode::Pen(Color{0xFFD0D0D0}, 0.1F);
+    prop.HorAxis.ShowHorCaption = 1;
+    prop.HorAxis.HorCaption = "t";
+    prop.Plot.CurveName = {"A", "BB"};
+    prop.Plot.CurveColor = {Color{0xFF4472C4}, Color{0xFFED7D31}};
+    prop.Plot.CurveWidth = {0.3F, 0.4F};
+    prop.Plot.CurveDashStyle = {0, 1};
+    prop.Plot.CurveDotStyle = {CurveDotStyle::None, CurveDotStyle::HollowCircle};
+    prop.Plot.CurveDotColor = {penlode::kBlack, Color{0xFF804010}};
+    prop.Plot.CurveDotWidth = {1.0F, 2.0F};
+    prop.Legend.ShowLegend = 1;
+    prop.Legend.ShowBackground = 1;
+    const CBasicCurve chart = LaidOut(prop, {{0, 10, 20}, {20, 5}}, {{0, 1, 2}, {0, 2}}, {"x", "y"});
+    EXPECT_EQ(Brief(Drawn(chart)), R"(FillRectangle #FFFFFFFF (7 5 80 30)
+DrawLine #FF000000/0.1 (7 5) (7 35)
+DrawLine #FF000000/0.1 (7 35) (6 35)
+DrawLine #FF000000/0.1 (7 20) (6 20)
+DrawLine #FF000000/0.1 (7 5) (6 5)
+DrawLine #FF000000/0.1 (7 35) (7.5 35)
+DrawLine #FF000000/0.1 (7 27.5) (7.5 27.5)
+DrawLine #FF000000/0.1 (7 20) (7.5 20)
+DrawLine #FF000000/0.1 (7 12.5) (7.5 12.5)
+at 5 35 turned 0: DrawString "0" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000
+at 4 20 turned 0: DrawString "10" 宋体/4 (-2 -2.5 4 5.5) center-center #FF000000
+at 4 5 turned 0: DrawString "20" 宋体/4 (-2 -2.5 4 5.5) center-center #FF000000
+DrawLine #FFE0E0E0/0.1/dot (7 35) (87 35)
+DrawLine #FFE0E0E0/0.1/dot (7 27.5) (87 27.5)
+DrawLine #FFE0E0E0/0.1/dot (7 20) (87 20)
+DrawLine #FFE0E0E0/0.1/dot (7 12.5) (87 12.5)
+DrawLine #FFC0C0C0/0.2 (7 35) (87 35)
+DrawLine #FFC0C0C0/0.2 (7 20) (87 20)
+DrawLine #FFC0C0C0/0.2 (7 5) (87 5)
+at 1 20 turned 0: DrawString "m" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000
+DrawLine #FF000000/0.1 (7 35) (87 35)
+DrawLine #FF000000/0.1 (7 35.5) (7 34.5)
+DrawLine #FF000000/0.1 (87 35.5) (87 34.5)
+at 7 38.5 turned 0: DrawString "x" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000
+at 87 38.5 turned 0: DrawString "y" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000
+DrawLine #FFD0D0D0/0.1 (7 35) (7 5)
+DrawLine #FFD0D0D0/0.1 (87 35) (87 5)
+at 47 43.5 turned 0: DrawString "t" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000
+DrawRectangle #FF808080/0.2 (7 5 80 30)
+DrawLines #FF4472C4/0.3 [3] (7 35) (47 20) (87 5)
+DrawLines #FFED7D31/0.4/dash [2] (7 5) (87 27.5)
+DrawEllipse #FF804010/0.2 (6 4 2 2)
+DrawEllipse #FF804010/0.2 (86 26.5 2 2)
+at 47 2.5 turned 0: DrawString "水深" 宋体/4 (-4 -2.5 8 5.5) center-center #FF000000
+FillRectangle #FFFFFFFF (89 18 14 10)
+DrawRectangle #FF000000/0.1 (89 18 14 10)
+DrawLines #FF4472C4/0.3 [2] (89 20.5) (99 20.5)
+DrawString "A" 宋体/4 (99 18 2 5) center-center #FF000000
+DrawLines #FFED7D31/0.4/dash [2] (89 25.5) (99 25.5)
+DrawEllipse #FF804010/0.2 (93 24.5 2 2)
+DrawEllipse #FF804010/0.2 (93 24.5 2 2)
+DrawString "BB" 宋体/4 (99 23 4 5) center-center #FF000000
+)");
+}
+
+TEST(BasicCurveDraw, NullsBreakTheLine) {
+    const CurveProp prop = CurvesAlone({"A"});
+    EXPECT_EQ(Lines(prop, {0, 10, 20}), "[3] (0 30) (10 15) (20 0)\n");
+    EXPECT_EQ(Lines(prop, {kNull, 0, 0, 10}), "[0]\n[3] (10 30) (20 30) (30 15)\n");
+    EXPECT_EQ(Lines(prop, {0, 10, kNull, 10, 0}), "[2] (0 30) (10 15)\n[2] (30 15) (40 30)\n");
+    EXPECT_EQ(Lines(prop, {0, kNull, kNull, 10}), "[1] (0 30)\n[0]\n[1] (30 15)\n");
+    EXPECT_EQ(Lines(prop, {0, 10, kNull}), "[2] (0 30) (10 15)\n[0]\n");
+    EXPECT_EQ(Lines(prop, {}), "null\n") << "a call without a point to point to";
+}
+
+TEST(BasicCurveDraw, ALineRunsThroughItsNullsAsZero) {
+    CurveProp prop = CurvesAlone({"A"});
+    prop.Plot.CurveDotStyle = {CurveDotStyle::SolidSquare};
+    for (const std::int32_t style : {CurveNullValueStyle::AsZero, 7}) {
+        prop.Plot.NullValueStyle = {style};
+        EXPECT_EQ(Lines(prop, {kNull, 10, kNull, kNull, 20}), "[5] (0 30) (10 15) (20 30) (30 30) (40 0)\n");
+    }
+    // A value that is no number breaks the line all the same.
+    EXPECT_EQ(Lines(prop, {kNull, 10, std::nan(""), 20}), "[2] (0 30) (10 15)\n[1] (30 0)\n");
+    const std::string withMarkers = Drawn(LaidOut(prop, {{kNull, 10, 20}}, {{0, 1, 8}}));
+    EXPECT_EQ(Only(withMarkers, "FillRectangle "), "#FF000000 (9.5 14.5 1 1)\n#FF000000 (79.5 -0.5 1 1)\n");
+    // 0 has no place on a logarithmic axis.
+    prop.Plot.LogarithmScale = 1;
+    EXPECT_EQ(Lines(prop, {1, 10, kNull, 10, 0, 100}), "[2] (0 30) (10 15)\n[1] (30 15)\n[1] (50 0)\n");
+    EXPECT_EQ(Only(Drawn(LaidOut(prop, {{0, 1}}, {{0, 8}})), "FillRectangle "),
+              "#FF000000 (79.5 29.5 1 1)\n");
+}
+
+TEST(BasicCurveDraw, Markers) {
+    const std::string fill = "#FF00FF00 ";
+    const std::string pen = "#FF00FF00/0.2 ";
+    const std::string diamond = "[4] (0 14) (-1 15) (0 16) (1 15)\n";
+    const std::string triangle = "[3] (0 14) (-1 16) (1 16)\n";
+    const std::string inverted = "[3] (0 16) (-1 14) (1 14)\n";
+    const std::string expected[] = {"",
+                                    "FillRectangle " + fill + "(-1 14 2 2)\n",
+                                    "DrawRectangle " + pen + "(-1 14 2 2)\n",
+                                    "FillEllipse " + fill + "(-1 14 2 2)\n",
+                                    "DrawEllipse " + pen + "(-1 14 2 2)\n",
+                                    "FillPolygon " + fill + diamond,
+                                    "DrawPolygon " + pen + diamond,
+                                    "FillPolygon " + fill + triangle,
+                                    "DrawPolygon " + pen + triangle,
+                                    "FillPolygon " + fill + inverted,
+                                    "DrawPolygon " + pen + inverted,
+                                    ""};
+    for (std::int32_t style = 0; style <= 11; ++style) {
+        EXPECT_EQ(Marker(style), expected[style]) << style;
+    }
+    EXPECT_EQ(Marker(-1), "");
+}
+
+TEST(BasicCurveDraw, StepsThinOutTicksLabelsAndGrid) {
+    CurveProp prop;
+    prop.VerAxis.ShowVerAxis = 0;
+    prop.HorAxis.HorAxisPen = penlode::Pen(Color{0xFF000001}, 0.1F);
+    prop.HorAxis.VerGridPen = penlode::Pen(Color{0xFF000002}, 0.1F);
+    prop.HorAxis.ScaleStep = 3;
+    prop.HorAxis.LabelStep = 4;
+    prop.HorAxis.VerGridStep = 5;
+    const std::vector<std::string> labels{"a", "b", "c", "d", "e", "f", "g"};
+    prop.Plot.PlotWidth = 60;
+    const std::string drawing = Brief(Drawn(LaidOut(prop, {{1}}, {{0}}, labels)));
+    EXPECT_EQ(Only(drawing, "DrawLine #FF000001/0.1 "), "(0 30) (60 30)\n(0 30) (0 31)\n(30 30) (30 31)\n"
+                                                        "(60 30) (60 31)\n");
+    EXPECT_EQ(Only(drawing, "DrawLine #FF000002/0.1 "), "(0 30) (0 0)\n(50 30) (50 0)\n");
+    EXPECT_EQ(Only(drawing, "at "),
+              "0 33.5 turned 0: DrawString \"a\" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000\n"
+              "40 33.5 turned 0: DrawString \"e\" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000\n");
+
+    // A step that would not advance counts as 1.
+    prop.HorAxis.ScaleStyle = ScaleStyle::Inner;
+    prop.HorAxis.ScaleStep = 0;
+    prop.HorAxis.LabelStep = -7;
+    prop.HorAxis.VerGridStep = -1;
+    const std::string all = Brief(Drawn(LaidOut(prop, {{1}}, {{0}}, {"a", "b"})));
+    EXPECT_EQ(Only(all, "DrawLine #FF000001/0.1 "), "(0 30) (60 30)\n(0 30) (0 29)\n(60 30) (60 29)\n");
+    EXPECT_EQ(Only(all, "DrawLine #FF000002/0.1 "), "(0 30) (0 0)\n(60 30) (60 0)\n");
+    EXPECT_NE(all.find("\"b\""), std::string::npos);
+}
+
+TEST(BasicCurveDraw, NamesSayHowManyCurvesThereAre) {
+    CurveProp prop = CurvesAlone({"A"});
+    EXPECT_EQ(Drawn(LaidOut(prop, {{0, 10}, {10, 0}}, {{0, 1}, {0, 1}})),
+              "DrawLines #FFFF0000/0.5 [2] (0 30) (80 15)\n");
+    prop.Plot.CurveName = {"A", "B", "C"};
+    prop.Plot.CurveDashStyle = {9};
+    prop.Legend.ShowLegend = 1;
+    prop.Legend.ShowEdge = 0;
+    // The rest of the names have an item; a curve without entries is black, solid and 0.1 wide.
+    const CBasicCurve chart = LaidOut(prop, {{0, 10}, {10, 0}}, {{0, 1}, {0, 1}});
+    EXPECT_EQ(Only(Drawn(chart), "DrawLines "),
+              "#FFFF0000/0.5 [2] (0 30) (80 15)\n#FF000000/0.1 [2] (0 15) (80 30)\n"
+              "#FFFF0000/0.5 [2] (82 10) (92 10)\n#FF000000/0.1 [2] (82 15) (92 15)\n"
+              "#FF000000/0.1 [2] (82 20) (92 20)\n");
+}
+
+TEST(BasicCurveDraw, WhatChangedAfterTheLayoutIsNotReadPastItsEnd) {
+    CurveProp prop = CurvesAlone({"A", "B"});
+    prop.HorAxis.ShowHorAxis = 1;
+    prop.Legend.ShowLegend = 1;
+    CBasicCurve chart = LaidOut(prop, {{kNull, 2}, {1, 2}}, {{0, 1}, {0, 1}}, {"a", "b"});
+    chart.SetCurveData({{1}}, {{}});
+    chart.SetHorAxisLabel({});
+    chart.SetCurveProp(CurvesAlone({}));
+    EXPECT_EQ(Drawn(chart), "");
+    prop.Plot.CurveName = {"A"};
+    chart.SetCurveProp(prop);
+    EXPECT_EQ(Only(Drawn(chart), "DrawString "), "\"A\" 宋体/4 (92 13 2 5) center-center #FF000000\n");
+    chart.Draw(nullptr);
+    EXPECT_NE(Drawn(CBasicCurve()), "") << "without a record, the frame and axes of nothing";
+}
