@@ -25,14 +25,15 @@ Message OtherNames(const std::string& place) {
                 place.substr(place.rfind('/') + 1) + " for those of the file"};
 }
 
-std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source) {
-    const bool isNamed = stream.Has("csv");
-    const std::string named = isNamed ? LoadText(stream, "csv", "") : "";
+std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source,
+                                       const char* csvKey) {
+    const bool isNamed = stream.Offers(csvKey);
+    const std::string named = isNamed ? LoadText(stream, csvKey, "") : "";
     if (isNamed && stream.Has(key)) {
-        stream.Refuse("csv", named, std::string("either ") + key + " or csv, not both");
+        stream.Refuse(csvKey, named, std::string("either ") + key + " or " + csvKey + ", not both");
     }
     if (isNamed && named.empty()) {
-        stream.Refuse("csv", named, "the name of a CSV file");
+        stream.Refuse(csvKey, named, "the name of a CSV file");
     }
     if (named.empty() && !source.NamedByUser) {
         return std::nullopt;

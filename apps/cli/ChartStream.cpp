@@ -24,9 +24,9 @@ std::string ChartStream::Ask(const std::string& tag) {
 
 void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
                       const std::vector<std::string>& defaults) {
-    Ask(tag);
+    const std::string place = Ask(tag);
     if (!m_json.Has(tag)) {
-        m_missing.insert(tag);
+        m_missing.insert(place);
     }
     const auto replaced = m_defaultLists.find(tag);
     m_json.Ser(tag, values, replaced == m_defaultLists.end() ? defaults : replaced->second);
@@ -38,9 +38,8 @@ std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
 }
 
 void ChartStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
-    Ask(tag);
-    if (!m_json.Has(tag)) {
-        m_missing.insert(tag);
+    if (const std::string place = Ask(tag); !m_json.Has(tag)) {
+        m_missing.insert(place);
     }
     if (m_joinedTags.contains(tag) && m_json.IsList(tag)) {
         value = JoinedList(tag);

@@ -24,8 +24,9 @@ public:
         m_defaultLists[tag] = std::move(texts);
     }
 
-    /// Was a text or a list under this tag asked for and not there?
-    bool TookDefault(const std::string& tag) const { return m_missing.contains(tag); }
+    /// Was a text or a list asked for at this place, as in "property/PieBasicProp/ComponentColor", and not
+    /// there?
+    bool TookDefault(const std::string& place) const { return m_missing.contains(place); }
 
     bool Has(const std::string& tag) const { return m_json.Has(tag); }
 
@@ -81,7 +82,7 @@ private:
     penlode::CJsonSerializeStream& m_json;
     std::set<std::string> m_joinedTags;
     std::map<std::string, std::vector<std::string>> m_defaultLists;
-    std::set<std::string> m_missing;
+    std::set<std::string> m_missing; ///< places
     std::map<std::string, std::vector<std::string>> m_asked;
     std::vector<std::string> m_places{""};
 };

@@ -15,8 +15,9 @@ namespace {
 
 using millichart::CurveProp;
 
-constexpr const char* kNames = "CurveName";
 constexpr const char* kNamesPlace = "property/CurvePlotProp/CurveName";
+const std::string kPlot = "property/CurvePlotProp/";
+const std::string kHorAxis = "property/CurveHorAxisProp/";
 
 constexpr float kLineWidth = 0.4F;
 constexpr float kMarkerWidth = 1.6F;
@@ -61,7 +62,7 @@ public:
         CurveProp prop = LoadProp(stream);
         CurveData data = LoadCurveData(stream, source);
         m_curves = data.Values.size();
-        TakeNames(data, prop.Plot.CurveName, stream.TookDefault(kNames));
+        TakeNames(data, prop.Plot.CurveName, stream.TookDefault(kNamesPlace));
         TakeLooks(stream, prop.Plot);
         if (data.Labels.empty()) {
             data.Labels = TimeLabels(data);
@@ -125,16 +126,16 @@ private:
     /// Where the document leaves the look of lines open, they can be told apart and seen.
     static void TakeLooks(const ChartStream& stream, millichart::CurvePlotProp& plot) {
         const std::size_t count = plot.CurveName.size();
-        if (stream.TookDefault("CurveColor")) {
+        if (stream.TookDefault(kPlot + "CurveColor")) {
             plot.CurveColor = PaletteColors(count);
         }
-        if (stream.TookDefault("CurveDotColor")) {
+        if (stream.TookDefault(kPlot + "CurveDotColor")) {
             plot.CurveDotColor = plot.CurveColor;
         }
-        if (stream.TookDefault("CurveWidth")) {
+        if (stream.TookDefault(kPlot + "CurveWidth")) {
             plot.CurveWidth.assign(count, kLineWidth);
         }
-        if (stream.TookDefault("CurveDotWidth")) {
+        if (stream.TookDefault(kPlot + "CurveDotWidth")) {
             plot.CurveDotWidth.assign(count, kMarkerWidth);
         }
     }
@@ -143,7 +144,7 @@ private:
         for (const auto& [key, step] : {std::pair("ScaleStep", &axis.ScaleStep),
                                         {"LabelStep", &axis.LabelStep},
                                         {"VerGridStep", &axis.VerGridStep}}) {
-            if (stream.TookDefault(key)) {
+            if (stream.TookDefault(kHorAxis + key)) {
                 *step = ReadableStep(labels);
             }
         }

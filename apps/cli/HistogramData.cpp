@@ -87,16 +87,16 @@ std::size_t HistogramData::Components() const {
     return count;
 }
 
-HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source) {
+HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source, const char* csvKey) {
     HistogramData data;
     stream.Push("data", -1);
-    std::optional<DataTable> table = LoadDataTable(stream, kGroups, source);
+    std::optional<DataTable> table = LoadDataTable(stream, kGroups, source, csvKey);
     if (stream.Offers(kGroups) && stream.IsList(kGroups)) {
         LoadGroups(stream, data);
     } else if (!table) {
-        source.Messages->push_back({"", Severity::Error, 0, "data/groups",
-                                    stream.Has(kGroups) ? "no list" : "no such key",
-                                    "a list of groups, each with a name and values, or csv with a file"});
+        source.Messages->push_back(
+            {"", Severity::Error, 0, "data/groups", stream.Has(kGroups) ? "no list" : "no such key",
+             std::string("a list of groups, each with a name and values, or ") + csvKey + " with a file"});
     }
     stream.Pop();
     if (table) {

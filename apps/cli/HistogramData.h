@@ -18,10 +18,10 @@ struct HistogramData {
     std::size_t Components() const;
 };
 
-/// The group "data" of a document: "groups", each a name and values, or "csv" with a file of a column of
+/// The group "data" of a document: "groups", each a name and values, or under `csvKey` a file of a column of
 /// group names and one of values a component, under a heading with the components' names. What is wrong is
 /// told.
-HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source);
+HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source, const char* csvKey = "csv");
 
 /// Where a value stands in a document.
 std::string HistogramValuePlace(std::size_t group, std::size_t component);

@@ -75,6 +75,20 @@ void ValueRange::Check(const ChartStream& stream, bool isLogarithmic, std::vecto
     }
 }
 
+double LoadLargestValue(ChartStream& stream, double largest, std::vector<Message>& messages) {
+    if (!stream.Has("range") || !stream.Push("range", -1)) {
+        return largest;
+    }
+    double value = largest;
+    if (stream.Offers(kLargest)) {
+        value = LoadNumber(stream, kLargest, largest);
+    } else {
+        messages.push_back({"", Severity::Error, 0, "range", "no range", kLargest});
+    }
+    stream.Pop();
+    return value;
+}
+
 std::vector<Message> RangeDoubts::Doubts() const {
     if (m_outside == 0) {
         return {};

@@ -38,6 +38,10 @@ private:
     std::vector<double> m_logarithm;
 };
 
+/// The range in the document of a chart that always finds its axis's range from a largest value: that value,
+/// or `largest` without the group.
+double LoadLargestValue(ChartStream& stream, double largest, std::vector<Message>& messages);
+
 /// Looks for values that a value axis from `min` to `max` does not hold, one after the other.
 class RangeDoubts {
 public:

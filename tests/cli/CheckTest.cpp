@@ -115,6 +115,22 @@ const Broken kBroken[] = {
      "b.json:3: range: found no range, expected InitializeValueRange or NaturalValueRange\n"
      "b.json:3: warning: range/InitialiseValueRange: an unknown key, ignored; is \"InitializeValueRange\" "
      "meant?\n"},
+    {R"({"kind": "half-pie", "property": {"HalfPieBasicProp": {"WhichPart": "top", "StartAngle": 0}},
+"data": {"values": [1]}})",
+     "b.json:1: property/HalfPieBasicProp/WhichPart: found \"top\", expected one of \"Top\", \"Lower\"\n"
+     "b.json:1: warning: property/HalfPieBasicProp/StartAngle: an unknown key, ignored\n"},
+    {"{\"kind\": \"half-pie-half-pie\", \"data\": {\"first\": {\"values\": [1]},\n\"second\": "
+     "{\"values\": [2, -1]},\n\"csv\": \"d.csv\"},\n\"labelOffsets\": []}",
+     "b.json:2: data/second/values/1: found -1, expected 0 or more\n"
+     "b.json:3: data/csv: found \"d.csv\", expected either first or csv, not both\n"
+     "b.json:4: labelOffsets: found [], expected a group\n"
+     "d.csv: cannot be read: No such file or directory\n"},
+    {"{\"kind\": \"half-pie-histogram\", \"data\": {\"groups\": [],\n\"groupsCsv\": \"\"},\n\"range\": "
+     "{\"NaturalValueRange\": [0, 1, 1, 1]}}",
+     "b.json:2: data/groupsCsv: found \"\", expected either groups or groupsCsv, not both\n"
+     "b.json:2: data/groupsCsv: found \"\", expected the name of a CSV file\n"
+     "b.json:3: range: found no range, expected InitializeValueRange\n"
+     "b.json:3: warning: range/NaturalValueRange: an unknown key, ignored\n"},
 };
 
 } // namespace

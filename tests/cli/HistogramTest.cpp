@@ -1,23 +1,8 @@
 #include "CommandTest.h"
 
+using Histogram = cli_test::CommandTest;
+
 namespace {
-
-class Histogram : public cli_test::CommandTest {
-protected:
-    /// One line of what `inspect` shows.
-    std::string Shown(const std::string& document, const std::string& key,
-                      const std::string& options = "") const {
-        Write("h.json", document);
-        const Outcome outcome = Run("millichart inspect h.json " + options + " | grep '\"" + key + "\":'");
-        EXPECT_EQ(outcome.Errors, "");
-        return outcome.Output;
-    }
-
-    std::string Warnings(const std::string& document) const {
-        Write("h.json", document);
-        return Run("millichart check h.json | grep -v note").Output;
-    }
-};
 
 /// Bars of 30 mm for 30, without labels; what is over the axis is `rest`.
 std::string Bars(const std::string& plot, const std::string& rest) {

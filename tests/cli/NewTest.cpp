@@ -3,13 +3,13 @@
 using New = cli_test::CommandTest;
 
 TEST_F(New, EveryKindIsCompleteAndDraws) {
-    for (const std::string kind : {"pie", "histogram"}) {
+    for (const std::string& kind : cli_test::kKindNames) {
         const Outcome outcome = Run("millichart new " + kind +
                                     " -o n.json && millichart check n.json && "
                                     "millichart draw n.json && millichart new " +
                                     kind + " | cmp - n.json");
-        EXPECT_EQ(outcome.Status, 0);
-        EXPECT_EQ(outcome.Errors, "");
+        EXPECT_EQ(outcome.Status, 0) << kind;
+        EXPECT_EQ(outcome.Errors, "") << kind;
         EXPECT_EQ(outcome.Output, "n.json: 0 errors, 0 warnings, 0 notes\n") << "no key is missing";
     }
 }
