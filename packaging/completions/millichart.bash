@@ -35,7 +35,7 @@ _millichart() {
     esac
     COMPREPLY=($(compgen -W "$options" -- "$current"))
   elif [ "$command" = new ] && [ "$COMP_CWORD" -eq 2 ]; then
-    COMPREPLY=($(compgen -W "pie half-pie half-pie-half-pie half-pie-histogram histogram" -- "$current"))
+    COMPREPLY=($(compgen -W "pie half-pie half-pie-half-pie half-pie-histogram histogram curve" -- "$current"))
   else
     local IFS=$'\n'
     compopt -o filenames 2>/dev/null

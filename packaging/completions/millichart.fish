@@ -24,3 +24,4 @@ complete -c millichart -n '__fish_seen_subcommand_from new' -f -a half-pie -d 'H
 complete -c millichart -n '__fish_seen_subcommand_from new' -f -a half-pie-half-pie -d 'Two half pies round one centre'
 complete -c millichart -n '__fish_seen_subcommand_from new' -f -a half-pie-histogram -d 'Half pie with bars on it'
 complete -c millichart -n '__fish_seen_subcommand_from new' -f -a histogram -d 'Bar chart'
+complete -c millichart -n '__fish_seen_subcommand_from new' -f -a curve -d 'Line chart'

@@ -54,8 +54,8 @@ private:
 };
 
 /// The kinds of charts in the command's order.
-inline const std::vector<std::string> kKindNames{"pie", "half-pie", "half-pie-half-pie", "half-pie-histogram",
-                                                 "histogram"};
+inline const std::vector<std::string> kKindNames{
+    "pie", "half-pie", "half-pie-half-pie", "half-pie-histogram", "histogram", "curve"};
 
 /// As messages list them.
 inline const std::string kKinds = [] {

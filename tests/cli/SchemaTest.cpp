@@ -60,6 +60,10 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
     EXPECT_EQ(Run("millichart check bars.json").Status, 0);
     Write("halves.json", R"({"kind": "half-pie-half-pie", "property": {"LowerHalf": {"HalfPieBasicProp":
         {"WhichPart": "Lower"}}}, "data": {"first": {"csv": "d.csv"}, "second": {"values": [1]}}})");
+    Write("lines.json", R"({"kind": "curve", "data": {"curves": [{"values": [1, null], "times": [1, "2"]}],
+        "labels": [1, "b"]}, "property": {"CurvePlotProp": {"CurveDotStyle": ["solid_circle"]}}})");
+    EXPECT_EQ(Run("millichart check lines.json").Status, 0);
+    EXPECT_EQ(Validate("lines.json").Output, "");
     Write("both.json", R"({"kind": "half-pie-histogram", "data": {"values": [1], "groupsCsv": "d.csv"}})");
     EXPECT_EQ(Validate("short.json csv.json bars.json halves.json both.json").Output, "");
 }
