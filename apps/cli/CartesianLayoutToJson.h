@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Json.h"
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianLayout.h"
 
 namespace cli {
 

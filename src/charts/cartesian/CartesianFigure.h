@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/cartesian/CartesianLayout.h"
 #include "charts/cartesian/ValueAxis.h"
 #include "charts/cartesian/VerAxisProp.h"
 #include "foundation/Legend.h"
@@ -21,24 +22,6 @@ namespace millichart {
 
 /// Room for ticks beside an axis, and between it and its labels, in mm.
 inline constexpr float kTickRoom = 1.0F;
-
-/// Where the shared parts of a bar or line chart stand, in mm of the page.
-struct CartesianLayout {
-    penlode::RectF Whole; ///< legend included
-    penlode::RectF Caption;
-    penlode::RectF VerCaption;
-    penlode::RectF HorCaption;
-    penlode::RectF Plot;
-    penlode::SizeF VerCaptionSize;
-    penlode::SizeF HorCaptionSize;
-    std::vector<penlode::PointF> VerMajorTicks;  ///< on the plot's left edge
-    std::vector<penlode::PointF> VerMinorTicks;  ///< on the plot's left edge
-    std::vector<std::string> VerLabelTexts;      ///< one per major tick, or none
-    std::vector<penlode::RectF> VerLabelRects;   ///< parallel to the texts
-    std::vector<penlode::SizeF> VerLabelSizes;   ///< parallel to the texts
-    std::vector<penlode::PointF> HorTicks;       ///< on the plot's bottom edge
-    std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
-};
 
 /// Everything empty at `location`; caption sizes are kept.
 void Reset(CartesianLayout& layout, penlode::PointF location);

@@ -1,5 +1,6 @@
 #include "charts/curve/BasicCurve.h"
 
+#include "charts/cartesian/CartesianFigure.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
@@ -56,8 +57,8 @@ void CBasicCurve::Layout() {
     CalcHorAxisScale();
     CalcVerAxisLabelRect();
     CalcHorAxisLabelRect();
-    PlaceLegendAndShift();
     CalcCurvePoint();
+    PlaceLegendAndShift();
 }
 
 SizeF CBasicCurve::CalcHorCaptionSize() const {
@@ -161,12 +162,18 @@ void CBasicCurve::CalcCurvePoint() {
     }
 }
 
-/// The curves are placed afterwards, on the plot that has been moved, so that no point is written twice.
+/// Only a legend at the left or above moves anything; points are not written twice for nothing.
 void CBasicCurve::PlaceLegendAndShift() {
     PlaceLegend(m_prop.Legend, m_prop.Plot.CurveName, kLegendSampleFactor, m_layout);
     const PointF shift = m_location - m_layout.Whole.TopLeft();
+    if (shift == PointF{}) {
+        return;
+    }
     Move(m_layout, shift);
     Move(m_layout.HorLabelRects, shift);
+    for (CurveFigure& curve : m_layout.Curves) {
+        Move(curve.Points, shift);
+    }
 }
 
 } // namespace millichart

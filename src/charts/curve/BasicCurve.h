@@ -1,6 +1,7 @@
 #pragma once
 
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianLayout.h"
+#include "charts/cartesian/ValueAxis.h"
 #include "charts/curve/CurveFigure.h"
 #include "charts/curve/CurveProp.h"
 #include "charts/curve/CurveStyle.h"

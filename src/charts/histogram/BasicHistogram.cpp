@@ -1,9 +1,11 @@
 #include "charts/histogram/BasicHistogram.h"
 
+#include "charts/cartesian/CartesianFigure.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace millichart {
 
@@ -18,6 +20,7 @@ constexpr float kLegendSwatchFactor = 1.0F;
 constexpr float kDepthOfWidth = 0.5F;
 // 30 degrees; its digits are part of the bars' depth.
 constexpr float kDepthAngle = 0.5235988F;
+constexpr float kNoHeight = std::numeric_limits<float>::quiet_NaN();
 
 } // namespace
 
@@ -191,7 +194,8 @@ std::vector<RectF> CBasicHistogram::SideBySide(const std::vector<double>& values
 }
 
 /// Each segment reaches from the sum before it to the sum with it. Where the sum before is not positive, it
-/// starts at the axis's origin.
+/// starts at the axis's origin. A segment without a finite place is not drawn and carries none of the others
+/// away.
 std::vector<RectF> CBasicHistogram::Stacked(const std::vector<double>& values, float& x) const {
     float base = m_layout.Plot.Y + m_layout.Plot.Height;
     const std::size_t count = std::min(values.size(), m_prop.Plot.ComponentName.size());
@@ -200,10 +204,11 @@ std::vector<RectF> CBasicHistogram::Stacked(const std::vector<double>& values, f
     double sum = 0.0;
     for (std::size_t i = 0; i < count; ++i) {
         const float bottom = sum > 0.0 ? m_axis.ValueToPosition(sum) : 0.0F;
-        sum += values[i];
-        const float height = m_axis.ValueToPosition(sum) - bottom;
+        const bool isValue = std::isfinite(values[i]);
+        sum += isValue ? values[i] : 0.0;
+        const float height = isValue ? m_axis.ValueToPosition(sum) - bottom : kNoHeight;
         bars.push_back({x, base - height, m_layout.ComponentWidth, height});
-        base -= height;
+        base -= std::isfinite(height) ? height : 0.0F;
     }
     x += m_layout.ComponentWidth;
     return bars;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianLayout.h"
+#include "charts/cartesian/ValueAxis.h"
 #include "charts/histogram/HistogramProp.h"
 #include "foundation/Export.h"
 #include "penlode/Geometry.h"
@@ -31,9 +32,9 @@ struct HistogramLayout : CartesianLayout {
 ///     chart.Layout();
 ///     chart.Draw(&engine);
 ///
-/// Setters only store; Layout computes every rectangle from what is stored; Draw and the getters read the
-/// last layout. Copies share the value axis and nothing else. Lists may be shorter than they should be: what
-/// is missing is not drawn.
+/// Setters only store; Layout computes every rectangle from what is stored; Draw shows the last
+/// layout in the record's present colours and texts. Copies share the value axis and nothing else. Lists may
+/// be shorter than they should be: what is missing is not drawn.
 class MILLICHART_API CBasicHistogram {
 public:
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`

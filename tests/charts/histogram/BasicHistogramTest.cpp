@@ -25,7 +25,7 @@ HistogramProp Named(std::vector<std::string> names) {
     return prop;
 }
 
-/// Over a range from 0 to 40, so that 4 mm of a plot of 30 mm height are 3 mm.
+/// Over a range from 0 to 40, so that a value of 4 is 3 mm of a plot of 30 mm.
 CBasicHistogram LaidOut(const HistogramProp& prop, const Groups& groups,
                         const std::vector<std::string>& names = {}) {
     CBasicHistogram chart;
@@ -265,6 +265,16 @@ TEST(BasicHistogram, ShortListsAndOddNumbersLeaveGaps) {
     const HistogramLayout log = LaidOut(prop, {{0, -1}}).GetLayout();
     EXPECT_FALSE(std::isfinite(log.ComponentRects[0][0].Height));
     EXPECT_TRUE(std::isfinite(log.Whole.Width));
+
+    prop.Plot.Juxtaposition = 0;
+    prop.Plot.ComponentName = {"A", "B", "C", "D"};
+    CBasicHistogram stack = LaidOut(prop, {{0, nan, 10, 90}});
+    stack.SetLogarithmValueRange(1, 100);
+    stack.Layout();
+    const std::vector<RectF> segments = stack.GetLayout().ComponentRects[0];
+    EXPECT_FALSE(std::isfinite(segments[0].Height) || std::isfinite(segments[1].Height));
+    EXPECT_EQ(segments[2].Bottom(), stack.GetLayout().Plot.Bottom());
+    EXPECT_NEAR(segments[3].Y, stack.GetLayout().Plot.Y, 1e-4);
 
     CBasicHistogram withoutAxis;
     withoutAxis.SetComponentValue({{1}});

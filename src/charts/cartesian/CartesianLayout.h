@@ -1,0 +1,28 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+
+#include <string>
+#include <vector>
+
+namespace millichart {
+
+/// Where the shared parts of a bar or line chart stand, in mm of the page.
+struct CartesianLayout {
+    penlode::RectF Whole; ///< legend included
+    penlode::RectF Caption;
+    penlode::RectF VerCaption;
+    penlode::RectF HorCaption;
+    penlode::RectF Plot;
+    penlode::SizeF VerCaptionSize;
+    penlode::SizeF HorCaptionSize;
+    std::vector<penlode::PointF> VerMajorTicks;  ///< on the plot's left edge
+    std::vector<penlode::PointF> VerMinorTicks;  ///< on the plot's left edge
+    std::vector<std::string> VerLabelTexts;      ///< one per major tick, or none
+    std::vector<penlode::RectF> VerLabelRects;   ///< parallel to the texts
+    std::vector<penlode::SizeF> VerLabelSizes;   ///< parallel to the texts
+    std::vector<penlode::PointF> HorTicks;       ///< on the plot's bottom edge
+    std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
+};
+
+} // namespace millichart
