@@ -1,11 +1,14 @@
 #include "Bars.h"
 
 #include "CartesianLayoutToJson.h"
+#include "Fields.h"
 #include "Palette.h"
+#include "PlotSize.h"
 #include "ValueRange.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace cli {
 namespace {
@@ -74,6 +77,10 @@ double Bars::Largest() const {
 
 std::vector<Message> Bars::Doubts(const millichart::CBasicHistogram& chart) const {
     std::vector<Message> doubts = m_doubts;
+    if (m_components == 0 && !m_data.Values.empty()) {
+        doubts.push_back(Emptiness());
+        doubts.back().Weight = Severity::Warning;
+    }
     const millichart::HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
     if (const std::size_t names = plot.ComponentName.size(); names != m_components) {
         doubts.push_back({"", Severity::Warning, 0, m_place + kNames, Counted(names, "name"),
@@ -83,15 +90,55 @@ std::vector<Message> Bars::Doubts(const millichart::CBasicHistogram& chart) cons
         doubts.push_back({"", Severity::Warning, 0, m_place + kColors, Counted(colors, "colour"),
                           std::to_string(plot.ComponentName.size()) + ", one a name"});
     }
-    const std::vector<Message> outside = ValuesOutside(chart);
-    doubts.insert(doubts.end(), outside.begin(), outside.end());
+    for (const std::vector<Message>& more : {DoubtSizes(chart), ValuesOutside(chart)}) {
+        doubts.insert(doubts.end(), more.begin(), more.end());
+    }
     return doubts;
+}
+
+std::vector<Message> Bars::DoubtSizes(const millichart::CBasicHistogram& chart) const {
+    constexpr float kThinnest = 0.1F;
+    const millichart::HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
+    const millichart::HistogramLayout& layout = chart.GetLayout();
+    std::vector<Message> doubts = PlotSizeFaults(m_place, plot.PlotWidth, plot.PlotHeight);
+    if (m_components == 0 || !doubts.empty()) {
+        return doubts;
+    }
+    if (layout.GroupGap < 0.0F) {
+        const char* const key = plot.GroupDistane < 0.0F ? "/GroupDistane" : "/PlotWidth";
+        doubts.push_back(
+            At({"", 0, m_place + key}, Severity::Warning, "the bars of neighbouring groups overlap"));
+    }
+    if (layout.ComponentWidth < kThinnest) {
+        doubts.push_back(At({"", 0, m_place + "/PlotWidth"}, Severity::Warning,
+                            "each bar is only " + NumberText(layout.ComponentWidth) + " mm wide"));
+    }
+    return doubts;
+}
+
+std::vector<Message> Bars::Invisibility(const millichart::CBasicHistogram& chart) const {
+    constexpr double kVisible = 0.01;
+    const double largest = Largest();
+    const RangeDoubts range = RangeDoubts::Of(chart, false);
+    const double part = range.PartOf(largest);
+    if (largest <= 0.0 || part <= 0.0 || part >= kVisible ||
+        chart.GetHistogramProp().Plot.LogarithmScale != 0) {
+        return {};
+    }
+    return {
+        At({"", 0, "range"}, Severity::Warning,
+           "the largest bar takes less than 1 % of " + range.Axis() + "; NaturalValueRange sets another")};
+}
+
+Message Bars::Emptiness() const {
+    return {m_data.File,       Severity::Error,      0, m_data.File.empty() ? "data/groups" : "",
+            "nothing to draw", "a group with values"};
 }
 
 std::vector<Message> Bars::ValuesOutside(const millichart::CBasicHistogram& chart) const {
     RangeDoubts doubts = RangeDoubts::Of(chart, chart.GetHistogramProp().Plot.LogarithmScale != 0);
     ForEachHeight([&](double height, std::size_t group, std::size_t component) {
-        doubts.Look(height, [&] { return HistogramValuePlace(group, component); });
+        doubts.Look(height, [&] { return m_data.PlaceOf(group, component); });
     });
     return doubts.Doubts();
 }

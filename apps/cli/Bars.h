@@ -30,9 +30,16 @@ public:
     /// What was hardly meant in the chart that shows them.
     std::vector<Message> Doubts(const millichart::CBasicHistogram& chart) const;
 
+    /// A warning if a linear axis that another range could be given is far too long for them.
+    std::vector<Message> Invisibility(const millichart::CBasicHistogram& chart) const;
+
+    /// What is told of a chart that has nothing to draw.
+    Message Emptiness() const;
+
 private:
     void TakeNames(std::vector<std::string>& names, bool areMissing);
     void CloseGaps();
+    std::vector<Message> DoubtSizes(const millichart::CBasicHistogram& chart) const;
     std::vector<Message> ValuesOutside(const millichart::CBasicHistogram& chart) const;
     template <class Look> void ForEachHeight(const Look& look) const;
 

@@ -27,22 +27,23 @@ Message OtherNames(const std::string& place) {
 
 std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source,
                                        const char* csvKey) {
-    const bool isNamed = stream.Offers(csvKey);
+    const bool isNamed = stream.Has(csvKey);
     const std::string named = isNamed ? LoadText(stream, csvKey, "") : "";
     if (isNamed && stream.Has(key)) {
         stream.Refuse(csvKey, named, std::string("either ") + key + " or " + csvKey + ", not both");
     }
-    if (isNamed && named.empty()) {
+    const bool isName = !named.empty() && named.find('\0') == std::string::npos;
+    if (isNamed && !isName) {
         stream.Refuse(csvKey, named, "the name of a CSV file");
     }
-    if (named.empty() && !source.NamedByUser) {
+    if (!isName && !source.NamedByUser) {
         return std::nullopt;
     }
     const std::string file = source.NamedByUser
                                  ? *source.NamedByUser
                                  : Beside(source.Folder, penlode::CStringUtil::AnsiToUtf8(named));
     source.Files->push_back(file);
-    return DataTable(file, *source.Messages);
+    return DataTable(file, source.NamedByUser ? NamedBy::User : NamedBy::Document, *source.Messages);
 }
 
 } // namespace cli

@@ -9,23 +9,38 @@ namespace cli {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::array<char, 3> kSeparators{'\t', ';', ','};
+constexpr std::string_view kSeparators = ",;\t";
 
+/// Behind the quote that closes the cell whose text begins at `at`. Doubled ones belong to it.
+std::size_t BehindQuoted(std::string_view text, std::size_t at) {
+    std::size_t quote = text.find('"', at);
+    while (quote != std::string_view::npos && text.substr(quote + 1, 1) == "\"") {
+        quote = text.find('"', quote + 2);
+    }
+    return quote == std::string_view::npos ? text.size() : quote + 1;
+}
+
+/// The separator of which the first line has most; where several have as many, with the lines below.
 char SeparatorOf(std::string_view text) {
     std::array<std::size_t, kSeparators.size()> counts{};
-    bool quoted = false;
-    for (const char c : text) {
-        quoted = quoted != (c == '"');
-        if (!quoted && c == '\n' && *std::max_element(counts.begin(), counts.end()) > 0) {
+    const auto most = [&counts] { return std::max_element(counts.begin(), counts.end()); };
+    bool beginsCell = true;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '"' && beginsCell) {
+            i = BehindQuoted(text, i + 1) - 1;
+            beginsCell = false;
+            continue;
+        }
+        if (text[i] == '\n' && std::count(counts.begin(), counts.end(), *most()) == 1) {
             break;
         }
-        const auto found = std::find(kSeparators.begin(), kSeparators.end(), c);
-        if (!quoted && found != kSeparators.end()) {
-            ++counts[static_cast<std::size_t>(found - kSeparators.begin())];
+        const std::size_t found = kSeparators.find(text[i]);
+        if (found != std::string_view::npos) {
+            ++counts[found];
         }
+        beginsCell = found != std::string_view::npos || text[i] == '\n' || (beginsCell && text[i] == ' ');
     }
-    return kSeparators[static_cast<std::size_t>(std::max_element(counts.begin(), counts.end()) -
-                                                counts.begin())];
+    return kSeparators[static_cast<std::size_t>(most() - counts.begin())];
 }
 
 std::string_view Trimmed(std::string_view text) {

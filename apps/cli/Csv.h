@@ -14,9 +14,9 @@ struct CsvRow {
 };
 
 /// Reads comma, semicolon or tab separated text row by row, separated by whichever the first line with any
-/// has most of. A cell in double quotes may hold separators, line breaks and doubled quotes. Lines end with
-/// LF or CRLF; a byte order mark is passed over, and so are rows whose cells are all empty. Blanks round an
-/// unquoted cell are dropped.
+/// has most of; the lines below decide between equals. A cell in double quotes may hold separators, line
+/// breaks and doubled quotes. Lines end with LF or CRLF; a byte order mark is passed over, and so are rows
+/// whose cells are all empty. Blanks round an unquoted cell are dropped.
 class CsvReader {
 public:
     /// The text must outlive the reader.

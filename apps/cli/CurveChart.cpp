@@ -2,8 +2,10 @@
 
 #include "CartesianLayoutToJson.h"
 #include "CurveData.h"
+#include "ExampleDocument.h"
 #include "Fields.h"
 #include "Palette.h"
+#include "PlotSize.h"
 #include "ValueRange.h"
 #include "millichart.h"
 
@@ -71,7 +73,8 @@ public:
         m_chart.SetCurveProp(prop);
         ValueRange(stream, prop.Plot.LogarithmScale != 0, *source.Messages)
             .ApplyTo(m_chart, LargestOf(data.Values));
-        LookForValuesOutside(data.Values);
+        LookForValuesOutside(data);
+        m_file = data.File;
         m_chart.SetCurveData(std::move(data.Values), std::move(data.Times));
         m_chart.SetHorAxisLabel(data.Labels);
         m_chart.SetLocation(LoadPoint(stream, "location"));
@@ -95,12 +98,24 @@ public:
     }
 
     std::vector<Message> Doubts() const override {
-        std::vector<Message> doubts = m_doubts;
-        if (const std::size_t names = m_chart.GetCurveProp().Plot.CurveName.size(); names != m_curves) {
+        const millichart::CurvePlotProp& plot = m_chart.GetCurveProp().Plot;
+        std::vector<Message> doubts =
+            PlotSizeFaults("property/CurvePlotProp", plot.PlotWidth, plot.PlotHeight);
+        doubts.insert(doubts.end(), m_doubts.begin(), m_doubts.end());
+        if (const std::size_t names = plot.CurveName.size(); names != m_curves) {
             doubts.push_back({"", Severity::Warning, 0, kNamesPlace, Counted(names, "name"),
                               std::to_string(m_curves) + ", one a curve"});
         }
         return doubts;
+    }
+
+    Message Emptiness() const override {
+        return {m_file,
+                Severity::Error,
+                0,
+                m_file.empty() ? "data/curves" : "",
+                "nothing to draw",
+                "a curve with values"};
     }
 
 private:
@@ -150,12 +165,12 @@ private:
         }
     }
 
-    void LookForValuesOutside(const std::vector<std::vector<double>>& curves) {
+    void LookForValuesOutside(const CurveData& data) {
         RangeDoubts doubts = RangeDoubts::Of(m_chart, m_chart.GetCurveProp().Plot.LogarithmScale != 0);
-        for (std::size_t curve = 0; curve < curves.size(); ++curve) {
-            for (std::size_t i = 0; i < curves[curve].size(); ++i) {
-                if (const double value = curves[curve][i]; value >= millichart::kCurveNullThreshold) {
-                    doubts.Look(value, [&] { return CurveValuePlace(curve, i); });
+        for (std::size_t curve = 0; curve < data.Values.size(); ++curve) {
+            for (std::size_t i = 0; i < data.Values[curve].size(); ++i) {
+                if (const double value = data.Values[curve][i]; value >= millichart::kCurveNullThreshold) {
+                    doubts.Look(value, [&] { return data.PlaceOf(curve, i); });
                 }
             }
         }
@@ -165,6 +180,7 @@ private:
 
     millichart::CBasicCurve m_chart;
     std::size_t m_curves = 0;
+    std::string m_file;            ///< of the CSV file that the data come from, or empty
     std::vector<Message> m_doubts; ///< those of the load
 };
 
@@ -216,20 +232,13 @@ std::unique_ptr<Chart> LoadCurveChart(ChartStream& stream, const DataSource& sou
 }
 
 Json CurveExample() {
-    CurveProp prop = ExampleProp();
-    penlode::CJsonSerializeStream record;
-    millichart::CCurvePropSerialize::SerializeCurveProp(record, prop, "property");
     const Json months{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-    return {{"title", "Visitors by month"},
-            {"description", "Figures made up as an example; put your own in their place."},
-            {"source", ""},
-            {"property", Json::parse(record.Text())["property"]},
-            {"data",
-             {{"curves",
-               {{{"times", months}, {"values", {41, 38, 45, 52, 57, 49, 63, 68, 55, 50, 43, 47}}},
-                {{"times", months}, {"values", {6, 9, 22, 48, 71, 78, 83, 80, 54, 27, nullptr, 11}}}}},
-              {"labels", {"J", "F", "M", "A", "M", "J", "J", "A", "S", "O", "N", "D"}}}},
-            {"location", "0 0"}};
+    return ExampleDocument(
+        "Visitors by month", SavedRecord(millichart::CCurvePropSerialize::SerializeCurveProp, ExampleProp()),
+        {{"curves",
+          {{{"times", months}, {"values", {41, 38, 45, 52, 57, 49, 63, 68, 55, 50, 43, 47}}},
+           {{"times", months}, {"values", {6, 9, 22, 48, 71, 78, 83, 80, 54, 27, nullptr, 11}}}}},
+         {"labels", {"J", "F", "M", "A", "M", "J", "J", "A", "S", "O", "N", "D"}}});
 }
 
 } // namespace cli

@@ -13,6 +13,7 @@ namespace cli {
 namespace {
 
 constexpr const char* kCurves = "curves";
+constexpr const char* kCurvesForm = "a list of curves, each with values and their times";
 constexpr const char* kWhole = "a whole number within 32 bits";
 
 /// Gaps become values that the library takes as null.
@@ -46,15 +47,20 @@ std::vector<std::int32_t> Counted(std::size_t count) {
 }
 
 void LoadCurves(ChartStream& stream, CurveData& data) {
+    if (!stream.IsList(kCurves)) {
+        stream.CountGroups(kCurves);
+        stream.Refuse(kCurves, "no list", kCurvesForm);
+        return;
+    }
     bool hasNames = false;
     const std::size_t count = stream.CountGroups(kCurves);
     for (std::size_t i = 0; i < count; ++i) {
         stream.Push(kCurves, static_cast<int>(i));
-        const bool hasName = stream.Offers("name");
+        const bool hasName = stream.Has("name");
         hasNames = hasNames || hasName;
         data.CurveNames.push_back(hasName ? LoadText(stream, "name", "") : "");
         data.Values.push_back(LoadValues(stream));
-        data.Times.push_back(stream.Offers("times") ? LoadTimes(stream) : Counted(data.Values.back().size()));
+        data.Times.push_back(stream.Has("times") ? LoadTimes(stream) : Counted(data.Values.back().size()));
         if (data.Times.back().size() < data.Values.back().size()) {
             stream.Refuse("times", std::to_string(data.Times.back().size()),
                           std::to_string(data.Values.back().size()) + ", one a value");
@@ -68,19 +74,26 @@ void LoadCurves(ChartStream& stream, CurveData& data) {
 
 } // namespace
 
+FilePlace CurveData::PlaceOf(std::size_t curve, std::size_t value) const {
+    if (value < Lines.size()) {
+        return {File, Lines[value], ColumnPlace(curve + 1)};
+    }
+    return {"", 0, "data/curves/" + std::to_string(curve) + "/values/" + std::to_string(value)};
+}
+
 CurveData LoadCurveData(ChartStream& stream, const DataSource& source) {
     CurveData data;
-    stream.Push("data", -1);
+    const bool isMissing = !stream.Has("data");
+    const bool isGroup = stream.Push("data", -1);
     std::optional<DataTable> table = LoadDataTable(stream, kCurves, source);
-    if (stream.Offers(kCurves) && stream.IsList(kCurves)) {
+    if (stream.Has(kCurves)) {
         LoadCurves(stream, data);
-    } else if (!table) {
-        source.Messages->push_back(
-            {"", Severity::Error, 0, "data/curves", stream.Has(kCurves) ? "no list" : "no such key",
-             "a list of curves, each with values and their times, or csv with a file"});
+    } else if (!table && !stream.Has("csv") && (isGroup || isMissing)) {
+        source.Messages->push_back({"", Severity::Error, 0, "data/curves", "no such key",
+                                    std::string(kCurvesForm) + ", or csv with a file"});
     }
     std::vector<std::string> labels;
-    if (stream.Offers("labels")) {
+    if (stream.Has("labels")) {
         stream.Ser("labels", labels, {});
     }
     stream.Pop();
@@ -93,10 +106,6 @@ CurveData LoadCurveData(ChartStream& stream, const DataSource& source) {
         data.Labels = std::move(labels);
     }
     return data;
-}
-
-std::string CurveValuePlace(std::size_t curve, std::size_t value) {
-    return "data/curves/" + std::to_string(curve) + "/values/" + std::to_string(value);
 }
 
 std::vector<std::string> TimeLabels(const CurveData& data) {

@@ -52,6 +52,7 @@ private:
             return;
         }
         TakeTime(row, isTime, time);
+        m_data.Lines.push_back(static_cast<std::uint32_t>(row.Line));
         for (std::size_t column = 1; column < m_width; ++column) {
             m_data.Values[column - 1].push_back(ValueOf(row, column));
         }
@@ -103,6 +104,7 @@ private:
 } // namespace
 
 void ReadCurveTable(DataTable& table, CurveData& data) {
+    data.File = table.File();
     CurveTableReader(table, data).Read();
 }
 

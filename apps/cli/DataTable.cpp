@@ -1,7 +1,6 @@
 #include "DataTable.h"
 
 #include "Fields.h"
-#include "InputFile.h"
 #include "UserError.h"
 #include "penlode/JsonFault.h"
 #include "penlode/TextForms.h"
@@ -12,10 +11,6 @@
 namespace cli {
 namespace {
 
-std::string ColumnPlace(std::size_t column) {
-    return "column " + std::to_string(column + 1);
-}
-
 /// As spreadsheet programs of many languages write numbers.
 bool HasDecimalComma(std::string cell) {
     std::replace(cell.begin(), cell.end(), ',', '.');
@@ -25,10 +20,10 @@ bool HasDecimalComma(std::string cell) {
 
 } // namespace
 
-DataTable::DataTable(const std::string& file, std::vector<Message>& messages)
-    : m_file(ShownName(file)), m_messages(&messages) {
+DataTable::DataTable(const std::string& file, NamedBy who, std::vector<Message>& messages)
+    : m_file(who == NamedBy::User ? ShownName(file) : file), m_messages(&messages) {
     try {
-        m_text = ReadInput(file);
+        m_text = ReadInput(file, who);
     } catch (const UserError& error) {
         Tell({m_file, Severity::Error, 0, "", "", "", error.Reason()});
     }
@@ -85,9 +80,25 @@ void DataTable::Refuse(const std::string& found, const std::string& wanted) {
     Tell({m_file, Severity::Error, 0, "", found, wanted});
 }
 
+void DataTable::Warn(const CsvRow& row, const std::string& sentence) {
+    m_messages->push_back({m_file, Severity::Warning, row.Line, "", "", "", sentence});
+}
+
 void DataTable::Tell(Message message) {
     m_isSound = false;
-    m_messages->push_back(std::move(message));
+    if (++m_told <= kMostKept) {
+        m_messages->push_back(std::move(message));
+        return;
+    }
+    if (m_told == kMostKept + 1) {
+        m_rest = m_messages->size();
+        m_messages->push_back({m_file, Severity::Error, 0, "", "", "", "", true});
+    }
+    (*m_messages)[m_rest].Text = "and " + std::to_string(m_told - kMostKept) + " more, which are not told";
+}
+
+std::string ColumnPlace(std::size_t column) {
+    return "column " + std::to_string(column + 1);
 }
 
 bool IsHeading(const std::string& cell) {

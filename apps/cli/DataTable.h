@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Csv.h"
+#include "InputFile.h"
 #include "Message.h"
 
 #include <cstddef>
@@ -14,8 +15,12 @@ namespace cli {
 /// line and column.
 class DataTable {
 public:
-    /// Reads a file, "-" being the standard input. One that cannot be read is told and has no rows.
-    DataTable(const std::string& file, std::vector<Message>& messages);
+    /// Reads a file. One that cannot be read is told and has no rows. Messages that another table adds in
+    /// the meantime do no harm.
+    DataTable(const std::string& file, NamedBy who, std::vector<Message>& messages);
+
+    /// Its name in messages.
+    const std::string& File() const { return m_file; }
 
     /// All rows but those whose cells are all empty.
     const std::vector<CsvRow>& Rows();
@@ -29,7 +34,7 @@ public:
         CheckQuotes(reader);
     }
 
-    /// Has nothing been told of it?
+    /// Has no error been told of it?
     bool IsSound() const { return m_isSound; }
 
     /// Tells of a row that has not this many cells, `wanted`. Empty cells beyond them, as spreadsheet
@@ -45,6 +50,9 @@ public:
     /// Tells of the file as a whole.
     void Refuse(const std::string& found, const std::string& wanted);
 
+    /// Tells of a row that can be used but was hardly meant so.
+    void Warn(const CsvRow& row, const std::string& sentence);
+
 private:
     void Tell(Message message);
     void CheckQuotes(const CsvReader& reader);
@@ -54,7 +62,12 @@ private:
     std::string m_text;
     std::optional<std::vector<CsvRow>> m_rows;
     bool m_isSound = true;
+    std::size_t m_told = 0;
+    std::size_t m_rest = 0; ///< the message that stands for those not kept
 };
+
+/// "column 1" for 0, as a message's place.
+std::string ColumnPlace(std::size_t column);
 
 /// Is the text of a number's cell a word over a column, and no malformed or missing number?
 bool IsHeading(const std::string& cell);

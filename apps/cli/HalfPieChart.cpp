@@ -35,6 +35,8 @@ public:
         return m_slices.Doubts(m_halfPie.GetHalfPieProp().Basic, m_halfPie.GetLayout().Pie.Width);
     }
 
+    Message Emptiness() const override { return m_slices.Emptiness(); }
+
 private:
     millichart::CBasicHalfPie m_halfPie;
     PieSlices m_slices;

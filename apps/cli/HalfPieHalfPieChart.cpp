@@ -62,6 +62,8 @@ public:
         return doubts;
     }
 
+    Message Emptiness() const override { return m_first.Emptiness(); }
+
 private:
     static std::vector<Message> DoubtsOf(const PieSlices& slices, const CBasicHalfPie& half) {
         return slices.Doubts(half.GetHalfPieProp().Basic, half.GetLayout().Pie.Width);

@@ -61,6 +61,8 @@ public:
         return doubts;
     }
 
+    Message Emptiness() const override { return m_slices.Emptiness(); }
+
 private:
     HalfPieHistogramChart(ChartStream& stream, const DataSource& source, HalfPieHistogramProp prop)
         : m_slices(stream, LoadPieData(stream, source), prop.HalfPie.Basic, kHalfPiePlace, *source.Messages),
@@ -115,7 +117,6 @@ Json HalfPieHistogramExample() {
         ExampleDocument("A year's sales, by region and by quarter", std::move(property),
                         {{"values", {425, 310, 182, 83}},
                          {"groups", {{{"name", "this year"}, {"values", {213, 263, 235, 289}}}}}});
-    document["range"] = {{"InitializeValueRange", 289}};
     document["labelOffsets"] = Json::array();
     return document;
 }

@@ -29,7 +29,14 @@ public:
 
     Json Layout() const override { return HistogramLayoutToJson(m_chart.GetLayout()); }
 
-    std::vector<Message> Doubts() const override { return m_bars.Doubts(m_chart); }
+    std::vector<Message> Doubts() const override {
+        std::vector<Message> doubts = m_bars.Doubts(m_chart);
+        const std::vector<Message> more = m_bars.Invisibility(m_chart);
+        doubts.insert(doubts.end(), more.begin(), more.end());
+        return doubts;
+    }
+
+    Message Emptiness() const override { return m_bars.Emptiness(); }
 
 private:
     HistogramChart(ChartStream& stream, const DataSource& source, HistogramProp prop)
@@ -49,23 +56,27 @@ private:
 
 HistogramProp ExampleProp() {
     const penlode::Font font{L"Arial", 3.4F};
+    const penlode::Pen grey(penlode::Color{0xFFD0D0D0}, 0.1F);
     HistogramProp prop;
     prop.Caption.ShowCaption = 1;
-    prop.Caption.Caption = "Sales by quarter";
+    // Empty lines keep captions off the plot and the labels.
+    prop.Caption.Caption = "Sales by quarter\n";
     prop.Caption.CaptionTextProperty.Font = penlode::Font{L"Arial", 4.5F};
+    prop.VerAxis.MajorScaleStyle = millichart::ScaleStyle::Inner;
     prop.VerAxis.MinorScaleStyle = millichart::ScaleStyle::None;
     prop.VerAxis.VerAxisLabelTextProperty.Font = font;
-    prop.VerAxis.HorMajorGridPen = penlode::Pen(penlode::Color{0xFFD0D0D0}, 0.1F);
+    prop.VerAxis.HorMajorGridPen = grey;
+    prop.VerAxis.HorMinorGridPen = grey;
     prop.VerAxis.ShowVerCaption = 1;
-    // The empty line keeps it off the labels.
     prop.VerAxis.VerCaption = "thousand pieces\n";
     prop.VerAxis.VerCaptionTextProperty.Font = font;
     prop.VerAxis.VerCaptionTextProperty.Angle = 90;
+    prop.HorAxis.ScaleStyle = millichart::ScaleStyle::Inner;
     prop.HorAxis.ShowGroupName = 1;
     prop.HorAxis.GroupNameTextProperty.Font = font;
     prop.HorAxis.HorCaptionTextProperty.Font = font;
     prop.HorAxis.ShowVerGrid = 0;
-    prop.Plot.EdgePen = penlode::Pen(penlode::Color{0xFFD0D0D0}, 0.1F);
+    prop.Plot.EdgePen = grey;
     prop.Plot.ComponentName = {"Tea", "Coffee", "Cocoa"};
     prop.Plot.ComponentColor = PaletteColors(prop.Plot.ComponentName.size());
     prop.Plot.ShowComponentValue = 1;
@@ -86,7 +97,7 @@ std::unique_ptr<Chart> LoadHistogramChart(ChartStream& stream, const DataSource&
 }
 
 Json HistogramExample() {
-    Json document = ExampleDocument(
+    return ExampleDocument(
         "Sales by quarter",
         SavedRecord(millichart::CHistogramPropSerialize::SerializeHistogramProp, ExampleProp()),
         {{"groups",
@@ -94,8 +105,6 @@ Json HistogramExample() {
            {{"name", "Q2"}, {"values", {41, 47, 12}}},
            {{"name", "Q3"}, {"values", {35, 44, 14}}},
            {{"name", "Q4"}, {"values", {46, 61, 29}}}}}});
-    document["range"] = {{"InitializeValueRange", 61}};
-    return document;
 }
 
 } // namespace cli

@@ -5,10 +5,16 @@
 #include "PieSlices.h"
 #include "millichart.h"
 
+#include <cmath>
+
 namespace cli {
 namespace {
 
 using millichart::PieProp;
+
+constexpr float kFullTurn = 360.0F;
+/// After these a number of single precision no longer tells the slices apart.
+constexpr float kManyTurns = 1e5F;
 
 class PieChart final : public Chart {
 public:
@@ -37,8 +43,18 @@ public:
     }
 
     std::vector<Message> Doubts() const override {
-        return m_slices.Doubts(m_pie.GetPieProp().Basic, m_pie.GetLayout().Pie.Width);
+        const millichart::PieBasicProp& basic = m_pie.GetPieProp().Basic;
+        std::vector<Message> doubts = m_slices.Doubts(basic, m_pie.GetLayout().Pie.Width);
+        if (basic.StartAngle < 0.0F || basic.StartAngle >= kFullTurn) {
+            doubts.push_back({"",
+                              std::abs(basic.StartAngle) < kManyTurns ? Severity::Warning : Severity::Error,
+                              0, "property/PieBasicProp/StartAngle", NumberText(basic.StartAngle),
+                              "an angle from 0 to below 360"});
+        }
+        return doubts;
     }
+
+    Message Emptiness() const override { return m_slices.Emptiness(); }
 
 private:
     millichart::CBasicPie m_pie;

@@ -3,6 +3,8 @@
 #include "Palette.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numeric>
 
 namespace cli {
 namespace {
@@ -49,6 +51,19 @@ void PieSlices::DoubtOffsets(std::size_t count, const std::string& place, std::s
     }
 }
 
+Message PieSlices::Emptiness() const {
+    if (m_data.Values.empty()) {
+        return {
+            "", Severity::Error, 0, m_data.Place + "/values", "nothing to draw", "a number for each slice"};
+    }
+    return {"",
+            Severity::Error,
+            0,
+            m_place,
+            "nothing to draw, as the pie has no size",
+            "FixedWidth above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0"};
+}
+
 Message PieSlices::Smallness(float width, bool isFixed) const {
     const std::string found = "the pie is only " + ToJson(static_cast<double>(width)).dump() + " mm across";
     return {"",
@@ -65,6 +80,10 @@ std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bo
     const std::size_t values = m_data.Values.size();
     const bool isEmpty =
         std::all_of(m_data.Values.begin(), m_data.Values.end(), [](double value) { return value == 0.0; });
+    const double total = std::accumulate(m_data.Values.begin(), m_data.Values.end(), 0.0);
+    if (!std::isfinite(total)) {
+        return {{"", Severity::Error, 0, m_data.Place, "a total that is too large", "smaller values"}};
+    }
     std::vector<Message> doubts = m_doubts;
     if (isEmpty) {
         doubts.push_back({"", Severity::Warning, 0, m_data.Place, "no value above 0", "one for each slice"});

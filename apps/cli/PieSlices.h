@@ -36,6 +36,9 @@ public:
         return Doubts(basic.ComponentName.size(), basic.ComponentColor.size(), basic.FixedSize != 0, width);
     }
 
+    /// What is told of a chart without size.
+    Message Emptiness() const;
+
     /// A half pie in a chart of several keeps as many label offsets as it has names; tells when that takes
     /// some of the `count` at `place` away.
     template <class Basic>

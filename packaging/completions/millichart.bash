@@ -29,7 +29,7 @@ _millichart() {
     local options="--help"
     case $command in
       draw) options+=" --output --format --data --dpi --page --background --outlines --verbose" ;;
-      new) options+=" --output" ;;
+      new) options+=" --output --force" ;;
       check) options+=" --data --json" ;;
       inspect) options+=" --data" ;;
     esac

@@ -19,6 +19,7 @@ complete -c millichart -n '__fish_seen_subcommand_from draw' -l background -x -a
 complete -c millichart -n '__fish_seen_subcommand_from draw' -l outlines -d 'Texts of an SVG as glyph outlines'
 complete -c millichart -n '__fish_seen_subcommand_from draw' -s v -l verbose -d 'Tell which faces are used'
 complete -c millichart -n '__fish_seen_subcommand_from check' -l json -d 'As a JSON list of objects'
+complete -c millichart -n '__fish_seen_subcommand_from new' -l force -d 'Write over a file that is there already'
 complete -c millichart -n '__fish_seen_subcommand_from new' -f -a pie -d 'Pie chart'
 complete -c millichart -n '__fish_seen_subcommand_from new' -f -a half-pie -d 'Half pie'
 complete -c millichart -n '__fish_seen_subcommand_from new' -f -a half-pie-half-pie -d 'Two half pies round one centre'

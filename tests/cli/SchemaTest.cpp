@@ -98,7 +98,8 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
              {"\"labelOffsets\"", "\"legendOffset\": \"0 0\", \"labelOffsets\"", "half-pie"},
              {"\"second\"", "\"csv\": \"d.csv\", \"second\"", "half-pie-half-pie"},
              {"\"LowerHalf\"", "\"BottomHalf\"", "half-pie-half-pie"},
-             {"\"InitializeValueRange\": 289", "\"LogarithmValueRange\": [1, 10]", "half-pie-histogram"},
+             {"\"location\"", "\"range\": {\"LogarithmValueRange\": [1, 10]}, \"location\"",
+              "half-pie-histogram"},
              {"\"groups\"", "\"groupsCsv\": \"d.csv\", \"groups\"", "half-pie-histogram"}}) {
         const std::string name = std::to_string(++count) + ".json";
         Write(name, Changed(kind, pattern, replacement));
