@@ -133,7 +133,7 @@ private:
             names = data.CurveNames;
         } else if (areMissing) {
             names.assign(m_curves, "");
-        } else if (!data.CurveNames.empty() && data.CurveNames != names) {
+        } else if (!data.File.empty() && !data.CurveNames.empty() && data.CurveNames != names) {
             m_doubts.push_back(OtherNames(kNamesPlace));
         }
     }
