@@ -24,10 +24,12 @@ public:
         }
     }
 
-    /// In milliseconds; 0 for a way that did not run.
-    double Of(const std::string& way) const {
-        const auto found = m_times.find(way);
-        return found == m_times.end() ? 0.0 : found->second;
+    /// Of one of its parts, in milliseconds; 0 for a way that did not run.
+    double Of(const bench::Suite& suite, const std::string& name) const {
+        const auto found = m_times.find(name);
+        const auto way = std::find_if(suite.Ways.begin(), suite.Ways.end(),
+                                      [&](const bench::NamedWay& each) { return each.Name == name; });
+        return found == m_times.end() ? 0.0 : found->second / static_cast<double>(way->Parts);
     }
 
 private:
@@ -36,8 +38,11 @@ private:
 
 void Register(const bench::Suite& suite) {
     for (const bench::NamedWay& way : suite.Ways) {
-        const auto run = [make = way.Run](benchmark::State& state) {
+        const auto run = [prepare = way.Prepare](benchmark::State& state) {
             for (auto _ : state) {
+                state.PauseTiming();
+                const bench::Way make = prepare();
+                state.ResumeTiming();
                 benchmark::DoNotOptimize(make());
             }
         };
@@ -45,19 +50,29 @@ void Register(const bench::Suite& suite) {
     }
 }
 
+std::string TimeText(double milliseconds) {
+    char text[32];
+    if (milliseconds < 0.1) {
+        std::snprintf(text, sizeof text, "%.0f ns", milliseconds * 1e6);
+    } else {
+        std::snprintf(text, sizeof text, "%.2f ms", milliseconds);
+    }
+    return text;
+}
+
 void PrintTable(const bench::Suite& suite, const ShortestTimes& times) {
-    std::printf("\n%-52s %10s %10s %7s %7s\n", "", "ms", "against", "ratio", "bound");
+    std::printf("\n%-52s %11s %11s %7s %7s\n", "", "time", "against", "ratio", "bound");
     int above = 0;
     for (const bench::Comparison& c : suite.Comparisons) {
-        const double measured = times.Of(c.Measured);
-        const double reference = times.Of(c.Reference);
+        const double measured = times.Of(suite, c.Measured);
+        const double reference = times.Of(suite, c.Reference);
         if (measured == 0.0 || reference == 0.0) {
             continue;
         }
         const bool isAbove = measured > c.Bound * reference;
         above += isAbove ? 1 : 0;
-        std::printf("%-52s %10.2f %10.2f %7.2f %7.2f%s\n", c.Name.c_str(), measured, reference,
-                    measured / reference, c.Bound, isAbove ? "  above" : "");
+        std::printf("%-52s %11s %11s %7.2f %7.2f%s\n", c.Name.c_str(), TimeText(measured).c_str(),
+                    TimeText(reference).c_str(), measured / reference, c.Bound, isAbove ? "  above" : "");
     }
     std::printf("%d of %zu above their bound\n", above, suite.Comparisons.size());
 }
@@ -83,7 +98,9 @@ int main(int argc, char** argv) {
     }
     bench::Suite suite;
     bench::AddLineCases(suite);
+    bench::AddLayoutCases(suite);
     bench::AddPieCases(suite);
+    bench::AddBarCases(suite);
     bench::AddCurveCases(suite);
     Register(suite);
     ShortestTimes times;
