@@ -1,16 +1,6 @@
 #include "CartesianLayoutToJson.h"
 
-#include "penlode/StringUtil.h"
-
 namespace cli {
-
-Json TextsToJson(const std::vector<std::string>& texts) {
-    Json list = Json::array();
-    for (const std::string& text : texts) {
-        list.push_back(penlode::CStringUtil::AnsiToUtf8(text));
-    }
-    return list;
-}
 
 Json CartesianLayoutToJson(const millichart::CartesianLayout& layout) {
     return {{"whole", ToJson(layout.Whole)},

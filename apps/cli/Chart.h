@@ -21,6 +21,11 @@ public:
     virtual Json Layout() const = 0;
     /// What can be drawn but was hardly meant, as sentences with their places.
     virtual std::vector<Message> Doubts() const = 0;
+
+    /// What is told when its extent is empty: what it lacks, and where that should stand.
+    virtual Message Emptiness() const {
+        return {"", Severity::Error, 0, "data", "nothing to draw", "values, and a size above 0"};
+    }
 };
 
 /// What a kind of chart gives the command. Nothing else in the command names a kind.

@@ -25,23 +25,25 @@ Message OtherNames(const std::string& place) {
                 place.substr(place.rfind('/') + 1) + " for those of the file"};
 }
 
-std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source) {
-    const bool isNamed = stream.Has("csv");
-    const std::string named = isNamed ? LoadText(stream, "csv", "") : "";
+std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source,
+                                       const char* csvKey) {
+    const bool isNamed = stream.Has(csvKey);
+    const std::string named = isNamed ? LoadText(stream, csvKey, "") : "";
     if (isNamed && stream.Has(key)) {
-        stream.Refuse("csv", named, std::string("either ") + key + " or csv, not both");
+        stream.Refuse(csvKey, named, std::string("either ") + key + " or " + csvKey + ", not both");
     }
-    if (isNamed && named.empty()) {
-        stream.Refuse("csv", named, "the name of a CSV file");
+    const bool isName = !named.empty() && named.find('\0') == std::string::npos;
+    if (isNamed && !isName) {
+        stream.Refuse(csvKey, named, "the name of a CSV file");
     }
-    if (named.empty() && !source.NamedByUser) {
+    if (!isName && !source.NamedByUser) {
         return std::nullopt;
     }
     const std::string file = source.NamedByUser
                                  ? *source.NamedByUser
                                  : Beside(source.Folder, penlode::CStringUtil::AnsiToUtf8(named));
     source.Files->push_back(file);
-    return DataTable(file, *source.Messages);
+    return DataTable(file, source.NamedByUser ? NamedBy::User : NamedBy::Document, *source.Messages);
 }
 
 } // namespace cli

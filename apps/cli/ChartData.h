@@ -21,9 +21,10 @@ struct DataSource {
 /// The warning that a document's names at `place` are others than those that came with its CSV file.
 Message OtherNames(const std::string& place);
 
-/// The table that a chart's data are in: of the file that the user named, or of the one under "csv" in the
-/// stream's current group. Nothing when the data stand in the document. A document with both "csv" and
+/// The table that a chart's data are in: of the file that the user named, or of the one under `csvKey` in the
+/// stream's current group. Nothing when the data stand in the document. A document with both `csvKey` and
 /// `key`, under which its own data stand, is refused.
-std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source);
+std::optional<DataTable> LoadDataTable(ChartStream& stream, const char* key, const DataSource& source,
+                                       const char* csvKey = "csv");
 
 } // namespace cli

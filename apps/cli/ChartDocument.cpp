@@ -48,15 +48,18 @@ bool FitsAPage(const penlode::RectF& extent) {
 
 /// Why the chart cannot be drawn, or what is doubtful about it.
 std::vector<Message> Findings(const Chart& chart) {
+    std::vector<Message> findings = chart.Doubts();
+    if (HasErrors(findings)) {
+        return findings;
+    }
     const penlode::RectF extent = chart.Extent();
     if (extent.Width == 0.0F && extent.Height == 0.0F) {
-        return {{"", Severity::Error, 0, "", "nothing to draw", "values in data/values and a size above 0"}};
+        return {chart.Emptiness()};
     }
     if (!FitsAPage(extent)) {
         return {{"", Severity::Error, 0, "", "", "",
                  "the chart does not fit a page of 5000 x 5000 mm, check its sizes and values"}};
     }
-    std::vector<Message> findings = chart.Doubts();
     for (const std::string& warning : ReportFonts(chart).Warnings) {
         findings.push_back({"", Severity::Warning, 0, "", "", "", warning});
     }

@@ -1,4 +1,8 @@
 #include "Chart.h"
+#include "CurveChart.h"
+#include "HalfPieChart.h"
+#include "HalfPieHalfPieChart.h"
+#include "HalfPieHistogramChart.h"
 #include "HistogramChart.h"
 #include "PieChart.h"
 
@@ -7,7 +11,8 @@
 namespace cli {
 namespace {
 
-constexpr ChartKind kKinds[] = {kPieKind, kHistogramKind};
+constexpr ChartKind kKinds[] = {kPieKind,       kHalfPieKind, kHalfPieHalfPieKind, kHalfPieHistogramKind,
+                                kHistogramKind, kCurveKind};
 
 } // namespace
 

@@ -10,8 +10,8 @@
 namespace cli {
 
 /// Loads a chart document for the command: the keyed stream, and the short forms that people write, which
-/// the records' own serializers do not know. It remembers which keys were asked for, to guess what an unknown
-/// key was meant to be.
+/// the records' own serializers do not know. It refuses numbers that are not finite, and remembers which keys
+/// were asked for, to guess what an unknown key was meant to be.
 class ChartStream final : public penlode::CSerializeStream {
 public:
     explicit ChartStream(penlode::CJsonSerializeStream& json) : m_json(json) {}
@@ -24,15 +24,14 @@ public:
         m_defaultLists[tag] = std::move(texts);
     }
 
-    /// Was a list under this tag asked for and not there?
-    bool TookDefaultList(const std::string& tag) const { return m_missingLists.contains(tag); }
+    /// Was a text or a list asked for at this place, as in "property/PieBasicProp/ComponentColor", and not
+    /// there?
+    bool TookDefault(const std::string& place) const { return m_missing.contains(place); }
 
-    bool Has(const std::string& tag) const { return m_json.Has(tag); }
-
-    /// As Has, and remembers the key as one that may stand here.
-    bool Offers(const std::string& tag) {
+    /// Is there an entry of this tag? Either way it is a key that may stand here.
+    bool Has(const std::string& tag) {
         Ask(tag);
-        return Has(tag);
+        return m_json.Has(tag);
     }
 
     bool IsList(const std::string& tag) const { return m_json.IsList(tag); }
@@ -77,11 +76,12 @@ public:
 private:
     std::string Ask(const std::string& tag);
     std::string JoinedList(const std::string& tag);
+    void RefuseUnsoundNumber(const std::string& tag, std::string& value, const std::string& defaultValue);
 
     penlode::CJsonSerializeStream& m_json;
     std::set<std::string> m_joinedTags;
     std::map<std::string, std::vector<std::string>> m_defaultLists;
-    std::set<std::string> m_missingLists;
+    std::set<std::string> m_missing; ///< places
     std::map<std::string, std::vector<std::string>> m_asked;
     std::vector<std::string> m_places{""};
 };

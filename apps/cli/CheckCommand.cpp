@@ -5,7 +5,6 @@
 #include "OutputFile.h"
 #include "UserError.h"
 
-#include <algorithm>
 #include <array>
 
 namespace cli {
@@ -18,10 +17,7 @@ std::string Summary(const std::string& input, const std::vector<Message>& messag
     std::string line = Printable(ShownName(input));
     const char* separator = ": ";
     for (const Severity weight : kWeights) {
-        const auto count = std::count_if(messages.begin(), messages.end(), [weight](const Message& message) {
-            return message.Weight == weight;
-        });
-        line += separator + Counted(static_cast<std::size_t>(count), NameOf(weight));
+        line += separator + CountedMessages(messages, weight);
         separator = ", ";
     }
     return line + "\n";

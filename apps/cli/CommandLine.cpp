@@ -63,7 +63,7 @@ void AddDraw(CLI::App& app, DrawOptions& options) {
     AddParsed<PictureFormat>(
         draw, "--format", options.Format,
         [](std::string text, PictureFormat& format) {
-            const auto known = FormatOfName("x." + text);
+            const auto known = FormatOfEnding("." + text);
             format = known.value_or(format);
             return known.has_value();
         },
@@ -87,6 +87,7 @@ void AddNew(CLI::App& app, NewOptions& options) {
     CLI::App& command = *app.add_subcommand("new", "Write a complete document to start from");
     command.add_option("KIND", options.Kind, "the kind of chart: " + ChartKindNames())->required();
     command.add_option("-o,--output", options.Output, "the file to write; without it the standard output");
+    command.add_flag("--force", options.Force, "write over a file that is there already");
 }
 
 void AddCheck(CLI::App& app, CheckOptions& options) {

@@ -9,113 +9,133 @@ namespace cli {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::array<char, 3> kSeparators{'\t', ';', ','};
+constexpr std::string_view kSeparators = ",;\t";
 
+/// Behind the quote that closes the cell whose text begins at `at`. Doubled ones belong to it.
+std::size_t BehindQuoted(std::string_view text, std::size_t at) {
+    std::size_t quote = text.find('"', at);
+    while (quote != std::string_view::npos && text.substr(quote + 1, 1) == "\"") {
+        quote = text.find('"', quote + 2);
+    }
+    return quote == std::string_view::npos ? text.size() : quote + 1;
+}
+
+/// The separator of which the first line has most; where several have as many, with the lines below.
 char SeparatorOf(std::string_view text) {
     std::array<std::size_t, kSeparators.size()> counts{};
-    bool quoted = false;
-    for (const char c : text) {
-        quoted = quoted != (c == '"');
-        if (!quoted && c == '\n' && *std::max_element(counts.begin(), counts.end()) > 0) {
+    const auto most = [&counts] { return std::max_element(counts.begin(), counts.end()); };
+    bool beginsCell = true;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '"' && beginsCell) {
+            i = BehindQuoted(text, i + 1) - 1;
+            beginsCell = false;
+            continue;
+        }
+        if (text[i] == '\n' && std::count(counts.begin(), counts.end(), *most()) == 1) {
             break;
         }
-        const auto found = std::find(kSeparators.begin(), kSeparators.end(), c);
-        if (!quoted && found != kSeparators.end()) {
-            ++counts[static_cast<std::size_t>(found - kSeparators.begin())];
+        const std::size_t found = kSeparators.find(text[i]);
+        if (found != std::string_view::npos) {
+            ++counts[found];
         }
+        beginsCell = found != std::string_view::npos || text[i] == '\n' || (beginsCell && text[i] == ' ');
     }
-    return kSeparators[static_cast<std::size_t>(std::max_element(counts.begin(), counts.end()) -
-                                                counts.begin())];
+    return kSeparators[static_cast<std::size_t>(most() - counts.begin())];
 }
 
-std::string Trimmed(std::string_view text) {
+std::string_view Trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(" \t\r");
-    return first == std::string_view::npos
-               ? std::string()
-               : std::string(text.substr(first, text.find_last_not_of(" \t\r") - first + 1));
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-class CsvReader {
-public:
-    explicit CsvReader(std::string_view text) : m_text(text), m_separator(SeparatorOf(text)) {}
-
-    CsvTable Read() {
-        while (!AtEnd()) {
-            CsvRow row = ReadRow();
-            if (row.Cells.size() > 1 || !row.Cells.front().empty()) {
-                m_table.Rows.push_back(std::move(row));
-            }
-        }
-        return std::move(m_table);
-    }
-
-private:
-    bool AtEnd() const { return m_at >= m_text.size(); }
-
-    /// Passes the line break too.
-    CsvRow ReadRow() {
-        CsvRow row{m_line, {ReadCell()}};
-        while (!AtEnd() && m_text[m_at] == m_separator) {
-            ++m_at;
-            row.Cells.push_back(ReadCell());
-        }
-        if (!AtEnd()) {
-            ++m_at;
-            ++m_line;
-        }
-        return row;
-    }
-
-    /// What stands behind a closing quote belongs to the cell as it is.
-    std::string ReadCell() {
-        const std::size_t begin = std::min(m_text.find_first_not_of(' ', m_at), m_text.size());
-        std::string quoted;
-        if (begin < m_text.size() && m_text[begin] == '"') {
-            m_at = begin + 1;
-            quoted = ReadQuoted();
-        }
-        const std::array<char, 2> ends{m_separator, '\n'};
-        const std::size_t end = std::min(m_text.find_first_of(ends.data(), m_at, ends.size()), m_text.size());
-        const std::string rest = Trimmed(m_text.substr(m_at, end - m_at));
-        m_at = end;
-        return quoted + rest;
-    }
-
-    std::string ReadQuoted() {
-        const std::size_t line = m_line;
-        std::string text;
-        for (; !AtEnd(); ++m_at) {
-            const char c = m_text[m_at];
-            if (c == '"' && m_text.substr(m_at + 1, 1) != "\"") {
-                ++m_at;
-                return text;
-            }
-            m_at += c == '"' ? 1 : 0;
-            m_line += c == '\n' ? 1 : 0;
-            text += c;
-        }
-        m_table.OpenQuote = line;
-        return text;
-    }
-
-    std::string_view m_text;
-    char m_separator;
-    std::size_t m_at = 0;
-    std::size_t m_line = 1;
-    CsvTable m_table;
-};
+bool IsAscii(char c) {
+    return static_cast<unsigned char>(c) < 0x80U;
+}
 
 } // namespace
 
-CsvTable ParseCsv(std::string_view text) {
-    if (text.starts_with(kByteOrderMark)) {
-        text.remove_prefix(kByteOrderMark.size());
+CsvReader::CsvReader(std::string_view text)
+    : m_text(text.substr(text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)),
+      m_separator(SeparatorOf(m_text)) {}
+
+bool CsvReader::Next(CsvRow& row) {
+    while (!AtEnd()) {
+        ReadRow(row);
+        if (FilledCells(row) != 0) {
+            return true;
+        }
     }
-    return CsvReader(text).Read();
+    return false;
 }
 
+/// Passes the line break too. Cells of the old row keep their memory.
+void CsvReader::ReadRow(CsvRow& row) {
+    row.Line = m_line;
+    std::size_t cells = 0;
+    for (bool hasMore = true; hasMore; ++cells) {
+        if (cells == row.Cells.size()) {
+            row.Cells.emplace_back();
+        }
+        ReadCell(row.Cells[cells]);
+        hasMore = !AtEnd() && m_text[m_at] == m_separator;
+        m_at += hasMore ? 1 : 0;
+    }
+    row.Cells.resize(cells);
+    if (!AtEnd()) {
+        ++m_at;
+        ++m_line;
+    }
+}
+
+/// What stands behind a closing quote belongs to the cell as it is.
+void CsvReader::ReadCell(std::string& cell) {
+    cell.clear();
+    const std::size_t begin = std::min(m_text.find_first_not_of(' ', m_at), m_text.size());
+    if (begin < m_text.size() && m_text[begin] == '"') {
+        m_at = begin + 1;
+        ReadQuoted(cell);
+    }
+    std::size_t end = m_at;
+    while (end < m_text.size() && m_text[end] != m_separator && m_text[end] != '\n') {
+        ++end;
+    }
+    cell += Trimmed(m_text.substr(m_at, end - m_at));
+    m_at = end;
+}
+
+void CsvReader::ReadQuoted(std::string& cell) {
+    const std::size_t line = m_line;
+    for (; !AtEnd(); ++m_at) {
+        const char c = m_text[m_at];
+        if (c == '"' && m_text.substr(m_at + 1, 1) != "\"") {
+            ++m_at;
+            return;
+        }
+        m_at += c == '"' ? 1 : 0;
+        m_line += c == '\n' ? 1 : 0;
+        cell += c;
+    }
+    m_openQuote = line;
+}
+
+std::size_t FilledCells(const CsvRow& row) {
+    const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
+                                   [](const std::string& cell) { return !cell.empty(); });
+    return static_cast<std::size_t>(row.Cells.rend() - last);
+}
+
+/// Long texts are mostly ASCII, so only the runs between are looked at closely.
 bool IsUtf8(std::string_view text) {
-    return penlode::CStringUtil::WideToUtf8(penlode::CStringUtil::Utf8ToWideString(text)) == text;
+    for (auto at = text.begin(); (at = std::find_if_not(at, text.end(), IsAscii)) != text.end();) {
+        const auto end = std::find_if(at, text.end(), IsAscii);
+        const std::string_view run(&*at, static_cast<std::size_t>(end - at));
+        if (penlode::CStringUtil::WideToUtf8(penlode::CStringUtil::Utf8ToWideString(run)) != run) {
+            return false;
+        }
+        at = end;
+    }
+    return true;
 }
 
 } // namespace cli

@@ -1,7 +1,6 @@
 #include "DataTable.h"
 
 #include "Fields.h"
-#include "InputFile.h"
 #include "UserError.h"
 #include "penlode/JsonFault.h"
 #include "penlode/TextForms.h"
@@ -12,10 +11,6 @@
 namespace cli {
 namespace {
 
-std::string ColumnPlace(std::size_t column) {
-    return "column " + std::to_string(column + 1);
-}
-
 /// As spreadsheet programs of many languages write numbers.
 bool HasDecimalComma(std::string cell) {
     std::replace(cell.begin(), cell.end(), ',', '.');
@@ -25,27 +20,34 @@ bool HasDecimalComma(std::string cell) {
 
 } // namespace
 
-DataTable::DataTable(const std::string& file, std::vector<Message>& messages)
-    : m_file(ShownName(file)), m_messages(&messages) {
+DataTable::DataTable(const std::string& file, NamedBy who, std::vector<Message>& messages)
+    : m_file(who == NamedBy::User ? ShownName(file) : file), m_messages(&messages) {
     try {
-        Parse(ReadInput(file));
+        m_text = ReadInput(file, who);
     } catch (const UserError& error) {
         Tell({m_file, Severity::Error, 0, "", "", "", error.Reason()});
     }
+    if (!IsUtf8(m_text)) {
+        Refuse("another encoding", "UTF-8; a spreadsheet program calls it \"CSV UTF-8\"");
+        m_text.clear();
+    }
 }
 
-void DataTable::Parse(const std::string& text) {
-    if (!IsUtf8(text)) {
-        Refuse("another encoding", "UTF-8; a spreadsheet program calls it \"CSV UTF-8\"");
-        return;
+const std::vector<CsvRow>& DataTable::Rows() {
+    if (!m_rows) {
+        m_rows.emplace();
+        ForEachRow([this](const CsvRow& row) { m_rows->push_back(row); });
     }
-    CsvTable table = ParseCsv(text);
-    if (table.OpenQuote != 0) {
-        Tell({m_file, Severity::Error, table.OpenQuote, "", "a quote that never closes", "a closing quote"});
-        return;
+    return *m_rows;
+}
+
+/// An open quote swallows the rest, so that what was read is not what was meant.
+void DataTable::CheckQuotes(const CsvReader& reader) {
+    if (reader.OpenQuote() != 0) {
+        Tell({m_file, Severity::Error, reader.OpenQuote(), "", "a quote that never closes",
+              "a closing quote"});
+        m_rows.emplace();
     }
-    m_rows = std::move(table.Rows);
-    std::erase_if(m_rows, [](const CsvRow& row) { return FilledCells(row) == 0; });
 }
 
 bool DataTable::HasWidth(const CsvRow& row, std::size_t width, const std::string& wanted) {
@@ -78,15 +80,25 @@ void DataTable::Refuse(const std::string& found, const std::string& wanted) {
     Tell({m_file, Severity::Error, 0, "", found, wanted});
 }
 
-void DataTable::Tell(Message message) {
-    m_isSound = false;
-    m_messages->push_back(std::move(message));
+void DataTable::Warn(const CsvRow& row, const std::string& sentence) {
+    m_messages->push_back({m_file, Severity::Warning, row.Line, "", "", "", sentence});
 }
 
-std::size_t FilledCells(const CsvRow& row) {
-    const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
-                                   [](const std::string& cell) { return !cell.empty(); });
-    return static_cast<std::size_t>(row.Cells.rend() - last);
+void DataTable::Tell(Message message) {
+    m_isSound = false;
+    if (++m_told <= kMostKept) {
+        m_messages->push_back(std::move(message));
+        return;
+    }
+    if (m_told == kMostKept + 1) {
+        m_rest = m_messages->size();
+        m_messages->push_back({m_file, Severity::Error, 0, "", "", "", "", true});
+    }
+    (*m_messages)[m_rest].Text = "and " + std::to_string(m_told - kMostKept) + " more, which are not told";
+}
+
+std::string ColumnPlace(std::size_t column) {
+    return "column " + std::to_string(column + 1);
 }
 
 bool IsHeading(const std::string& cell) {

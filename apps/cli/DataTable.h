@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Csv.h"
+#include "InputFile.h"
 #include "Message.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,13 +15,26 @@ namespace cli {
 /// line and column.
 class DataTable {
 public:
-    /// Reads a file, "-" being the standard input. One that cannot be read is told and has no rows.
-    DataTable(const std::string& file, std::vector<Message>& messages);
+    /// Reads a file. One that cannot be read is told and has no rows. Messages that another table adds in
+    /// the meantime do no harm.
+    DataTable(const std::string& file, NamedBy who, std::vector<Message>& messages);
 
-    /// Without rows whose cells are all empty.
-    const std::vector<CsvRow>& Rows() const { return m_rows; }
+    /// Its name in messages.
+    const std::string& File() const { return m_file; }
 
-    /// Has nothing been told of it?
+    /// All rows but those whose cells are all empty.
+    const std::vector<CsvRow>& Rows();
+
+    /// Visits the same rows one after the other and keeps none, for tables of millions.
+    template <class Visit> void ForEachRow(Visit visit) {
+        CsvReader reader(m_text);
+        for (CsvRow row; reader.Next(row);) {
+            visit(row);
+        }
+        CheckQuotes(reader);
+    }
+
+    /// Has no error been told of it?
     bool IsSound() const { return m_isSound; }
 
     /// Tells of a row that has not this many cells, `wanted`. Empty cells beyond them, as spreadsheet
@@ -35,18 +50,24 @@ public:
     /// Tells of the file as a whole.
     void Refuse(const std::string& found, const std::string& wanted);
 
+    /// Tells of a row that can be used but was hardly meant so.
+    void Warn(const CsvRow& row, const std::string& sentence);
+
 private:
     void Tell(Message message);
-    void Parse(const std::string& text);
+    void CheckQuotes(const CsvReader& reader);
 
     std::string m_file;
     std::vector<Message>* m_messages;
-    std::vector<CsvRow> m_rows;
+    std::string m_text;
+    std::optional<std::vector<CsvRow>> m_rows;
     bool m_isSound = true;
+    std::size_t m_told = 0;
+    std::size_t m_rest = 0; ///< the message that stands for those not kept
 };
 
-/// How many cells a row has up to the last one that is not empty.
-std::size_t FilledCells(const CsvRow& row);
+/// "column 1" for 0, as a message's place.
+std::string ColumnPlace(std::size_t column);
 
 /// Is the text of a number's cell a word over a column, and no malformed or missing number?
 bool IsHeading(const std::string& cell);

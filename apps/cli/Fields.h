@@ -10,12 +10,21 @@
 /// its place.
 namespace cli {
 
+/// In mm, in each direction. Farther away single-precision numbers no longer tell a chart's parts apart.
+inline constexpr float kFarthestPoint = 1e6F;
+
 /// A narrow text.
 std::string LoadText(penlode::CSerializeStream& stream, const char* key, const std::string& defaultText);
 double LoadNumber(penlode::CSerializeStream& stream, const char* key, double defaultNumber);
+/// Points are at most kFarthestPoint away.
 penlode::PointF LoadPoint(penlode::CSerializeStream& stream, const char* key);
 std::vector<penlode::PointF> LoadPoints(penlode::CSerializeStream& stream, const char* key);
-std::vector<double> LoadNumbers(penlode::CSerializeStream& stream, const char* key);
+/// What is no number is `unread`.
+std::vector<double> LoadNumbers(penlode::CSerializeStream& stream, const char* key, double unread = 0.0);
+
+/// As people write it, reading back the same: 5, 0.1, 1e+300.
+std::string NumberText(double number);
+std::string NumberText(float number);
 
 /// The whole text as a finite number.
 bool ParseNumber(const std::string& text, double& number);

@@ -14,6 +14,7 @@ namespace {
 using penlode::CStringUtil;
 
 constexpr const char* kGroups = "groups";
+constexpr const char* kGroupsForm = "a list of groups, each with a name and values";
 constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
 
 /// A gap at a group's end is a value that is not there.
@@ -36,7 +37,23 @@ std::vector<double> ReadValues(DataTable& table, const CsvRow& row, std::size_t 
     return values;
 }
 
+/// A heading of numbers alone may have been meant for a group, unless nothing stands over the groups' names.
+void DoubtHeading(DataTable& table, const CsvRow& heading) {
+    const auto isNumber = [](const std::string& cell) {
+        double number = 0.0;
+        return ParseNumber(cell, number);
+    };
+    const std::size_t width = FilledCells(heading);
+    const auto first = heading.Cells.begin() + 1;
+    if (!heading.Cells.front().empty() &&
+        std::all_of(first, first + static_cast<std::ptrdiff_t>(width - 1), isNumber)) {
+        table.Warn(heading, "taken as the heading with the components' names, though they are numbers; with "
+                            "an empty first cell it is no doubt one");
+    }
+}
+
 void ReadTable(DataTable& table, HistogramData& data) {
+    data.File = table.File();
     if (table.Rows().empty()) {
         if (table.IsSound()) {
             table.Refuse("no rows", "a heading with the components' names, and a row a group");
@@ -52,11 +69,13 @@ void ReadTable(DataTable& table, HistogramData& data) {
         table.HasWidth(heading, 2, "a heading: a cell for the group names and the components' names");
         return;
     }
+    DoubtHeading(table, heading);
     for (std::size_t i = 1; i < table.Rows().size(); ++i) {
         const CsvRow& row = table.Rows()[i];
         if (row.Cells.size() <= width || table.HasWidth(row, width, "as many as in the heading")) {
             data.GroupNames.push_back(CStringUtil::Utf8ToAnsi(row.Cells.front()));
             data.Values.push_back(ReadValues(table, row, width));
+            data.Lines.push_back(row.Line);
         }
     }
 }
@@ -64,6 +83,11 @@ void ReadTable(DataTable& table, HistogramData& data) {
 void LoadGroups(ChartStream& stream, HistogramData& data) {
     bool hasNames = false;
     const std::size_t count = stream.CountGroups(kGroups);
+    if (!stream.IsList(kGroups)) {
+        std::vector<std::string> none;
+        stream.Ser(kGroups, none, {});
+        stream.Refuse(kGroups, "", kGroupsForm);
+    }
     for (std::size_t i = 0; i < count; ++i) {
         stream.Push(kGroups, static_cast<int>(i));
         hasNames = hasNames || stream.Has("name");
@@ -87,16 +111,23 @@ std::size_t HistogramData::Components() const {
     return count;
 }
 
-HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source) {
+FilePlace HistogramData::PlaceOf(std::size_t group, std::size_t component) const {
+    if (group < Lines.size()) {
+        return {File, Lines[group], ColumnPlace(component + 1)};
+    }
+    return {"", 0, "data/groups/" + std::to_string(group) + "/values/" + std::to_string(component)};
+}
+
+HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source, const char* csvKey) {
     HistogramData data;
-    stream.Push("data", -1);
-    std::optional<DataTable> table = LoadDataTable(stream, kGroups, source);
-    if (stream.Offers(kGroups) && stream.IsList(kGroups)) {
+    const bool isMissing = !stream.Has("data");
+    const bool isGroup = stream.Push("data", -1);
+    std::optional<DataTable> table = LoadDataTable(stream, kGroups, source, csvKey);
+    if (stream.Has(kGroups)) {
         LoadGroups(stream, data);
-    } else if (!table) {
-        source.Messages->push_back({"", Severity::Error, 0, "data/groups",
-                                    stream.Has(kGroups) ? "no list" : "no such key",
-                                    "a list of groups, each with a name and values, or csv with a file"});
+    } else if (!table && !stream.Has(csvKey) && (isGroup || isMissing)) {
+        source.Messages->push_back({"", Severity::Error, 0, "data/groups", "no such key",
+                                    std::string(kGroupsForm) + ", or " + csvKey + " with a file"});
     }
     stream.Pop();
     if (table) {
@@ -105,10 +136,6 @@ HistogramData LoadHistogramData(ChartStream& stream, const DataSource& source) {
         data.NamesGoFirst = source.NamedByUser.has_value();
     }
     return data;
-}
-
-std::string HistogramValuePlace(std::size_t group, std::size_t component) {
-    return "data/groups/" + std::to_string(group) + "/values/" + std::to_string(component);
 }
 
 } // namespace cli

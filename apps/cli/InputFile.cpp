@@ -7,25 +7,63 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
-#include <sstream>
+#include <vector>
 
 namespace cli {
+namespace {
 
-std::string ReadInput(const std::string& name) {
-    if (name == kStandardStream) {
-        return {std::istreambuf_iterator<char>(std::cin), {}};
-    }
+namespace fs = std::filesystem;
+
+constexpr std::size_t kMostBytes = std::size_t{1} << 30U;
+constexpr std::size_t kPiece = std::size_t{1} << 16U;
+
+UserError Unreadable(const std::string& name, const std::string& reason) {
+    return {ShownName(name), "cannot be read: " + reason};
+}
+
+/// What can be told before a file is opened, which may wait for ever or read without end.
+void RefuseByKind(const std::string& name, NamedBy who) {
     std::error_code error;
-    if (std::filesystem::is_directory(name, error)) {
-        throw UserError(name, "cannot be read: it is a folder");
+    const fs::file_status status = fs::status(name, error);
+    if (fs::is_directory(status)) {
+        throw Unreadable(name, "it is a folder");
     }
+    if (who == NamedBy::Document && fs::exists(status) && !fs::is_regular_file(status)) {
+        throw Unreadable(name, "it is no file but a device or a pipe, which a document may not name");
+    }
+    if (fs::is_regular_file(status) && fs::file_size(name, error) > kMostBytes && !error) {
+        throw Unreadable(name, "it is larger than 1 GB");
+    }
+}
+
+std::string ReadAll(std::istream& stream, const std::string& name) {
+    std::string bytes;
+    std::vector<char> piece(kPiece);
+    while (stream.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stream.gcount() > 0) {
+        bytes.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
+        if (bytes.size() > kMostBytes) {
+            throw Unreadable(name, "it is larger than 1 GB");
+        }
+    }
+    return bytes;
+}
+
+} // namespace
+
+std::string ReadInput(const std::string& name, NamedBy who) {
+    if (name == kStandardStream && who == NamedBy::User) {
+        return ReadAll(std::cin, name);
+    }
+    RefuseByKind(name, who);
     std::ifstream file(name, std::ios::binary);
-    std::ostringstream content;
-    if (!file || (file.peek() != std::ifstream::traits_type::eof() && !(content << file.rdbuf()))) {
-        throw UserError(name, std::string("cannot be read: ") + std::strerror(errno));
+    if (!file) {
+        throw Unreadable(name, std::strerror(errno));
     }
-    return std::move(content).str();
+    std::string bytes = ReadAll(file, name);
+    if (file.bad()) {
+        throw Unreadable(name, std::strerror(errno));
+    }
+    return bytes;
 }
 
 std::string ShownName(const std::string& name) {

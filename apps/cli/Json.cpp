@@ -1,5 +1,7 @@
 #include "Json.h"
 
+#include "penlode/StringUtil.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -50,6 +52,14 @@ Json ToJson(const penlode::RectF& rect) {
     Json list = ToJson(rect.TopLeft());
     list.push_back(ToJson(static_cast<double>(rect.Width)));
     list.push_back(ToJson(static_cast<double>(rect.Height)));
+    return list;
+}
+
+Json TextsToJson(const std::vector<std::string>& texts) {
+    Json list = Json::array();
+    for (const std::string& text : texts) {
+        list.push_back(penlode::CStringUtil::AnsiToUtf8(text));
+    }
     return list;
 }
 

@@ -17,6 +17,8 @@ Json ToJson(double number);
 Json ToJson(penlode::PointF point);
 /// [x, y, width, height]
 Json ToJson(const penlode::RectF& rect);
+/// Narrow texts.
+Json TextsToJson(const std::vector<std::string>& texts);
 
 template <class T> Json ListToJson(const std::vector<T>& items) {
     Json list = Json::array();

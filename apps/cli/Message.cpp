@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <utility>
 
 namespace cli {
 namespace {
@@ -38,6 +40,10 @@ Json ObjectOf(const Message& message) {
 }
 
 } // namespace
+
+Message At(const FilePlace& place, Severity severity, std::string sentence) {
+    return {place.File, severity, place.Line, place.Place, "", "", std::move(sentence)};
+}
 
 std::string Printable(std::string_view text) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
@@ -88,8 +94,12 @@ std::string ToLine(const Message& message) {
 
 std::vector<std::string> ToLines(const std::vector<Message>& messages, bool withNotes) {
     std::map<std::string, std::size_t> totals;
+    std::set<std::string> withRest;
     for (const Message& message : messages) {
-        totals[message.File] += message.Weight == Severity::Note ? 0 : 1;
+        totals[message.File] += message.Weight == Severity::Note || message.IsRest ? 0 : 1;
+        if (message.IsRest) {
+            withRest.insert(message.File);
+        }
     }
     std::map<std::string, std::size_t> counts;
     std::vector<std::string> lines;
@@ -100,10 +110,22 @@ std::vector<std::string> ToLines(const std::vector<Message>& messages, bool with
             lines.push_back(ToLine(message));
         } else if (count == kMostShown + 1) {
             const std::string more = std::to_string(totals[message.File] - kMostShown);
-            lines.push_back(Printable(message.File + ": and " + more + " more"));
+            const char* const atLeast = withRest.contains(message.File) ? "at least " : "";
+            lines.push_back(Printable(message.File + ": and " + atLeast + more + " more"));
         }
     }
     return lines;
+}
+
+std::string CountedMessages(const std::vector<Message>& messages, Severity severity) {
+    std::size_t count = 0;
+    bool hasRest = false;
+    for (const Message& message : messages) {
+        const bool isMeant = message.Weight == severity;
+        count += isMeant && !message.IsRest ? 1 : 0;
+        hasRest = hasRest || (isMeant && message.IsRest);
+    }
+    return (hasRest ? "at least " : "") + Counted(count, NameOf(severity));
 }
 
 std::string ToJson(const std::vector<Message>& messages) {

@@ -15,17 +15,21 @@ std::string Lowered(std::string text) {
     return text;
 }
 
-/// How many bytes must be put in, taken out or changed to make one text of the other.
+/// How many bytes must be put in, taken out, changed or swapped with the next to make one text of the other.
 std::size_t EditDistance(const std::string& a, const std::string& b) {
     std::vector<std::size_t> row(b.size() + 1);
     std::iota(row.begin(), row.end(), std::size_t{0});
+    std::vector<std::size_t> last(row.size());
+    std::vector<std::size_t> beforeLast(row.size());
     for (std::size_t i = 0; i < a.size(); ++i) {
-        std::size_t diagonal = row[0];
+        beforeLast.swap(last);
+        last.swap(row);
         row[0] = i + 1;
         for (std::size_t j = 0; j < b.size(); ++j) {
-            const std::size_t changed = diagonal + (a[i] == b[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
+            row[j + 1] = std::min({last[j] + (a[i] == b[j] ? 0 : 1), row[j] + 1, last[j + 1] + 1});
+            if (i > 0 && j > 0 && a[i] == b[j - 1] && a[i - 1] == b[j]) {
+                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + 1);
+            }
         }
     }
     return row.back();

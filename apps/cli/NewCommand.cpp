@@ -1,8 +1,11 @@
 #include "NewCommand.h"
 
 #include "Chart.h"
+#include "InputFile.h"
 #include "OutputFile.h"
 #include "UserError.h"
+
+#include <filesystem>
 
 namespace cli {
 
@@ -10,6 +13,11 @@ void WriteNew(const NewOptions& options) {
     const ChartKind* kind = FindChartKind(options.Kind);
     if (kind == nullptr) {
         throw UsageError("KIND: found \"" + options.Kind + "\", expected " + ChartKindNames());
+    }
+    std::error_code error;
+    if (!options.Force && options.Output != kStandardStream &&
+        std::filesystem::is_regular_file(options.Output, error)) {
+        throw UserError(options.Output, "is there already; with --force it is written over");
     }
     Json document{{"version", "1"}, {"kind", kind->Name}};
     document.update(kind->Example());

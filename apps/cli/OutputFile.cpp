@@ -1,6 +1,7 @@
 #include "OutputFile.h"
 
 #include "InputFile.h"
+#include "System.h"
 #include "UserError.h"
 
 #include <cerrno>
@@ -55,16 +56,24 @@ void Require(bool written, const std::string& name) {
     }
 }
 
-/// The file that a link leads to, so that the link stays one.
+/// The file that a link leads to, there or not, so that the link stays one.
 std::string BehindLinks(const std::string& name) {
+    constexpr int kMostLinks = 40;
     std::error_code error;
-    const fs::path target = fs::is_symlink(name, error) ? fs::canonical(name, error) : fs::path(name);
-    return error ? name : target.string();
+    fs::path file = name;
+    for (int i = 0; fs::is_symlink(fs::symlink_status(file, error)); ++i) {
+        if (i == kMostLinks) {
+            throw UserError(name, "cannot be written: too many links lead from one to the next");
+        }
+        file = file.parent_path() / fs::read_symlink(file, error);
+    }
+    return file.string();
 }
 
 void WriteFileWhole(const std::string& name, std::string_view bytes) {
     const std::string target = BehindLinks(name);
     const std::string part = AsideName(target);
+    const UnfinishedFile unfinished(part);
     std::error_code error;
     if (!WriteBytes(part, bytes)) {
         error = std::error_code(errno, std::generic_category());

@@ -1,6 +1,8 @@
 #include "OutputNames.h"
 
 #include "InputFile.h"
+#include "OutputFile.h"
+#include "System.h"
 #include "UserError.h"
 
 #include <algorithm>
@@ -51,6 +53,14 @@ void CheckOneFile(const DrawOptions& options) {
     }
 }
 
+/// A terminal would take the bytes for commands.
+void CheckTerminal(const DrawOptions& options) {
+    const std::string output = options.Output.value_or(kStandardStream);
+    if (output == kStandardStream && options.Format != PictureFormat::Svg && OutputGoesToTerminal()) {
+        throw UsageError(ShownOutput(output) + ": is a terminal; expected -o FILE, or a pipe");
+    }
+}
+
 void MakeFolder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
@@ -72,8 +82,9 @@ void CheckOutputs(const DrawOptions& options) {
     if (options.Inputs.size() > 1 && options.Output == kStandardStream) {
         throw UsageError("-o -: expected one FILE with it");
     }
-    if (options.Output ? !IsFolder(options) : standard == 1 && options.Inputs.size() == 1) {
+    if (options.Output ? !IsFolder(options) : standard == 1) {
         CheckOneFile(options);
+        CheckTerminal(options);
     }
 }
 

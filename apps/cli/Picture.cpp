@@ -73,7 +73,10 @@ std::unique_ptr<Picture> OnCairo(std::unique_ptr<CGraphicsEngine> engine,
 } // namespace
 
 std::optional<PictureFormat> FormatOfName(const std::string& fileName) {
-    std::string ending = std::filesystem::path(fileName).extension().string();
+    return FormatOfEnding(std::filesystem::path(fileName).extension().string());
+}
+
+std::optional<PictureFormat> FormatOfEnding(std::string ending) {
     std::transform(ending.begin(), ending.end(), ending.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     for (const auto& [known, format] : kEndings) {

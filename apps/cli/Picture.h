@@ -12,6 +12,9 @@ namespace cli {
 
 enum class PictureFormat { Png, Svg, Pdf };
 
+/// The format of ".png" and the like, in either case; nothing for other endings.
+std::optional<PictureFormat> FormatOfEnding(std::string ending);
+
 /// The format that a file name's ending names, in either case; nothing for other endings.
 std::optional<PictureFormat> FormatOfName(const std::string& fileName);
 

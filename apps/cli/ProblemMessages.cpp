@@ -31,10 +31,18 @@ std::string PlaceElsewhere(const std::string& key, const AskedKeys& asked) {
     return {};
 }
 
+/// The keys that were asked for in a group. What was asked for in the groups of a list counts for each.
+AskedKeys::const_iterator KeysOf(const std::string& group, const AskedKeys& asked) {
+    const auto keys = asked.find(group);
+    const auto [list, index] = GroupAndKey(group);
+    const bool isIndex = !index.empty() && index.find_first_not_of("0123456789") == std::string::npos;
+    return keys == asked.end() && isIndex ? asked.find(list) : keys;
+}
+
 /// What an unknown key was probably meant to be.
 std::string Guess(const std::string& place, const AskedKeys& asked) {
     const auto [group, key] = GroupAndKey(place);
-    const auto known = asked.find(group);
+    const auto known = KeysOf(group, asked);
     const std::string near = known == asked.end() ? std::string() : NearestName(key, known->second);
     return near.empty() ? PlaceElsewhere(key, asked) : near;
 }
@@ -94,6 +102,12 @@ std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, 
         if (!missingKind) {
             messages.push_back(MessageOf(problem));
         }
+    }
+    if (json.Problems().size() >= kMostKept) {
+        messages.push_back(
+            {"", Severity::Error, 0, "", "", "",
+             "too many problems; those after the first " + std::to_string(kMostKept) + " are not told",
+             true});
     }
     if (!stream.AskedKeys().contains("property")) {
         return messages; // the record was not asked for, so that none of its keys is known

@@ -1,10 +1,11 @@
 #include "ValueRange.h"
 
 #include "Fields.h"
-#include "Json.h"
 #include "foundation/Coordinate.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace cli {
 namespace {
@@ -13,47 +14,74 @@ constexpr const char* kLargest = "InitializeValueRange";
 constexpr const char* kNatural = "NaturalValueRange";
 constexpr const char* kLogarithm = "LogarithmValueRange";
 
-std::string Shown(double number) {
-    return ToJson(number).dump();
-}
-
 std::string ListShown(const std::vector<double>& numbers) {
     std::string text;
     for (const double number : numbers) {
-        text += (text.empty() ? "[" : ", ") + Shown(number);
+        text += (text.empty() ? "[" : ", ") + NumberText(number);
     }
     return text.empty() ? "[]" : text + "]";
 }
 
+bool IsInReach(double number) {
+    return std::abs(number) <= kLargestValue;
+}
+
+/// Was what is wrong with it told when it was loaded?
+bool IsUnread(ChartStream& stream, const char* key, const std::vector<double>& numbers) {
+    return stream.Has(key) && (!stream.IsList(key) || std::any_of(numbers.begin(), numbers.end(),
+                                                                  [](double n) { return std::isnan(n); }));
+}
+
 bool IsNaturalRange(const std::vector<double>& r) {
-    return r.size() == 4 && r[0] < r[1] && r[2] > 0.0 && r[3] > 0.0 &&
+    return r.size() == 4 && r[0] < r[1] && r[2] > 0.0 && r[3] > 0.0 && IsInReach(r[0]) && IsInReach(r[1]) &&
            (r[1] - r[0]) / std::min(r[2], r[3]) < static_cast<double>(millichart::kMostTicks);
 }
 
 bool IsLogarithmRange(const std::vector<double>& r) {
-    return r.size() == 2 && r[0] > 0.0 && r[0] < r[1];
+    return r.size() == 2 && r[0] > 0.0 && r[0] < r[1] && IsInReach(r[1]);
+}
+
+/// Visits the group, if there is one.
+template <class Visit> void InRange(ChartStream& stream, std::vector<Message>& messages, Visit visit) {
+    constexpr const char* kFromLargest = "found from the largest value";
+    if (!stream.Has("range")) {
+        messages.push_back(
+            {"", Severity::Note, 0, "range", "", kFromLargest, std::string("missing, ") + kFromLargest});
+        return;
+    }
+    if (stream.Push("range", -1)) {
+        visit();
+    }
+    stream.Pop();
+}
+
+double LoadLargest(ChartStream& stream, double largest) {
+    const double value = LoadNumber(stream, kLargest, largest);
+    if (!IsInReach(value)) {
+        stream.Refuse(kLargest, NumberText(value), "at most " + NumberText(kLargestValue));
+    }
+    return value;
+}
+
+std::vector<double> LoadRange(ChartStream& stream, const char* key) {
+    return stream.Has(key) ? LoadNumbers(stream, key, std::numeric_limits<double>::quiet_NaN())
+                           : std::vector<double>();
 }
 
 } // namespace
 
 ValueRange::ValueRange(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) {
-    if (!stream.Has("range") || !stream.Push("range", -1)) {
-        return;
-    }
-    if (stream.Offers(kLargest)) {
-        m_largest = {LoadNumber(stream, kLargest, 0.0)};
-    }
-    if (stream.Offers(kNatural)) {
-        m_natural = LoadNumbers(stream, kNatural);
-    }
-    if (stream.Offers(kLogarithm)) {
-        m_logarithm = LoadNumbers(stream, kLogarithm);
-    }
-    Check(stream, isLogarithmic, messages);
-    stream.Pop();
+    InRange(stream, messages, [&] {
+        if (stream.Has(kLargest)) {
+            m_largest = {LoadLargest(stream, 0.0)};
+        }
+        m_natural = LoadRange(stream, kNatural);
+        m_logarithm = LoadRange(stream, kLogarithm);
+        Check(stream, isLogarithmic, messages);
+    });
 }
 
-void ValueRange::Check(const ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const {
+void ValueRange::Check(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const {
     const std::string own = isLogarithmic ? kLogarithm : kNatural;
     const std::string foreign = isLogarithmic ? kNatural : kLogarithm;
     const auto tell = [&](const std::string& key, const std::string& found, const std::string& wanted) {
@@ -64,6 +92,8 @@ void ValueRange::Check(const ChartStream& stream, bool isLogarithmic, std::vecto
              own + ", as LogarithmScale is " + (isLogarithmic ? "on" : "off"));
     } else if (stream.Has(own) && stream.Has(kLargest)) {
         tell(kLargest, "a second range", "either it or " + own);
+    } else if (IsUnread(stream, kNatural, m_natural) || IsUnread(stream, kLogarithm, m_logarithm)) {
+        return;
     } else if (stream.Has(kNatural) && !IsNaturalRange(m_natural)) {
         tell(kNatural, ListShown(m_natural),
              "minimum, larger maximum, major step and minor step, both above 0 and for fewer than 100000 "
@@ -75,14 +105,36 @@ void ValueRange::Check(const ChartStream& stream, bool isLogarithmic, std::vecto
     }
 }
 
+double LoadLargestValue(ChartStream& stream, double largest, std::vector<Message>& messages) {
+    double value = largest;
+    InRange(stream, messages, [&] {
+        if (stream.Has(kLargest)) {
+            value = LoadLargest(stream, largest);
+        } else {
+            messages.push_back({"", Severity::Error, 0, "range", "no range", kLargest});
+        }
+    });
+    return value;
+}
+
 std::vector<Message> RangeDoubts::Doubts() const {
-    if (m_outside == 0) {
-        return {};
+    const auto several = [](std::size_t count, const char* one, const char* many) {
+        return count == 1 ? one : "this and " + Counted(count - 1, "other value") + many;
+    };
+    if (m_huge != 0) {
+        return {At(m_firstHuge, Severity::Error,
+                   several(m_huge, "is", " are") + " too large for a value axis, expected at most " +
+                       NumberText(kLargestValue))};
     }
-    const std::string axis = "the value axis, which goes from " + Shown(m_min) + " to " + Shown(m_max);
-    return {{"", Severity::Warning, 0, m_first, "", "",
-             m_outside == 1 ? "lies outside " + axis
-                            : "this and " + Counted(m_outside - 1, "other value") + " lie outside " + axis}};
+    if (m_outside != 0) {
+        return {
+            At(m_first, Severity::Warning, several(m_outside, "lies outside ", " lie outside ") + Axis())};
+    }
+    return {};
+}
+
+std::string RangeDoubts::Axis() const {
+    return "the value axis, which goes from " + NumberText(m_min) + " to " + NumberText(m_max);
 }
 
 } // namespace cli

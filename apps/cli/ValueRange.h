@@ -8,6 +8,9 @@
 
 namespace cli {
 
+/// Beyond it in either direction an axis cannot tell values apart, nor place them.
+inline constexpr double kLargestValue = 1e300;
+
 /// The range of a value axis as a document gives it in its group "range", by the library's own words:
 ///
 ///     "range": {"InitializeValueRange": 37}
@@ -31,12 +34,16 @@ public:
     }
 
 private:
-    void Check(const ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const;
+    void Check(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) const;
 
     std::vector<double> m_largest;
     std::vector<double> m_natural;
     std::vector<double> m_logarithm;
 };
+
+/// The range in the document of a chart that always finds its axis's range from a largest value: that value,
+/// or `largest` without the group.
+double LoadLargestValue(ChartStream& stream, double largest, std::vector<Message>& messages);
 
 /// Looks for values that a value axis from `min` to `max` does not hold, one after the other.
 class RangeDoubts {
@@ -53,16 +60,27 @@ public:
         return {min, max};
     }
 
-    /// `place` is where the value stands, for the first one that does not fit.
+    /// `place` gives the FilePlace of the value; it is called for the first one that does not fit, and for
+    /// the first one that no axis could hold.
     template <class Place> void Look(double value, const Place& place) {
         if (value < m_min || value > m_max) {
             m_first = m_outside == 0 ? place() : m_first;
             ++m_outside;
         }
+        if (value < -kLargestValue || value > kLargestValue) {
+            m_firstHuge = m_huge == 0 ? place() : m_firstHuge;
+            ++m_huge;
+        }
     }
 
-    /// Nothing or one warning.
+    /// Nothing, a warning, or an error.
     std::vector<Message> Doubts() const;
+
+    /// Where in the range a value stands, 0 being its minimum and 1 its maximum.
+    double PartOf(double value) const { return (value - m_min) / (m_max - m_min); }
+
+    /// "the value axis, which goes from 0 to 50"
+    std::string Axis() const;
 
 private:
     RangeDoubts(double min, double max) : m_min(min), m_max(max) {}
@@ -70,7 +88,9 @@ private:
     double m_min;
     double m_max;
     std::size_t m_outside = 0;
-    std::string m_first;
+    FilePlace m_first;
+    std::size_t m_huge = 0;
+    FilePlace m_firstHuge;
 };
 
 } // namespace cli

@@ -29,13 +29,13 @@ _millichart() {
     local options="--help"
     case $command in
       draw) options+=" --output --format --data --dpi --page --background --outlines --verbose" ;;
-      new) options+=" --output" ;;
+      new) options+=" --output --force" ;;
       check) options+=" --data --json" ;;
       inspect) options+=" --data" ;;
     esac
     COMPREPLY=($(compgen -W "$options" -- "$current"))
   elif [ "$command" = new ] && [ "$COMP_CWORD" -eq 2 ]; then
-    COMPREPLY=($(compgen -W "pie histogram" -- "$current"))
+    COMPREPLY=($(compgen -W "pie half-pie half-pie-half-pie half-pie-histogram histogram curve" -- "$current"))
   else
     local IFS=$'\n'
     compopt -o filenames 2>/dev/null

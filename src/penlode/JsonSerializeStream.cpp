@@ -190,6 +190,9 @@ double CJsonSerializeStream::Document::LoadNumberOrGap(const std::string& tag, c
     if (item.is_number()) {
         return item.get<double>();
     }
+    if (item.is_boolean()) {
+        return item.get<bool>() ? 1.0 : 0.0;
+    }
     std::string text = item.is_string() ? item.get<std::string>() : std::string();
     double number = gap;
     const bool isGap = item.is_null() || (item.is_string() && text.empty());

@@ -68,8 +68,8 @@ public:
     /// How many groups there are to push in a list of them; 0 for what is no list.
     std::size_t CountGroups(const std::string& tag);
 
-    /// Loads a list of numbers, or of their texts. A null or an empty text is a gap, NaN; what is no finite
-    /// number is a gap too, and refused. Nothing where there is no list.
+    /// Loads a list of numbers or booleans, or of numbers' texts. A null or an empty text is a gap, NaN; what
+    /// is no finite number is a gap too, and refused. Nothing where there is no list.
     std::vector<double> LoadNumbersAndGaps(const std::string& tag);
 
 private:

@@ -50,7 +50,25 @@ const Broken kBroken[] = {
      "b.json:1: version: found 2, expected 1\n"},
     {Pie("", ""), "b.json: line 7, column 1: found }, expected a key in double quotes\n"},
     {Pie("", R"("data": {"values": []})"),
-     "b.json: found nothing to draw, expected values in data/values and a size above 0\n"},
+     "b.json:6: data/values: found nothing to draw, expected a number for each slice\n"},
+    {Pie("\"PieBasicProp\": {\n\"FixedSize\": 1, \"FixedWidth\": 0}"),
+     "b.json:4: property/PieBasicProp: found nothing to draw, as the pie has no size, expected FixedWidth "
+     "above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0\n"},
+    {Pie("\"PieBasicProp\": {\n\"StartAngle\": \"nan\",\n\"FixedWidth\": \"-inf\",\n\"PenSepLine\": "
+         "\"#FF000000 inf\",\n\"FixedSize\": 1}, \"PieLegendProp\": {\"Font\": \"Arial nan\"}",
+         "\"location\": \"1e30 0\",\n\"labelOffsets\": [\"0 -2e6\"], \"title\": \"inf\", \"data\": "
+         "{\"values\": [1]}"),
+     "b.json:5: property/PieBasicProp/StartAngle: found \"nan\", expected a number\n"
+     "b.json:6: property/PieBasicProp/FixedWidth: found \"-inf\", expected a number\n"
+     "b.json:7: property/PieBasicProp/PenSepLine: found \"#FF000000 inf\", expected a pen such as "
+     "\"#FF000000 0.1 dash\"\n"
+     "b.json:8: property/PieLegendProp/Font: found \"Arial nan\", expected a font such as \"Arial 4 bold\"\n"
+     "b.json:10: location: found \"1e30 0\", expected a point at most 1000000 mm away\n"
+     "b.json:11: labelOffsets/0: found \"0 -2e6\", expected a point at most 1000000 mm away\n"},
+    {Pie("\"PieBasicProp\": {\"FixedSize\": 1, \"StartAngle\": 1e30}"),
+     "b.json:4: property/PieBasicProp/StartAngle: found 1e+30, expected an angle from 0 to below 360\n"},
+    {Pie("\"PieBasicProp\": {\"FixedSize\": 1}", R"("data": {"values": [1e308, 1e308]})"),
+     "b.json:6: data: found a total that is too large, expected smaller values\n"},
     {Pie("", R"("data": [1, 2])"), "b.json:6: data: found [1,2], expected a group\n"},
     {Pie("", "\"data\": {\"values\": [\n1,\n\"x\",\n{}]}"),
      "b.json:8: data/values/1: found \"x\", expected a number\n"
@@ -65,6 +83,10 @@ const Broken kBroken[] = {
      "b.json:6: data/csv: found \"d.csv\", expected either values or csv, not both\n"
      "d.csv: cannot be read: No such file or directory\n"},
     {Pie("", R"("data": {"csv": ""})"), "b.json:6: data/csv: found \"\", expected the name of a CSV file\n"},
+    {Pie("", R"("data": {"csv": "a\u0000.csv"})"),
+     "b.json:6: data/csv: found \"a\\u0000.csv\", expected the name of a CSV file\n"},
+    {Pie("", R"("data": {"csv": "/dev/zero"})"),
+     "/dev/zero: cannot be read: it is no file but a device or a pipe, which a document may not name\n"},
     {Pie("\"PieBasicProp\": {\n\"PieStyle\": \"4D\",\n\"FixedSize\": \"yes\",\n\"FixedWidth\": \"20 mm\",\n"
          "\"PenSepLine\": [],\n\"ComponentColor\": [\"#123456\",\n\"#12345\"]}"),
      "b.json:5: property/PieBasicProp/PieStyle: found \"4D\", expected one of \"2D\", \"3D\"\n"
@@ -95,18 +117,36 @@ const Broken kBroken[] = {
     {Histogram(R"("data": {})"),
      "b.json: data/groups: found no such key, expected a list of groups, each with a "
      "name and values, or csv with a file\n"},
-    {Histogram(
-         "\"data\": {\"groups\": [\n{\"name\": [1], \"values\": [1, \"x\", true]},\n{\"values\": 3}, 4]}"),
+    {Histogram(R"("data": null)"), "b.json:3: data: found null, expected a group\n"},
+    {Histogram(R"("data": {"csv": ""})"),
+     "b.json:3: data/csv: found \"\", expected the name of a CSV file\n"},
+    {Histogram(R"("data": {"groups": {}})"),
+     "b.json:3: data/groups: found {}, expected a list of groups, each with a name and values\n"},
+    {Histogram(R"("data": {"groups": []})"),
+     "b.json:3: data/groups: found nothing to draw, expected a group with values\n"},
+    {Histogram(R"("data": {"groups": [{"values": [1e299, -1e301, 1e308]}]})"),
+     "b.json:3: data/groups/0/values/1: this and 1 other value are too large for a value axis, expected at "
+     "most 1e+300\n"},
+    {Histogram(kGroups + R"(, "property": {"HistogramPlotProp": {"PlotWidth": 0, "PlotHeight": -0.0001}})"),
+     "b.json:3: property/HistogramPlotProp/PlotWidth: found 0, expected a number above 0\n"
+     "b.json:3: property/HistogramPlotProp/PlotHeight: found -1e-04, expected a number above 0\n"},
+    {Histogram(kGroups + R"(, "range": 3)"), "b.json:3: range: found 3, expected a group\n"},
+    {Histogram(kGroups + R"(, "range": {})"),
+     "b.json:3: range: found no range, expected InitializeValueRange or NaturalValueRange\n"},
+    {Histogram(kGroups + R"(, "range": {"NaturalValueRange": [0, "ten", 1, 0]})"),
+     "b.json:3: range/NaturalValueRange/1: found \"ten\", expected a number\n"},
+    {Histogram("\"data\": {\"groups\": [\n{\"name\": [1], \"values\": [1, \"x\", true, []]},\n{\"values\": "
+               "3}, 4]}"),
      "b.json:4: data/groups/0/name: found [1], expected a text\n"
      "b.json:4: data/groups/0/values/1: found \"x\", expected a number\n"
-     "b.json:4: data/groups/0/values/2: found true, expected a number\n"
+     "b.json:4: data/groups/0/values/3: found [], expected a number\n"
      "b.json:5: data/groups/1/values: found 3, expected a list\n"
      "b.json:5: data/groups/2: found 4, expected a group\n"},
     {Histogram(kGroups + R"(, "range": {"LogarithmValueRange": [1, 10]})"),
      "b.json:3: range/LogarithmValueRange: found a range of the other scale, expected NaturalValueRange, as "
      "LogarithmScale is off\n"},
-    {Histogram(kGroups + R"(, "range": {"NaturalValueRange": [0, 10, 0, 1]})"),
-     "b.json:3: range/NaturalValueRange: found [0, 10, 0, 1], expected minimum, larger maximum, "
+    {Histogram(kGroups + R"(, "range": {"NaturalValueRange": [0.0001, 1e6, 0, 1]})"),
+     "b.json:3: range/NaturalValueRange: found [1e-04, 1000000, 0, 1], expected minimum, larger maximum, "
      "major "
      "step and minor step, both above 0 and for fewer than 100000 ticks\n"},
     {Histogram(kGroups + R"(, "range": {"NaturalValueRange": [0, 10, 5, 1], "InitializeValueRange": 9})"),
@@ -115,6 +155,22 @@ const Broken kBroken[] = {
      "b.json:3: range: found no range, expected InitializeValueRange or NaturalValueRange\n"
      "b.json:3: warning: range/InitialiseValueRange: an unknown key, ignored; is \"InitializeValueRange\" "
      "meant?\n"},
+    {R"({"kind": "half-pie", "property": {"HalfPieBasicProp": {"WhichPart": "top", "StartAngle": 0}},
+"data": {"values": [1]}})",
+     "b.json:1: property/HalfPieBasicProp/WhichPart: found \"top\", expected one of \"Top\", \"Lower\"\n"
+     "b.json:1: warning: property/HalfPieBasicProp/StartAngle: an unknown key, ignored\n"},
+    {"{\"kind\": \"half-pie-half-pie\", \"data\": {\"first\": {\"values\": [1]},\n\"second\": "
+     "{\"values\": [2, -1]},\n\"csv\": \"d.csv\"},\n\"labelOffsets\": []}",
+     "b.json:2: data/second/values/1: found -1, expected 0 or more\n"
+     "b.json:3: data/csv: found \"d.csv\", expected either first or csv, not both\n"
+     "b.json:4: labelOffsets: found [], expected a group\n"
+     "d.csv: cannot be read: No such file or directory\n"},
+    {"{\"kind\": \"half-pie-histogram\", \"data\": {\"groups\": [],\n\"groupsCsv\": \"\"},\n\"range\": "
+     "{\"NaturalValueRange\": [0, 1, 1, 1]}}",
+     "b.json:2: data/groupsCsv: found \"\", expected either groups or groupsCsv, not both\n"
+     "b.json:2: data/groupsCsv: found \"\", expected the name of a CSV file\n"
+     "b.json:3: range: found no range, expected InitializeValueRange\n"
+     "b.json:3: warning: range/NaturalValueRange: an unknown key, ignored\n"},
 };
 
 } // namespace
@@ -147,6 +203,41 @@ TEST_F(Check, DoubtfulThingsAreWarningsAndNoFailure) {
         "b.json:9: warning: property/PieBasicProp/ComponentName: found 1 name, expected 2, one a value\n"
         "b.json:10: warning: property/PieBasicProp/ComponentColor: found 0 colours, expected 2, one a value\n"
         "b.json:11: warning: property/Notes: an unknown key, ignored\n");
+}
+
+TEST_F(Check, UnknownKeysAreGuessed) {
+    Write("b.json", Histogram("\"rnage\": {},\n\"data\": {\"grups\": 1, \"csvv\": 2,\n\"groups\": "
+                              "[{\"values\": [5], \"nmae\": 1},\n{\"value\": 3}]},\n\"range\": "
+                              "{\"NaturalValueRange\": [0, 9, 1, 1], \"InitializeValuRange\": 1}"));
+    Write("p.json", R"({"kind": "pie", "data": {"values": [200], "cvs": "d.csv"}})");
+    EXPECT_EQ(Run("millichart check b.json p.json | sed -n 's/: warning: \\(.*\\): an unknown key, ignored/ "
+                  "\\1/p'")
+                  .Output,
+              "b.json:3 rnage; is \"range\" meant?\nb.json:4 data/grups; is \"groups\" meant?\n"
+              "b.json:4 data/csvv; is \"csv\" meant?\nb.json:5 data/groups/0/nmae; is \"name\" meant?\n"
+              "b.json:6 data/groups/1/value; is \"values\" meant?\n"
+              "b.json:7 range/InitializeValuRange; is \"InitializeValueRange\" meant?\n"
+              "p.json:1 data/cvs; is \"csv\" meant?\n");
+}
+
+TEST_F(Check, SaysThatItKeepsOnlySoManyMessages) {
+    std::string values = "\"x\"";
+    std::string rows = "a,x\n";
+    for (int i = 0; i < 10004; ++i) {
+        values += ",\"x\"";
+        rows += "a,x\n";
+    }
+    Write("b.json", Pie("", "\"data\": {\"values\": [" + values + "]}"));
+    Write("c.json", Pie("", R"("data": {"csv": "d.csv"})"));
+    Write("d.csv", rows);
+    const std::string said = Run("millichart check b.json c.json | grep 'at least'").Output;
+    EXPECT_NE(said.find("b.json: and at least "), std::string::npos) << said;
+    EXPECT_NE(said.find("b.json: at least "), std::string::npos) << said;
+    EXPECT_NE(said.find("d.csv: and at least 9950 more\nc.json: at least 10000 errors, 0 warnings, "),
+              std::string::npos)
+        << said;
+    EXPECT_EQ(Run("millichart check --json c.json | grep -c 'and 4 more, which are not told'").Output, "1\n");
+    EXPECT_EQ(Run("millichart check --json b.json | grep -c 'too many problems'").Output, "1\n");
 }
 
 TEST_F(Check, FewMessagesAreShownAndAllOfThemInJson) {

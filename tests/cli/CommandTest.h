@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace cli_test {
 
@@ -33,12 +34,37 @@ protected:
         return outcome;
     }
 
+    /// What `inspect` shows of a document, which becomes h.json, in lines with `key`.
+    std::string Shown(const std::string& document, const std::string& key,
+                      const std::string& options = "") const {
+        Write("h.json", document);
+        const Outcome outcome = Run("millichart inspect h.json " + options + " | grep '\"" + key + "\":'");
+        EXPECT_EQ(outcome.Errors, "");
+        return outcome.Output;
+    }
+
+    /// What `check` says of a document, which becomes h.json, but for notes.
+    std::string Warnings(const std::string& document) const {
+        Write("h.json", document);
+        return Run("millichart check h.json | grep -v note").Output;
+    }
+
 private:
     TemporaryFolder m_folder;
 };
 
-/// The kinds of charts as messages list them.
-inline const std::string kKinds = R"("pie", "histogram")";
+/// The kinds of charts in the command's order.
+inline const std::vector<std::string> kKindNames{
+    "pie", "half-pie", "half-pie-half-pie", "half-pie-histogram", "histogram", "curve"};
+
+/// As messages list them.
+inline const std::string kKinds = [] {
+    std::string kinds;
+    for (const std::string& kind : kKindNames) {
+        kinds += (kinds.empty() ? "\"" : ", \"") + kind + "\"";
+    }
+    return kinds;
+}();
 
 /// A pie of 20 mm that draws without a word.
 inline const char* const kSmallPie =

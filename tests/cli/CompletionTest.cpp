@@ -36,7 +36,7 @@ TEST_F(Completion, BashOffersWhatFits) {
     EXPECT_EQ(Offered("\"\""), "--help --version check draw inspect new ");
     EXPECT_EQ(Offered("dr"), "draw ");
     EXPECT_EQ(Offered("new p"), "pie ");
-    EXPECT_EQ(Offered("new h"), "histogram ");
+    EXPECT_EQ(Offered("new h"), "half-pie half-pie-half-pie half-pie-histogram histogram ");
     EXPECT_EQ(Offered("draw a.json --format s"), "svg ");
     EXPECT_EQ(Offered("draw --ou"), "--outlines --output ");
     EXPECT_EQ(Offered("draw a"), "a.chart.json ");

@@ -33,6 +33,8 @@ TEST_F(CsvFile, IsReadHoweverItWasWritten) {
     EXPECT_EQ(Labels("北,4\n\"South, \"\"far\"\"\",2.5\n"), wanted);
     EXPECT_EQ(Labels("\xEF\xBB\xBFname;value\r\n北;4\r\n\r\n\"South, \"\"far\"\"\" ; 2.5"), wanted);
     EXPECT_EQ(Labels("name, first\tvalue\n北\t\"4\"\nSouth, \"far\"\t2.5\n"), wanted);
+    EXPECT_EQ(Labels("5\" pipe,4\n6\" pipe,1\n"), R"(["5\" pipe;4.0","6\" pipe;1.0"])");
+    EXPECT_EQ(Labels("a\tb,1\nc,2\n"), R"(["a\tb;1.0","c;2.0"])") << "the second line decides";
     EXPECT_EQ(Labels("\"two\nlines\",1\n"), R"(["two\nlines;1.0"])");
     EXPECT_EQ(Labels(",,\nname,value,,\n北,4,,\n ,\n\"South, \"\"far\"\"\",2.5,,,\n,,\n"), wanted)
         << "empty cells and rows as spreadsheet programs write them";

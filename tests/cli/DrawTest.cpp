@@ -116,6 +116,11 @@ TEST_F(Draw, SaysWhereADocumentCannotBeRead) {
     const Outcome missing = Run("millichart draw none.json -o a.png");
     EXPECT_EQ(missing.Status, 1);
     EXPECT_EQ(missing.Errors, "millichart: none.json: cannot be read: No such file or directory\n");
+    Run("truncate -s 2G huge.json; mkfifo pipe");
+    EXPECT_EQ(Run("millichart draw huge.json -o a.png").Errors,
+              "millichart: huge.json: cannot be read: it is larger than 1 GB\n");
+    EXPECT_NE(Complaint(R"({"kind": "pie", "data": {"csv": "pipe"}})").find("it is no file but"),
+              std::string::npos);
     const Outcome folder = Run("millichart draw . -o a.png");
     EXPECT_EQ(folder.Status, 1);
     EXPECT_EQ(folder.Errors, "millichart: .: cannot be read: it is a folder\n");
@@ -229,7 +234,10 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
                                   "draw a.json --background red",
                                   "draw a.json --format gif",
                                   "draw a.json -o a.png --format svg",
+                                  "draw a.json --format a.png",
+                                  "draw a.json --format .png",
                                   "draw a.json -o -",
+                                  "draw - a.json",
                                   "draw -",
                                   "draw - - --format png -o x",
                                   "draw a.json a.json -o -",

@@ -1,23 +1,8 @@
 #include "CommandTest.h"
 
+using Histogram = cli_test::CommandTest;
+
 namespace {
-
-class Histogram : public cli_test::CommandTest {
-protected:
-    /// One line of what `inspect` shows.
-    std::string Shown(const std::string& document, const std::string& key,
-                      const std::string& options = "") const {
-        Write("h.json", document);
-        const Outcome outcome = Run("millichart inspect h.json " + options + " | grep '\"" + key + "\":'");
-        EXPECT_EQ(outcome.Errors, "");
-        return outcome.Output;
-    }
-
-    std::string Warnings(const std::string& document) const {
-        Write("h.json", document);
-        return Run("millichart check h.json | grep -v note").Output;
-    }
-};
 
 /// Bars of 30 mm for 30, without labels; what is over the axis is `rest`.
 std::string Bars(const std::string& plot, const std::string& rest) {
@@ -79,6 +64,51 @@ TEST_F(Histogram, WarnsOfWhatWasHardlyMeant) {
         "name\n"
         "h.json:3: warning: data/groups/1/values/0: this and 2 other values lie outside the value axis, "
         "which goes from 0 to 50\n");
+    const std::string text = R"("data": {"groups": [{"values": [0.0002, 0.0001]}, {"values": []}]})";
+    EXPECT_EQ(
+        Warnings(Bars(R"(, "PlotWidth": 0.15, "GroupDistane": -0.5)", text)),
+        "h.json:2: warning: property/HistogramPlotProp/GroupDistane: the bars of neighbouring groups "
+        "overlap\n"
+        "h.json: warning: range: the largest bar takes less than 1 % of the value axis, which goes from 0 "
+        "to 1; NaturalValueRange sets another\n");
+    EXPECT_EQ(Warnings(Bars("", R"("data": {"groups": [{"values": [null]}]})")),
+              "h.json:3: warning: data/groups: found nothing to draw, expected a group with values\n");
+    std::string values = "1";
+    for (int i = 0; i < 20; ++i) {
+        values += ",1";
+    }
+    EXPECT_EQ(
+        Warnings(Bars(R"(, "PlotWidth": 1, "GroupDistane": 0)",
+                      "\"data\": {\"groups\": [{\"values\": [" + values + "]}]}")),
+        "h.json:2: warning: property/HistogramPlotProp/PlotWidth: each bar is only 0.04761905 mm wide\n");
+}
+
+TEST_F(Histogram, SaysWhatIsDoubtfulWhereItStandsInTheTable) {
+    Write("d.csv", "year,2023,2024\n\nnorth,-2,61.00001\nsouth,50,\n");
+    EXPECT_EQ(
+        Warnings(Bars("", R"("data": {"csv": "d.csv"}, "range": {"NaturalValueRange": [0, 61, 10, 2]})")),
+        "d.csv:1: warning: taken as the heading with the components' names, though they are numbers; with "
+        "an empty first cell it is no doubt one\n"
+        "d.csv:3: warning: column 2: this and 1 other value lie outside the value axis, which goes from 0 "
+        "to 61\n");
+}
+
+TEST_F(Histogram, ATableReplacesGroupsOfAnyForm) {
+    Write("d.csv", "year,a\n2023,1\n");
+    for (const char* groups : {"[]", "[{\"values\": [3]}]"}) {
+        Shown(Bars("", std::string(R"("data": {"groups": )") + groups + "}"), "componentWidth",
+              "--data d.csv");
+    }
+    Write("h.json", Bars("", R"("data": {"groups": {}, "csv": "d.csv"})"));
+    EXPECT_EQ(Run("millichart draw h.json").Errors,
+              "millichart: h.json:3: data/groups: found {}, expected a list of groups, each with a name and "
+              "values\n"
+              "millichart: h.json:3: data/csv: found \"d.csv\", expected either groups or csv, not both\n");
+    Write("h.json", Bars("", R"("data": {"groups": [3, "a", null]})"));
+    EXPECT_EQ(Run("millichart draw h.json --data d.csv").Errors,
+              "millichart: h.json:3: data/groups/0: found 3, expected a group\n"
+              "millichart: h.json:3: data/groups/1: found \"a\", expected a group\n"
+              "millichart: h.json:3: data/groups/2: found null, expected a group\n");
 }
 
 TEST_F(Histogram, LabelsBesideTheLastBarStandOnThePage) {

@@ -36,9 +36,8 @@ TEST_F(Inspect, AFailureShowsNothing) {
     const Outcome outcome = Run("millichart inspect i.json");
     EXPECT_EQ(outcome.Status, 1);
     EXPECT_EQ(outcome.Output, "");
-    EXPECT_EQ(
-        outcome.Errors,
-        "millichart: i.json: found nothing to draw, expected values in data/values and a size above 0\n");
+    EXPECT_EQ(outcome.Errors,
+              "millichart: i.json:1: data/values: found nothing to draw, expected a number for each slice\n");
 }
 
 TEST_F(Inspect, ShortFormsGiveNamesAndColours) {

@@ -3,15 +3,28 @@
 using New = cli_test::CommandTest;
 
 TEST_F(New, EveryKindIsCompleteAndDraws) {
-    for (const std::string kind : {"pie", "histogram"}) {
+    const std::string complete = "n.json: 0 errors, 0 warnings, 0 notes\n";
+    const std::string withoutRange = "n.json: note: range: missing, found from the largest value\n"
+                                     "n.json: 0 errors, 0 warnings, 1 note\n";
+    for (const std::string& kind : cli_test::kKindNames) {
         const Outcome outcome = Run("millichart new " + kind +
-                                    " -o n.json && millichart check n.json && "
+                                    " --force -o n.json && millichart check n.json && "
                                     "millichart draw n.json && millichart new " +
                                     kind + " | cmp - n.json");
-        EXPECT_EQ(outcome.Status, 0);
-        EXPECT_EQ(outcome.Errors, "");
-        EXPECT_EQ(outcome.Output, "n.json: 0 errors, 0 warnings, 0 notes\n") << "no key is missing";
+        EXPECT_EQ(outcome.Status, 0) << kind;
+        EXPECT_EQ(outcome.Errors, "") << kind;
+        EXPECT_EQ(outcome.Output, kind.ends_with("histogram") ? withoutRange : complete)
+            << "no key is missing that would not be wrong as soon as the data change";
     }
+}
+
+TEST_F(New, LeavesAFileAloneThatIsThere) {
+    Write("n.json", "mine");
+    const Outcome outcome = Run("millichart new pie -o n.json");
+    EXPECT_EQ(outcome.Status, 1);
+    EXPECT_EQ(outcome.Errors, "millichart: n.json: is there already; with --force it is written over\n");
+    EXPECT_EQ(Read("n.json"), "mine");
+    EXPECT_EQ(Run("millichart new pie -o /dev/stdout | head -1").Output, "{\n");
 }
 
 TEST_F(New, OtherKindsAreRefused) {

@@ -19,6 +19,26 @@ TEST_F(Output, IsOldAndWholeAfterAFailure) {
     EXPECT_EQ(Run("ls").Output, "broken.json\ngood.json\np.png\n") << "nothing is left behind";
 }
 
+TEST_F(Output, LeavesNothingUnfinishedWhenItIsEnded) {
+    Write("g.json", kSmallPie);
+    const std::string preloaded = "LD_PRELOAD=" MILLICHART_ENDED_BY_RENAME " ";
+    if (Run(preloaded + "millichart --version").Status != 0) {
+        GTEST_SKIP() << "nothing can be preloaded into this build";
+    }
+    EXPECT_EQ(Run(preloaded + "millichart draw g.json; echo $?").Output, "143\n") << "ended by the signal";
+    EXPECT_EQ(Run("ls -A").Output, "g.json\n");
+}
+
+TEST_F(Output, GoesWhereALinkLeads) {
+    Write("g.json", kSmallPie);
+    fs::create_directories(File("far"));
+    Run("ln -s far/new.png link.png; ln -s round.png round.png");
+    EXPECT_EQ(Run("millichart draw g.json -o link.png").Errors, "");
+    EXPECT_EQ(Run("readlink link.png; ls far").Output, "far/new.png\nnew.png\n");
+    EXPECT_EQ(Run("millichart draw g.json -o round.png").Errors,
+              "millichart: round.png: cannot be written: too many links lead from one to the next\n");
+}
+
 TEST_F(Output, SaysWhyItCannotBeWritten) {
     Write("g.json", kSmallPie);
     Write("file", "");

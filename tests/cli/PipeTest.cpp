@@ -26,6 +26,20 @@ TEST_F(Pipe, CheckAndInspectReadItToo) {
         << outcome.Output;
 }
 
+TEST_F(Pipe, ATerminalGetsNoBytesOfAPicture) {
+    if (Run("script -qec true /dev/null").Status != 0) {
+        GTEST_SKIP() << "script(1) is missing or cannot make a terminal here";
+    }
+    Write("1.json", kSmallPie);
+    for (const std::string arguments : {"1.json --format png -o -", "- --format pdf <1.json"}) {
+        const Outcome outcome = Run("script -qec 'millichart draw " + arguments + "' /dev/null");
+        EXPECT_EQ(outcome.Output,
+                  "millichart: standard output: is a terminal; expected -o FILE, or a pipe\r\n");
+    }
+    EXPECT_NE(Run("script -qec 'millichart draw 1.json --format svg -o -' /dev/null").Output.find("<svg"),
+              std::string::npos);
+}
+
 TEST_F(Pipe, ProgressIsShownOnATerminalAlone) {
     if (Run("script -qec true /dev/null").Status != 0) {
         GTEST_SKIP() << "script(1) is missing or cannot make a terminal here";

@@ -5,7 +5,7 @@
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
-#include "support/Texts.h"
+#include "support/SomeRecords.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -13,41 +13,6 @@
 using namespace millichart;
 using penlode::CBinarySerialize;
 using penlode::CJsonSerializeStream;
-
-namespace {
-
-CaptionProp SomeCaption() {
-    CaptionProp caption;
-    caption.ShowCaption = 1;
-    caption.Caption = Narrow(L"2022 年发电量\n(TWh)");
-    TextProperty& text = caption.CaptionTextProperty;
-    text.Font =
-        penlode::Font{L"Times New Roman", 3.25F, penlode::FontStyle::Bold | penlode::FontStyle::Italic};
-    text.TextColor = penlode::Color{0x80102030};
-    text.EdgeColor = penlode::Color{0xFF00FF00};
-    text.BkColor = penlode::Color{0x00FFFFFF};
-    text.DrawEdge = 7;
-    text.DrawBackGround = 1;
-    text.Prefix = "<";
-    text.Postfix = Narrow(L"》|\\");
-    text.Angle = -45;
-    return caption;
-}
-
-LegendProp SomeLegend() {
-    LegendProp legend;
-    legend.ShowLegend = 1;
-    legend.LegendPos = LegendPosition::TopCenter;
-    legend.ShowEdge = 0;
-    legend.PenEdge = penlode::Pen(penlode::Color{0xFF123456}, 0.35F, penlode::DashStyle::Dot);
-    legend.ShowBackground = 1;
-    legend.BackgroundColor = penlode::Color{0xFFABCDEF};
-    legend.ItemDist = 2.75F;
-    legend.Font = nullptr;
-    return legend;
-}
-
-} // namespace
 
 TEST(Serialize, KeyedCaptionAsADocument) {
     CaptionProp caption = SomeCaption();

@@ -4,7 +4,7 @@
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Records.h"
-#include "support/Texts.h"
+#include "support/SomeRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -14,48 +14,6 @@ using penlode::CJsonSerializeStream;
 using penlode::Color;
 
 namespace {
-
-/// What belongs to this record alone differs from field to field and from both kinds of default.
-CurveProp SomeCurves() {
-    CurveProp prop;
-    prop.Caption.Caption = Narrow(L"水深");
-    prop.VerAxis.MinorScaleStyle = ScaleStyle::Inner;
-    prop.VerAxis.VerCaption = "m";
-    CurveHorAxisProp& hor = prop.HorAxis;
-    hor.ShowHorAxis = 2;
-    hor.HorAxisPen = penlode::Pen(Color{0xFF000001}, 0.3F);
-    hor.ScaleStyle = ScaleStyle::Cross;
-    hor.ScaleStep = 3;
-    hor.ShowLabel = 0;
-    hor.LabelStep = 4;
-    hor.HorLabelTextProperty.Angle = 45;
-    hor.ShowVerGrid = 5;
-    hor.VerGridStep = 6;
-    hor.VerGridPen = penlode::Pen(Color{0xFF000002}, 0.4F, penlode::DashStyle::Dot);
-    hor.ShowHorCaption = 7;
-    hor.HorCaption = "year";
-    hor.HorCaptionTextProperty.Angle = 90;
-    CurvePlotProp& plot = prop.Plot;
-    plot.ShowBackground = 0;
-    plot.PlotBackgroundColor = Color{0xFFFAFAFA};
-    plot.ShowEdge = 8;
-    plot.EdgePen = penlode::Pen(Color{0xFF000003}, 0.5F);
-    plot.CurveName = {Narrow(L"东"), "", "W"};
-    plot.CurveColor = {Color{0xFF4472C4}, Color{0x80ED7D31}, Color{0xFF000004}};
-    plot.CurveWidth = {0.25F, 0.5F, 0.0F};
-    plot.CurveDashStyle = {0, 4, -2};
-    plot.CurveDotStyle = {CurveDotStyle::None, CurveDotStyle::HollowInvertedTriangle,
-                          CurveDotStyle::SolidSquare};
-    plot.CurveDotColor = {Color{0xFF000005}, Color{0xFF000006}, Color{0xFF000007}};
-    plot.CurveDotWidth = {1.5F, 2.0F, 3.25F};
-    plot.NullValueStyle = {CurveNullValueStyle::AsZero, CurveNullValueStyle::Break,
-                           CurveNullValueStyle::AsZero};
-    plot.PlotWidth = 120.5F;
-    plot.PlotHeight = 60.25F;
-    plot.LogarithmScale = 9;
-    prop.Legend.LegendPos = LegendPosition::TopRight;
-    return prop;
-}
 
 CurveProp Loaded(CJsonSerializeStream& stream) {
     CurveProp prop = SomeCurves();

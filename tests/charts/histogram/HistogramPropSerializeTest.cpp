@@ -4,7 +4,7 @@
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Records.h"
-#include "support/Texts.h"
+#include "support/SomeRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -14,60 +14,6 @@ using penlode::CJsonSerializeStream;
 using penlode::Color;
 
 namespace {
-
-/// Every field differs from its neighbours and from both kinds of default.
-HistogramProp SomeHistogram() {
-    HistogramProp prop;
-    prop.Caption.ShowCaption = 1;
-    prop.Caption.Caption = Narrow(L"发电量");
-    prop.Caption.CaptionTextProperty.Angle = 1;
-    HistogramVerAxisProp& ver = prop.VerAxis;
-    ver.ShowVerAxis = 2;
-    ver.MajorScaleStyle = ScaleStyle::Cross;
-    ver.MinorScaleStyle = ScaleStyle::Inner;
-    ver.VerAxisPen = penlode::Pen(Color{0xFF000001}, 0.3F);
-    ver.ShowVerAxisLabel = 0;
-    ver.VerAxisLabelTextProperty.Angle = 2;
-    ver.ShowHorMajorGrid = 0;
-    ver.HorMajorGridPen = penlode::Pen(Color{0xFF000002}, 0.4F, penlode::DashStyle::Dash);
-    ver.ShowHorMinorGrid = 3;
-    ver.HorMinorGridPen = penlode::Pen(Color{0xFF000003}, 0.5F, penlode::DashStyle::Dot);
-    ver.ShowVerCaption = 4;
-    ver.VerCaption = "TWh";
-    ver.VerCaptionTextProperty.Angle = 90;
-    HistogramHorAxisProp& hor = prop.HorAxis;
-    hor.ShowHorAxis = 5;
-    hor.HorAxisPen = penlode::Pen(Color{0xFF000004}, 0.6F);
-    hor.ScaleStyle = ScaleStyle::None;
-    hor.ShowGroupName = 6;
-    hor.GroupNameTextProperty.Angle = 3;
-    hor.ShowVerGrid = 0;
-    hor.VerGridPen = penlode::Pen(Color{0xFF000005}, 0.7F);
-    hor.ShowHorCaption = 7;
-    hor.HorCaption = "year";
-    hor.HorCaptionTextProperty.Angle = 4;
-    HistogramPlotProp& plot = prop.Plot;
-    plot.ShowBackground = 0;
-    plot.PlotBackgroundColor = Color{0xFFFAFAFA};
-    plot.ShowEdge = 8;
-    plot.EdgePen = penlode::Pen(Color{0xFF000006}, 0.8F);
-    plot.ComponentName = {Narrow(L"水|力"), "", "wind"};
-    plot.ComponentColor = {Color{0xFF4472C4}, Color{0x80ED7D31}};
-    plot.ShowComponentName = 9;
-    plot.ShowComponentValue = 10;
-    plot.ConponentInfoInSingleRow = 0;
-    plot.ConponentInfoSeparator = Narrow(L"：");
-    plot.ComponentInfoTextProperty.Angle = 5;
-    plot.PlotWidth = 120.5F;
-    plot.PlotHeight = 60.25F;
-    plot.GroupDistane = 4.5F;
-    plot.Juxtaposition = 0;
-    plot.PieStyle = BarStyle::WithDepth;
-    plot.LogarithmScale = 11;
-    prop.Legend.ShowLegend = 12;
-    prop.Legend.LegendPos = LegendPosition::TopRight;
-    return prop;
-}
 
 HistogramProp Loaded(const char* json) {
     CJsonSerializeStream stream(json);

@@ -4,7 +4,7 @@
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
-#include "support/Texts.h"
+#include "support/SomeRecords.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -15,22 +15,6 @@ using penlode::CJsonSerializeStream;
 using penlode::Color;
 
 namespace {
-
-HalfPieProp SomeHalf() {
-    HalfPieProp prop;
-    prop.Basic.WhichPart = HalfPiePart::Lower;
-    prop.Basic.DrawSepLine = 0;
-    prop.Basic.PenSepLine = penlode::Pen(penlode::kWhite, 0.4F, penlode::DashStyle::Dot);
-    prop.Basic.FixedSize = 1;
-    prop.Basic.FixedWidth = 42.5F;
-    prop.Basic.BaseValue = 250.0F;
-    prop.Basic.BasePieWidth = 0.1F;
-    prop.Basic.ComponentName = {Narrow(L"煤炭"), "Oil"};
-    prop.Basic.ComponentColor = {Color{0xFF404040}};
-    prop.Label.ShowValueLabel = 1;
-    prop.Label.DistBetweenLabelCenterAndPieCenter = 3.5F;
-    return prop;
-}
 
 HalfPieProp Loaded(const char* json) {
     CJsonSerializeStream stream(json);

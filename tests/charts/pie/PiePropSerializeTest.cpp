@@ -3,7 +3,7 @@
 #include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
-#include "support/Texts.h"
+#include "support/SomeRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -13,34 +13,6 @@ using penlode::CJsonSerializeStream;
 using penlode::Color;
 
 namespace {
-
-PieProp SomePie() {
-    PieProp prop;
-    PieBasicProp& basic = prop.Basic;
-    basic.PieStyle = PieStyle::Flat;
-    basic.FixedSize = 1;
-    basic.FixedWidth = 42.5F;
-    basic.BaseValue = 1e6F;
-    basic.BasePieWidth = 0.1F;
-    basic.StartAngle = -90.0F;
-    basic.DrawSepLine = 0;
-    basic.PenSepLine = penlode::Pen(penlode::kWhite, 0.4F, penlode::DashStyle::DashDotDot);
-    basic.ComponentName = {Narrow(L"煤炭"), "Oil | gas", ""};
-    basic.ComponentColor = {Color{0xFF404040}, Color{0x80C08040}};
-    PieLabelProp& label = prop.Label;
-    label.ShowNameLabel = 1;
-    label.ShowValueLabel = 2;
-    label.ShowPercentLabel = 1;
-    label.LabelsInSingleRow = 0;
-    label.LabelSeparator = Narrow(L"：");
-    label.PieLabelTextProperty.Angle = 15;
-    label.DistBetweenLabelCenterAndPieCenter = 3.5F;
-    label.ShowLabelLeadLine = 0;
-    label.LabelLeadLinePen = penlode::Pen(Color{0xFF00FF00}, 0.0F);
-    prop.Legend.ShowLegend = 1;
-    prop.Legend.LegendPos = LegendPosition::BottomCenter;
-    return prop;
-}
 
 PieProp Loaded(const char* json) {
     CJsonSerializeStream stream(json);

@@ -1,0 +1,87 @@
+#include "CommandTest.h"
+
+#include <sstream>
+
+namespace {
+
+class Curve : public cli_test::CommandTest {
+protected:
+    /// One entry of what `inspect` shows of the layout.
+    std::string Shown(const std::string& document, const std::string& key,
+                      const std::string& options = "") const {
+        Write("c.json", document);
+        const Outcome outcome = Run("millichart inspect c.json " + options + " | grep '\"" + key + "\":'");
+        EXPECT_EQ(outcome.Errors, "");
+        const std::size_t begin = outcome.Output.find(": ");
+        return begin == std::string::npos ? outcome.Output : outcome.Output.substr(begin + 2);
+    }
+
+    /// The texts of the horizontal axis that are drawn.
+    std::string Labels(const std::string& document) const {
+        Write("c.json", document);
+        std::istringstream calls(
+            Run("millichart inspect c.json | grep -o '\"text\":\"[^\"]*' | cut -d'\"' -f4").Output);
+        std::string all;
+        for (std::string text; std::getline(calls, text);) {
+            all += text + " ";
+        }
+        return all;
+    }
+};
+
+/// A plot of 100 mm x 10 mm over 0 to 10, with no value axis beside it.
+std::string Lines(const std::string& data, const std::string& plot = "") {
+    return R"({"kind": "curve", "property": {"CurvePlotProp": {"PlotWidth": 100, "PlotHeight": 10)" + plot +
+           "}},\n\"range\": {\"InitializeValueRange\": 9},\n\"data\": " + data + "}";
+}
+
+} // namespace
+
+TEST_F(Curve, PlacesTheDocumentsCurves) {
+    EXPECT_EQ(
+        Shown(Lines(R"({"curves": [{"times": [0, 4], "values": [0, 5]}, {"values": [10, null, "2.5"]}]})"),
+              "curves"),
+        "[{\"points\":[[0,10],[100,5]],\"nulls\":[]},{\"points\":[[0,0],[25,10],[50,7.5]],\"nulls\":[1]}]\n");
+}
+
+TEST_F(Curve, ReadsATableOfTimes) {
+    Write("d.csv", "\xEF\xBB\xBFyear;北;South\r\n10;1;\r\n;;\r\n20;2.5;3\r\n30;5\r\n");
+    const std::string document = Lines(R"({"csv": "d.csv"})");
+    EXPECT_EQ(Shown(document, "curves"), "[{\"points\":[[0,9],[50,7.5],[100,5]],\"nulls\":[]},"
+                                         "{\"points\":[[0,10],[50,7],[100,10]],\"nulls\":[0,2]}]\n");
+    EXPECT_EQ(Labels(document), "10 12 14 16 18 20 22 24 26 28 30 ");
+}
+
+TEST_F(Curve, TextsInTheFirstColumnAreLabels) {
+    std::string months = "month,sales\n";
+    for (int i = 1; i <= 24; ++i) {
+        months += "m" + std::to_string(i) + "," + std::to_string(i % 9) + "\n";
+    }
+    Write("d.csv", months);
+    EXPECT_EQ(Labels(Lines(R"({"csv": "d.csv"})")), "m1 m6 m11 m16 m21 ");
+    EXPECT_EQ(Labels(Lines(R"({"csv": "d.csv", "labels": ["a", "b"]})")), "a b ");
+    Write("d.csv", "2020,1\n2021,2\nnext,3\n");
+    Write("c.json", Lines(R"({"csv": "d.csv"})"));
+    EXPECT_EQ(
+        Run("millichart draw c.json").Errors,
+        "millichart: d.csv:3: column 1: found \"next\", expected a whole number, as in the rows above\n");
+}
+
+TEST_F(Curve, TellsWhatItCannotPlace) {
+    Write("c.json", Lines("{\"curves\": [{\"times\": [1, 2.5],\n\"values\": [1, 2, \"x\"]}]}"));
+    EXPECT_EQ(Run("millichart check c.json | grep -v note").Output,
+              "c.json:3: data/curves/0/times: found \"2\", expected 3, one a value\n"
+              "c.json:3: data/curves/0/times/1: found 2.5, expected a whole number within 32 bits\n"
+              "c.json:4: data/curves/0/values/2: found \"x\", expected a number\n");
+    Write("c.json", Lines("{}"));
+    EXPECT_NE(Run("millichart draw c.json").Errors.find("data/curves: found no such key"), std::string::npos);
+}
+
+TEST_F(Curve, AMillionRowsAreDrawnInNoTime) {
+    const std::string rows = "seq 1000000 | awk '{print $1 \",\" ($1 * 7919) % 1000}'";
+    Write("c.json", R"({"kind": "curve", "data": {"csv": "d.csv"}})");
+    const Outcome outcome =
+        Run(rows + " > d.csv; for f in svg pdf png; do millichart draw c.json -o c.$f || exit 1; "
+                   "test $(stat -c %s c.$f) -lt 1000000 || exit 2; done");
+    EXPECT_EQ(outcome.Status, 0) << outcome.Errors;
+}
