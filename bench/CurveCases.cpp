@@ -1,122 +1,88 @@
-#include "ByHand.h"
+#include "MarkersByHand.h"
+#include "Series.h"
 #include "Suite.h"
 #include "penlode/cairo/GraphicsEngine.h"
 
 #include <cmath>
 #include <memory>
-#include <numbers>
 
-/// Twenty curves of 500 points each on a picture of 1600 × 1200, every point with a marker of one of four
-/// kinds: the drawing calls of a line chart, without its axes.
+/// Twenty curves of 500 points each over a whole picture, every point with a marker of one of four kinds.
 namespace bench {
 namespace {
 
-using penlode::PointF;
+constexpr std::uint32_t kCurves = 20;
+constexpr std::int32_t kPoints = 500;
+constexpr byhand::Marker kMarkers[] = {byhand::Marker::SolidSquare, byhand::Marker::SolidCircle,
+                                       byhand::Marker::HollowCircle, byhand::Marker::SolidTriangle};
 
-constexpr int kWidth = 1600;
-constexpr int kHeight = 1200;
-constexpr float kLineWidth = 3.0F;
-constexpr float kRadius = 5.0F;
-constexpr float kMarkerLine = 2.0F;
+Series Wave(std::uint32_t which) {
+    Series wave;
+    for (std::int32_t i = 0; i < kPoints; ++i) {
+        wave.Values.push_back(0.5 + std::sin(i * 0.02 * (1.0 + which * 0.1) + which) / 3.0);
+        wave.Times.push_back(i);
+    }
+    return wave;
+}
 
-struct Curve {
-    std::uint32_t Rgb;
-    std::size_t Marker;
-    std::vector<PointF> Points; ///< pixels
-};
-
-std::vector<Curve> Twenty() {
-    std::vector<Curve> curves;
-    for (std::uint32_t c = 0; c < 20; ++c) {
-        Curve curve{0x102030U * (c % 8U) + c, c % 4U, {}};
-        for (int i = 0; i < 500; ++i) {
-            const double wave = std::sin(i * 0.02 * (1.0 + c * 0.1) + c);
-            curve.Points.push_back(
-                {static_cast<float>(50.0 + 3.0 * i), static_cast<float>(600.0 + 400.0 * wave)});
-        }
-        curves.push_back(std::move(curve));
+byhand::MarkedCurves Twenty() {
+    byhand::MarkedCurves curves{{}, 3.0, 10.0, 1.0};
+    for (std::uint32_t i = 0; i < kCurves; ++i) {
+        curves.Curves.push_back({Wave(i), 0x102030U * (i % 8U) + i, kMarkers[i % 4U]});
     }
     return curves;
 }
 
-void DrawMarkers(penlode::CGraphicsEngine& engine, const Curve& curve) {
-    const penlode::SolidBrush brush{{0xFF000000U | curve.Rgb}};
-    const penlode::Pen pen(brush.FillColor, kMarkerLine);
-    constexpr float r = kRadius;
-    for (const PointF p : curve.Points) {
-        switch (curve.Marker) {
-        case 0:
-            engine.FillRectangle(&brush, p.X - r, p.Y - r, 2 * r, 2 * r);
-            break;
-        case 1:
-            engine.FillEllipse(&brush, p.X - r, p.Y - r, 2 * r, 2 * r);
-            break;
-        case 2:
-            engine.DrawEllipse(&pen, p.X - r, p.Y - r, 2 * r, 2 * r);
-            break;
-        default:
-            const PointF triangle[] = {{p.X, p.Y - r}, {p.X - r, p.Y + r}, {p.X + r, p.Y + r}};
-            engine.FillPolygon(&brush, triangle, 3);
-        }
+std::int32_t StyleOf(byhand::Marker marker) {
+    using namespace millichart;
+    switch (marker) {
+    case byhand::Marker::SolidSquare:
+        return CurveDotStyle::SolidSquare;
+    case byhand::Marker::SolidCircle:
+        return CurveDotStyle::SolidCircle;
+    case byhand::Marker::HollowCircle:
+        return CurveDotStyle::HollowCircle;
+    default:
+        return CurveDotStyle::SolidTriangle;
     }
 }
 
-std::size_t ByEngine(const std::vector<Curve>& curves) {
-    // 25.4 dots per inch: a millimetre is a pixel.
-    const auto engine = penlode::CGraphicsEngine::ForRaster({kWidth, kHeight}, 25.4, penlode::kWhite);
-    for (const Curve& curve : curves) {
-        const penlode::Pen pen({0xFF000000U | curve.Rgb}, kLineWidth);
-        engine->DrawLines(&pen, curve.Points.data(), static_cast<std::int32_t>(curve.Points.size()));
-        DrawMarkers(*engine, curve);
+/// A hollow marker's outline is 0.2 mm wide, which on this picture is the thinnest line, one pixel.
+millichart::CurveProp RecordOf(const byhand::MarkedCurves& curves) {
+    millichart::CurveProp prop = BareRecord();
+    for (const byhand::MarkedCurve& curve : curves.Curves) {
+        const penlode::Color color{0xFF000000U | curve.Color};
+        prop.Plot.CurveName.push_back("curve");
+        prop.Plot.CurveColor.push_back(color);
+        prop.Plot.CurveWidth.push_back(static_cast<float>(curves.LineWidth));
+        prop.Plot.CurveDotStyle.push_back(StyleOf(curve.Kind));
+        prop.Plot.CurveDotColor.push_back(color);
+        prop.Plot.CurveDotWidth.push_back(static_cast<float>(curves.MarkerWidth));
     }
+    return prop;
+}
+
+std::size_t ChartPng(std::vector<Series> data, const millichart::CurveProp& prop) {
+    millichart::CBasicCurve chart = ChartOf(std::move(data), prop);
+    chart.Layout();
+    const auto engine = PictureEngine();
+    chart.Draw(engine.get());
     return engine->EncodePng().size();
-}
-
-void DrawMarkers(cairo_t* c, const Curve& curve) {
-    constexpr double r = kRadius;
-    for (const PointF p : curve.Points) {
-        const double x = static_cast<double>(p.X);
-        const double y = static_cast<double>(p.Y);
-        if (curve.Marker == 0) {
-            cairo_rectangle(c, std::round(x - r), std::round(y - r), 2 * r, 2 * r);
-        } else if (curve.Marker == 3) {
-            cairo_move_to(c, x, y - r);
-            cairo_line_to(c, x - r, y + r);
-            cairo_line_to(c, x + r, y + r);
-        } else {
-            cairo_arc(c, x, y, r, 0.0, 2.0 * std::numbers::pi);
-        }
-        if (curve.Marker == 2) {
-            cairo_stroke(c);
-        } else {
-            cairo_fill(c);
-        }
-    }
-}
-
-std::size_t ByHand(const std::vector<Curve>& curves) {
-    const byhand::Picture picture(kWidth, kHeight);
-    cairo_t* c = picture.Context.get();
-    for (const Curve& curve : curves) {
-        cairo_set_source_rgb(c, (curve.Rgb >> 16U) / 255.0, (curve.Rgb >> 8U & 0xFFU) / 255.0,
-                             (curve.Rgb & 0xFFU) / 255.0);
-        cairo_set_line_width(c, static_cast<double>(kLineWidth));
-        for (const PointF p : curve.Points) {
-            cairo_line_to(c, static_cast<double>(p.X), static_cast<double>(p.Y));
-        }
-        cairo_stroke(c);
-        cairo_set_line_width(c, static_cast<double>(kMarkerLine));
-        DrawMarkers(c, curve);
-    }
-    return byhand::EncodePng(picture).size();
 }
 
 } // namespace
 
 void AddCurveCases(Suite& suite) {
-    const auto curves = std::make_shared<const std::vector<Curve>>(Twenty());
-    suite.Add("20 curves of 500, PNG", [curves] { return ByEngine(*curves); });
-    suite.Add("20 curves of 500, PNG by hand", [curves] { return ByHand(*curves); });
+    const auto curves = std::make_shared<const byhand::MarkedCurves>(Twenty());
+    const auto prop = std::make_shared<const millichart::CurveProp>(RecordOf(*curves));
+    suite.AddPrepared("20 curves of 500, PNG", [curves, prop] {
+        const auto data = std::make_shared<std::vector<Series>>();
+        for (const byhand::MarkedCurve& curve : curves->Curves) {
+            data->push_back(curve.Data);
+        }
+        return [data, prop] { return ChartPng(std::move(*data), *prop); };
+    });
+    suite.Add("20 curves of 500, PNG by hand",
+              [curves] { return byhand::MarkedCurvesPng(*curves, kPictureWidth, kPictureHeight).size(); });
     suite.Compare("20 curves of 500, PNG / by hand", "20 curves of 500, PNG", "20 curves of 500, PNG by hand",
                   1.5);
 }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What is measured: pairs of ways to the same result, one of which is to take no longer than a multiple of
@@ -12,6 +13,12 @@ namespace bench {
 /// Makes a picture or a document and gives its size in bytes.
 using Way = std::function<std::size_t()>;
 
+struct NamedWay {
+    std::string Name;
+    std::function<Way()> Prepare; ///< makes what the next run takes; its time does not count
+    std::size_t Parts = 1;        ///< the time told is that of one of so many equal parts
+};
+
 struct Comparison {
     std::string Name;
     std::string Measured; ///< names of ways
@@ -19,25 +26,30 @@ struct Comparison {
     double Bound; ///< of the time of the one, in times of the other
 };
 
-struct NamedWay {
-    std::string Name;
-    Way Run;
-};
-
 struct Suite {
     std::vector<NamedWay> Ways;
     std::vector<Comparison> Comparisons;
 
     /// A way may stand in several comparisons.
-    void Add(std::string name, Way way) { Ways.push_back({std::move(name), std::move(way)}); }
+    void Add(std::string name, Way way) {
+        AddPrepared(std::move(name), [way = std::move(way)] { return way; });
+    }
+
+    /// `prepare` gives a way that runs once.
+    void AddPrepared(std::string name, std::function<Way()> prepare, std::size_t parts = 1) {
+        Ways.push_back({std::move(name), std::move(prepare), parts});
+    }
 
     void Compare(std::string name, std::string measured, std::string reference, double bound) {
         Comparisons.push_back({std::move(name), std::move(measured), std::move(reference), bound});
     }
 };
 
+void AddParseCases(Suite& suite);
 void AddLineCases(Suite& suite);
+void AddLayoutCases(Suite& suite);
 void AddPieCases(Suite& suite);
+void AddBarCases(Suite& suite);
 void AddCurveCases(Suite& suite);
 
 } // namespace bench

@@ -23,6 +23,11 @@ RoundMaximum RoundAbove(double value) {
     }
 }
 
+/// A value's place, in a form that is made inline in the loops over many.
+float PlaceOf(double value, double min, double max, double length) {
+    return static_cast<float>((value - min) * length / (max - min));
+}
+
 bool IsStep(double step) {
     return std::isfinite(step) && step > 0.0;
 }
@@ -65,7 +70,7 @@ void CNaturalCoordinate::RebuildTicks() {
 }
 
 float CNaturalCoordinate::ValueToPosition(double value) const {
-    return static_cast<float>((value - m_min) * m_length / (m_max - m_min));
+    return PlaceOf(value, m_min, m_max, m_length);
 }
 
 void CNaturalCoordinate::GetMajorTickPositions(std::vector<float>& positions) const {
@@ -101,10 +106,11 @@ void CNaturalCoordinate::GetTickLabels(std::vector<std::string>& labels) const {
     }
 }
 
-/// The call to the final function is made inline here.
 void CNaturalCoordinate::ValuesToPositions(std::span<const double> values, std::span<float> positions) const {
     std::transform(values.begin(), values.end(), positions.begin(),
-                   [this](double value) { return ValueToPosition(value); });
+                   [min = m_min, max = m_max, length = m_length](double value) {
+                       return PlaceOf(value, min, max, length);
+                   });
 }
 
 } // namespace millichart

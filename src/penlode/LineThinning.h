@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <limits>
 #include <span>
+#include <utility>
 
 /// Thins a polyline to what a surface can show, without a copy of it.
 ///
@@ -34,24 +35,6 @@ struct ThinningGrid {
 inline constexpr double kDocumentColumnsPerInch = 600.0;
 
 namespace thinning {
-
-/// Places in the list of a column's points.
-struct Extremes {
-    std::size_t First = 0;
-    std::size_t Lowest = 0;
-    std::size_t Highest = 0;
-
-    /// Hands the column's points to `visit`, each once.
-    template <class Visit> void Report(std::size_t last, Visit&& visit) const {
-        const std::array<std::size_t, 4> places{First, std::min(Lowest, Highest), std::max(Lowest, Highest),
-                                                last};
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            if (i == 0 || places[i] != places[i - 1]) {
-                visit(places[i]);
-            }
-        }
-    }
-};
 
 /// A stretch from its left edge on and up to its right.
 template <class Number> struct Stretch {
@@ -109,73 +92,150 @@ struct DeviceView {
     }
 };
 
-/// A column, its lowest and its highest point so far.
-template <class Number> struct Box {
-    Stretch<Number> Column;
-    Number Low;
-    Number High;
-};
-
-/// Points that are looked at without a branch between them, so that a compiler looks at several at once; g++
-/// unrolls shorter loops instead.
+/// Points that are looked at without a branch between them, so that a compiler looks at several at once.
 inline constexpr std::size_t kBlock = 32;
 
-/// How many of the next points, in whole blocks, lie in the box: of many millions nearly all. What is no
-/// number lies nowhere.
-template <class View, class Number>
-std::size_t CountInside(std::span<const PointF> points, const Box<Number> box, const View& view) {
-    std::size_t count = 0;
-    for (; count + kBlock <= points.size(); count += kBlock) {
-        const PointF* block = points.data() + count;
-        unsigned inside = 1;
-        for (std::size_t i = 0; i < kBlock; ++i) {
-            inside &= static_cast<unsigned>(view.Along(block[i]) >= box.Column.Left) &
-                      static_cast<unsigned>(view.Along(block[i]) < box.Column.Right) &
-                      static_cast<unsigned>(view.Across(block[i]) >= box.Low) &
-                      static_cast<unsigned>(view.Across(block[i]) <= box.High);
+/// Where a block of points lies.
+template <class Number> struct Bounds {
+    Number Left;
+    Number Right;
+    Number Low;
+    Number High;
+    bool AreFinite;
+};
+
+/// The least and the most of two halves of a list, and so on down to one x and one y: a loop over places that
+/// do not depend on each other, where a running minimum would be a chain.
+template <std::size_t Half, class Number>
+void Fold(std::array<Number, kBlock>& least, std::array<Number, kBlock>& most) {
+    for (std::size_t k = 0; k < Half; ++k) {
+        least[k] = least[k] < least[k + Half] ? least[k] : least[k + Half];
+        most[k] = most[k] > most[k + Half] ? most[k] : most[k + Half];
+    }
+    if constexpr (Half > 2) {
+        Fold<Half / 2>(least, most);
+    }
+}
+
+template <class View> auto BoundsOf(const PointF* block, const View& view) {
+    using Number = decltype(view.Along(PointF{}));
+    std::array<Number, 2 * kBlock> places; // x and y by turns, as they lie in memory
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        places[2 * i] = view.Along(block[i]);
+        places[2 * i + 1] = view.Across(block[i]);
+    }
+    std::array<Number, kBlock> least;
+    std::array<Number, kBlock> most;
+    unsigned unordered = 0; // comparisons pass over what is no number
+    for (std::size_t k = 0; k < kBlock; ++k) {
+        least[k] = places[k] < places[k + kBlock] ? places[k] : places[k + kBlock];
+        most[k] = places[k] > places[k + kBlock] ? places[k] : places[k + kBlock];
+        unordered |= static_cast<unsigned>(std::isunordered(places[k], places[k + kBlock]));
+    }
+    Fold<kBlock / 2>(least, most);
+    Bounds<Number> bounds{least[0], most[0], least[1], most[1], unordered == 0};
+    for (const Number bound : {bounds.Left, bounds.Right, bounds.Low, bounds.High}) {
+        bounds.AreFinite = bounds.AreFinite && std::isfinite(bound);
+    }
+    return bounds;
+}
+
+/// Points that follow each other in one column. Of the lowest and the highest it is known from which place
+/// on the first of them is found.
+template <class View> class Column {
+public:
+    using Number = decltype(std::declval<View>().Along(PointF{}));
+
+    Column(std::span<const PointF> points, const View& view, std::size_t first)
+        : m_points(points), m_view(&view), m_stretch(view.ColumnOf(points[first])), m_first(first),
+          m_lowest(first), m_highest(first), m_low(view.Across(points[first])), m_high(m_low) {}
+
+    bool Holds(Number left, Number right) const { return left >= m_stretch.Left && right < m_stretch.Right; }
+
+    /// What lies from `place` on reaches from `low` to `high`.
+    void Take(std::size_t place, Number low, Number high) {
+        if (low < m_low) {
+            m_low = low;
+            m_lowest = place;
         }
-        if (inside == 0) {
-            break;
+        if (high > m_high) {
+            m_high = high;
+            m_highest = place;
         }
     }
-    return count;
+
+    /// Hands the column's points that stay to `visit`, each once.
+    template <class Visit> void Report(std::size_t last, Visit&& visit) const {
+        const std::size_t lowest = Find(m_low, m_lowest);
+        const std::size_t highest = Find(m_high, m_highest);
+        const std::array<std::size_t, 4> places{m_first, std::min(lowest, highest), std::max(lowest, highest),
+                                                last};
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            if (i == 0 || places[i] != places[i - 1]) {
+                visit(places[i]);
+            }
+        }
+    }
+
+private:
+    std::size_t Find(Number across, std::size_t place) const {
+        while (m_view->Across(m_points[place]) != across) {
+            ++place;
+        }
+        return place;
+    }
+
+    std::span<const PointF> m_points;
+    const View* m_view;
+    Stretch<Number> m_stretch;
+    std::size_t m_first;
+    std::size_t m_lowest;
+    std::size_t m_highest;
+    Number m_low;
+    Number m_high;
+};
+
+/// Takes the points from `first` to `end` one by one. False at a point that is not finite.
+template <class View, class Report>
+bool TakeEach(std::span<const PointF> points, std::size_t first, std::size_t end, const View& view,
+              Column<View>& column, const Report& report) {
+    for (std::size_t i = first; i < end; ++i) {
+        const auto x = view.Along(points[i]);
+        const auto y = view.Across(points[i]);
+        if (!std::isfinite(x) || !std::isfinite(y)) {
+            return false;
+        }
+        if (column.Holds(x, x)) {
+            column.Take(i, y, y);
+        } else {
+            column.Report(i - 1, report);
+            column = Column<View>(points, view, i);
+        }
+    }
+    return true;
 }
 
 /// Reports the places of the points that stay. False, and no more of them, at a point that is not finite.
 template <class View, class Report>
 bool Scan(std::span<const PointF> points, const View& view, const Report& report) {
-    using Number = decltype(view.Along(PointF{}));
-    Box<Number> box{};
-    Extremes extremes;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        if (i > 0 && i % kBlock == 0) {
-            i += CountInside(points.subspan(i), box, view);
-            if (i == points.size()) {
-                break;
+    if (points.empty()) {
+        return true;
+    }
+    Column<View> column(points, view, 0);
+    for (std::size_t i = 0; i < points.size(); i += kBlock) {
+        const std::size_t end = std::min(i + kBlock, points.size());
+        if (end == i + kBlock) {
+            const auto bounds = BoundsOf(points.data() + i, view);
+            if (bounds.AreFinite && column.Holds(bounds.Left, bounds.Right)) {
+                column.Take(i, bounds.Low, bounds.High);
+                continue;
             }
         }
-        const Number x = view.Along(points[i]);
-        const Number y = view.Across(points[i]);
-        if (!std::isfinite(x) || !std::isfinite(y)) {
+        if (!TakeEach(points, i, end, view, column, report)) {
             return false;
         }
-        if (i == 0 || x < box.Column.Left || x >= box.Column.Right) {
-            if (i > 0) {
-                extremes.Report(i - 1, report);
-            }
-            box = {view.ColumnOf(points[i]), y, y};
-            extremes = {i, i, i};
-        } else if (y < box.Low) {
-            box.Low = y;
-            extremes.Lowest = i;
-        } else if (y > box.High) {
-            box.High = y;
-            extremes.Highest = i;
-        }
     }
-    if (!points.empty()) {
-        extremes.Report(points.size() - 1, report);
-    }
+    column.Report(points.size() - 1, report);
     return true;
 }
 

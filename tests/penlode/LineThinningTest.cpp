@@ -1,5 +1,7 @@
 #include "penlode/LineThinning.h"
 
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <ostream>
 #include <vector>
@@ -62,4 +64,40 @@ TEST(LineThinning, ColumnsAreTheDevices) {
     const std::vector<PointF> kept = Thinned(line, quarterTurn);
     EXPECT_EQ(kept.front(), (PointF{10, 2}));
     EXPECT_LT(kept.size(), line.size());
+}
+
+TEST(LineThinning, LongColumnsKeepWhatTheirPointsAreOneByOne) {
+    // Columns of many lengths that begin at any place, values that repeat, and a step back.
+    std::vector<PointF> line;
+    std::vector<PointF> wanted;
+    for (std::size_t column = 0; column < 9; ++column) {
+        std::vector<PointF> points;
+        for (std::size_t i = 0; i < 20 + column * 37; ++i) {
+            const float x = column == 5 ? 2.5F : static_cast<float>(column) + 0.5F;
+            points.push_back({x + static_cast<float>(i) * 0.001F, static_cast<float>((i * i + column) % 23)});
+        }
+        const auto byHeight = [](PointF a, PointF b) { return a.Y < b.Y; };
+        const auto lowest = std::min_element(points.begin(), points.end(), byHeight);
+        const auto highest = std::max_element(points.begin(), points.end(), byHeight);
+        for (auto p = points.begin(); p != points.end(); ++p) {
+            if (p == points.begin() || p == lowest || p == highest || p + 1 == points.end()) {
+                wanted.push_back(*p);
+            }
+        }
+        line.insert(line.end(), points.begin(), points.end());
+    }
+    EXPECT_EQ(Thinned(line), wanted);
+}
+
+TEST(LineThinning, NoPlaceInALongColumnHidesAPointThatIsNotFinite) {
+    const auto ignore = [](PointD) {};
+    for (const float odd : {NAN, INFINITY, -INFINITY}) {
+        for (std::size_t place = 0; place < 100; ++place) {
+            std::vector<PointF> line(100, PointF{0.5F, 3.0F});
+            line[place].Y = odd;
+            EXPECT_FALSE(ThinLine(line, {}, {1.0, 0.0, 10.0}, ignore)) << odd << " as y at " << place;
+            line[place] = {odd, 3.0F};
+            EXPECT_FALSE(ThinLine(line, {}, {1.0, 0.0, 10.0}, ignore)) << odd << " as x at " << place;
+        }
+    }
 }

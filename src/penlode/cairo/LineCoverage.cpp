@@ -20,11 +20,9 @@ constexpr double kShortestStep = 1.0 / 512.0;
 /// Pixels side by side that are painted at once: what they take stays in the processor's cache.
 constexpr std::size_t kStripe = 64;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-std::size_t Ceiling(double value) {
-    const auto whole = static_cast<std::size_t>(value);
-    return whole + (value > static_cast<double>(whole) ? 1U : 0U);
+std::int32_t Ceiling(double value) {
+    const auto whole = static_cast<std::int32_t>(value);
+    return whole + (value > whole ? 1 : 0);
 }
 
 PointD Plus(PointD a, PointD b, double factor) {
@@ -121,7 +119,7 @@ LineCoverage::LineCoverage(const BoxD& area, const Stroke& stroke, int sectionsP
     : m_area(area), m_radius(stroke.Width / 2.0), m_miterLimit(stroke.MiterLimit),
       m_sectionsPerPixel(sectionsPerPixel),
       m_spans(static_cast<std::size_t>(area.Width()) * static_cast<std::size_t>(sectionsPerPixel)),
-      m_tops(m_spans.Size(), kInfinity), m_bottoms(m_spans.Size(), -kInfinity) {}
+      m_tops(m_spans.Size()), m_bottoms(m_spans.Size()) {}
 
 void LineCoverage::Add(std::span<const PointD> points) {
     std::optional<Segment> before;
@@ -156,8 +154,11 @@ void LineCoverage::AddJoin(const Segment& before, const Segment& after) {
     const double along = a.X * b.X + a.Y * b.Y;
     const double outwards = turn > 0.0 ? -m_radius : m_radius;
     const PointD corner = after.From;
-    const PointD first = Plus(corner, Across(a), outwards);
-    const PointD second = Plus(corner, Across(b), outwards);
+    PointD first = Plus(corner, Across(a), outwards);
+    PointD second = Plus(corner, Across(b), outwards);
+    if (turn > 0.0) {
+        std::swap(first, second);
+    }
     if (m_miterLimit * m_miterLimit * (1.0 + along) >= 2.0) {
         const PointD both{Across(a).X + Across(b).X, Across(a).Y + Across(b).Y};
         AddConvex(std::array{corner, first, Plus(corner, both, outwards / (1.0 + along)), second});
@@ -171,42 +172,36 @@ LineCoverage::Corner LineCoverage::CornerAt(PointD point) const {
     return {x, point.Y - m_area.Top, Ceiling(std::clamp(x, 0.0, static_cast<double>(m_spans.Size())))};
 }
 
-/// Each section that a convex shape has a part in is crossed by two of its edges.
+/// The edges that lead to the right are the shape's bottom, and those that lead back its top: each section
+/// that it has a part in is crossed by one of both.
 void LineCoverage::AddConvex(std::span<const PointD> corners) {
     Corner from = CornerAt(corners.back());
-    std::size_t first = from.Section;
-    std::size_t end = from.Section;
+    std::int32_t first = from.Section;
+    std::int32_t end = from.Section;
     for (const PointD corner : corners) {
         const Corner to = CornerAt(corner);
         if (from.Section < to.Section) {
-            AddEdge(from, to);
+            PutEdge(from, to, m_bottoms);
         } else if (to.Section < from.Section) {
-            AddEdge(to, from);
+            PutEdge(to, from, m_tops);
         }
         first = std::min(first, to.Section);
         end = std::max(end, to.Section);
         from = to;
     }
-    const double height = m_area.Height();
-    const auto fixed = [height](double y) {
-        return static_cast<std::int32_t>(std::clamp(y, 0.0, height) * kPixel + 0.5);
-    };
-    for (std::size_t i = first; i < end; ++i) {
-        const SectionSpans::Span span{fixed(m_tops[i]), fixed(m_bottoms[i])};
-        if (!span.IsEmpty()) {
-            m_spans.Add(i, span);
-        }
-        m_tops[i] = kInfinity;
-        m_bottoms[i] = -kInfinity;
-    }
+    const auto begin = static_cast<std::size_t>(first);
+    const auto count = static_cast<std::size_t>(end - first);
+    m_spans.Add(begin, std::span(m_tops).subspan(begin, count), std::span(m_bottoms).subspan(begin, count));
 }
 
-void LineCoverage::AddEdge(const Corner& left, const Corner& right) {
+void LineCoverage::PutEdge(const Corner& left, const Corner& right,
+                           std::vector<std::int32_t>& heights) const {
     const double slope = (right.Y - left.Y) / (right.X - left.X);
-    for (std::size_t i = left.Section; i < right.Section; ++i) {
-        const double y = left.Y + (static_cast<double>(i) - left.X) * slope;
-        m_tops[i] = std::min(m_tops[i], y);
-        m_bottoms[i] = std::max(m_bottoms[i], y);
+    const double lowest = m_area.Height();
+    std::int32_t* const out = heights.data();
+    for (std::int32_t i = left.Section; i < right.Section; ++i) {
+        const double y = left.Y + (i - left.X) * slope;
+        out[i] = static_cast<std::int32_t>(std::min(std::max(y, 0.0), lowest) * kPixel + 0.5);
     }
 }
 

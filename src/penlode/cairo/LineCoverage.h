@@ -39,13 +39,14 @@ private:
     struct Corner {
         double X;
         double Y;
-        std::size_t Section; ///< the first whose middle lies right of the corner
+        std::int32_t Section; ///< the first whose middle lies right of the corner
     };
 
     void AddSegment(const Segment& segment);
     void AddJoin(const Segment& before, const Segment& after);
+    /// A shape whose corners lead along its bottom to the right and along its top to the left.
     void AddConvex(std::span<const PointD> corners);
-    void AddEdge(const Corner& left, const Corner& right);
+    void PutEdge(const Corner& left, const Corner& right, std::vector<std::int32_t>& heights) const;
     Corner CornerAt(PointD point) const;
 
     BoxD m_area;
@@ -53,8 +54,8 @@ private:
     double m_miterLimit;
     int m_sectionsPerPixel;
     SectionSpans m_spans;
-    std::vector<double> m_tops; ///< of the shape at hand, by sections
-    std::vector<double> m_bottoms;
+    std::vector<std::int32_t> m_tops; ///< of the shape at hand, by sections
+    std::vector<std::int32_t> m_bottoms;
 };
 
 } // namespace penlode

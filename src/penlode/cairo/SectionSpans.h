@@ -1,13 +1,15 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace penlode {
 
 /// An area that is cut into thin upright sections, each of which holds spans from top to bottom. It grows by
-/// one span at a time, in any order.
+/// spans, in any order.
 class SectionSpans {
 public:
     /// Heights grow downwards; without extent where the bottom is not below the top.
@@ -22,16 +24,22 @@ public:
 
     std::size_t Size() const { return m_latest.size(); }
 
-    /// A span with extent.
-    void Add(std::size_t section, Span span) {
-        Span& latest = m_latest[section];
-        if (latest.IsEmpty()) {
-            latest = span;
-        } else if (span.Top <= latest.Bottom && span.Bottom >= latest.Top) {
-            latest.Top = span.Top < latest.Top ? span.Top : latest.Top;
-            latest.Bottom = span.Bottom > latest.Bottom ? span.Bottom : latest.Bottom;
-        } else {
-            Begin(section, span);
+    /// A span in each section from `first` on; those without extent add nothing.
+    void Add(std::size_t first, std::span<const std::int32_t> tops, std::span<const std::int32_t> bottoms) {
+        Span* const latest = m_latest.data() + first;
+        for (std::size_t i = 0; i < tops.size(); ++i) {
+            const Span span{tops[i], bottoms[i]};
+            Span& last = latest[i];
+            if (span.IsEmpty()) {
+                continue;
+            }
+            if (last.IsEmpty()) {
+                last = span;
+            } else if (span.Top <= last.Bottom && span.Bottom >= last.Top) {
+                last = {std::min(last.Top, span.Top), std::max(last.Bottom, span.Bottom)};
+            } else {
+                Begin(first + i, span);
+            }
         }
     }
 
