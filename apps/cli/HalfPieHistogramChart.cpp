@@ -100,7 +100,10 @@ HalfPieHistogramProp ExampleProp() {
     plot.PlotWidth = 60.0F;
     plot.PlotHeight = 30.0F;
     plot.GroupDistane = 0.0F;
-    return prop;
+    // What the chart shows of the record, which has neither axes nor grids.
+    millichart::CBasicHalfPieHistogram chart;
+    chart.SetHalfPieHistogramProp(prop);
+    return chart.GetHalfPieHistogramProp();
 }
 
 } // namespace
