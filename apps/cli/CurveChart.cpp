@@ -133,7 +133,7 @@ private:
             names = data.CurveNames;
         } else if (areMissing) {
             names.assign(m_curves, "");
-        } else if (!data.CurveNames.empty() && data.CurveNames != names) {
+        } else if (!data.File.empty() && !data.CurveNames.empty() && data.CurveNames != names) {
             m_doubts.push_back(OtherNames(kNamesPlace));
         }
     }
@@ -185,43 +185,20 @@ private:
 };
 
 CurveProp ExampleProp() {
-    const penlode::Font font{L"Arial", 3.4F};
-    const penlode::Pen grid(penlode::Color{0xFFD0D0D0}, 0.1F);
+    using namespace millichart;
     CurveProp prop;
-    prop.Caption.ShowCaption = 1;
-    prop.Caption.Caption = "Visitors by month\n";
-    prop.Caption.CaptionTextProperty.Font = penlode::Font{L"Arial", 4.5F};
-    prop.VerAxis.MajorScaleStyle = millichart::ScaleStyle::Inner;
-    prop.VerAxis.MinorScaleStyle = millichart::ScaleStyle::None;
-    prop.VerAxis.VerAxisLabelTextProperty.Font = font;
-    prop.VerAxis.HorMajorGridPen = grid;
-    prop.VerAxis.ShowVerCaption = 1;
-    // The empty lines keep captions off the plot and the labels.
-    prop.VerAxis.VerCaption = "thousand\n";
-    prop.VerAxis.VerCaptionTextProperty.Font = font;
-    prop.VerAxis.VerCaptionTextProperty.Angle = 90;
-    prop.HorAxis.ScaleStyle = millichart::ScaleStyle::Inner;
-    prop.HorAxis.HorLabelTextProperty.Font = font;
-    prop.HorAxis.HorCaptionTextProperty.Font = font;
-    prop.HorAxis.ShowVerGrid = 0;
+    FrameLikeAnExample(prop, "Visitors by month", "thousand");
+    prop.HorAxis.HorLabelTextProperty.Font = kExampleFont;
     prop.Plot.ShowEdge = 0;
     // The blank keeps a name off its sample in the legend.
     prop.Plot.CurveName = {" Museum", " Gardens"};
     prop.Plot.CurveColor = PaletteColors(prop.Plot.CurveName.size());
     prop.Plot.CurveWidth = {0.5F, 0.5F};
     prop.Plot.CurveDashStyle = {0, 0};
-    prop.Plot.CurveDotStyle = {millichart::CurveDotStyle::SolidCircle,
-                               millichart::CurveDotStyle::SolidSquare};
+    prop.Plot.CurveDotStyle = {CurveDotStyle::SolidCircle, CurveDotStyle::SolidSquare};
     prop.Plot.CurveDotColor = prop.Plot.CurveColor;
     prop.Plot.CurveDotWidth = {1.8F, 1.6F};
-    prop.Plot.NullValueStyle = {millichart::CurveNullValueStyle::Break,
-                                millichart::CurveNullValueStyle::Break};
-    prop.Plot.PlotWidth = 110.0F;
-    prop.Plot.PlotHeight = 60.0F;
-    prop.Legend.ShowLegend = 1;
-    prop.Legend.ShowEdge = 0;
-    prop.Legend.ItemDist = 1.0F;
-    prop.Legend.Font = font;
+    prop.Plot.NullValueStyle = {CurveNullValueStyle::Break, CurveNullValueStyle::Break};
     return prop;
 }
 

@@ -61,7 +61,7 @@ void LoadCurves(ChartStream& stream, CurveData& data) {
         data.CurveNames.push_back(hasName ? LoadText(stream, "name", "") : "");
         data.Values.push_back(LoadValues(stream));
         data.Times.push_back(stream.Has("times") ? LoadTimes(stream) : Counted(data.Values.back().size()));
-        if (data.Times.back().size() < data.Values.back().size()) {
+        if (data.Times.back().size() != data.Values.back().size()) {
             stream.Refuse("times", std::to_string(data.Times.back().size()),
                           std::to_string(data.Values.back().size()) + ", one a value");
         }
@@ -102,7 +102,8 @@ CurveData LoadCurveData(ChartStream& stream, const DataSource& source) {
         ReadCurveTable(*table, data);
         data.NamesGoFirst = source.NamedByUser.has_value();
     }
-    if (!labels.empty()) {
+    // Labels belong to the data that they stand beside.
+    if (!labels.empty() && !source.NamedByUser) {
         data.Labels = std::move(labels);
     }
     return data;

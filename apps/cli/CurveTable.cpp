@@ -1,5 +1,6 @@
 #include "CurveTable.h"
 
+#include "Fields.h"
 #include "penlode/StringUtil.h"
 #include "penlode/TextForms.h"
 
@@ -41,7 +42,8 @@ private:
         std::int32_t time = 0;
         const bool isTime = ParseTime(row.Cells.front(), time);
         if (m_width == 0) {
-            m_width = FilledCells(row);
+            // In a heading nothing stands over columns that a spreadsheet program added.
+            m_width = isTime ? row.Cells.size() : FilledCells(row);
             m_data.Values.resize(m_width - 1);
             if (!isTime) {
                 TakeHeading(row);
@@ -60,6 +62,7 @@ private:
     }
 
     void TakeHeading(const CsvRow& row) {
+        m_table.DoubtHeading(row, "the curves' names");
         for (std::size_t column = 1; column < m_width; ++column) {
             m_data.CurveNames.push_back(CStringUtil::Utf8ToAnsi(row.Cells[column]));
         }
@@ -67,12 +70,18 @@ private:
 
     void TakeTime(const CsvRow& row, bool isTime, std::int32_t time) {
         m_hasTimes = m_rows == 0 ? isTime : m_hasTimes;
+        double number = 0.0;
+        if (!isTime &&
+            (ParseNumber(row.Cells.front(), number) || (m_rows == 0 && row.Cells.front().empty()))) {
+            m_table.RefuseCell(row, 0,
+                               "a time, which is a whole number within 32 bits, or a text as a label");
+        }
         if (!m_hasTimes) {
             m_data.Labels.push_back(CStringUtil::Utf8ToAnsi(row.Cells.front()));
             m_times.push_back(m_rows);
             return;
         }
-        if (!isTime) {
+        if (!isTime && !ParseNumber(row.Cells.front(), number)) {
             m_table.RefuseCell(row, 0, kWholeNumber);
         }
         m_times.push_back(time);

@@ -67,6 +67,18 @@ bool DataTable::Number(const CsvRow& row, std::size_t column, const std::string&
     return isNumber;
 }
 
+void DataTable::DoubtHeading(const CsvRow& heading, const std::string& names) {
+    const auto isNumber = [](const std::string& cell) {
+        double number = 0.0;
+        return ParseNumber(cell, number);
+    };
+    const auto end = heading.Cells.begin() + static_cast<std::ptrdiff_t>(FilledCells(heading));
+    if (!heading.Cells.front().empty() && std::all_of(heading.Cells.begin() + 1, end, isNumber)) {
+        Warn(heading, "taken as the heading with " + names +
+                          ", though they are numbers; with an empty first cell it is no doubt one");
+    }
+}
+
 void DataTable::RefuseCell(const CsvRow& row, std::size_t column, const std::string& wanted) {
     const std::string& cell = row.Cells[column];
     double number = 0.0;

@@ -44,6 +44,10 @@ public:
     /// The cell as a finite number, `wanted`; tells of one that is none.
     bool Number(const CsvRow& row, std::size_t column, const std::string& wanted, double& number);
 
+    /// Warns of a heading, of `names`, whose cells are numbers alone: it may have been meant for data, unless
+    /// nothing stands over the first column.
+    void DoubtHeading(const CsvRow& heading, const std::string& names);
+
     /// Tells of a cell that exists.
     void RefuseCell(const CsvRow& row, std::size_t column, const std::string& wanted);
 

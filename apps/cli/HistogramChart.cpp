@@ -55,38 +55,14 @@ private:
 };
 
 HistogramProp ExampleProp() {
-    const penlode::Font font{L"Arial", 3.4F};
-    const penlode::Pen grey(penlode::Color{0xFFD0D0D0}, 0.1F);
     HistogramProp prop;
-    prop.Caption.ShowCaption = 1;
-    // Empty lines keep captions off the plot and the labels.
-    prop.Caption.Caption = "Sales by quarter\n";
-    prop.Caption.CaptionTextProperty.Font = penlode::Font{L"Arial", 4.5F};
-    prop.VerAxis.MajorScaleStyle = millichart::ScaleStyle::Inner;
-    prop.VerAxis.MinorScaleStyle = millichart::ScaleStyle::None;
-    prop.VerAxis.VerAxisLabelTextProperty.Font = font;
-    prop.VerAxis.HorMajorGridPen = grey;
-    prop.VerAxis.HorMinorGridPen = grey;
-    prop.VerAxis.ShowVerCaption = 1;
-    prop.VerAxis.VerCaption = "thousand pieces\n";
-    prop.VerAxis.VerCaptionTextProperty.Font = font;
-    prop.VerAxis.VerCaptionTextProperty.Angle = 90;
-    prop.HorAxis.ScaleStyle = millichart::ScaleStyle::Inner;
+    FrameLikeAnExample(prop, "Sales by quarter", "thousand pieces");
     prop.HorAxis.ShowGroupName = 1;
-    prop.HorAxis.GroupNameTextProperty.Font = font;
-    prop.HorAxis.HorCaptionTextProperty.Font = font;
-    prop.HorAxis.ShowVerGrid = 0;
-    prop.Plot.EdgePen = grey;
+    prop.HorAxis.GroupNameTextProperty.Font = kExampleFont;
     prop.Plot.ComponentName = {"Tea", "Coffee", "Cocoa"};
     prop.Plot.ComponentColor = PaletteColors(prop.Plot.ComponentName.size());
     prop.Plot.ShowComponentValue = 1;
     prop.Plot.ComponentInfoTextProperty.Font = penlode::Font{L"Arial", 2.8F};
-    prop.Plot.PlotWidth = 110.0F;
-    prop.Plot.PlotHeight = 60.0F;
-    prop.Legend.ShowLegend = 1;
-    prop.Legend.ShowEdge = 0;
-    prop.Legend.ItemDist = 1.0F;
-    prop.Legend.Font = font;
     return prop;
 }
 

@@ -37,21 +37,6 @@ std::vector<double> ReadValues(DataTable& table, const CsvRow& row, std::size_t 
     return values;
 }
 
-/// A heading of numbers alone may have been meant for a group, unless nothing stands over the groups' names.
-void DoubtHeading(DataTable& table, const CsvRow& heading) {
-    const auto isNumber = [](const std::string& cell) {
-        double number = 0.0;
-        return ParseNumber(cell, number);
-    };
-    const std::size_t width = FilledCells(heading);
-    const auto first = heading.Cells.begin() + 1;
-    if (!heading.Cells.front().empty() &&
-        std::all_of(first, first + static_cast<std::ptrdiff_t>(width - 1), isNumber)) {
-        table.Warn(heading, "taken as the heading with the components' names, though they are numbers; with "
-                            "an empty first cell it is no doubt one");
-    }
-}
-
 void ReadTable(DataTable& table, HistogramData& data) {
     data.File = table.File();
     if (table.Rows().empty()) {
@@ -69,7 +54,7 @@ void ReadTable(DataTable& table, HistogramData& data) {
         table.HasWidth(heading, 2, "a heading: a cell for the group names and the components' names");
         return;
     }
-    DoubtHeading(table, heading);
+    table.DoubtHeading(heading, "the components' names");
     for (std::size_t i = 1; i < table.Rows().size(); ++i) {
         const CsvRow& row = table.Rows()[i];
         if (row.Cells.size() <= width || table.HasWidth(row, width, "as many as in the heading")) {

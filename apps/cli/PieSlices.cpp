@@ -56,6 +56,9 @@ Message PieSlices::Emptiness() const {
         return {
             "", Severity::Error, 0, m_data.Place + "/values", "nothing to draw", "a number for each slice"};
     }
+    if (std::accumulate(m_data.Values.begin(), m_data.Values.end(), 0.0) == 0.0) {
+        return {"", Severity::Error, 0, m_data.Place, "no value above 0", "one for each slice"};
+    }
     return {"",
             Severity::Error,
             0,

@@ -25,8 +25,8 @@ public:
     /// Width and height of the axis-aligned box that holds the turned text; (0, 0) for an empty text.
     static penlode::SizeF GetTextSize(const std::string& text, const TextProperty& property);
 
-    /// Draws with the box's centre at `point`; nothing where that is not finite. The surface is left as it was
-    /// found.
+    /// Draws with the box's centre at `point`; nothing where that is not finite. The surface is left as it
+    /// was found.
     static void DrawTextAtCenter(penlode::IGraphicsEngine* engine, const std::string& text,
                                  const TextProperty& property, penlode::PointF point);
     /// Draws with the bottom centre of the turned bounding box at `point`.
