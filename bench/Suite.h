@@ -45,7 +45,6 @@ struct Suite {
     }
 };
 
-void AddParseCases(Suite& suite);
 void AddLineCases(Suite& suite);
 void AddLayoutCases(Suite& suite);
 void AddPieCases(Suite& suite);

@@ -46,14 +46,27 @@ void TakePoints(std::span<const std::int32_t> times, std::span<const float> dist
     const double span = scales.Times.Max - start;
     const double perTime = span > 0.0 ? scales.Plot.Width / span : 0.0;
     const float bottom = scales.Plot.Y + scales.Plot.Height;
-    std::int32_t unplaced = std::isfinite(static_cast<float>(span * perTime + left)) ? 0 : 1;
+    unsigned unplaced = std::isfinite(static_cast<float>(span * perTime + left)) ? 0 : 1;
     for (std::size_t i = 0; i < points.size(); ++i) {
         points[i] = {static_cast<float>((times[i] - start) * perTime + left), bottom - distances[i]};
     }
     for (const float distance : distances) {
-        unplaced += std::isfinite(bottom - distance) ? 0 : 1;
+        unplaced |= std::isfinite(bottom - distance) ? 0U : 1U;
     }
-    curve.HasUnplaced |= unplaced > 0;
+    curve.HasUnplaced |= unplaced != 0;
+}
+
+/// Most times ascend, which is seen in fewer steps than it takes to find the least and the greatest.
+TimeSpan TimeSpanOf(std::span<const std::int32_t> times) {
+    unsigned descents = 0;
+    for (std::size_t i = 1; i < times.size(); ++i) {
+        descents |= static_cast<unsigned>(times[i] < times[i - 1]);
+    }
+    if (descents == 0) {
+        return {times.front(), times.back()};
+    }
+    const auto [least, greatest] = std::minmax_element(times.begin(), times.end());
+    return {*least, *greatest};
 }
 
 /// The list as long as it was, but no longer than `size`, with room for so many and not for very many more.
@@ -75,8 +88,9 @@ TimeSpan TimeSpanOf(std::span<const std::vector<std::int32_t>> curves, TimeSpan 
             span = {times.front(), times.front()};
             isFirst = false;
         }
-        for (const std::int32_t time : times) {
-            span = {std::min(span.Min, time), std::max(span.Max, time)};
+        if (!times.empty()) {
+            const TimeSpan own = TimeSpanOf(times);
+            span = {std::min(span.Min, own.Min), std::max(span.Max, own.Max)};
         }
     }
     return span;

@@ -175,11 +175,11 @@ LineCoverage::Corner LineCoverage::CornerAt(PointD point) const {
 /// The edges that lead to the right are the shape's bottom, and those that lead back its top: each section
 /// that it has a part in is crossed by one of both.
 void LineCoverage::AddConvex(std::span<const PointD> corners) {
-    Corner from = CornerAt(corners.back());
-    std::int32_t first = from.Section;
-    std::int32_t end = from.Section;
-    for (const PointD corner : corners) {
-        const Corner to = CornerAt(corner);
+    const Corner last = CornerAt(corners.back());
+    Corner from = last;
+    std::int32_t first = last.Section;
+    std::int32_t end = last.Section;
+    const auto lead = [&](const Corner& to) {
         if (from.Section < to.Section) {
             PutEdge(from, to, m_bottoms);
         } else if (to.Section < from.Section) {
@@ -188,7 +188,11 @@ void LineCoverage::AddConvex(std::span<const PointD> corners) {
         first = std::min(first, to.Section);
         end = std::max(end, to.Section);
         from = to;
+    };
+    for (const PointD corner : corners.first(corners.size() - 1)) {
+        lead(CornerAt(corner));
     }
+    lead(last);
     const auto begin = static_cast<std::size_t>(first);
     const auto count = static_cast<std::size_t>(end - first);
     m_spans.Add(begin, std::span(m_tops).subspan(begin, count), std::span(m_bottoms).subspan(begin, count));
