@@ -43,31 +43,41 @@ template <class Use> void AddChartWay(Suite& suite, std::string name, const Shar
     });
 }
 
-void AddWays(Suite& suite, const std::string& name, const SharedSeries& data) {
+void AddWays(Suite& suite, const std::string& name, const SharedSeries& data, Memory memory) {
+    const std::size_t first = suite.Ways.size();
     AddChartWay(suite, name + ", drawn", data, [](const auto&) { return std::size_t{1}; });
     AddChartWay(suite, name + ", PNG", data, [](const auto& engine) { return engine.EncodePng().size(); });
     suite.Add(name + ", drawn by hand", [data] {
         return static_cast<std::size_t>(cairo_image_surface_get_stride(DrawnByHand(*data).Surface.get()));
     });
     suite.Add(name + ", PNG by hand", [data] { return byhand::EncodePng(DrawnByHand(*data)).size(); });
+    for (std::size_t i = first; i < suite.Ways.size(); ++i) {
+        suite.Ways[i].Memory = memory;
+    }
+}
+
+void AddShape(Suite& suite, Shape shape, Memory memory) {
+    const std::string kind =
+        std::string(shape == Shape::Walk ? "walk" : "noise") + (memory == Memory::New ? ", new memory" : "");
+    for (const auto& [count, title] :
+         {std::pair<std::size_t, const char*>{1000, "1e3"}, {1000000, "1e6"}, {10000000, "1e7"}}) {
+        AddWays(suite, std::string("line ") + title + " " + kind, MakeSeries(count, shape), memory);
+    }
+    const std::string million = "line 1e6 " + kind;
+    suite.Compare(million + ", drawn / by hand", million + ", drawn", million + ", drawn by hand", 2.0);
+    suite.Compare(million + ", PNG / by hand", million + ", PNG", million + ", PNG by hand", 1.3);
+    suite.Compare("line 1e6 / 1e3 " + kind + ", PNG", million + ", PNG", "line 1e3 " + kind + ", PNG",
+                  shape == Shape::Walk ? 1.8 : 1.2);
+    suite.Compare("line 1e7 / 1e3 " + kind + ", PNG", "line 1e7 " + kind + ", PNG",
+                  "line 1e3 " + kind + ", PNG", 8.0);
 }
 
 } // namespace
 
 void AddLineCases(Suite& suite) {
-    for (const Shape shape : {Shape::Walk, Shape::Noise}) {
-        const std::string kind = shape == Shape::Walk ? "walk" : "noise";
-        for (const auto& [count, title] :
-             {std::pair<std::size_t, const char*>{1000, "1e3"}, {1000000, "1e6"}, {10000000, "1e7"}}) {
-            AddWays(suite, std::string("line ") + title + " " + kind, MakeSeries(count, shape));
-        }
-        const std::string million = "line 1e6 " + kind;
-        suite.Compare(million + ", drawn / by hand", million + ", drawn", million + ", drawn by hand", 2.0);
-        suite.Compare(million + ", PNG / by hand", million + ", PNG", million + ", PNG by hand", 1.3);
-        suite.Compare("line 1e6 / 1e3 " + kind + ", PNG", million + ", PNG", "line 1e3 " + kind + ", PNG",
-                      shape == Shape::Walk ? 1.8 : 1.2);
-        suite.Compare("line 1e7 / 1e3 " + kind + ", PNG", "line 1e7 " + kind + ", PNG",
-                      "line 1e3 " + kind + ", PNG", 8.0);
+    for (const Memory memory : {Memory::Kept, Memory::New}) {
+        AddShape(suite, Shape::Walk, memory);
+        AddShape(suite, Shape::Noise, memory);
     }
 }
 

@@ -39,10 +39,13 @@ private:
 
 void Register(const bench::Suite& suite) {
     for (const bench::NamedWay& way : suite.Ways) {
-        const auto run = [prepare = way.Prepare](benchmark::State& state) {
+        const auto run = [prepare = way.Prepare, memory = way.Memory](benchmark::State& state) {
             for (auto _ : state) {
                 state.PauseTiming();
                 const bench::Way make = prepare();
+                if (memory == bench::Memory::New) {
+                    malloc_trim(0);
+                }
                 state.ResumeTiming();
                 benchmark::DoNotOptimize(make());
             }
@@ -106,8 +109,8 @@ void PrintTable(const bench::Suite& suite, const bench::ProcessCosts& costs, con
 } // namespace
 
 int main(int argc, char** argv) {
-    // A warm process: whether the C library gives megabytes back to the system between two pictures, which
-    // then clears them page by page, would depend on all that ran before.
+    // Whether the C library gives megabytes back to the system between two pictures would depend on all that
+    // ran before, so it keeps them.
     mallopt(M_MMAP_MAX, 0);
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     std::vector<std::string> defaults{"bench", "--benchmark_repetitions=7", "--benchmark_min_time=0.1",

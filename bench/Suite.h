@@ -13,10 +13,15 @@ namespace bench {
 /// Makes a picture or a document and gives its size in bytes.
 using Way = std::function<std::size_t()>;
 
+/// What a way finds when it starts: memory that earlier runs have used and freed, or none but what the system
+/// has still to clear, as in a process that draws its first picture.
+enum class Memory { Kept, New };
+
 struct NamedWay {
     std::string Name;
     std::function<Way()> Prepare; ///< makes what the next run takes; its time does not count
     std::size_t Parts = 1;        ///< the time told is that of one of so many equal parts
+    bench::Memory Memory = bench::Memory::Kept;
 };
 
 struct Comparison {

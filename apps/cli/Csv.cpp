@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace cli {
 namespace {
@@ -43,14 +45,35 @@ char SeparatorOf(std::string_view text) {
     return kSeparators[static_cast<std::size_t>(most() - counts.begin())];
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t\r");
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
 }
+
+std::string_view Trimmed(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+constexpr std::uint64_t kBeyondAscii = 0x8080808080808080U;
 
 bool IsAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80U;
+}
+
+/// The first byte from `at` on that is no ASCII; looked for eight at a time.
+const char* EndOfAscii(const char* at, const char* end) {
+    for (std::uint64_t word = 0; end - at >= static_cast<std::ptrdiff_t>(sizeof word); at += sizeof word) {
+        std::memcpy(&word, at, sizeof word);
+        if ((word & kBeyondAscii) != 0) {
+            break;
+        }
+    }
+    return std::find_if_not(at, end, IsAscii);
 }
 
 } // namespace
@@ -127,9 +150,10 @@ std::size_t FilledCells(const CsvRow& row) {
 
 /// Long texts are mostly ASCII, so only the runs between are looked at closely.
 bool IsUtf8(std::string_view text) {
-    for (auto at = text.begin(); (at = std::find_if_not(at, text.end(), IsAscii)) != text.end();) {
-        const auto end = std::find_if(at, text.end(), IsAscii);
-        const std::string_view run(&*at, static_cast<std::size_t>(end - at));
+    const char* const textEnd = text.data() + text.size();
+    for (const char* at = text.data(); (at = EndOfAscii(at, textEnd)) != textEnd;) {
+        const char* const end = std::find_if(at, textEnd, IsAscii);
+        const std::string_view run(at, static_cast<std::size_t>(end - at));
         if (penlode::CStringUtil::WideToUtf8(penlode::CStringUtil::Utf8ToWideString(run)) != run) {
             return false;
         }

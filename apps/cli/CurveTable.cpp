@@ -45,6 +45,7 @@ private:
             // In a heading nothing stands over columns that a spreadsheet program added.
             m_width = isTime ? row.Cells.size() : FilledCells(row);
             m_data.Values.resize(m_width - 1);
+            MakeRoom(m_table.MostRows(m_width));
             if (!isTime) {
                 TakeHeading(row);
                 return;
@@ -59,6 +60,14 @@ private:
             m_data.Values[column - 1].push_back(ValueOf(row, column));
         }
         ++m_rows;
+    }
+
+    void MakeRoom(std::size_t rows) {
+        m_times.reserve(rows);
+        m_data.Lines.reserve(rows);
+        for (std::vector<double>& values : m_data.Values) {
+            values.reserve(rows);
+        }
     }
 
     void TakeHeading(const CsvRow& row) {

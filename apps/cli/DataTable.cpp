@@ -41,6 +41,12 @@ const std::vector<CsvRow>& DataTable::Rows() {
     return *m_rows;
 }
 
+/// Between cells there are separators.
+std::size_t DataTable::MostRows(std::size_t width) const {
+    const auto lines = static_cast<std::size_t>(std::count(m_text.begin(), m_text.end(), '\n')) + 1;
+    return std::min(lines, m_text.size() / width + 1);
+}
+
 /// An open quote swallows the rest, so that what was read is not what was meant.
 void DataTable::CheckQuotes(const CsvReader& reader) {
     if (reader.OpenQuote() != 0) {

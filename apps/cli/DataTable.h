@@ -25,6 +25,10 @@ public:
     /// All rows but those whose cells are all empty.
     const std::vector<CsvRow>& Rows();
 
+    /// There are no more rows of `width` cells, 1 or more, than so many, and never many more than bytes in
+    /// the file.
+    std::size_t MostRows(std::size_t width) const;
+
     /// Visits the same rows one after the other and keeps none, for tables of millions.
     template <class Visit> void ForEachRow(Visit visit) {
         CsvReader reader(m_text);

@@ -17,6 +17,10 @@ constexpr std::int32_t kPixel = 256;
 /// Points nearer than this are one: the direction from one to the other would mean nothing.
 constexpr double kShortestStep = 1.0 / 512.0;
 
+/// Where a line turns back, it has a tip as wide as the line. One of less, in square pixels, is left out:
+/// dense lines are full of them, and nobody sees it.
+constexpr double kSmallestTip = 1.0 / 64.0;
+
 /// Pixels side by side that are painted at once: what they take stays in the processor's cache.
 constexpr std::size_t kStripe = 64;
 
@@ -152,6 +156,10 @@ void LineCoverage::AddJoin(const Segment& before, const Segment& after) {
     const PointD b = after.Direction;
     const double turn = a.X * b.Y - a.Y * b.X;
     const double along = a.X * b.X + a.Y * b.Y;
+    const bool isPointed = m_miterLimit * m_miterLimit * (1.0 + along) >= 2.0;
+    if (!isPointed && m_radius * m_radius * std::abs(turn) / 2.0 < kSmallestTip) {
+        return;
+    }
     const double outwards = turn > 0.0 ? -m_radius : m_radius;
     const PointD corner = after.From;
     PointD first = Plus(corner, Across(a), outwards);
@@ -159,7 +167,7 @@ void LineCoverage::AddJoin(const Segment& before, const Segment& after) {
     if (turn > 0.0) {
         std::swap(first, second);
     }
-    if (m_miterLimit * m_miterLimit * (1.0 + along) >= 2.0) {
+    if (isPointed) {
         const PointD both{Across(a).X + Across(b).X, Across(a).Y + Across(b).Y};
         AddConvex(std::array{corner, first, Plus(corner, both, outwards / (1.0 + along)), second});
     } else {

@@ -56,6 +56,20 @@ TEST(GraphicsEngine, PngHoldsTheStraightColoursOfThePicture) {
     EXPECT_EQ(PixelAt(g->Pixels(), 2, 1), Color{0});
 }
 
+TEST(GraphicsEngine, PngKeepsWhatShinesThroughBelowOpaqueRows) {
+    const auto g = PixelSurface(3, 9, Color{0x00000000});
+    const SolidBrush opaque{Color{0xFF204060}};
+    const SolidBrush translucent{Color{0x80FF8000}};
+    g->FillRectangle(&opaque, 0, 0, 3, 8);
+    g->FillRectangle(&translucent, 2, 8, 1, 1);
+    const std::string file = g->EncodePng();
+    EXPECT_TRUE(PngHasAlpha(file));
+    EXPECT_EQ(PixelAt(DecodePng(file), 2, 0), opaque.FillColor);
+    EXPECT_EQ(PixelAt(DecodePng(file), 2, 7), opaque.FillColor);
+    EXPECT_EQ(PixelAt(DecodePng(file), 2, 8), translucent.FillColor);
+    EXPECT_EQ(PixelAt(DecodePng(file), 0, 8), Color{0});
+}
+
 TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
     const auto g = PixelSurface(20, 20);
     const std::array<PointF, 3> bad{{{1, 1}, {kNan, 5}, {9, 9}}};
