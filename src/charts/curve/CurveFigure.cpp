@@ -13,8 +13,9 @@ using penlode::PointF;
 namespace {
 
 /// Values are placed so many at a time: what is known of them on the way then stays in the processor's
-/// nearest memory, and the list of points is neither read nor filled first.
-constexpr std::size_t kRun = 512;
+/// nearest memory, the list of points is neither read nor filled first, and a processor waits for the next
+/// values while it still computes with the last.
+constexpr std::size_t kRun = 64;
 
 bool IsNull(double value) {
     return value < kCurveNullThreshold;

@@ -4,6 +4,7 @@
 #include "penlode/StringUtil.h"
 #include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoOutline.h"
+#include "penlode/cairo/LetterMasks.h"
 #include "penlode/cairo/PangoText.h"
 
 #include <array>
@@ -89,9 +90,9 @@ void FillOutlines(const Painter& painter, std::wstring_view text, const Font& fo
     cairo_restore(painter.Context());
 }
 
-void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
+/// The line's letters where the context's matrix is the line's own.
+void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice, bool asOutlines) {
     cairo_t* context = painter.Context();
-    const bool asOutlines = painter.HasPixels() && toDevice.LengthFactor() * kSetEm <= kLargestOutlineEm;
     cairo_save(context);
     painter.SetMatrix(toDevice);
     cairo_move_to(context, 0.0, 0.0);
@@ -105,6 +106,19 @@ void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDe
     }
     cairo_restore(context);
     cairo_new_path(context);
+}
+
+void ShowLetters(const Painter& painter, const SetLine& line, std::wstring_view text, const Font& font,
+                 const Matrix& toDevice) {
+    const bool asOutlines = painter.HasPixels() && toDevice.LengthFactor() * kSetEm <= kLargestOutlineEm;
+    if (!asOutlines || !HasLetterMask(line, toDevice)) {
+        ShowLetters(painter, line, toDevice, asOutlines);
+        return;
+    }
+    const LetterMask mask = LetterMaskOf(line, text, font, toDevice);
+    if (mask.Coverage != nullptr) {
+        cairo_mask_surface(painter.Context(), mask.Coverage, mask.X, mask.Y);
+    }
 }
 
 /// Underline and strikeout of one text are equally thick, wherever they fall on the grid.
@@ -134,8 +148,9 @@ void Decorate(const Painter& painter, const SetLine& line, const Matrix& toDevic
     cairo_fill(painter.Context());
 }
 
-void ShowLine(const Painter& painter, const SetLine& line, const Matrix& toDevice, const Font& font) {
-    ShowLetters(painter, line, toDevice);
+void ShowLine(const Painter& painter, const SetLine& line, std::wstring_view text, const Font& font,
+              const Matrix& toDevice) {
+    ShowLetters(painter, line, text, font, toDevice);
     if (font.Has(FontStyle::Underline)) {
         Decorate(painter, line, toDevice, kUnderline);
     }
@@ -157,7 +172,7 @@ Status PaintText(const Painter& painter, std::wstring_view text, const Font& fon
             if (IsMuchStretched(toDevice)) {
                 FillOutlines(painter, placed.Text, font, toDevice);
             } else {
-                ShowLine(painter, line, toDevice, font);
+                ShowLine(painter, line, placed.Text, font, toDevice);
             }
         }
     }

@@ -2,6 +2,7 @@
 #include "penlode/StringUtil.h"
 #include "penlode/cairo/Picture.h"
 
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <thread>
@@ -46,6 +47,36 @@ RectF InkOfText(double dpi, const wchar_t* text, const Font& font, float x, floa
     const RectF pixels = InkBox(*g);
     const auto mm = [dpi](float v) { return static_cast<float>(v * 25.4 / dpi); };
     return {mm(pixels.X), mm(pixels.Y), mm(pixels.Width), mm(pixels.Height)};
+}
+
+/// A text turned about a point: on pixels of a millimetre.
+struct TurnedText {
+    const wchar_t* Text;
+    Font Face;
+    float X;
+    float Y;
+    float Degrees;
+};
+
+std::unique_ptr<CGraphicsEngine> SurfaceFor(const TurnedText& text) {
+    auto g = PixelSurface(120, 120);
+    g->TranslateTransform(text.X, text.Y, MatrixOrder::Prepend);
+    g->RotateTransform(text.Degrees, MatrixOrder::Prepend);
+    return g;
+}
+
+std::vector<Color> Drawn(const TurnedText& text) {
+    const auto g = SurfaceFor(text);
+    EXPECT_EQ(g->DrawString(text.Text, -1, &text.Face, PointF{0, 0}, &kBrush), Status::Ok);
+    return g->Pixels().Pixels;
+}
+
+std::vector<Color> FilledOutline(const TurnedText& text) {
+    const auto g = SurfaceFor(text);
+    GraphicsPath outline = OutlineOfLine(text.Text, text.Face);
+    g->TranslateTransform(0, CStringUtil::MeasureFont(text.Face).Ascent, MatrixOrder::Prepend);
+    EXPECT_EQ(g->FillPath(&kBrush, &outline), Status::Ok);
+    return g->Pixels().Pixels;
 }
 
 } // namespace
@@ -93,6 +124,48 @@ TEST(Text, TurnsWithTheSurface) {
     EXPECT_NEAR(ink.Height, box.Width, 0.6F);
     EXPECT_LT(ink.Right(), 40.2F);
     EXPECT_GT(ink.X, 40 - box.Height - 0.2F);
+}
+
+TEST(Text, LettersThatHaveBeenDrawnLookAsForTheFirstTime) {
+    std::vector<TurnedText> texts;
+    for (const std::int32_t style : {FontStyle::Regular, FontStyle::Bold, FontStyle::Italic}) {
+        for (const float size : {11.0F, 11.5F, 30.0F}) {
+            for (const auto& [x, y, degrees] : {std::array{20.0F, 20.0F, 0.0F},
+                                                {20.3F, 20.0F, 0.0F},
+                                                {21.3F, 37.5F, 0.0F},
+                                                {60.0F, 60.0F, 90.0F},
+                                                {60.0F, 60.0F, -30.0F}}) {
+                texts.push_back({L"深 fÅg", {L"宋体", size, style}, x, y, degrees});
+            }
+        }
+    }
+    texts.push_back({L"深 fÅg", {L"黑体", 11.0F, FontStyle::Regular}, 20, 20, 0});
+    texts.push_back({L"深 fÅ", {L"宋体", 11.0F, FontStyle::Regular}, 20, 20, 0});
+    texts.push_back({L" ", {L"宋体", 11.0F, FontStyle::Regular}, 20, 20, 0});
+    for (const int round : {1, 2}) {
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            std::vector<Color> first; // another thread has drawn nothing yet
+            std::thread([&] { first = Drawn(texts[i]); }).join();
+            EXPECT_EQ(Drawn(texts[i]), first) << "text " << i << ", round " << round;
+        }
+    }
+}
+
+TEST(Text, NoLetterIsCutOff) {
+    for (const wchar_t* text : {L"fgjW", L"深度", L"Q;_", L"|"}) {
+        for (const std::int32_t style : {FontStyle::Regular, FontStyle::Italic | FontStyle::Bold}) {
+            const TurnedText turned{text, {L"Times New Roman", 28.0F, style}, 60.2F, 60.7F, -33.0F};
+            const std::vector<Color> drawn = Drawn(turned);
+            const std::vector<Color> filled = FilledOutline(turned);
+            int most = 0;
+            for (std::size_t i = 0; i < drawn.size(); ++i) {
+                most = std::max(most,
+                                std::abs(static_cast<int>(drawn[i].R()) - static_cast<int>(filled[i].R())));
+            }
+            EXPECT_LE(most, 16) << CStringUtil::WideToUtf8(text);
+            EXPECT_NE(std::count(drawn.begin(), drawn.end(), kBlack), 0);
+        }
+    }
 }
 
 TEST(Text, AlignmentPlacesEachLineInItsBox) {
