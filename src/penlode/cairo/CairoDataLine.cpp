@@ -13,11 +13,11 @@ namespace {
 
 constexpr double kColumnsPerPixel = 2.0;
 
-/// Sections of a pixel in which coverage is looked for: as fine as Cairo's own rows, or a quarter as fine
-/// where the line is too dense to show it. A line that scribbles over the surface a million times gets fewer,
-/// so that it is drawn in a second or so.
+/// Sections of a pixel in which coverage is looked for: as fine as Cairo's own rows, or coarser where the
+/// line is too dense to show it. A line that scribbles over the surface a million times gets fewer, so that
+/// it is drawn in a second or so.
 constexpr double kSectionsPerPixel = 16.0;
-constexpr double kSectionsPerDensePixel = 4.0;
+constexpr double kSectionsPerDensePixel = 6.0;
 constexpr double kMostSections = 1e8;
 
 constexpr double kFarthestTip = 0.75;

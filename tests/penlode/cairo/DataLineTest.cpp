@@ -10,8 +10,8 @@ using namespace penlode;
 
 namespace {
 
-constexpr int kWidth = 800;
-constexpr int kHeight = 600;
+constexpr int kWidth = 1600;
+constexpr int kHeight = 1200;
 
 /// Darkness of each pixel of a white picture, 255 for black.
 using Ink = std::vector<int>;
