@@ -1,7 +1,7 @@
-#include "CommandLine.h"
-#include "Console.h"
-#include "System.h"
-#include "UserError.h"
+#include "commands/CommandLine.h"
+#include "files/Console.h"
+#include "files/System.h"
+#include "files/UserError.h"
 
 #include <new>
 

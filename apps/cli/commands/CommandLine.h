@@ -1,0 +1,24 @@
+#pragma once
+
+#include "commands/CheckCommand.h"
+#include "commands/DrawCommand.h"
+#include "commands/InspectCommand.h"
+#include "commands/NewCommand.h"
+
+#include <variant>
+
+namespace cli {
+
+/// Nothing is left to be done, as after --help; what the program's exit status is.
+struct Finished {
+    int Status;
+};
+
+using Wish = std::variant<Finished, DrawOptions, NewOptions, CheckOptions, InspectOptions>;
+
+inline constexpr int kWrongUsage = 2;
+
+/// Reads the program's arguments. Help, the version and complaints about the arguments are told here.
+Wish ParseCommandLine(int argc, char** argv);
+
+} // namespace cli

@@ -1,0 +1,143 @@
+#include "documents/ProblemMessages.h"
+
+#include "documents/JsonPlaces.h"
+#include "documents/NearestName.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <tuple>
+#include <utility>
+
+namespace cli {
+namespace {
+
+using penlode::StreamProblem;
+using AskedKeys = std::map<std::string, std::vector<std::string>>;
+
+std::pair<std::string, std::string> GroupAndKey(const std::string& place) {
+    const std::size_t slash = place.rfind('/');
+    return slash == std::string::npos ? std::pair(std::string(), place)
+                                      : std::pair(place.substr(0, slash), place.substr(slash + 1));
+}
+
+/// The place of a known key of that very name in another group.
+std::string PlaceElsewhere(const std::string& key, const AskedKeys& asked) {
+    for (const auto& [group, keys] : asked) {
+        if (std::find(keys.begin(), keys.end(), key) != keys.end()) {
+            return group.empty() ? key : group + "/" + key;
+        }
+    }
+    return {};
+}
+
+/// The keys that were asked for in a group. What was asked for in the groups of a list counts for each.
+AskedKeys::const_iterator KeysOf(const std::string& group, const AskedKeys& asked) {
+    const auto keys = asked.find(group);
+    const auto [list, index] = GroupAndKey(group);
+    const bool isIndex = !index.empty() && index.find_first_not_of("0123456789") == std::string::npos;
+    return keys == asked.end() && isIndex ? asked.find(list) : keys;
+}
+
+/// What an unknown key was probably meant to be.
+std::string Guess(const std::string& place, const AskedKeys& asked) {
+    const auto [group, key] = GroupAndKey(place);
+    const auto known = KeysOf(group, asked);
+    const std::string near = known == asked.end() ? std::string() : NearestName(key, known->second);
+    return near.empty() ? PlaceElsewhere(key, asked) : near;
+}
+
+Message UnknownKey(const StreamProblem& problem, const AskedKeys& asked) {
+    const std::string guess = Guess(problem.Place, asked);
+    return {"",
+            Severity::Warning,
+            0,
+            problem.Place,
+            problem.Found,
+            guess,
+            "an unknown key, ignored" + (guess.empty() ? "" : "; is \"" + guess + "\" meant?")};
+}
+
+Message MissingKey(const StreamProblem& problem) {
+    const std::string& taken = problem.Expected;
+    std::string text = "missing, \"" + taken + "\" is taken";
+    if (taken.empty()) {
+        text = "missing, taken as empty";
+    } else if (taken == "a group") {
+        text = "missing, every key in it takes its default";
+    } else if (taken == "an empty list") {
+        text = "missing, an empty list is taken";
+    }
+    return {"", Severity::Note, 0, problem.Place, "", taken, text};
+}
+
+/// The line of a place such as "line 3, column 7".
+std::size_t LineOf(const std::string& place) {
+    std::size_t line = 0;
+    const std::size_t digits = std::min(place.find_first_of("0123456789"), place.size());
+    std::from_chars(place.data() + digits, place.data() + place.size(), line);
+    return line;
+}
+
+Message MessageOf(const StreamProblem& problem) {
+    if (problem.What == StreamProblem::Kind::MissingKey) {
+        return MissingKey(problem);
+    }
+    const bool isUnreadable = problem.What == StreamProblem::Kind::Unreadable;
+    return {"",
+            Severity::Error,
+            isUnreadable ? LineOf(problem.Place) : 0,
+            problem.Place,
+            problem.Found,
+            problem.Expected};
+}
+
+} // namespace
+
+std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, const ChartStream& stream) {
+    std::vector<Message> messages;
+    for (const StreamProblem& problem : json.Problems()) {
+        const bool missingKind =
+            problem.What == StreamProblem::Kind::MissingKey && problem.Place == "kind"; // told as an error
+        if (!missingKind) {
+            messages.push_back(MessageOf(problem));
+        }
+    }
+    if (json.Problems().size() >= kMostKept) {
+        messages.push_back(
+            {"", Severity::Error, 0, "", "", "",
+             "too many problems; those after the first " + std::to_string(kMostKept) + " are not told",
+             true});
+    }
+    if (!stream.AskedKeys().contains("property")) {
+        return messages; // the record was not asked for, so that none of its keys is known
+    }
+    for (const StreamProblem& problem : json.UnknownKeys()) {
+        messages.push_back(UnknownKey(problem, stream.AskedKeys()));
+    }
+    return messages;
+}
+
+void PutInDocumentOrder(const std::string& text, const std::string& shownName,
+                        std::vector<Message>& messages) {
+    const JsonPlaces places(text);
+    std::vector<std::tuple<bool, std::size_t, std::size_t>> order;
+    for (std::size_t i = 0; i < messages.size(); ++i) {
+        Message& message = messages[i];
+        JsonPlaces::Spot spot;
+        if (message.File == shownName && !message.Place.empty()) {
+            spot = places.Find(message.Place);
+            message.Line = std::max(message.Line, spot.Line);
+        }
+        const std::size_t rank = spot.Order == 0 ? std::numeric_limits<std::size_t>::max() : spot.Order;
+        order.emplace_back(message.Weight == Severity::Note, rank, i);
+    }
+    std::sort(order.begin(), order.end());
+    std::vector<Message> sorted;
+    for (const auto& entry : order) {
+        sorted.push_back(std::move(messages[std::get<2>(entry)]));
+    }
+    messages = std::move(sorted);
+}
+
+} // namespace cli

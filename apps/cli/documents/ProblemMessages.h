@@ -1,0 +1,20 @@
+#pragma once
+
+#include "documents/ChartStream.h"
+#include "files/Message.h"
+
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// What a load met, in words: errors, unknown keys as warnings, and missing keys as notes. Without file and
+/// line.
+std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, const ChartStream& stream);
+
+/// Gives the messages about the document `shownName` the lines on which their places stand in its text, and
+/// sorts all: by place, those without one after them, notes last.
+void PutInDocumentOrder(const std::string& text, const std::string& shownName,
+                        std::vector<Message>& messages);
+
+} // namespace cli

@@ -1,0 +1,56 @@
+#include "files/System.h"
+
+#include <array>
+#include <atomic>
+#include <climits>
+#include <csignal>
+#include <unistd.h>
+
+namespace cli {
+namespace {
+
+std::array<char, PATH_MAX> g_unfinished;
+std::atomic<bool> g_isUnfinished = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "a signal's handler reads it");
+
+extern "C" void EndCleanly(int signal) {
+    if (g_isUnfinished) {
+        unlink(g_unfinished.data());
+    }
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+} // namespace
+
+bool ErrorsGoToTerminal() {
+    return isatty(STDERR_FILENO) != 0;
+}
+
+bool OutputGoesToTerminal() {
+    return isatty(STDOUT_FILENO) != 0;
+}
+
+/// A signal that is ignored, as by nohup, stays so.
+void PrepareSystem() {
+    std::signal(SIGXFSZ, SIG_IGN);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        if (std::signal(signal, EndCleanly) == SIG_IGN) {
+            std::signal(signal, SIG_IGN);
+        }
+    }
+}
+
+UnfinishedFile::UnfinishedFile(const std::string& name) {
+    if (name.size() < g_unfinished.size()) {
+        name.copy(g_unfinished.data(), name.size());
+        g_unfinished[name.size()] = '\0';
+        g_isUnfinished = true;
+    }
+}
+
+UnfinishedFile::~UnfinishedFile() {
+    g_isUnfinished = false;
+}
+
+} // namespace cli

@@ -1,0 +1,50 @@
+#include "pages/FontReport.h"
+
+#include "pages/TextListener.h"
+#include "penlode/FontFace.h"
+#include "penlode/StringUtil.h"
+
+#include <map>
+
+namespace cli {
+namespace {
+
+using penlode::CStringUtil;
+
+constexpr std::size_t kMostShown = 20;
+
+void AddNew(std::wstring& characters, const std::wstring& more) {
+    for (const wchar_t character : more) {
+        if (characters.find(character) == std::wstring::npos && characters.size() < kMostShown) {
+            characters += character;
+        }
+    }
+}
+
+std::string FaceMessage(const std::wstring& family) {
+    const std::wstring face = penlode::ResolvedFamily(family);
+    return CStringUtil::WideToUtf8(family) + " is drawn in " +
+           (face.empty() ? "nothing: no font is installed" : CStringUtil::WideToUtf8(face));
+}
+
+} // namespace
+
+FontReport ReportFonts(const Chart& chart) {
+    std::map<std::wstring, std::wstring> missingByFamily;
+    TextListener listener([&](const std::wstring& text, const penlode::Font& font, const penlode::RectF&) {
+        AddNew(missingByFamily[font.Family], penlode::MissingCharacters(text, font));
+    });
+    chart.Draw(listener);
+    FontReport report;
+    for (const auto& [family, missing] : missingByFamily) {
+        report.Faces.push_back(FaceMessage(family));
+        if (!missing.empty()) {
+            report.Warnings.push_back(
+                "no installed font has " + CStringUtil::WideToUtf8(missing) +
+                "; install one that does, such as fonts-noto-cjk or fonts-wqy-zenhei for Chinese");
+        }
+    }
+    return report;
+}
+
+} // namespace cli

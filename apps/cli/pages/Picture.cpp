@@ -1,0 +1,111 @@
+#include "pages/Picture.h"
+
+#include "penlode/cairo/GraphicsEngine.h"
+#include "penlode/svg/SvgEngine.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <filesystem>
+#include <utility>
+
+namespace cli {
+namespace {
+
+using penlode::CGraphicsEngine;
+
+constexpr std::array<std::pair<const char*, PictureFormat>, 3> kEndings{
+    {{".png", PictureFormat::Png}, {".svg", PictureFormat::Svg}, {".pdf", PictureFormat::Pdf}}};
+
+penlode::Color BackgroundOf(const PictureSettings& settings) {
+    return settings.Background.value_or(penlode::kWhite);
+}
+
+/// Nothing for one that cannot be seen.
+std::optional<penlode::Color> SvgBackground(const PictureSettings& settings) {
+    const penlode::Color color = BackgroundOf(settings);
+    return color.A() == 0 ? std::nullopt : std::optional(color);
+}
+
+class CairoPicture final : public Picture {
+public:
+    CairoPicture(std::unique_ptr<CGraphicsEngine> engine, std::string (*finish)(CGraphicsEngine&))
+        : m_engine(std::move(engine)), m_finish(finish) {}
+
+    penlode::IGraphicsEngine& Engine() override { return *m_engine; }
+
+    std::string Finish() override { return m_finish(*m_engine); }
+
+private:
+    std::unique_ptr<CGraphicsEngine> m_engine;
+    std::string (*m_finish)(CGraphicsEngine&);
+};
+
+class SvgPicture final : public Picture {
+public:
+    explicit SvgPicture(const PictureSettings& settings)
+        : m_engine(settings.Page,
+                   {settings.Title, settings.Description, SvgBackground(settings), settings.TextAsOutlines}) {
+    }
+
+    penlode::IGraphicsEngine& Engine() override { return m_engine; }
+
+    std::string Finish() override { return m_engine.Text(); }
+
+private:
+    penlode::CSvgEngine m_engine;
+};
+
+std::unique_ptr<CGraphicsEngine> PdfPage(const PictureSettings& settings) {
+    auto engine = CGraphicsEngine::ForPdf(settings.Page);
+    if (engine != nullptr && settings.Background) {
+        const penlode::SolidBrush brush{*settings.Background};
+        engine->FillRectangle(&brush, 0.0F, 0.0F, settings.Page.Width, settings.Page.Height);
+    }
+    return engine;
+}
+
+std::unique_ptr<Picture> OnCairo(std::unique_ptr<CGraphicsEngine> engine,
+                                 std::string (*finish)(CGraphicsEngine&)) {
+    return engine == nullptr ? nullptr : std::make_unique<CairoPicture>(std::move(engine), finish);
+}
+
+} // namespace
+
+std::optional<PictureFormat> FormatOfName(const std::string& fileName) {
+    return FormatOfEnding(std::filesystem::path(fileName).extension().string());
+}
+
+std::optional<PictureFormat> FormatOfEnding(std::string ending) {
+    std::transform(ending.begin(), ending.end(), ending.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    for (const auto& [known, format] : kEndings) {
+        if (ending == known) {
+            return format;
+        }
+    }
+    return std::nullopt;
+}
+
+const char* EndingOf(PictureFormat format) {
+    for (const auto& [ending, known] : kEndings) {
+        if (known == format) {
+            return ending;
+        }
+    }
+    return "";
+}
+
+std::unique_ptr<Picture> MakePicture(const PictureSettings& settings) {
+    switch (settings.Format) {
+    case PictureFormat::Svg:
+        return std::make_unique<SvgPicture>(settings);
+    case PictureFormat::Pdf:
+        return OnCairo(PdfPage(settings), [](CGraphicsEngine& engine) { return engine.FinishPdf(); });
+    default:
+        return OnCairo(CGraphicsEngine::ForRaster(settings.Page, settings.Dpi, BackgroundOf(settings)),
+                       [](CGraphicsEngine& engine) { return engine.EncodePng(); });
+    }
+}
+
+} // namespace cli
