@@ -56,13 +56,19 @@ void AddWays(Suite& suite, const std::string& name, const SharedSeries& data, Me
     }
 }
 
-void AddShape(Suite& suite, Shape shape, Memory memory) {
+/// Walks or noise of three lengths.
+struct Lengths {
+    SharedSeries Thousand;
+    SharedSeries Million;
+    SharedSeries TenMillion;
+};
+
+void AddShape(Suite& suite, Shape shape, Memory memory, const Lengths& data) {
     const std::string kind =
         std::string(shape == Shape::Walk ? "walk" : "noise") + (memory == Memory::New ? ", new memory" : "");
-    for (const auto& [count, title] :
-         {std::pair<std::size_t, const char*>{1000, "1e3"}, {1000000, "1e6"}, {10000000, "1e7"}}) {
-        AddWays(suite, std::string("line ") + title + " " + kind, MakeSeries(count, shape), memory);
-    }
+    AddWays(suite, "line 1e3 " + kind, data.Thousand, memory);
+    AddWays(suite, "line 1e6 " + kind, data.Million, memory);
+    AddWays(suite, "line 1e7 " + kind, data.TenMillion, memory);
     const std::string million = "line 1e6 " + kind;
     suite.Compare(million + ", drawn / by hand", million + ", drawn", million + ", drawn by hand", 2.0);
     suite.Compare(million + ", PNG / by hand", million + ", PNG", million + ", PNG by hand", 1.3);
@@ -75,9 +81,11 @@ void AddShape(Suite& suite, Shape shape, Memory memory) {
 } // namespace
 
 void AddLineCases(Suite& suite) {
-    for (const Memory memory : {Memory::Kept, Memory::New}) {
-        AddShape(suite, Shape::Walk, memory);
-        AddShape(suite, Shape::Noise, memory);
+    for (const Shape shape : {Shape::Walk, Shape::Noise}) {
+        const Lengths data{MakeSeries(1000, shape), MakeSeries(1000000, shape), MakeSeries(10000000, shape)};
+        for (const Memory memory : {Memory::Kept, Memory::New}) {
+            AddShape(suite, shape, memory, data);
+        }
     }
 }
 

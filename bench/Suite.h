@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -49,6 +50,13 @@ struct Suite {
         Comparisons.push_back({std::move(name), std::move(measured), std::move(reference), bound});
     }
 };
+
+/// Millimetres by which a picture stands elsewhere in its next run, 0 to 1: nothing that was drawn lies where
+/// the run before had it.
+inline double NextShift() {
+    static int run = 0;
+    return std::fmod(++run * 0.6180339887, 1.0);
+}
 
 void AddLineCases(Suite& suite);
 void AddLayoutCases(Suite& suite);

@@ -13,7 +13,7 @@ using penlode::PointF;
 namespace {
 
 /// Values are placed so many at a time: what is known of them on the way then stays in the processor's
-/// nearest memory, the list of points is neither read nor filled first, and a processor waits for the next
+/// nearest memory, the list of points is neither read nor filled first, and the processor fetches the next
 /// values while it still computes with the last.
 constexpr std::size_t kRun = 64;
 

@@ -17,8 +17,8 @@ constexpr double kLargestEm = 16384.0;
 constexpr double kSmallestEm = 0.1;
 
 /// On pixels, Cairo 1.16 puts each letter on a whole pixel: small ones stand unevenly, and dance on a slanted
-/// line. Up to this em size, in pixels, they are drawn as outlines, which keep their exact places; larger
-/// ones as letters, at a tenth of the time.
+/// line. Up to this em size, in pixels, they are drawn as outlines, which keep their places; larger ones as
+/// Cairo keeps letters.
 constexpr double kLargestOutlineEm = 32.0;
 
 /// Cairo's coordinates wrap around at twice this distance.
@@ -90,7 +90,7 @@ void FillOutlines(const Painter& painter, std::wstring_view text, const Font& fo
     cairo_restore(painter.Context());
 }
 
-/// The line's letters where the context's matrix is the line's own.
+/// As outlines, or as Cairo keeps letters.
 void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice, bool asOutlines) {
     cairo_t* context = painter.Context();
     cairo_save(context);
@@ -108,16 +108,13 @@ void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDe
     cairo_new_path(context);
 }
 
-void ShowLetters(const Painter& painter, const SetLine& line, std::wstring_view text, const Font& font,
-                 const Matrix& toDevice) {
-    const bool asOutlines = painter.HasPixels() && toDevice.LengthFactor() * kSetEm <= kLargestOutlineEm;
-    if (!asOutlines || !HasLetterMask(line, toDevice)) {
-        ShowLetters(painter, line, toDevice, asOutlines);
-        return;
-    }
-    const LetterMask mask = LetterMaskOf(line, text, font, toDevice);
-    if (mask.Coverage != nullptr) {
-        cairo_mask_surface(painter.Context(), mask.Coverage, mask.X, mask.Y);
+void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
+    if (!painter.HasPixels() || toDevice.LengthFactor() * kSetEm > kLargestOutlineEm) {
+        ShowLetters(painter, line, toDevice, false);
+    } else if (const std::optional<LetterMask> mask = LetterMaskOf(line, toDevice); !mask) {
+        ShowLetters(painter, line, toDevice, true);
+    } else if (mask->Coverage != nullptr) {
+        cairo_mask_surface(painter.Context(), mask->Coverage.get(), mask->X, mask->Y);
     }
 }
 
@@ -148,9 +145,8 @@ void Decorate(const Painter& painter, const SetLine& line, const Matrix& toDevic
     cairo_fill(painter.Context());
 }
 
-void ShowLine(const Painter& painter, const SetLine& line, std::wstring_view text, const Font& font,
-              const Matrix& toDevice) {
-    ShowLetters(painter, line, text, font, toDevice);
+void ShowLine(const Painter& painter, const SetLine& line, const Matrix& toDevice, const Font& font) {
+    ShowLetters(painter, line, toDevice);
     if (font.Has(FontStyle::Underline)) {
         Decorate(painter, line, toDevice, kUnderline);
     }
@@ -172,7 +168,7 @@ Status PaintText(const Painter& painter, std::wstring_view text, const Font& fon
             if (IsMuchStretched(toDevice)) {
                 FillOutlines(painter, placed.Text, font, toDevice);
             } else {
-                ShowLine(painter, line, placed.Text, font, toDevice);
+                ShowLine(painter, line, toDevice, font);
             }
         }
     }

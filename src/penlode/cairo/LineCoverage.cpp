@@ -17,8 +17,8 @@ constexpr std::int32_t kPixel = 256;
 /// Points nearer than this are one: the direction from one to the other would mean nothing.
 constexpr double kShortestStep = 1.0 / 512.0;
 
-/// Where a line turns back, it has a tip as wide as the line. One of less, in square pixels, is left out:
-/// dense lines are full of them, and nobody sees it.
+/// Where a line turns back sharply, a wedge closes its tip. Wedges of fewer square pixels are left out: dense
+/// lines are full of them, and nobody sees them.
 constexpr double kSmallestTip = 1.0 / 64.0;
 
 /// Pixels side by side that are painted at once: what they take stays in the processor's cache.

@@ -102,8 +102,8 @@ TEST(DataLine, AThinnedLineLooksLikeTheFullOne) {
     for (const float width : {1.0F, 3.0F}) {
         const Ink thinned = Drawn(walk, Pen(kBlack, width));
         const Ink full = StrokedInFull(walk, static_cast<double>(width));
-        EXPECT_LT(PerMilleApart(thinned, full, 32), 6.0) << width;
-        EXPECT_LT(PerMilleApart(thinned, full, 64), 2.5) << width;
+        EXPECT_LT(PerMilleApart(thinned, full, 32), 2.0) << width;
+        EXPECT_LT(PerMilleApart(thinned, full, 64), 0.6) << width;
         EXPECT_EQ(StrayPixels(thinned, full), 0) << width;
     }
 }
@@ -113,7 +113,7 @@ TEST(DataLine, ASparseLineIsCairosOwn) {
         const std::vector<PointF> walk = Walk(count);
         for (const float width : {1.0F, 2.5F, 9.0F}) {
             const Ink drawn = Drawn(walk, Pen(kBlack, width));
-            EXPECT_LT(PerMilleApart(drawn, StrokedInFull(walk, static_cast<double>(width)), 24), 0.02)
+            EXPECT_LT(PerMilleApart(drawn, StrokedInFull(walk, static_cast<double>(width)), 24), 0.005)
                 << count << " points, " << width << " pixels wide";
         }
     }
@@ -126,7 +126,7 @@ TEST(DataLine, ATranslucentLineIsEvenWhereItCrossesItself) {
         scribble.push_back({static_cast<float>(random() % kWidth), static_cast<float>(random() % kHeight)});
     }
     const Ink drawn = Drawn(scribble, Pen(Color{0x80000000}, 4.0F));
-    EXPECT_LT(PerMilleApart(drawn, StrokedInFull(scribble, 4.0, 128.0 / 255.0), 16), 0.2);
+    EXPECT_LT(PerMilleApart(drawn, StrokedInFull(scribble, 4.0, 128.0 / 255.0), 16), 0.05);
     EXPECT_EQ(*std::max_element(drawn.begin(), drawn.end()), 128);
 }
 

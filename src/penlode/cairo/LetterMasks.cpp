@@ -1,0 +1,266 @@
+#include "penlode/cairo/LetterMasks.h"
+
+#include "penlode/DeviceGeometry.h"
+#include "penlode/cairo/CairoCanvas.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <memory>
+#include <pango/pangocairo.h>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace penlode {
+namespace {
+
+/// Places within a pixel that are told apart, each way.
+constexpr double kPlacesPerPixel = 4.0;
+
+/// Of a line's mask. Longer lines are filled.
+constexpr double kMostPixels = 1048576.0;
+
+/// All letters of a thread; when there are more, all begin anew.
+constexpr std::size_t kMostBytes = std::size_t{1} << 22U;
+
+struct FontUnref {
+    void operator()(PangoFont* font) const { g_object_unref(font); }
+};
+
+using HeldFont = std::unique_ptr<PangoFont, FontUnref>;
+
+/// A letter at a place within a pixel. The matrix moves nothing by whole pixels.
+struct LetterKey {
+    PangoFont* Font;
+    PangoGlyph Glyph;
+    Matrix ToPixels;
+
+    friend bool operator==(const LetterKey&, const LetterKey&) = default;
+};
+
+struct LetterKeyHash {
+    std::size_t operator()(const LetterKey& key) const {
+        const Matrix& m = key.ToPixels;
+        std::size_t sum = std::hash<PangoFont*>()(key.Font) * 31U + key.Glyph;
+        for (const double number : {m.M11, m.M12, m.M21, m.M22, m.Dx, m.Dy}) {
+            sum = sum * 31U + std::hash<double>()(number);
+        }
+        return sum;
+    }
+};
+
+/// Coverage of the pixels of a box beside the pixel in which the letter stands, row by row.
+struct Letter {
+    HeldFont Font; ///< its address stands for it while the letter is kept
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    std::vector<unsigned char> Coverage;
+};
+
+/// The whole pixels that a glyph may touch; without size for a blank.
+BoxD InkBox(const LetterKey& key) {
+    PangoRectangle ink{};
+    pango_font_get_glyph_extents(key.Font, key.Glyph, &ink, nullptr);
+    if (ink.width <= 0 || ink.height <= 0) {
+        return {};
+    }
+    const auto corner = [&](int x, int y) {
+        return Mapped(key.ToPixels,
+                      PointD{static_cast<double>(x) / PANGO_SCALE, static_cast<double>(y) / PANGO_SCALE});
+    };
+    const int right = ink.x + ink.width;
+    const int bottom = ink.y + ink.height;
+    const BoxD one = BoxBetween(corner(ink.x, ink.y), corner(right, bottom));
+    const BoxD other = BoxBetween(corner(right, ink.y), corner(ink.x, bottom));
+    return {std::floor(std::min(one.Left, other.Left)) - 1.0, std::floor(std::min(one.Top, other.Top)) - 1.0,
+            std::ceil(std::max(one.Right, other.Right)) + 1.0,
+            std::ceil(std::max(one.Bottom, other.Bottom)) + 1.0};
+}
+
+/// Fills a glyph on a surface whose corner is the box's. False when Cairo fails.
+bool FillGlyph(cairo_surface_t* surface, const LetterKey& key, const BoxD& box) {
+    const CairoContext context(cairo_create(surface));
+    const cairo_matrix_t matrix = ToCairo(key.ToPixels * Matrix::Translation(-box.Left, -box.Top));
+    cairo_set_matrix(context.get(), &matrix);
+    cairo_set_fill_rule(context.get(), CAIRO_FILL_RULE_WINDING);
+    cairo_scaled_font_t* face = pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(key.Font));
+    if (face == nullptr) {
+        return false;
+    }
+    cairo_set_scaled_font(context.get(), face);
+    const cairo_glyph_t glyph{key.Glyph, 0.0, 0.0};
+    cairo_glyph_path(context.get(), &glyph, 1);
+    cairo_fill(context.get());
+    cairo_surface_flush(surface);
+    return cairo_status(context.get()) == CAIRO_STATUS_SUCCESS &&
+           cairo_surface_status(surface) == CAIRO_STATUS_SUCCESS;
+}
+
+std::optional<Letter> MakeLetter(const LetterKey& key) {
+    const BoxD box = InkBox(key);
+    if (box.Width() * box.Height() > kMostPixels) {
+        return std::nullopt;
+    }
+    Letter letter{HeldFont(static_cast<PangoFont*>(g_object_ref(key.Font))),
+                  static_cast<int>(box.Left),
+                  static_cast<int>(box.Top),
+                  static_cast<int>(box.Width()),
+                  static_cast<int>(box.Height()),
+                  {}};
+    if (letter.Width == 0) {
+        return letter;
+    }
+    const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_A8, letter.Width, letter.Height));
+    if (!FillGlyph(surface.get(), key, box)) {
+        return std::nullopt;
+    }
+    const unsigned char* row = cairo_image_surface_get_data(surface.get());
+    for (int y = 0; y < letter.Height; ++y, row += cairo_image_surface_get_stride(surface.get())) {
+        letter.Coverage.insert(letter.Coverage.end(), row, row + letter.Width);
+    }
+    return letter;
+}
+
+/// One thread's letters.
+class Letters {
+public:
+    /// Stays where it is until the next call of MakeRoom. Null when Cairo fails.
+    const Letter* Find(const LetterKey& key) {
+        if (const auto found = m_letters.find(key); found != m_letters.end()) {
+            return &found->second;
+        }
+        std::optional<Letter> letter = MakeLetter(key);
+        if (!letter) {
+            return nullptr;
+        }
+        m_bytes += kOverhead + letter->Coverage.size();
+        return &m_letters.emplace(key, std::move(*letter)).first->second;
+    }
+
+    void MakeRoom() {
+        if (m_bytes >= kMostBytes) {
+            m_letters.clear();
+            m_bytes = 0;
+        }
+    }
+
+private:
+    static constexpr std::size_t kOverhead = sizeof(LetterKey) + sizeof(Letter) + 64;
+
+    std::unordered_map<LetterKey, Letter, LetterKeyHash> m_letters;
+    std::size_t m_bytes = 0;
+};
+
+Letters& ThisThread() {
+    thread_local Letters letters;
+    return letters;
+}
+
+/// A letter and the pixel in which it stands.
+struct PlacedLetter {
+    const Letter* Shape;
+    double X;
+    double Y;
+};
+
+/// Rounds to a place that is told apart. Gives the pixel and, in `within`, the place in it.
+double Settle(double place, double& within) {
+    const double settled = std::floor(place * kPlacesPerPixel + 0.5) / kPlacesPerPixel;
+    const double pixel = std::floor(settled);
+    within = settled - pixel;
+    return pixel;
+}
+
+/// False when a letter cannot be had.
+bool Place(Letters& letters, const PangoLayoutRun& run, int& pen, const Matrix& toDevice,
+           std::vector<PlacedLetter>& placed) {
+    for (int i = 0; i < run.glyphs->num_glyphs; ++i) {
+        const PangoGlyphInfo& glyph = run.glyphs->glyphs[i];
+        const PointD origin{static_cast<double>(pen + glyph.geometry.x_offset) / PANGO_SCALE,
+                            static_cast<double>(glyph.geometry.y_offset) / PANGO_SCALE};
+        pen += glyph.geometry.width;
+        if (glyph.glyph == PANGO_GLYPH_EMPTY) {
+            continue;
+        }
+        LetterKey key{run.item->analysis.font, glyph.glyph, toDevice};
+        const PointD at = Mapped(toDevice, origin);
+        const double x = Settle(at.X, key.ToPixels.Dx);
+        const double y = Settle(at.Y, key.ToPixels.Dy);
+        const bool isUnknown = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
+        const Letter* const letter = isUnknown ? nullptr : letters.Find(key);
+        if (letter == nullptr) {
+            return false;
+        }
+        if (letter->Width > 0) {
+            placed.push_back({letter, x, y});
+        }
+    }
+    return true;
+}
+
+BoxD BoxOf(const std::vector<PlacedLetter>& letters) {
+    const auto box = [](const PlacedLetter& letter) {
+        const double left = letter.X + letter.Shape->Left;
+        const double top = letter.Y + letter.Shape->Top;
+        return BoxD{left, top, left + letter.Shape->Width, top + letter.Shape->Height};
+    };
+    BoxD all = box(letters.front());
+    for (const PlacedLetter& letter : letters) {
+        const BoxD own = box(letter);
+        all = {std::min(all.Left, own.Left), std::min(all.Top, own.Top), std::max(all.Right, own.Right),
+               std::max(all.Bottom, own.Bottom)};
+    }
+    return all;
+}
+
+/// Where letters touch, they cover a pixel together.
+void Copy(const PlacedLetter& letter, const BoxD& box, unsigned char* pixels, std::ptrdiff_t stride) {
+    const Letter& shape = *letter.Shape;
+    unsigned char* to = pixels + static_cast<std::ptrdiff_t>(letter.Y + shape.Top - box.Top) * stride +
+                        static_cast<std::ptrdiff_t>(letter.X + shape.Left - box.Left);
+    const unsigned char* from = shape.Coverage.data();
+    for (int y = 0; y < shape.Height; ++y, to += stride, from += shape.Width) {
+        for (int x = 0; x < shape.Width; ++x) {
+            to[x] = static_cast<unsigned char>(std::min(255, to[x] + from[x]));
+        }
+    }
+}
+
+} // namespace
+
+std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevice) {
+    Letters& letters = ThisThread();
+    letters.MakeRoom();
+    std::vector<PlacedLetter> placed;
+    int pen = 0;
+    for (const GSList* run = line.Line->runs; run != nullptr; run = run->next) {
+        if (!Place(letters, *static_cast<const PangoLayoutRun*>(run->data), pen, toDevice, placed)) {
+            return std::nullopt;
+        }
+    }
+    if (placed.empty()) {
+        return LetterMask{};
+    }
+    const BoxD box = BoxOf(placed);
+    if (box.Width() * box.Height() > kMostPixels) {
+        return std::nullopt;
+    }
+    LetterMask mask{CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_A8, static_cast<int>(box.Width()),
+                                                            static_cast<int>(box.Height()))),
+                    box.Left, box.Top};
+    unsigned char* const pixels = cairo_image_surface_get_data(mask.Coverage.get());
+    if (pixels == nullptr) {
+        return std::nullopt;
+    }
+    for (const PlacedLetter& letter : placed) {
+        Copy(letter, box, pixels, cairo_image_surface_get_stride(mask.Coverage.get()));
+    }
+    cairo_surface_mark_dirty(mask.Coverage.get());
+    return mask;
+}
+
+} // namespace penlode

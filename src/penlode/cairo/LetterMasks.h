@@ -1,0 +1,24 @@
+#pragma once
+
+#include "penlode/Matrix.h"
+#include "penlode/cairo/CairoHandles.h"
+#include "penlode/cairo/PangoText.h"
+
+#include <optional>
+
+/// Small letters as pixels. Each is filled once for each place within a pixel, and copied from then on: most
+/// of the time that a labelled chart is drawn in went into filling the same letters.
+namespace penlode {
+
+/// How much of each pixel the letters of a line cover.
+struct LetterMask {
+    CairoSurface Coverage; ///< 8-bit alpha; null where nothing is covered
+    double X = 0.0;        ///< of its left edge, a whole pixel
+    double Y = 0.0;
+};
+
+/// `toDevice` maps the line's own units to pixels. A letter is at most an eighth of a pixel from its place.
+/// Nothing for a line that is too long, for characters that no face has, and when Cairo fails.
+std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevice);
+
+} // namespace penlode
