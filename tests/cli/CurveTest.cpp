@@ -67,6 +67,52 @@ TEST_F(Curve, TextsInTheFirstColumnAreLabels) {
         "millichart: d.csv:3: column 1: found \"next\", expected a whole number, as in the rows above\n");
 }
 
+TEST_F(Curve, TheUsersTableBringsItsOwnNamesAndLabels) {
+    Write("d.csv", "day,Asia,Europe\nMon,1,2\nTue,3,4\n");
+    const std::string document = Lines(R"({"curves": [{"values": [5, 6, 7]}], "labels": ["a", "b", "c"]})",
+                                       R"(, "CurveName": ["Old"])");
+    EXPECT_EQ(Labels(document), "a b c ");
+    Write("c.json", document);
+    const std::string shown = Run("millichart inspect c.json --data d.csv").Output;
+    EXPECT_NE(shown.find("\"text\":\"Mon\""), std::string::npos);
+    EXPECT_EQ(shown.find("\"text\":\"a\""), std::string::npos);
+    EXPECT_EQ(Run("millichart check c.json --data d.csv | grep ' warning: '").Output, "")
+        << "two names for two curves";
+    Write("c.json", Lines(R"({"csv": "d.csv"})", R"(, "CurveName": ["East", "West"])"));
+    EXPECT_NE(Run("millichart check c.json").Output.find("CurveName"), std::string::npos)
+        << "the document's own names stand, and that is told";
+}
+
+TEST_F(Curve, EmptyColumnsAtTheEndAreNoCurves) {
+    Write("d.csv", "1,5,,\n2,6,,\n");
+    EXPECT_EQ(Shown(Lines(R"({"csv": "d.csv"})"), "curves"), "[{\"points\":[[0,5],[100,4]],\"nulls\":[]}]\n");
+    Write("d.csv", "1,5,\n2,6,7\n");
+    EXPECT_NE(Shown(Lines(R"({"csv": "d.csv"})"), "curves").find("\"nulls\":[0]"), std::string::npos);
+}
+
+TEST_F(Curve, LabelsOfThousandsOfRowsKeepTheirPlaces) {
+    std::string rows = "row,value\n";
+    for (int i = 0; i < 3000; ++i) {
+        rows += "row " + std::to_string(i) + "," + std::to_string(i % 7) + "\n";
+    }
+    Write("d.csv", rows);
+    EXPECT_EQ(Labels(Lines(R"({"csv": "d.csv"})")), "row 0 row 500 row 1000 row 1500 row 2000 row 2500 ");
+}
+
+TEST_F(Curve, AGapThatIsDrawnAsZeroMayLieOutsideTheAxis) {
+    const auto warnings = [&](const std::string& nullStyle) {
+        Write("c.json", R"({"kind": "curve", "property": {"CurvePlotProp": {"NullValueStyle": [")" +
+                            nullStyle +
+                            R"("]}}, "range": {"NaturalValueRange": [300, 440, 20, 10]},
+                           "data": {"curves": [{"values": [310, null, 320]}]}})");
+        return Run("millichart check c.json | grep ' warning: '").Output;
+    };
+    EXPECT_EQ(warnings("as_zero"),
+              "c.json:2: warning: data/curves/0/values/1: lies outside the value axis, which "
+              "goes from 300 to 440\n");
+    EXPECT_EQ(warnings("break"), "");
+}
+
 TEST_F(Curve, TellsWhatItCannotPlace) {
     Write("c.json", Lines("{\"curves\": [{\"times\": [1, 2.5],\n\"values\": [1, 2, \"x\"]}]}"));
     EXPECT_EQ(Run("millichart check c.json | grep -v note").Output,

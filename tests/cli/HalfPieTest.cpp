@@ -90,4 +90,10 @@ TEST_F(HalfPie, WarnsOfHalvesThatCoverSomething) {
         "h.json:1: warning: property/HalfPie/HalfPieBasicProp/WhichPart: the upper half lies behind the "
         "bars; \"Lower\" lies below them\n"
         "h.json:2: warning: data/groups/0/values/0: lies outside the value axis, which goes from 0 to 4\n");
+    EXPECT_EQ(Warnings(WithBars(kLower, R"("data": {"values": [1], "groups": []})")),
+              "h.json:2: warning: data/groups: found nothing to draw, expected a group with values\n");
+    EXPECT_NE(Warnings(Halves("", kLower, R"("data": {"first": {"values": [1]}, "second": {"values": [1]}},
+                                "labelOffsets": {"first": [], "second": ["1 1", "2 2"]})"))
+                  .find("labelOffsets/second: found 2 points, expected 0"),
+              std::string::npos);
 }

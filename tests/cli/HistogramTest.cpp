@@ -83,6 +83,15 @@ TEST_F(Histogram, WarnsOfWhatWasHardlyMeant) {
         "h.json:2: warning: property/HistogramPlotProp/PlotWidth: each bar is only 0.04761905 mm wide\n");
 }
 
+TEST_F(Histogram, BarsInDepthNeedNamesForTheirWidth) {
+    Write("h.json",
+          Bars(R"(, "PieStyle": "3D", "ComponentName": [])", R"("data": {"groups": [{"values": [1, 2]}]})"));
+    const Outcome refused = Run("millichart draw h.json");
+    EXPECT_EQ(refused.Status, 1);
+    EXPECT_NE(refused.Errors.find("ComponentName: found no names, expected 2"), std::string::npos)
+        << refused.Errors;
+}
+
 TEST_F(Histogram, SaysWhatIsDoubtfulWhereItStandsInTheTable) {
     Write("d.csv", "year,2023,2024\n\nnorth,-2,61.00001\nsouth,50,\n");
     EXPECT_EQ(

@@ -30,6 +30,9 @@ public:
 
     void Read() {
         m_table.ForEachRow([this](const CsvRow& row) { ReadRow(row); });
+        if (m_data.CurveNames.empty()) {
+            DropEmptyColumns();
+        }
         if (m_table.IsSound() && (m_rows == 0 || m_data.Values.empty())) {
             m_table.Refuse("no rows of values", "a row a time: the time or a label, and a value a curve");
         }
@@ -70,6 +73,16 @@ private:
         m_data.Lines.reserve(rows);
         for (std::vector<double>& values : m_data.Values) {
             values.reserve(rows);
+        }
+    }
+
+    /// Without a heading, columns that a spreadsheet program added look like curves without a value.
+    void DropEmptyColumns() {
+        const auto isEmpty = [](const std::vector<double>& values) {
+            return std::all_of(values.begin(), values.end(), [](double value) { return value == kNull; });
+        };
+        while (!m_data.Values.empty() && isEmpty(m_data.Values.back())) {
+            m_data.Values.pop_back();
         }
     }
 

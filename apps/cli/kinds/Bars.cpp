@@ -101,6 +101,12 @@ std::vector<Message> Bars::DoubtSizes(const millichart::CBasicHistogram& chart) 
     const millichart::HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
     const millichart::HistogramLayout& layout = chart.GetLayout();
     std::vector<Message> doubts = PlotSizeFaults(m_place, plot.PlotWidth, plot.PlotHeight);
+    // The depth is a part of a bar's width, which is the group's, shared by the names.
+    if (m_components > 0 && plot.PieStyle != millichart::BarStyle::Flat &&
+        !std::isfinite(layout.ComponentWidth)) {
+        doubts.push_back({"", Severity::Error, 0, m_place + kNames, "no names",
+                          std::to_string(m_components) + ", without which bars in 3D have no width"});
+    }
     if (m_components == 0 || !doubts.empty()) {
         return doubts;
     }

@@ -70,13 +70,16 @@ public:
             data.Labels = TimeLabels(data);
         }
         TakeSteps(stream, data.Labels.size(), prop.HorAxis);
+        if (!data.File.empty()) {
+            ForgetUnseen(data.Labels, prop.HorAxis.LabelStep);
+        }
         m_chart.SetCurveProp(prop);
         ValueRange(stream, prop.Plot.LogarithmScale != 0, *source.Messages)
             .ApplyTo(m_chart, LargestOf(data.Values));
         LookForValuesOutside(data);
         m_file = data.File;
         m_chart.SetCurveData(std::move(data.Values), std::move(data.Times));
-        m_chart.SetHorAxisLabel(data.Labels);
+        m_chart.SetHorAxisLabel(std::move(data.Labels));
         m_chart.SetLocation(LoadPoint(stream, "location"));
         m_chart.Layout();
     }
@@ -165,12 +168,27 @@ private:
         }
     }
 
+    /// A table of a million rows has as many labels. The chart measures all that it gets, whether a step
+    /// passes over them or not.
+    static void ForgetUnseen(std::vector<std::string>& labels, std::int32_t labelStep) {
+        for (std::size_t i = 0; labelStep > 1 && i < labels.size(); ++i) {
+            if (i % static_cast<std::size_t>(labelStep) != 0) {
+                labels[i] = std::string();
+            }
+        }
+    }
+
     void LookForValuesOutside(const CurveData& data) {
-        RangeDoubts doubts = RangeDoubts::Of(m_chart, m_chart.GetCurveProp().Plot.LogarithmScale != 0);
+        const millichart::CurvePlotProp& plot = m_chart.GetCurveProp().Plot;
+        RangeDoubts doubts = RangeDoubts::Of(m_chart, plot.LogarithmScale != 0);
         for (std::size_t curve = 0; curve < data.Values.size(); ++curve) {
+            const bool nullsAreZero = curve < plot.NullValueStyle.size() &&
+                                      plot.NullValueStyle[curve] != millichart::CurveNullValueStyle::Break;
             for (std::size_t i = 0; i < data.Values[curve].size(); ++i) {
-                if (const double value = data.Values[curve][i]; value >= millichart::kCurveNullThreshold) {
-                    doubts.Look(value, [&] { return data.PlaceOf(curve, i); });
+                const double value = data.Values[curve][i];
+                const bool isNull = value < millichart::kCurveNullThreshold;
+                if (!isNull || nullsAreZero) {
+                    doubts.Look(isNull ? 0.0 : value, [&] { return data.PlaceOf(curve, i); });
                 }
             }
         }

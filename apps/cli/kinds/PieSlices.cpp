@@ -1,5 +1,6 @@
 #include "kinds/PieSlices.h"
 
+#include "documents/Fields.h"
 #include "kinds/Palette.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ void PieSlices::TakeNames(std::vector<std::string>& names) {
 }
 
 void PieSlices::DoubtOffsets(std::size_t count, const std::string& place, std::size_t names) {
-    if (count > names && count <= m_data.Values.size()) {
+    if (count > names) {
         m_doubts.push_back({"", Severity::Warning, 0, place, Counted(count, "point"),
                             std::to_string(names) + ", as a label without a name does not move"});
     }
@@ -90,6 +91,9 @@ std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bo
     std::vector<Message> doubts = m_doubts;
     if (isEmpty) {
         doubts.push_back({"", Severity::Warning, 0, m_data.Place, "no value above 0", "one for each slice"});
+    } else if (isFixed && width < 0.0F) {
+        doubts.push_back(
+            {"", Severity::Error, 0, m_place + "/FixedWidth", NumberText(width), "a number above 0"});
     } else if (width < kSmallestPie) {
         doubts.push_back(Smallness(width, isFixed));
     }

@@ -8,6 +8,8 @@
 #include "foundation/Export.h"
 #include "penlode/IGraphicsEngine.h"
 
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace millichart {
@@ -48,7 +50,7 @@ public:
 
     /// Narrow texts, spread evenly over the plot's width whatever the times are; shown if there are two or
     /// more.
-    void SetHorAxisLabel(const std::vector<std::string>& labels) { m_labels = labels; }
+    void SetHorAxisLabel(std::vector<std::string> labels) { m_labels = std::move(labels); }
 
     /// The top-left corner, legend included.
     void SetLocation(penlode::PointF location) { m_location = location; }
@@ -104,10 +106,13 @@ protected:
     void DrawVerAxis(penlode::IGraphicsEngine* engine) const;
     void DrawHorAxis(penlode::IGraphicsEngine* engine) const;
     void DrawPlot(penlode::IGraphicsEngine* engine) const;
-    /// One curve, or one sample in the legend: the line, then a marker at each of `markers`, which are as
-    /// many as the line's points and null where those are.
-    void DrawLine(penlode::IGraphicsEngine* engine, const CurveFigure& line,
-                  const std::vector<penlode::PointF>& markers, const CurveStyle& style) const;
+    /// One curve, or one sample in the legend: the line, then a marker at each of `markers` that is not null.
+    /// A point without a flag of its own is not null; one that is not finite is left out of both. Widths in
+    /// mm, styles as in CurvePlotProp.
+    void DrawLine(penlode::IGraphicsEngine* engine, const std::vector<penlode::PointF>& line,
+                  const std::vector<penlode::PointF>& markers, const std::vector<bool>& nulls,
+                  penlode::Color color, float width, std::int32_t dashStyle, std::int32_t dotStyle,
+                  penlode::Color dotColor, float dotWidth, std::int32_t nullStyle) const;
     void DrawLegend(penlode::IGraphicsEngine* engine) const;
     void DrawCaption(penlode::IGraphicsEngine* engine) const;
 

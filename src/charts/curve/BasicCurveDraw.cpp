@@ -22,39 +22,47 @@ bool IsPlaced(PointF point) {
     return std::isfinite(point.X) && std::isfinite(point.Y);
 }
 
-bool IsNullAt(const CurveFigure& line, std::size_t index) {
-    return line.HasNull && line.NullFlags[index];
-}
+/// Points and which of them are null; whether any is, and whether any has no place, is known beforehand.
+struct Points {
+    const std::vector<PointF>& List;
+    const std::vector<bool>& Nulls;
+    bool HasNull;
+    bool HasUnplaced;
 
-bool HasNoPlaceAt(const CurveFigure& line, std::size_t index) {
-    return line.HasUnplaced && !IsPlaced(line.Points[index]);
+    bool IsNull(std::size_t index) const { return HasNull && index < Nulls.size() && Nulls[index]; }
+
+    bool HasNoPlace(std::size_t index) const { return HasUnplaced && !IsPlaced(List[index]); }
+};
+
+Points PointsOf(const CurveFigure& curve) {
+    return {curve.Points, curve.NullFlags, curve.HasNull, curve.HasUnplaced};
 }
 
 /// The points up to each gap, and those after the last one, straight from the list. Every run makes a call,
 /// the empty ones too.
-void DrawRuns(IGraphicsEngine& engine, const penlode::Pen& pen, const CurveFigure& line,
-              std::int32_t nullStyle) {
-    const bool breaks = nullStyle == CurveNullValueStyle::Break;
-    const std::vector<PointF>& points = line.Points;
+void DrawRuns(IGraphicsEngine& engine, const Points& line, const CurveStyle& style) {
+    penlode::Pen pen(style.LineColor, style.Width);
+    pen.SetDashStyle(static_cast<penlode::DashStyle>(style.Dash));
+    const bool breaks = style.NullValue == CurveNullValueStyle::Break;
     const auto drawRun = [&](std::size_t start, std::size_t end) {
-        engine.DrawLines(&pen, points.data() + start, static_cast<std::int32_t>(end - start));
+        engine.DrawLines(&pen, line.List.data() + start, static_cast<std::int32_t>(end - start));
     };
     std::size_t start = 0;
-    const std::size_t searched = line.HasUnplaced || (breaks && line.HasNull) ? points.size() : 0;
+    const std::size_t searched = line.HasUnplaced || (breaks && line.HasNull) ? line.List.size() : 0;
     for (std::size_t i = 0; i < searched; ++i) {
-        if ((breaks && IsNullAt(line, i)) || HasNoPlaceAt(line, i)) {
+        if ((breaks && line.IsNull(i)) || line.HasNoPlace(i)) {
             drawRun(start, i);
             start = i + 1;
         }
     }
-    drawRun(start, points.size());
+    drawRun(start, line.List.size());
 }
 
-void DrawMarkers(IGraphicsEngine& engine, const CurveMarker& marker, const CurveFigure& line,
-                 const std::vector<PointF>& markers) {
-    for (std::size_t i = 0; marker.IsDrawn() && i < markers.size(); ++i) {
-        if (!IsNullAt(line, i) && !HasNoPlaceAt(line, i)) {
-            marker.Draw(engine, markers[i]);
+void DrawMarkers(IGraphicsEngine& engine, const Points& markers, const CurveStyle& style) {
+    const CurveMarker marker(style);
+    for (std::size_t i = 0; marker.IsDrawn() && i < markers.List.size(); ++i) {
+        if (!markers.IsNull(i) && !markers.HasNoPlace(i)) {
+            marker.Draw(engine, markers.List[i]);
         }
     }
 }
@@ -126,17 +134,20 @@ void CBasicCurve::DrawPlot(IGraphicsEngine* engine) const {
     }
     const std::size_t curves = std::min(prop.CurveName.size(), m_layout.Curves.size());
     for (std::size_t i = 0; i < curves; ++i) {
-        const CurveFigure& curve = m_layout.Curves[i];
-        DrawLine(engine, curve, curve.Points, StyleOf(prop, i));
+        const Points curve = PointsOf(m_layout.Curves[i]);
+        const CurveStyle style = StyleOf(prop, i);
+        DrawRuns(*engine, curve, style);
+        DrawMarkers(*engine, curve, style);
     }
 }
 
-void CBasicCurve::DrawLine(IGraphicsEngine* engine, const CurveFigure& line,
-                           const std::vector<PointF>& markers, const CurveStyle& style) const {
-    penlode::Pen pen(style.LineColor, style.Width);
-    pen.SetDashStyle(static_cast<penlode::DashStyle>(style.Dash));
-    DrawRuns(*engine, pen, line, style.NullValue);
-    DrawMarkers(*engine, CurveMarker(style), line, markers);
+void CBasicCurve::DrawLine(IGraphicsEngine* engine, const std::vector<PointF>& line,
+                           const std::vector<PointF>& markers, const std::vector<bool>& nulls,
+                           penlode::Color color, float width, std::int32_t dashStyle, std::int32_t dotStyle,
+                           penlode::Color dotColor, float dotWidth, std::int32_t nullStyle) const {
+    const CurveStyle style{color, width, dashStyle, dotStyle, dotColor, dotWidth, nullStyle};
+    DrawRuns(*engine, {line, nulls, true, true}, style);
+    DrawMarkers(*engine, {markers, nulls, true, true}, style);
 }
 
 void CBasicCurve::DrawLegend(IGraphicsEngine* engine) const {
@@ -156,9 +167,11 @@ void CBasicCurve::DrawLegendItem(IGraphicsEngine& engine, std::size_t index) con
     const RectF& item = m_layout.LegendItemRects[index];
     const float width = 2.0F * item.Height;
     const float middle = item.Y + item.Height * 0.5F;
-    const CurveFigure line{{{item.X, middle}, {item.X + width, middle}}, {false, false}};
     const PointF center{item.X + item.Height, middle};
-    DrawLine(&engine, line, {center, center}, StyleOf(m_prop.Plot, index));
+    const CurveStyle style = StyleOf(m_prop.Plot, index);
+    DrawLine(&engine, {{item.X, middle}, {item.X + width, middle}}, {center, center}, {false, false},
+             style.LineColor, style.Width, style.Dash, style.Dot, style.DotColor, style.DotWidth,
+             style.NullValue);
     if (index < m_prop.Plot.CurveName.size()) {
         CLegendOperation::DrawName(&engine, m_prop.Legend, m_prop.Plot.CurveName[index],
                                    {item.X + width, item.Y, item.Width - width, item.Height});

@@ -132,6 +132,47 @@ DrawString "BB" 宋体/4 (99 23 4 5) center-center #FF000000
 )");
 }
 
+TEST(BasicCurveDraw, AWholeChartOnALogarithmicAxis) {
+    CurveProp prop = CurvesAlone({"A"});
+    prop.Plot.LogarithmScale = 1;
+    prop.VerAxis.ShowVerAxis = 1;
+    prop.VerAxis.MinorScaleStyle = ScaleStyle::None;
+    prop.VerAxis.ShowHorMajorGrid = 1;
+    prop.VerAxis.HorMajorGridPen = penlode::Pen(Color{0xFFC0C0C0}, 0.2F);
+    prop.VerAxis.ShowHorMinorGrid = 1;
+    prop.VerAxis.HorMinorGridPen = penlode::Pen(Color{0xFFE0E0E0}, 0.1F);
+    EXPECT_EQ(Brief(Drawn(LaidOut(prop, {{1, 10, 100}}, {{0, 1, 2}}))), R"(DrawLine #FF000000/0.1 (7 0) (7 30)
+DrawLine #FF000000/0.1 (7 30) (6 30)
+DrawLine #FF000000/0.1 (7 15) (6 15)
+DrawLine #FF000000/0.1 (7 0) (6 0)
+at 5 30 turned 0: DrawString "1" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000
+at 4 15 turned 0: DrawString "10" 宋体/4 (-2 -2.5 4 5.5) center-center #FF000000
+at 3 0 turned 0: DrawString "100" 宋体/4 (-3 -2.5 6 5.5) center-center #FF000000
+DrawLine #FFE0E0E0/0.1 (7 30) (87 30)
+DrawLine #FFE0E0E0/0.1 (7 25.48) (87 25.48)
+DrawLine #FFE0E0E0/0.1 (7 22.84) (87 22.84)
+DrawLine #FFE0E0E0/0.1 (7 20.97) (87 20.97)
+DrawLine #FFE0E0E0/0.1 (7 19.52) (87 19.52)
+DrawLine #FFE0E0E0/0.1 (7 18.33) (87 18.33)
+DrawLine #FFE0E0E0/0.1 (7 17.32) (87 17.32)
+DrawLine #FFE0E0E0/0.1 (7 16.45) (87 16.45)
+DrawLine #FFE0E0E0/0.1 (7 15.69) (87 15.69)
+DrawLine #FFE0E0E0/0.1 (7 15) (87 15)
+DrawLine #FFE0E0E0/0.1 (7 10.48) (87 10.48)
+DrawLine #FFE0E0E0/0.1 (7 7.84) (87 7.84)
+DrawLine #FFE0E0E0/0.1 (7 5.97) (87 5.97)
+DrawLine #FFE0E0E0/0.1 (7 4.52) (87 4.52)
+DrawLine #FFE0E0E0/0.1 (7 3.33) (87 3.33)
+DrawLine #FFE0E0E0/0.1 (7 2.32) (87 2.32)
+DrawLine #FFE0E0E0/0.1 (7 1.45) (87 1.45)
+DrawLine #FFE0E0E0/0.1 (7 0.69) (87 0.69)
+DrawLine #FFC0C0C0/0.2 (7 30) (87 30)
+DrawLine #FFC0C0C0/0.2 (7 15) (87 15)
+DrawLine #FFC0C0C0/0.2 (7 0) (87 0)
+DrawLines #FFFF0000/0.5 [3] (7 30) (47 15) (87 0)
+)");
+}
+
 TEST(BasicCurveDraw, NullsBreakTheLine) {
     const CurveProp prop = CurvesAlone({"A"});
     EXPECT_EQ(Lines(prop, {0, 10, 20}), "[3] (0 30) (10 15) (20 0)\n");
@@ -139,6 +180,7 @@ TEST(BasicCurveDraw, NullsBreakTheLine) {
     EXPECT_EQ(Lines(prop, {0, 10, kNull, 10, 0}), "[2] (0 30) (10 15)\n[2] (30 15) (40 30)\n");
     EXPECT_EQ(Lines(prop, {0, kNull, kNull, 10}), "[1] (0 30)\n[0]\n[1] (30 15)\n");
     EXPECT_EQ(Lines(prop, {0, 10, kNull}), "[2] (0 30) (10 15)\n[0]\n");
+    EXPECT_EQ(Lines(prop, {kNull, kNull, 0, kNull, kNull}), "[0]\n[0]\n[1] (20 30)\n[0]\n[0]\n");
     EXPECT_EQ(Lines(prop, {}), "null\n") << "a call without a point to point to";
 }
 
@@ -149,6 +191,7 @@ TEST(BasicCurveDraw, ALineRunsThroughItsNullsAsZero) {
         prop.Plot.NullValueStyle = {style};
         EXPECT_EQ(Lines(prop, {kNull, 10, kNull, kNull, 20}), "[5] (0 30) (10 15) (20 30) (30 30) (40 0)\n");
     }
+    EXPECT_EQ(Lines(prop, {10, kNull}), "[2] (0 15) (10 30)\n");
     // A value that is no number breaks the line all the same.
     EXPECT_EQ(Lines(prop, {kNull, 10, std::nan(""), 20}), "[2] (0 30) (10 15)\n[1] (30 0)\n");
     const std::string withMarkers = Drawn(LaidOut(prop, {{kNull, 10, 20}}, {{0, 1, 8}}));
@@ -158,6 +201,34 @@ TEST(BasicCurveDraw, ALineRunsThroughItsNullsAsZero) {
     EXPECT_EQ(Lines(prop, {1, 10, kNull, 10, 0, 100}), "[2] (0 30) (10 15)\n[1] (30 15)\n[1] (50 0)\n");
     EXPECT_EQ(Only(Drawn(LaidOut(prop, {{0, 1}}, {{0, 8}})), "FillRectangle "),
               "#FF000000 (79.5 29.5 1 1)\n");
+}
+
+TEST(BasicCurveDraw, EveryDash) {
+    CurveProp prop = CurvesAlone({"A"});
+    const char* const expected[] = {"", "/dash", "/dot", "/dash-dot", "/dash-dot-dot", "/custom"};
+    for (std::int32_t style = 0; style <= 5; ++style) {
+        prop.Plot.CurveDashStyle = {style};
+        EXPECT_EQ(Drawn(LaidOut(prop, {{0, 10}}, {{0, 1}})),
+                  "DrawLines #FFFF0000/0.5" + std::string(expected[style]) + " [2] (0 30) (80 15)\n");
+    }
+}
+
+TEST(BasicCurveDraw, AChartOfTheHostsDrawsLinesOfItsOwn) {
+    struct HostChart : CBasicCurve {
+        using CBasicCurve::DrawLine;
+    };
+
+    penlode::CRecordingEngine engine;
+    const std::vector<penlode::PointF> line{{0, 0}, {1, 1}, {2, 2}, {3, 3}, {NAN, 4}, {5, 5}};
+    const std::vector<penlode::PointF> markers{{0, 9}, {1, 9}, {2, 9}};
+    // Flags alone say what is null, and points without a flag are not.
+    HostChart().DrawLine(&engine, line, markers, {false, true}, Color{0xFF0000FF}, 0.2F, 2,
+                         CurveDotStyle::SolidCircle, Color{0xFFFF0000}, 1.0F, CurveNullValueStyle::Break);
+    EXPECT_EQ(engine.Text(), "DrawLines #FF0000FF/0.2/dot [1] (0 0)\n"
+                             "DrawLines #FF0000FF/0.2/dot [2] (2 2) (3 3)\n"
+                             "DrawLines #FF0000FF/0.2/dot [1] (5 5)\n"
+                             "FillEllipse #FFFF0000 (-0.5 8.5 1 1)\n"
+                             "FillEllipse #FFFF0000 (1.5 8.5 1 1)\n");
 }
 
 TEST(BasicCurveDraw, Markers) {

@@ -157,6 +157,13 @@ TEST(BasicCurve, TheLegendPushesTheChartFromItsLocation) {
     EXPECT_EQ(left.Plot, penlode::Translated(without.Plot, shift));
     EXPECT_EQ(left.HorLabelRects[1], penlode::Translated(without.HorLabelRects[1], shift));
     EXPECT_EQ(left.Curves[0].Points[1], without.Curves[0].Points[1] + shift);
+
+    prop.Legend.LegendPos = LegendPosition::TopCenter;
+    const CurveLayout top = LaidOut(prop, values, times, {"a", "b"}).GetLayout();
+    const PointF down{0, top.Plot.Y - without.Plot.Y};
+    EXPECT_EQ(down.Y, 7); // an item, and 2 off the chart
+    EXPECT_EQ(top.HorLabelRects[1], penlode::Translated(without.HorLabelRects[1], down));
+    EXPECT_EQ(top.Curves[0].Points[1], without.Curves[0].Points[1] + down);
 }
 
 TEST(BasicCurve, TimesSpanThePlot) {
@@ -231,13 +238,19 @@ TEST(BasicCurve, TheAxisIsReplacedOnlyWithItsScaleAndSharedByCopies) {
 
     prop.Plot.LogarithmScale = 2;
     EXPECT_TRUE(chart.SetCurveProp(prop));
+    double min = 0;
+    double max = 0;
+    chart.GetLogarithmValueRange(min, max);
+    EXPECT_EQ(min, -1.0);
+    EXPECT_EQ(max, -1.0);
+    chart.Layout();
+    EXPECT_TRUE(layout.VerMajorTicks.empty());
+    EXPECT_TRUE(layout.Curves[0].HasUnplaced) << "nothing has a place on an axis without a range";
     chart.SetLogarithmValueRange(1, 100);
     chart.SetCurveData({{10, kNull}}, {{0, 1}});
     chart.Layout();
     EXPECT_EQ(layout.Curves[0].Points[0].Y, layout.Plot.Bottom() - 30); // half of 60
     EXPECT_TRUE(layout.Curves[0].HasUnplaced) << "0 has no place on a logarithmic axis";
-    double min = 0;
-    double max = 0;
     chart.GetLogarithmValueRange(min, max);
     EXPECT_EQ(max, 100.0);
     double step = 0;
