@@ -135,12 +135,17 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForCairo(_cairo* context, doub
     double scaleY = 1.0;
     cairo_surface_t* surface = cairo_get_group_target(context);
     cairo_surface_get_device_scale(surface, &scaleX, &scaleY);
-    const Matrix toPixels = Matrix{m.xx, m.yx, m.xy, m.yy, m.x0, m.y0} * Matrix::Scale(scaleX, scaleY);
+    double offsetX = 0.0;
+    double offsetY = 0.0;
+    cairo_surface_get_device_offset(surface, &offsetX, &offsetY);
+    const Matrix toPixels = Matrix{m.xx, m.yx, m.xy, m.yy, m.x0, m.y0} * Matrix::Scale(scaleX, scaleY) *
+                            Matrix::Translation(offsetX, offsetY);
     const CanvasSetting setting{HasPixels(surface),
                                 dpi * toPixels.LengthFactor(),
                                 ClipOf(context, toPixels),
                                 toPixels,
-                                Matrix::Scale(1.0 / scaleX, 1.0 / scaleY),
+                                Matrix::Translation(-offsetX, -offsetY) *
+                                    Matrix::Scale(1.0 / scaleX, 1.0 / scaleY),
                                 {},
                                 false};
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(

@@ -228,6 +228,27 @@ TEST(GraphicsEngine, PdfIsTheSameEveryTimeAndEndsThePage) {
     EXPECT_TRUE(g->Pixels().Pixels.empty());
 }
 
+TEST(GraphicsEngine, FindsTheWholePixelsOfASurfaceThatIsOffByAFraction) {
+    cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_A8, 40, 20);
+    cairo_surface_set_device_scale(surface, 2.0, 2.0);
+    cairo_surface_set_device_offset(surface, 3.4, 0.3);
+    cairo_t* context = cairo_create(surface);
+    const SolidBrush black{kBlack};
+    CGraphicsEngine::ForCairo(context, 25.4)->FillRectangle(&black, 2, 2, 4, 3);
+    cairo_surface_flush(surface);
+    const unsigned char* row = cairo_image_surface_get_data(surface);
+    int covered = 0;
+    for (int y = 0; y < 20; ++y, row += cairo_image_surface_get_stride(surface)) {
+        for (int x = 0; x < 40; ++x) {
+            EXPECT_TRUE(row[x] == 0 || row[x] == 255) << x << " " << y;
+            covered += row[x] == 255 ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(covered, 8 * 6);
+    cairo_destroy(context);
+    cairo_surface_destroy(surface);
+}
+
 TEST(GraphicsEngine, DrawsWhereAHostsContextStandsAndLeavesItSo) {
     cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, 60, 40);
     cairo_t* context = cairo_create(surface);
