@@ -86,6 +86,13 @@ TEST_F(Curve, TheUsersTableBringsItsOwnNamesAndLabels) {
 TEST_F(Curve, EmptyColumnsAtTheEndAreNoCurves) {
     Write("d.csv", "1,5,,\n2,6,,\n");
     EXPECT_EQ(Shown(Lines(R"({"csv": "d.csv"})"), "curves"), "[{\"points\":[[0,5],[100,4]],\"nulls\":[]}]\n");
+    // Unless the document names them; and one is left.
+    EXPECT_NE(Shown(Lines(R"({"csv": "d.csv"})", R"(, "CurveName": ["East", "West"])"), "curves")
+                  .find("\"nulls\":[0,1]"),
+              std::string::npos);
+    Write("d.csv", "1,\n2,\n");
+    EXPECT_EQ(Shown(Lines(R"({"csv": "d.csv"})"), "curves"),
+              "[{\"points\":[[0,10],[100,10]],\"nulls\":[0,1]}]\n");
     Write("d.csv", "1,5,\n2,6,7\n");
     EXPECT_NE(Shown(Lines(R"({"csv": "d.csv"})"), "curves").find("\"nulls\":[0]"), std::string::npos);
 }

@@ -18,7 +18,8 @@ struct CurveData {
         Labels;       ///< narrow; of the horizontal axis, those of the data if they are no times
     std::string File; ///< of the CSV file that they come from, as messages call it; or empty
     std::vector<std::uint32_t> Lines; ///< of that file: where the values of each time stand
-    bool NamesGoFirst = false; ///< the user put these data in the place of the document's, names and all
+    std::size_t EmptyColumns = 0; ///< so many of the last curves are columns of that file without any text
+    bool NamesGoFirst = false;    ///< the user put these data in the place of the document's, names and all
 
     /// Where a value stands.
     FilePlace PlaceOf(std::size_t curve, std::size_t value) const;

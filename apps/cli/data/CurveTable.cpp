@@ -30,8 +30,8 @@ public:
 
     void Read() {
         m_table.ForEachRow([this](const CsvRow& row) { ReadRow(row); });
-        if (m_data.CurveNames.empty()) {
-            DropEmptyColumns();
+        if (m_data.CurveNames.empty() && m_width > 0) {
+            m_data.EmptyColumns = m_width - std::max(m_filled, std::size_t{1});
         }
         if (m_table.IsSound() && (m_rows == 0 || m_data.Values.empty())) {
             m_table.Refuse("no rows of values", "a row a time: the time or a label, and a value a curve");
@@ -57,6 +57,7 @@ private:
         if (row.Cells.size() > m_width && !m_table.HasWidth(row, m_width, "as many as in the first row")) {
             return;
         }
+        m_filled = std::max(m_filled, FilledCells(row));
         TakeTime(row, isTime, time);
         m_data.Lines.push_back(static_cast<std::uint32_t>(row.Line));
         for (std::size_t column = 1; column < m_width; ++column) {
@@ -73,16 +74,6 @@ private:
         m_data.Lines.reserve(rows);
         for (std::vector<double>& values : m_data.Values) {
             values.reserve(rows);
-        }
-    }
-
-    /// Without a heading, columns that a spreadsheet program added look like curves without a value.
-    void DropEmptyColumns() {
-        const auto isEmpty = [](const std::vector<double>& values) {
-            return std::all_of(values.begin(), values.end(), [](double value) { return value == kNull; });
-        };
-        while (!m_data.Values.empty() && isEmpty(m_data.Values.back())) {
-            m_data.Values.pop_back();
         }
     }
 
@@ -130,6 +121,7 @@ private:
     DataTable& m_table;
     CurveData& m_data;
     std::size_t m_width = 0;
+    std::size_t m_filled = 0; ///< cells of the row with most, up to its last text
     std::int32_t m_rows = 0;
     bool m_hasTimes = true;
     std::vector<std::int32_t> m_times;

@@ -16,6 +16,11 @@ namespace {
 constexpr const char* kNames = "/ComponentName";
 constexpr const char* kColors = "/ComponentColor";
 
+/// The depth is a part of a bar's width, which is the group's, shared by the names.
+bool LacksWidth(const millichart::HistogramPlotProp& plot) {
+    return plot.ComponentName.empty() && plot.PieStyle != millichart::BarStyle::Flat;
+}
+
 } // namespace
 
 void Bars::AllowShortForms(ChartStream& stream) {
@@ -82,7 +87,7 @@ std::vector<Message> Bars::Doubts(const millichart::CBasicHistogram& chart) cons
         doubts.back().Weight = Severity::Warning;
     }
     const millichart::HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
-    if (const std::size_t names = plot.ComponentName.size(); names != m_components) {
+    if (const std::size_t names = plot.ComponentName.size(); names != m_components && !LacksWidth(plot)) {
         doubts.push_back({"", Severity::Warning, 0, m_place + kNames, Counted(names, "name"),
                           std::to_string(m_components) + ", one a value of a group"});
     }
@@ -101,9 +106,7 @@ std::vector<Message> Bars::DoubtSizes(const millichart::CBasicHistogram& chart) 
     const millichart::HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
     const millichart::HistogramLayout& layout = chart.GetLayout();
     std::vector<Message> doubts = PlotSizeFaults(m_place, plot.PlotWidth, plot.PlotHeight);
-    // The depth is a part of a bar's width, which is the group's, shared by the names.
-    if (m_components > 0 && plot.PieStyle != millichart::BarStyle::Flat &&
-        !std::isfinite(layout.ComponentWidth)) {
+    if (m_components > 0 && LacksWidth(plot)) {
         doubts.push_back({"", Severity::Error, 0, m_place + kNames, "no names",
                           std::to_string(m_components) + ", without which bars in 3D have no width"});
     }

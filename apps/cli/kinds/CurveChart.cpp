@@ -24,6 +24,7 @@ const std::string kHorAxis = "property/CurveHorAxisProp/";
 constexpr float kLineWidth = 0.4F;
 constexpr float kMarkerWidth = 1.6F;
 constexpr std::size_t kMostLabels = 12;
+constexpr std::size_t kManyLabels = 2000;
 
 /// The largest value that is not null. -infinity when there is none.
 double LargestOf(const std::vector<std::vector<double>>& curves) {
@@ -63,6 +64,7 @@ public:
     CurveChart(ChartStream& stream, const DataSource& source) {
         CurveProp prop = LoadProp(stream);
         CurveData data = LoadCurveData(stream, source);
+        DropEmptyColumns(data, prop.Plot.CurveName.size());
         m_curves = data.Values.size();
         TakeNames(data, prop.Plot.CurveName, stream.TookDefault(kNamesPlace));
         TakeLooks(stream, prop.Plot);
@@ -70,9 +72,7 @@ public:
             data.Labels = TimeLabels(data);
         }
         TakeSteps(stream, data.Labels.size(), prop.HorAxis);
-        if (!data.File.empty()) {
-            ForgetUnseen(data.Labels, prop.HorAxis.LabelStep);
-        }
+        ForgetUnseen(data.Labels, prop.HorAxis.LabelStep);
         m_chart.SetCurveProp(prop);
         ValueRange(stream, prop.Plot.LogarithmScale != 0, *source.Messages)
             .ApplyTo(m_chart, LargestOf(data.Values));
@@ -168,10 +168,22 @@ private:
         }
     }
 
+    /// Columns that a spreadsheet program added are no curves, unless the document names them. One is left.
+    static void DropEmptyColumns(CurveData& data, std::size_t names) {
+        const std::size_t least = std::max(names, std::size_t{1});
+        for (std::size_t i = 0; i < data.EmptyColumns && data.Values.size() > least; ++i) {
+            data.Values.pop_back();
+            data.Times.pop_back();
+        }
+    }
+
     /// A table of a million rows has as many labels. The chart measures all that it gets, whether a step
-    /// passes over them or not.
+    /// passes over them or not, so that thousands are left empty where nobody sees them.
     static void ForgetUnseen(std::vector<std::string>& labels, std::int32_t labelStep) {
-        for (std::size_t i = 0; labelStep > 1 && i < labels.size(); ++i) {
+        if (labels.size() < kManyLabels || labelStep <= 1) {
+            return;
+        }
+        for (std::size_t i = 0; i < labels.size(); ++i) {
             if (i % static_cast<std::size_t>(labelStep) != 0) {
                 labels[i] = std::string();
             }

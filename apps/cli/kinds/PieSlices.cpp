@@ -79,6 +79,18 @@ Message PieSlices::Smallness(float width, bool isFixed) const {
             found + (isFixed ? "" : ", by its values' total; with 1 here it is as wide as FixedWidth")};
 }
 
+Message PieSlices::NegativeSize(float width, bool isFixed) const {
+    if (isFixed) {
+        return {"", Severity::Error, 0, m_place + "/FixedWidth", NumberText(width), "a number above 0"};
+    }
+    return {"",
+            Severity::Error,
+            0,
+            m_place,
+            "a pie of " + NumberText(width) + " mm",
+            "BaseValue and BasePieWidth above 0"};
+}
+
 std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bool isFixed,
                                        float width) const {
     const std::size_t values = m_data.Values.size();
@@ -91,9 +103,8 @@ std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bo
     std::vector<Message> doubts = m_doubts;
     if (isEmpty) {
         doubts.push_back({"", Severity::Warning, 0, m_data.Place, "no value above 0", "one for each slice"});
-    } else if (isFixed && width < 0.0F) {
-        doubts.push_back(
-            {"", Severity::Error, 0, m_place + "/FixedWidth", NumberText(width), "a number above 0"});
+    } else if (width < 0.0F) {
+        doubts.push_back(NegativeSize(width, isFixed));
     } else if (width < kSmallestPie) {
         doubts.push_back(Smallness(width, isFixed));
     }

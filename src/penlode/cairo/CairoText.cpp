@@ -111,7 +111,7 @@ void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDe
 void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
     if (!painter.HasPixels() || toDevice.LengthFactor() * kSetEm > kLargestOutlineEm) {
         ShowLetters(painter, line, toDevice, false);
-    } else if (const std::optional<LetterMask> mask = LetterMaskOf(line, toDevice); !mask) {
+    } else if (const std::optional<LetterMask> mask = LetterMaskOf(line, toDevice, painter.FarBox()); !mask) {
         ShowLetters(painter, line, toDevice, true);
     } else if (mask->Coverage != nullptr) {
         cairo_mask_surface(painter.Context(), mask->Coverage.get(), mask->X, mask->Y);

@@ -1,10 +1,8 @@
 #include "penlode/cairo/LetterMasks.h"
 
-#include "penlode/DeviceGeometry.h"
 #include "penlode/cairo/CairoCanvas.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
 #include <memory>
@@ -24,6 +22,12 @@ constexpr double kMostPixels = 1048576.0;
 
 /// All letters of a thread; when there are more, all begin anew.
 constexpr std::size_t kMostBytes = std::size_t{1} << 22U;
+
+/// Round the ink that a font tells of, in pixels: of faces that have no bold cut it tells too little.
+constexpr double kMargin = 2.0;
+
+/// How far a letter may reach from where it stands, in ems.
+constexpr double kLongestReach = 4.0;
 
 struct FontUnref {
     void operator()(PangoFont* font) const { g_object_unref(font); }
@@ -76,9 +80,10 @@ BoxD InkBox(const LetterKey& key) {
     const int bottom = ink.y + ink.height;
     const BoxD one = BoxBetween(corner(ink.x, ink.y), corner(right, bottom));
     const BoxD other = BoxBetween(corner(right, ink.y), corner(ink.x, bottom));
-    return {std::floor(std::min(one.Left, other.Left)) - 1.0, std::floor(std::min(one.Top, other.Top)) - 1.0,
-            std::ceil(std::max(one.Right, other.Right)) + 1.0,
-            std::ceil(std::max(one.Bottom, other.Bottom)) + 1.0};
+    return {std::floor(std::min(one.Left, other.Left)) - kMargin,
+            std::floor(std::min(one.Top, other.Top)) - kMargin,
+            std::ceil(std::max(one.Right, other.Right)) + kMargin,
+            std::ceil(std::max(one.Bottom, other.Bottom)) + kMargin};
 }
 
 /// Fills a glyph on a surface whose corner is the box's. False when Cairo fails.
@@ -175,19 +180,23 @@ double Settle(double place, double& within) {
     return pixel;
 }
 
-/// False when a letter cannot be had.
-bool Place(Letters& letters, const PangoLayoutRun& run, int& pen, const Matrix& toDevice,
+bool Holds(const BoxD& box, PointD point) {
+    return point.X >= box.Left && point.X <= box.Right && point.Y >= box.Top && point.Y <= box.Bottom;
+}
+
+/// The letters that stand in `sight`. False when one of them cannot be had.
+bool Place(Letters& letters, const PangoLayoutRun& run, int& pen, const Matrix& toDevice, const BoxD& sight,
            std::vector<PlacedLetter>& placed) {
     for (int i = 0; i < run.glyphs->num_glyphs; ++i) {
         const PangoGlyphInfo& glyph = run.glyphs->glyphs[i];
         const PointD origin{static_cast<double>(pen + glyph.geometry.x_offset) / PANGO_SCALE,
                             static_cast<double>(glyph.geometry.y_offset) / PANGO_SCALE};
         pen += glyph.geometry.width;
-        if (glyph.glyph == PANGO_GLYPH_EMPTY) {
+        const PointD at = Mapped(toDevice, origin);
+        if (glyph.glyph == PANGO_GLYPH_EMPTY || !Holds(sight, at)) {
             continue;
         }
         LetterKey key{run.item->analysis.font, glyph.glyph, toDevice};
-        const PointD at = Mapped(toDevice, origin);
         const double x = Settle(at.X, key.ToPixels.Dx);
         const double y = Settle(at.Y, key.ToPixels.Dy);
         const bool isUnknown = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
@@ -232,13 +241,14 @@ void Copy(const PlacedLetter& letter, const BoxD& box, unsigned char* pixels, st
 
 } // namespace
 
-std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevice) {
+std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevice, const BoxD& sight) {
+    const BoxD around = sight.Grown(kLongestReach * kSetEm * toDevice.LengthFactor());
     Letters& letters = ThisThread();
     letters.MakeRoom();
     std::vector<PlacedLetter> placed;
     int pen = 0;
     for (const GSList* run = line.Line->runs; run != nullptr; run = run->next) {
-        if (!Place(letters, *static_cast<const PangoLayoutRun*>(run->data), pen, toDevice, placed)) {
+        if (!Place(letters, *static_cast<const PangoLayoutRun*>(run->data), pen, toDevice, around, placed)) {
             return std::nullopt;
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "penlode/DeviceGeometry.h"
 #include "penlode/Matrix.h"
 #include "penlode/cairo/CairoHandles.h"
 #include "penlode/cairo/PangoText.h"
@@ -17,8 +18,9 @@ struct LetterMask {
     double Y = 0.0;
 };
 
-/// `toDevice` maps the line's own units to pixels. A letter is at most an eighth of a pixel from its place.
-/// Nothing for a line that is too long, for characters that no face has, and when Cairo fails.
-std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevice);
+/// The letters that lie in `sight`, or near it. `toDevice` maps the line's own units to pixels. Each way, a
+/// letter is at most an eighth of a pixel from its place. Nothing for characters that no face has, for a mask
+/// that is too large, and when Cairo fails.
+std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevice, const BoxD& sight);
 
 } // namespace penlode

@@ -79,6 +79,15 @@ std::vector<Color> FilledOutline(const TurnedText& text) {
     return g->Pixels().Pixels;
 }
 
+/// The most by which a pixel of two pictures differs.
+int MostApart(const std::vector<Color>& a, const std::vector<Color>& b) {
+    int most = 0;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        most = std::max(most, std::abs(static_cast<int>(a[i].R()) - static_cast<int>(b[i].R())));
+    }
+    return most;
+}
+
 } // namespace
 
 TEST(Text, WidthsAreThoseOfTheTypeNotOfAScreen) {
@@ -161,21 +170,32 @@ TEST(Text, MoreLettersThanAThreadKeepsAreDrawnTheSame) {
 }
 
 TEST(Text, NoLetterIsCutOff) {
-    for (const wchar_t* text : {L"fgjW", L"深度", L"Q;_", L"|"}) {
-        for (const std::int32_t style : {FontStyle::Regular, FontStyle::Italic | FontStyle::Bold}) {
-            const TurnedText turned{text, {L"Times New Roman", 28.0F, style}, 60.2F, 60.7F, -33.0F};
-            const std::vector<Color> drawn = Drawn(turned);
-            const std::vector<Color> filled = FilledOutline(turned);
-            int most = 0;
-            for (std::size_t i = 0; i < drawn.size(); ++i) {
-                most = std::max(most,
-                                std::abs(static_cast<int>(drawn[i].R()) - static_cast<int>(filled[i].R())));
-            }
-            EXPECT_LE(most, 64) // a letter may stand an eighth of a pixel off
-                << CStringUtil::WideToUtf8(text);
+    for (const std::int32_t style : {FontStyle::Regular, FontStyle::Italic | FontStyle::Bold}) {
+        const Font font{L"Times New Roman", 28.0F, style};
+        // On a quarter of a pixel, a letter stands where it should.
+        const float baselineOnWholePixel = 60.0F - CStringUtil::MeasureFont(font).Ascent;
+        for (const wchar_t* letter : {L"f", L"g", L"W", L"Q", L"深", L"_"}) {
+            const TurnedText text{letter, font, 40.25F, baselineOnWholePixel, 0.0F};
+            EXPECT_LE(MostApart(Drawn(text), FilledOutline(text)), 24) << CStringUtil::WideToUtf8(letter);
+        }
+        for (const wchar_t* word : {L"fgjW", L"深度", L"Q;_", L"|"}) {
+            const TurnedText text{word, font, 60.2F, 60.7F, -33.0F};
+            const std::vector<Color> drawn = Drawn(text);
+            EXPECT_LE(MostApart(drawn, FilledOutline(text)), 64) << CStringUtil::WideToUtf8(word);
             EXPECT_NE(std::count(drawn.begin(), drawn.end(), kBlack), 0);
         }
     }
+}
+
+TEST(Text, OfAVeryLongLineItsPartOnTheSurfaceIsDrawn) {
+    std::wstring line;
+    for (int i = 0; i < 1500; ++i) {
+        line += L"深度g.";
+    }
+    const TurnedText text{line.c_str(), {L"宋体", 20.0F, FontStyle::Regular}, -30000.0F, -9132.0F, 17.0F};
+    const std::vector<Color> drawn = Drawn(text);
+    EXPECT_LE(MostApart(drawn, FilledOutline(text)), 64);
+    EXPECT_LT(std::count(drawn.begin(), drawn.end(), kWhite), 120 * 120 - 500);
 }
 
 TEST(Text, AlignmentPlacesEachLineInItsBox) {
