@@ -42,4 +42,21 @@ inline BoxD Common(const BoxD& a, const BoxD& b) {
             std::max(top, std::min(a.Bottom, b.Bottom))};
 }
 
+/// The smallest box that holds both.
+inline BoxD Union(const BoxD& a, const BoxD& b) {
+    return {std::min(a.Left, b.Left), std::min(a.Top, b.Top), std::max(a.Right, b.Right),
+            std::max(a.Bottom, b.Bottom)};
+}
+
+/// The smallest box that holds all of a box that was mapped.
+inline BoxD Mapped(const Matrix& m, const BoxD& box) {
+    return Union(BoxBetween(Mapped(m, PointD{box.Left, box.Top}), Mapped(m, PointD{box.Right, box.Bottom})),
+                 BoxBetween(Mapped(m, PointD{box.Right, box.Top}), Mapped(m, PointD{box.Left, box.Bottom})));
+}
+
+/// With edges on whole numbers, no smaller than it was.
+inline BoxD RoundedOut(const BoxD& box) {
+    return {std::floor(box.Left), std::floor(box.Top), std::ceil(box.Right), std::ceil(box.Bottom)};
+}
+
 } // namespace penlode

@@ -4,7 +4,6 @@
 #include "charts/cartesian/ValueAxis.h"
 #include "charts/curve/CurveFigure.h"
 #include "charts/curve/CurveProp.h"
-#include "charts/curve/CurveStyle.h"
 #include "foundation/Export.h"
 #include "penlode/IGraphicsEngine.h"
 

@@ -1,6 +1,7 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/curve/BasicCurve.h"
 #include "charts/curve/CurveMarker.h"
+#include "charts/curve/CurveStyle.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>

@@ -60,12 +60,10 @@ BoxD SeenArea(const Painter& painter, const std::vector<PolylineRun>& runs, doub
     BoxD line = BoxBetween(runs.front().Points.front(), runs.front().Points.front());
     for (const PolylineRun& run : runs) {
         for (const PointD p : run.Points) {
-            line = {std::min(line.Left, p.X), std::min(line.Top, p.Y), std::max(line.Right, p.X),
-                    std::max(line.Bottom, p.Y)};
+            line = Union(line, BoxBetween(p, p));
         }
     }
-    const BoxD seen = Common(line.Grown(margin), painter.Setting().Area);
-    return {std::floor(seen.Left), std::floor(seen.Top), std::ceil(seen.Right), std::ceil(seen.Bottom)};
+    return RoundedOut(Common(line.Grown(margin), painter.Setting().Area));
 }
 
 void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<PointD> points,

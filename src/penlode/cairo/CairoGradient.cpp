@@ -45,14 +45,7 @@ void ClipToBounds(const Painter& painter, const RectL& bounds) {
 
 /// The world rectangle in which anything can be seen.
 BoxD SeenWorld(const Painter& painter) {
-    const BoxD far = painter.FarBox();
-    const Matrix back = painter.ToDevice().Inverted();
-    const BoxD a =
-        BoxBetween(Mapped(back, PointD{far.Left, far.Top}), Mapped(back, PointD{far.Right, far.Bottom}));
-    const BoxD b =
-        BoxBetween(Mapped(back, PointD{far.Right, far.Top}), Mapped(back, PointD{far.Left, far.Bottom}));
-    return {std::min(a.Left, b.Left), std::min(a.Top, b.Top), std::max(a.Right, b.Right),
-            std::max(a.Bottom, b.Bottom)};
+    return Mapped(painter.ToDevice().Inverted(), painter.FarBox());
 }
 
 Tint Between(const Tint& a, const Tint& b, double t) {

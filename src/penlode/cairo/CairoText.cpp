@@ -44,14 +44,7 @@ Matrix OnWholePixel(const Painter& painter, Matrix m) {
 /// A box round the line in device units, with room for letters that leave their line.
 BoxD Surroundings(const Matrix& toDevice, double width) {
     const double room = 2.0 * kSetEm;
-    BoxD box =
-        BoxBetween(Mapped(toDevice, PointD{-room, -room}), Mapped(toDevice, PointD{width + room, room}));
-    for (const PointD corner : {PointD{-room, room}, PointD{width + room, -room}}) {
-        const PointD p = Mapped(toDevice, corner);
-        box = {std::min(box.Left, p.X), std::min(box.Top, p.Y), std::max(box.Right, p.X),
-               std::max(box.Bottom, p.Y)};
-    }
-    return box;
+    return Mapped(toDevice, BoxD{-room, -room, width + room, room});
 }
 
 bool IsInSight(const Painter& painter, const BoxD& line) {
@@ -91,7 +84,7 @@ void FillOutlines(const Painter& painter, std::wstring_view text, const Font& fo
 }
 
 /// As outlines, or as Cairo keeps letters.
-void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice, bool asOutlines) {
+void DrawLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice, bool asOutlines) {
     cairo_t* context = painter.Context();
     cairo_save(context);
     painter.SetMatrix(toDevice);
@@ -110,9 +103,9 @@ void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDe
 
 void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
     if (!painter.HasPixels() || toDevice.LengthFactor() * kSetEm > kLargestOutlineEm) {
-        ShowLetters(painter, line, toDevice, false);
+        DrawLetters(painter, line, toDevice, false);
     } else if (const std::optional<LetterMask> mask = LetterMaskOf(line, toDevice, painter.FarBox()); !mask) {
-        ShowLetters(painter, line, toDevice, true);
+        DrawLetters(painter, line, toDevice, true);
     } else if (mask->Coverage != nullptr) {
         cairo_mask_surface(painter.Context(), mask->Coverage.get(), mask->X, mask->Y);
     }

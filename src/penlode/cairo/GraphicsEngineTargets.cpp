@@ -62,11 +62,7 @@ BoxD ClipOf(cairo_t* context, const Matrix& userToPixels) {
     double x2 = 0.0;
     double y2 = 0.0;
     cairo_clip_extents(context, &x1, &y1, &x2, &y2);
-    const BoxD a = BoxBetween(Mapped(userToPixels, PointD{x1, y1}), Mapped(userToPixels, PointD{x2, y2}));
-    const BoxD b = BoxBetween(Mapped(userToPixels, PointD{x1, y2}), Mapped(userToPixels, PointD{x2, y1}));
-    const BoxD both{std::min(a.Left, b.Left), std::min(a.Top, b.Top), std::max(a.Right, b.Right),
-                    std::max(a.Bottom, b.Bottom)};
-    return Common(both, {-kFar, -kFar, kFar, kFar});
+    return Common(Mapped(userToPixels, BoxD{x1, y1, x2, y2}), {-kFar, -kFar, kFar, kFar});
 }
 
 /// Cairo's image, finished with all drawings so far; empty for other kinds.

@@ -72,18 +72,10 @@ BoxD InkBox(const LetterKey& key) {
     if (ink.width <= 0 || ink.height <= 0) {
         return {};
     }
-    const auto corner = [&](int x, int y) {
-        return Mapped(key.ToPixels,
-                      PointD{static_cast<double>(x) / PANGO_SCALE, static_cast<double>(y) / PANGO_SCALE});
-    };
-    const int right = ink.x + ink.width;
-    const int bottom = ink.y + ink.height;
-    const BoxD one = BoxBetween(corner(ink.x, ink.y), corner(right, bottom));
-    const BoxD other = BoxBetween(corner(right, ink.y), corner(ink.x, bottom));
-    return {std::floor(std::min(one.Left, other.Left)) - kMargin,
-            std::floor(std::min(one.Top, other.Top)) - kMargin,
-            std::ceil(std::max(one.Right, other.Right)) + kMargin,
-            std::ceil(std::max(one.Bottom, other.Bottom)) + kMargin};
+    const Matrix toUnits = Matrix::Scale(1.0 / PANGO_SCALE, 1.0 / PANGO_SCALE);
+    const BoxD box{static_cast<double>(ink.x), static_cast<double>(ink.y),
+                   static_cast<double>(ink.x) + ink.width, static_cast<double>(ink.y) + ink.height};
+    return RoundedOut(Mapped(toUnits * key.ToPixels, box)).Grown(kMargin);
 }
 
 /// Fills a glyph on a surface whose corner is the box's. False when Cairo fails.
@@ -180,10 +172,6 @@ double Settle(double place, double& within) {
     return pixel;
 }
 
-bool Holds(const BoxD& box, PointD point) {
-    return point.X >= box.Left && point.X <= box.Right && point.Y >= box.Top && point.Y <= box.Bottom;
-}
-
 /// The letters that stand in `sight`. False when one of them cannot be had.
 bool Place(Letters& letters, const PangoLayoutRun& run, int& pen, const Matrix& toDevice, const BoxD& sight,
            std::vector<PlacedLetter>& placed) {
@@ -193,7 +181,7 @@ bool Place(Letters& letters, const PangoLayoutRun& run, int& pen, const Matrix& 
                             static_cast<double>(glyph.geometry.y_offset) / PANGO_SCALE};
         pen += glyph.geometry.width;
         const PointD at = Mapped(toDevice, origin);
-        if (glyph.glyph == PANGO_GLYPH_EMPTY || !Holds(sight, at)) {
+        if (glyph.glyph == PANGO_GLYPH_EMPTY || !sight.Contains(at)) {
             continue;
         }
         LetterKey key{run.item->analysis.font, glyph.glyph, toDevice};
@@ -211,19 +199,10 @@ bool Place(Letters& letters, const PangoLayoutRun& run, int& pen, const Matrix& 
     return true;
 }
 
-BoxD BoxOf(const std::vector<PlacedLetter>& letters) {
-    const auto box = [](const PlacedLetter& letter) {
-        const double left = letter.X + letter.Shape->Left;
-        const double top = letter.Y + letter.Shape->Top;
-        return BoxD{left, top, left + letter.Shape->Width, top + letter.Shape->Height};
-    };
-    BoxD all = box(letters.front());
-    for (const PlacedLetter& letter : letters) {
-        const BoxD own = box(letter);
-        all = {std::min(all.Left, own.Left), std::min(all.Top, own.Top), std::max(all.Right, own.Right),
-               std::max(all.Bottom, own.Bottom)};
-    }
-    return all;
+BoxD BoxOf(const PlacedLetter& letter) {
+    const double left = letter.X + letter.Shape->Left;
+    const double top = letter.Y + letter.Shape->Top;
+    return {left, top, left + letter.Shape->Width, top + letter.Shape->Height};
 }
 
 /// Where letters touch, they cover a pixel together.
@@ -255,7 +234,10 @@ std::optional<LetterMask> LetterMaskOf(const SetLine& line, const Matrix& toDevi
     if (placed.empty()) {
         return LetterMask{};
     }
-    const BoxD box = BoxOf(placed);
+    BoxD box = BoxOf(placed.front());
+    for (const PlacedLetter& letter : placed) {
+        box = Union(box, BoxOf(letter));
+    }
     if (box.Width() * box.Height() > kMostPixels) {
         return std::nullopt;
     }

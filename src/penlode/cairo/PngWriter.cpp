@@ -140,27 +140,26 @@ Outcome Write(Encoding& e) {
     return Outcome::Written;
 }
 
-Outcome Encode(Encoding& e) {
+/// Leaves the file empty unless it was written.
+Outcome Encode(Encoding e, std::string& file) {
     e.Row.resize(4 * static_cast<std::size_t>(e.Pixels.Width));
     e.Png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, GiveUp, KeepQuiet);
     e.Info = e.Png == nullptr ? nullptr : png_create_info_struct(e.Png);
-    return e.Info == nullptr ? Outcome::Failed : Write(e);
+    const Outcome outcome = e.Info == nullptr ? Outcome::Failed : Write(e);
+    if (outcome == Outcome::Written) {
+        file = std::move(e.File);
+    }
+    return outcome;
 }
 
 } // namespace
 
 std::string EncodePng(const PremultipliedPixels& pixels, double dpiX, double dpiY) {
-    for (const bool opaque : {true, false}) {
-        Encoding encoding{pixels, dpiX, dpiY, opaque, {}, {}};
-        const Outcome outcome = pixels.Data == nullptr ? Outcome::Failed : Encode(encoding);
-        if (outcome == Outcome::Written) {
-            return std::move(encoding.File);
-        }
-        if (outcome == Outcome::Failed) {
-            break;
-        }
+    std::string file;
+    if (pixels.Data != nullptr && Encode({pixels, dpiX, dpiY, true, {}, {}}, file) == Outcome::NotOpaque) {
+        Encode({pixels, dpiX, dpiY, false, {}, {}}, file);
     }
-    return {};
+    return file;
 }
 
 std::uint32_t Unpremultiplied(std::uint32_t argb) {

@@ -39,8 +39,7 @@ bool IsWithin(PointD p, const RectL& bounds) {
 BoxD BoxAround(std::span<const PointD> points) {
     BoxD box = BoxBetween(points.front(), points.front());
     for (const PointD p : points) {
-        box = {std::min(box.Left, p.X), std::min(box.Top, p.Y), std::max(box.Right, p.X),
-               std::max(box.Bottom, p.Y)};
+        box = Union(box, BoxBetween(p, p));
     }
     return box;
 }
