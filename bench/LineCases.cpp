@@ -56,19 +56,15 @@ void AddWays(Suite& suite, const std::string& name, const SharedSeries& data, Me
     }
 }
 
-/// Walks or noise of three lengths.
-struct Lengths {
-    SharedSeries Thousand;
-    SharedSeries Million;
-    SharedSeries TenMillion;
-};
+/// By its name in the table.
+using NamedSeries = std::pair<std::string, SharedSeries>;
 
-void AddShape(Suite& suite, Shape shape, Memory memory, const Lengths& data) {
+void AddShape(Suite& suite, Shape shape, Memory memory, const std::vector<NamedSeries>& data) {
     const std::string kind =
         std::string(shape == Shape::Walk ? "walk" : "noise") + (memory == Memory::New ? ", new memory" : "");
-    AddWays(suite, "line 1e3 " + kind, data.Thousand, memory);
-    AddWays(suite, "line 1e6 " + kind, data.Million, memory);
-    AddWays(suite, "line 1e7 " + kind, data.TenMillion, memory);
+    for (const auto& [count, series] : data) {
+        AddWays(suite, "line " + count + " " + kind, series, memory);
+    }
     const std::string million = "line 1e6 " + kind;
     suite.Compare(million + ", drawn / by hand", million + ", drawn", million + ", drawn by hand", 2.0);
     suite.Compare(million + ", PNG / by hand", million + ", PNG", million + ", PNG by hand", 1.3);
@@ -82,7 +78,9 @@ void AddShape(Suite& suite, Shape shape, Memory memory, const Lengths& data) {
 
 void AddLineCases(Suite& suite) {
     for (const Shape shape : {Shape::Walk, Shape::Noise}) {
-        const Lengths data{MakeSeries(1000, shape), MakeSeries(1000000, shape), MakeSeries(10000000, shape)};
+        const std::vector<NamedSeries> data{{"1e3", MakeSeries(1000, shape)},
+                                            {"1e6", MakeSeries(1000000, shape)},
+                                            {"1e7", MakeSeries(10000000, shape)}};
         for (const Memory memory : {Memory::Kept, Memory::New}) {
             AddShape(suite, shape, memory, data);
         }

@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
+#include <type_traits>
 
 /// A record of one kind from the bytes of a positional stream, in a chart with plain data that is laid out
 /// and drawn. The first byte chooses the kind.
@@ -20,58 +22,55 @@ void Draw(const auto& chart) {
     chart.Draw(picture.get());
 }
 
-void DrawPie(penlode::ISerialize& stream) {
-    PieProp prop;
-    CPiePropSerialize::SerializePieProp(stream, prop);
-    CBasicPie chart;
-    chart.SetPieProp(prop);
-    chart.SetComponentValue({3, 0, 1.5, 2});
+/// `load` reads the chart's record, `take` is the chart's member for it, `handOver` gives the chart its data.
+template <class Chart, class Prop, class Result>
+void DrawLoaded(penlode::ISerialize& stream, void (*load)(penlode::ISerialize&, std::type_identity_t<Prop>&),
+                Result (Chart::*take)(const Prop&), const auto& handOver) {
+    Prop prop;
+    load(stream, prop);
+    Chart chart;
+    (chart.*take)(prop);
+    handOver(chart);
     chart.Layout();
     Draw(chart);
+}
+
+void DrawPie(penlode::ISerialize& stream) {
+    DrawLoaded(stream, CPiePropSerialize::SerializePieProp, &CBasicPie::SetPieProp, [](CBasicPie& chart) {
+        chart.SetComponentValue({3, 0, 1.5, 2});
+    });
 }
 
 void DrawHalfPieHalfPie(penlode::ISerialize& stream) {
-    HalfPieHalfPieProp prop;
-    CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp(stream, prop);
-    CBasicHalfPieHalfPie chart;
-    chart.SetHalfPieHalfPieProp(prop);
-    chart.SetComponentValue({3, 0, 1.5}, {2, 4});
-    chart.Layout();
-    Draw(chart);
+    DrawLoaded(stream, CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp,
+               &CBasicHalfPieHalfPie::SetHalfPieHalfPieProp, [](CBasicHalfPieHalfPie& chart) {
+                   chart.SetComponentValue({3, 0, 1.5}, {2, 4});
+               });
 }
 
 void DrawHalfPieHistogram(penlode::ISerialize& stream) {
-    HalfPieHistogramProp prop;
-    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(stream, prop);
-    CBasicHalfPieHistogram chart;
-    chart.SetHalfPieHistogramProp(prop);
-    chart.SetComponentValue({3, 0, 1.5}, {{2, 4}, {7, 1}}, 7);
-    chart.Layout();
-    Draw(chart);
+    DrawLoaded(stream, CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp,
+               &CBasicHalfPieHistogram::SetHalfPieHistogramProp, [](CBasicHalfPieHistogram& chart) {
+                   chart.SetComponentValue({3, 0, 1.5}, {{2, 4}, {7, 1}}, 7);
+               });
 }
 
 void DrawHistogram(penlode::ISerialize& stream) {
-    HistogramProp prop;
-    CHistogramPropSerialize::SerializeHistogramProp(stream, prop);
-    CBasicHistogram chart;
-    chart.SetHistogramProp(prop);
-    chart.InitializeValueRange(12);
-    chart.SetComponentValue({{3, 12, -1}, {0, 5, 0.5}});
-    chart.SetGroupName({"a", "b"});
-    chart.Layout();
-    Draw(chart);
+    DrawLoaded(stream, CHistogramPropSerialize::SerializeHistogramProp, &CBasicHistogram::SetHistogramProp,
+               [](CBasicHistogram& chart) {
+                   chart.InitializeValueRange(12);
+                   chart.SetComponentValue({{3, 12, -1}, {0, 5, 0.5}});
+                   chart.SetGroupName({"a", "b"});
+               });
 }
 
 void DrawCurve(penlode::ISerialize& stream) {
-    CurveProp prop;
-    CCurvePropSerialize::SerializeCurveProp(stream, prop);
-    CBasicCurve chart;
-    chart.SetCurveProp(prop);
-    chart.InitializeValueRange(12);
-    chart.SetCurveData({{3, 12, -9999999.0, 4}, {0.5, 5}}, {{1, 2, 3, 4}, {4, -7}});
-    chart.SetHorAxisLabel({"a", "b", "c"});
-    chart.Layout();
-    Draw(chart);
+    DrawLoaded(stream, CCurvePropSerialize::SerializeCurveProp, &CBasicCurve::SetCurveProp,
+               [](CBasicCurve& chart) {
+                   chart.InitializeValueRange(12);
+                   chart.SetCurveData({{3, 12, -9999999.0, 4}, {0.5, 5}}, {{1, 2, 3, 4}, {4, -7}});
+                   chart.SetHorAxisLabel({"a", "b", "c"});
+               });
 }
 
 } // namespace

@@ -55,9 +55,12 @@ const Broken kBroken[] = {
      "b.json:4: property/PieBasicProp: found nothing to draw, as the pie has no size, expected FixedWidth "
      "above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0\n"},
     {Pie("\"PieBasicProp\": {\n\"FixedSize\": 1, \"FixedWidth\": -5}"),
-     "b.json:5: property/PieBasicProp/FixedWidth: found -5, expected a number above 0\n"},
+     "b.json:4: property/PieBasicProp: found a pie of -5 mm, expected FixedWidth above 0 with a FixedSize of "
+     "1, or BaseValue and BasePieWidth above 0\n"},
     {Pie("\"PieBasicProp\": {\n\"FixedSize\": 0, \"BaseValue\": -1, \"BasePieWidth\": 20}"),
-     "b.json:4: property/PieBasicProp: found a pie of -60 mm, expected BaseValue and BasePieWidth above 0\n"},
+     "b.json:4: property/PieBasicProp: found a pie of -60 mm, expected FixedWidth above 0 with a FixedSize "
+     "of "
+     "1, or BaseValue and BasePieWidth above 0\n"},
     {Pie("\"PieBasicProp\": {\n\"StartAngle\": \"nan\",\n\"FixedWidth\": \"-inf\",\n\"PenSepLine\": "
          "\"#FF000000 inf\",\n\"FixedSize\": 1}, \"PieLegendProp\": {\"Font\": \"Arial nan\"}",
          "\"location\": \"1e30 0\",\n\"labelOffsets\": [\"0 -2e6\"], \"title\": \"inf\", \"data\": "

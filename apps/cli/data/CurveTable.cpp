@@ -48,7 +48,7 @@ private:
             // In a heading nothing stands over columns that a spreadsheet program added.
             m_width = isTime ? row.Cells.size() : FilledCells(row);
             m_data.Values.resize(m_width - 1);
-            MakeRoom(m_table.MostRows(m_width));
+            MakeRoom(m_table.RowsToMakeRoomFor(m_width));
             if (!isTime) {
                 TakeHeading(row);
                 return;
@@ -66,10 +66,7 @@ private:
         ++m_rows;
     }
 
-    /// Not for all lines of a file that may be blank.
     void MakeRoom(std::size_t rows) {
-        constexpr std::size_t kMost = std::size_t{1} << 22U;
-        rows = std::min(rows, kMost);
         m_times.reserve(rows);
         m_data.Lines.reserve(rows);
         for (std::vector<double>& values : m_data.Values) {

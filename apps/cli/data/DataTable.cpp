@@ -41,10 +41,12 @@ const std::vector<CsvRow>& DataTable::Rows() {
     return *m_rows;
 }
 
-/// With a separator or a line break behind each cell, a row takes as many bytes at least.
-std::size_t DataTable::MostRows(std::size_t width) const {
+/// With a separator or a line break behind each cell, a row takes as many bytes at least; and lines may be
+/// blank.
+std::size_t DataTable::RowsToMakeRoomFor(std::size_t width) const {
+    constexpr std::size_t kMost = std::size_t{1} << 22U;
     const auto lines = static_cast<std::size_t>(std::count(m_text.begin(), m_text.end(), '\n')) + 1;
-    return std::min(lines, m_text.size() / width + 1);
+    return std::min({lines, m_text.size() / width + 1, kMost});
 }
 
 /// An open quote swallows the rest, so that what was read is not what was meant.

@@ -25,8 +25,9 @@ public:
     /// All rows but those whose cells are all empty.
     const std::vector<CsvRow>& Rows();
 
-    /// An upper limit, for making room, of the rows that have `width` cells, 1 or more.
-    std::size_t MostRows(std::size_t width) const;
+    /// As many rows of `width` cells, 1 or more, as are likely, but not so many that room for them is a
+    /// waste.
+    std::size_t RowsToMakeRoomFor(std::size_t width) const;
 
     /// Visits the same rows one after the other and keeps none, for tables of millions.
     template <class Visit> void ForEachRow(Visit visit) {

@@ -82,7 +82,7 @@ double Bars::Largest() const {
 
 std::vector<Message> Bars::Doubts(const millichart::CBasicHistogram& chart) const {
     std::vector<Message> doubts = m_doubts;
-    if (m_components == 0 && !m_data.Values.empty()) {
+    if (m_components == 0) {
         doubts.push_back(Emptiness());
         doubts.back().Weight = Severity::Warning;
     }

@@ -58,10 +58,6 @@ public:
         }
         const std::vector<Message> ofBars = m_bars.Doubts(m_chart.GetHistogram());
         doubts.insert(doubts.end(), ofBars.begin(), ofBars.end());
-        if (m_bars.Values().empty()) {
-            doubts.push_back(m_bars.Emptiness());
-            doubts.back().Weight = Severity::Warning;
-        }
         return doubts;
     }
 

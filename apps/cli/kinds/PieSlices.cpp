@@ -14,6 +14,8 @@ constexpr const char* kNames = "ComponentName";
 constexpr const char* kColors = "ComponentColor";
 
 constexpr float kSmallestPie = 5.0F;
+constexpr const char* kSizesAboveZero =
+    "FixedWidth above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0";
 
 } // namespace
 
@@ -60,12 +62,7 @@ Message PieSlices::Emptiness() const {
     if (std::accumulate(m_data.Values.begin(), m_data.Values.end(), 0.0) == 0.0) {
         return {"", Severity::Error, 0, m_data.Place, "no value above 0", "one for each slice"};
     }
-    return {"",
-            Severity::Error,
-            0,
-            m_place,
-            "nothing to draw, as the pie has no size",
-            "FixedWidth above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0"};
+    return {"", Severity::Error, 0, m_place, "nothing to draw, as the pie has no size", kSizesAboveZero};
 }
 
 Message PieSlices::Smallness(float width, bool isFixed) const {
@@ -77,18 +74,6 @@ Message PieSlices::Smallness(float width, bool isFixed) const {
             "",
             "",
             found + (isFixed ? "" : ", by its values' total; with 1 here it is as wide as FixedWidth")};
-}
-
-Message PieSlices::NegativeSize(float width, bool isFixed) const {
-    if (isFixed) {
-        return {"", Severity::Error, 0, m_place + "/FixedWidth", NumberText(width), "a number above 0"};
-    }
-    return {"",
-            Severity::Error,
-            0,
-            m_place,
-            "a pie of " + NumberText(width) + " mm",
-            "BaseValue and BasePieWidth above 0"};
 }
 
 std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bool isFixed,
@@ -104,7 +89,8 @@ std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bo
     if (isEmpty) {
         doubts.push_back({"", Severity::Warning, 0, m_data.Place, "no value above 0", "one for each slice"});
     } else if (width < 0.0F) {
-        doubts.push_back(NegativeSize(width, isFixed));
+        doubts.push_back(
+            {"", Severity::Error, 0, m_place, "a pie of " + NumberText(width) + " mm", kSizesAboveZero});
     } else if (width < kSmallestPie) {
         doubts.push_back(Smallness(width, isFixed));
     }

@@ -52,7 +52,6 @@ private:
     void TakeNames(std::vector<std::string>& names);
     void DoubtOffsets(std::size_t count, const std::string& place, std::size_t names);
     Message Smallness(float width, bool isFixed) const;
-    Message NegativeSize(float width, bool isFixed) const;
     std::vector<Message> Doubts(std::size_t names, std::size_t colors, bool isFixed, float width) const;
 
     std::string m_place;

@@ -1,6 +1,7 @@
 #include "penlode/FontFace.h"
 #include "penlode/StringUtil.h"
 #include "penlode/cairo/Picture.h"
+#include "support/PictureDifference.h"
 
 #include <array>
 #include <cmath>
@@ -39,10 +40,14 @@ RectF InkBox(const CGraphicsEngine& g) {
             static_cast<float>(bottom - top)};
 }
 
-RectF InkOfText(double dpi, const wchar_t* text, const Font& font, float x, float y, float degrees = 0) {
-    const auto g = CGraphicsEngine::ForRaster({80, 80}, dpi, kWhite);
+std::unique_ptr<CGraphicsEngine> Turned(std::unique_ptr<CGraphicsEngine> g, float x, float y, float degrees) {
     g->TranslateTransform(x, y, MatrixOrder::Prepend);
     g->RotateTransform(degrees, MatrixOrder::Prepend);
+    return g;
+}
+
+RectF InkOfText(double dpi, const wchar_t* text, const Font& font, float x, float y, float degrees = 0) {
+    const auto g = Turned(CGraphicsEngine::ForRaster({80, 80}, dpi, kWhite), x, y, degrees);
     EXPECT_EQ(g->DrawString(text, -1, &font, PointF{0, 0}, &kBrush), Status::Ok);
     const RectF pixels = InkBox(*g);
     const auto mm = [dpi](float v) { return static_cast<float>(v * 25.4 / dpi); };
@@ -59,33 +64,22 @@ struct TurnedText {
 };
 
 std::unique_ptr<CGraphicsEngine> SurfaceFor(const TurnedText& text) {
-    auto g = PixelSurface(120, 120);
-    g->TranslateTransform(text.X, text.Y, MatrixOrder::Prepend);
-    g->RotateTransform(text.Degrees, MatrixOrder::Prepend);
-    return g;
+    return Turned(PixelSurface(120, 120), text.X, text.Y, text.Degrees);
 }
 
-std::vector<Color> Drawn(const TurnedText& text) {
+Image Drawn(const TurnedText& text) {
     const auto g = SurfaceFor(text);
     EXPECT_EQ(g->DrawString(text.Text, -1, &text.Face, PointF{0, 0}, &kBrush), Status::Ok);
-    return g->Pixels().Pixels;
+    return g->Pixels();
 }
 
-std::vector<Color> FilledOutline(const TurnedText& text) {
+/// How far a text lies from the outlines of its letters.
+PictureDifference FromOutlines(const TurnedText& text) {
     const auto g = SurfaceFor(text);
-    GraphicsPath outline = OutlineOfLine(text.Text, text.Face);
+    const GraphicsPath outline = OutlineOfLine(text.Text, text.Face);
     g->TranslateTransform(0, CStringUtil::MeasureFont(text.Face).Ascent, MatrixOrder::Prepend);
     EXPECT_EQ(g->FillPath(&kBrush, &outline), Status::Ok);
-    return g->Pixels().Pixels;
-}
-
-/// The most by which a pixel of two pictures differs.
-int MostApart(const std::vector<Color>& a, const std::vector<Color>& b) {
-    int most = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        most = std::max(most, std::abs(static_cast<int>(a[i].R()) - static_cast<int>(b[i].R())));
-    }
-    return most;
+    return Compare(Drawn(text), g->Pixels(), 0);
 }
 
 } // namespace
@@ -153,20 +147,20 @@ TEST(Text, LettersThatHaveBeenDrawnLookAsForTheFirstTime) {
     texts.push_back({L" ", {L"宋体", 11.0F, FontStyle::Regular}, 20, 20, 0});
     for (const int round : {1, 2}) {
         for (std::size_t i = 0; i < texts.size(); ++i) {
-            std::vector<Color> first; // another thread has drawn nothing yet
+            Image first; // another thread has drawn nothing yet
             std::thread([&] { first = Drawn(texts[i]); }).join();
-            EXPECT_EQ(Drawn(texts[i]), first) << "text " << i << ", round " << round;
+            EXPECT_EQ(Drawn(texts[i]).Pixels, first.Pixels) << "text " << i << ", round " << round;
         }
     }
 }
 
 TEST(Text, MoreLettersThanAThreadKeepsAreDrawnTheSame) {
     const TurnedText text{L"深 fÅg", {L"宋体", 30.0F, FontStyle::Regular}, 20, 20, 0};
-    const std::vector<Color> first = Drawn(text);
+    const Image first = Drawn(text);
     for (float size = 24.0F; size < 31.9F; size += 0.01F) { // 6 MB of letters
         Drawn({L"滚滚长江东逝水", {L"宋体", size, FontStyle::Regular}, 0, 20, 0});
     }
-    EXPECT_EQ(Drawn(text), first);
+    EXPECT_EQ(Drawn(text).Pixels, first.Pixels);
 }
 
 TEST(Text, NoLetterIsCutOff) {
@@ -176,13 +170,12 @@ TEST(Text, NoLetterIsCutOff) {
         const float baselineOnWholePixel = 60.0F - CStringUtil::MeasureFont(font).Ascent;
         for (const wchar_t* letter : {L"f", L"g", L"W", L"Q", L"深", L"_"}) {
             const TurnedText text{letter, font, 40.25F, baselineOnWholePixel, 0.0F};
-            EXPECT_LE(MostApart(Drawn(text), FilledOutline(text)), 24) << CStringUtil::WideToUtf8(letter);
+            EXPECT_LE(FromOutlines(text).Largest, 24U) << CStringUtil::WideToUtf8(letter);
         }
         for (const wchar_t* word : {L"fgjW", L"深度", L"Q;_", L"|"}) {
             const TurnedText text{word, font, 60.2F, 60.7F, -33.0F};
-            const std::vector<Color> drawn = Drawn(text);
-            EXPECT_LE(MostApart(drawn, FilledOutline(text)), 64) << CStringUtil::WideToUtf8(word);
-            EXPECT_NE(std::count(drawn.begin(), drawn.end(), kBlack), 0);
+            EXPECT_LE(FromOutlines(text).Largest, 64U) << CStringUtil::WideToUtf8(word);
+            EXPECT_NE(CountOf(Drawn(text), kBlack), 0);
         }
     }
 }
@@ -193,9 +186,8 @@ TEST(Text, OfAVeryLongLineItsPartOnTheSurfaceIsDrawn) {
         line += L"深度g.";
     }
     const TurnedText text{line.c_str(), {L"宋体", 20.0F, FontStyle::Regular}, -30000.0F, -9132.0F, 17.0F};
-    const std::vector<Color> drawn = Drawn(text);
-    EXPECT_LE(MostApart(drawn, FilledOutline(text)), 64);
-    EXPECT_LT(std::count(drawn.begin(), drawn.end(), kWhite), 120 * 120 - 500);
+    EXPECT_LE(FromOutlines(text).Largest, 64U);
+    EXPECT_LT(CountOf(Drawn(text), kWhite), 120 * 120 - 500);
 }
 
 TEST(Text, AlignmentPlacesEachLineInItsBox) {
