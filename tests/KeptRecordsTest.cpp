@@ -22,6 +22,7 @@ struct KeptRecord {
     std::function<std::string()> Json;
     std::function<void(const std::string& bytes)> ExpectInBinary;
     std::function<void(const std::string& text)> ExpectInJson;
+    std::function<bool(const std::string& bytes)> FailsInBinary;
 };
 
 /// The operations are those of the record's serializer, the keyed one under a tag.
@@ -41,7 +42,8 @@ KeptRecord Kept(const char* name, const Prop& prop, void (*positional)(penlode::
     const auto withTag = [keyed](penlode::CSerializeStream& stream, Prop& value) {
         keyed(stream, value, "property");
     };
-    return {name, [=] { return save(CBinarySerialize(), positional).Bytes(); },
+    return {name,
+            [=] { return save(CBinarySerialize(), positional).Bytes(); },
             [=] { return save(CJsonSerializeStream(), withTag).Text(); },
             [=](const std::string& bytes) {
                 CBinarySerialize stream(bytes);
@@ -54,6 +56,12 @@ KeptRecord Kept(const char* name, const Prop& prop, void (*positional)(penlode::
                 expect(stream, withTag);
                 EXPECT_TRUE(stream.Problems().empty());
                 EXPECT_TRUE(stream.UnknownKeys().empty());
+            },
+            [=](const std::string& bytes) {
+                CBinarySerialize stream(bytes);
+                Prop loaded;
+                positional(stream, loaded);
+                return stream.Failed();
             }};
 }
 
@@ -111,6 +119,18 @@ TEST_P(KeptRecords, StillLoad) {
     WriteIfNew(path + ".json", record.Json);
     ExpectKept(path + ".bin", record.ExpectInBinary);
     ExpectKept(path + ".json", record.ExpectInJson);
+}
+
+TEST_P(KeptRecords, ComeBackOnBothPaths) {
+    GetParam().ExpectInBinary(GetParam().Binary());
+    GetParam().ExpectInJson(GetParam().Json());
+}
+
+TEST_P(KeptRecords, FailWhereTheyAreCutOff) {
+    const std::string whole = GetParam().Binary();
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_TRUE(GetParam().FailsInBinary(whole.substr(0, length))) << length;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, KeptRecords, testing::ValuesIn(kKept),

@@ -1,6 +1,5 @@
 #include "charts/curve/CurvePropSerialize.h"
 
-#include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Records.h"
@@ -9,7 +8,6 @@
 #include <gtest/gtest.h>
 
 using namespace millichart;
-using penlode::CBinarySerialize;
 using penlode::CJsonSerializeStream;
 using penlode::Color;
 
@@ -104,11 +102,6 @@ TEST(CurvePropSerialize, KeyedAsADocument) {
 "PenEdge": "#FF000000 0.1 solid",
 "Font": "宋体 4"
 )");
-    CJsonSerializeStream back(stream.Text());
-    CurveProp loaded;
-    CCurvePropSerialize::SerializeCurveProp(back, loaded, "C");
-    EXPECT_EQ(loaded, SomeCurves());
-    EXPECT_TRUE(back.Problems().empty());
 }
 
 TEST(CurvePropSerialize, EveryMarkerHasItsName) {
@@ -195,20 +188,4 @@ TEST(CurvePropSerialize, PositionalOrderIsFixed) {
                   "int 3;colour #FF000005;colour #FF000006;colour #FF000007;"
                   "int 3;float 1.5;float 2;float 3.25;int 3;int 1;int 0;int 1;"
                   "int 0;int 8;int 1;int 0;colour #FFFFFFFF;float 0;pen #FF000000 0.1 solid;font 宋体 4;");
-}
-
-TEST(CurvePropSerialize, PositionalRoundTripAndTruncation) {
-    CurveProp prop = SomeCurves();
-    CBinarySerialize out;
-    CCurvePropSerialize::SerializeCurveProp(out, prop);
-    CBinarySerialize in(out.Bytes());
-    CurveProp loaded;
-    CCurvePropSerialize::SerializeCurveProp(in, loaded);
-    EXPECT_EQ(loaded, SomeCurves());
-    EXPECT_EQ(in.Remaining(), 0U);
-    for (std::size_t length = 0; length < out.Bytes().size(); length += 7) {
-        CBinarySerialize part(std::string_view(out.Bytes()).substr(0, length));
-        CCurvePropSerialize::SerializeCurveProp(part, loaded);
-        EXPECT_TRUE(part.Failed()) << length;
-    }
 }

@@ -1,6 +1,5 @@
 #include "charts/histogram/HistogramPropSerialize.h"
 
-#include "penlode/BinarySerialize.h"
 #include "penlode/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Records.h"
@@ -9,7 +8,6 @@
 #include <gtest/gtest.h>
 
 using namespace millichart;
-using penlode::CBinarySerialize;
 using penlode::CJsonSerializeStream;
 using penlode::Color;
 
@@ -97,11 +95,6 @@ TEST(HistogramPropSerialize, KeyedAsADocument) {
 "PenEdge": "#FF000000 0.1 solid",
 "Font": "宋体 4"
 )");
-    CJsonSerializeStream back(stream.Text());
-    HistogramProp loaded;
-    CHistogramPropSerialize::SerializeHistogramProp(back, loaded, "property");
-    EXPECT_EQ(loaded, SomeHistogram());
-    EXPECT_TRUE(back.Problems().empty());
 }
 
 TEST(HistogramPropSerialize, AnEmptyDocumentGivesExactlyTheLoadDefaults) {
@@ -149,20 +142,4 @@ TEST(HistogramPropSerialize, PositionalOrderIsFixed) {
                   PositionalLook("5") + "list [水|力][][wind];int 2;colour #FF4472C4;colour #80ED7D31;" +
                   "int 12;int 8;int 1;int 0;colour #FFFFFFFF;float 0;pen #FF000000 0.1 solid;"
                   "font 宋体 4;");
-}
-
-TEST(HistogramPropSerialize, PositionalRoundTripAndTruncation) {
-    HistogramProp prop = SomeHistogram();
-    CBinarySerialize out;
-    CHistogramPropSerialize::SerializeHistogramProp(out, prop);
-    CBinarySerialize in(out.Bytes());
-    HistogramProp loaded;
-    CHistogramPropSerialize::SerializeHistogramProp(in, loaded);
-    EXPECT_EQ(loaded, SomeHistogram());
-    EXPECT_EQ(in.Remaining(), 0U);
-    for (std::size_t length = 0; length < out.Bytes().size(); length += 7) {
-        CBinarySerialize part(std::string_view(out.Bytes()).substr(0, length));
-        CHistogramPropSerialize::SerializeHistogramProp(part, loaded);
-        EXPECT_TRUE(part.Failed()) << length;
-    }
 }

@@ -59,12 +59,6 @@ TEST(HalfPiePropSerialize, KeyedAsADocument) {
 )json";
     EXPECT_EQ(stream.Text().substr(0, std::strlen(document)), document);
     EXPECT_EQ(Loaded(R"({"P": {}})"), LoadDefaults());
-    CJsonSerializeStream back(stream.Text());
-    HalfPieProp loaded;
-    CHalfPiePropSerialize::SerializeHalfPieProp(back, loaded, "property");
-    EXPECT_EQ(loaded, SomeHalf());
-    EXPECT_TRUE(back.Problems().empty());
-    EXPECT_TRUE(back.UnknownKeys().empty());
 }
 
 TEST(HalfPiePropSerialize, TheHalfIsStoredByItsName) {
