@@ -75,7 +75,7 @@ int PrintLine(const std::string& name, double measured, double reference, double
 /// The command beside a process that reads and parses alone. What the picture takes comes on top of that, so
 /// it is taken off first.
 int PrintProcess(const bench::ProcessCosts& costs, double picture) {
-    constexpr double kMostBytes = 100.0;
+    constexpr double kMaxBytes = 100.0;
     if (picture == 0.0) {
         return 0;
     }
@@ -84,9 +84,9 @@ int PrintProcess(const bench::ProcessCosts& costs, double picture) {
         return 1;
     }
     const double bytes = (costs.Million.Bytes - costs.Thousand.Bytes) / (1e6 - 1e3);
-    const bool isAbove = bytes > kMostBytes;
+    const bool isAbove = bytes > kMaxBytes;
     std::printf("%-52s %9.1f B %11s %7s %7.0f%s\n", "command, CSV of 1e6 rows, memory of a point", bytes, "",
-                "", kMostBytes, isAbove ? "  above" : "");
+                "", kMaxBytes, isAbove ? "  above" : "");
     return PrintLine("command, CSV of 1e6 rows, less the picture / parsed",
                      costs.Million.Milliseconds - picture, costs.Parsing.Milliseconds, 3.0) +
            (isAbove ? 1 : 0);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes src/penlode/Gb18030Table.inc, the tables behind the narrow encoding.
+"""Writes src/penlode/text/Gb18030Table.inc, the tables behind the narrow encoding.
 
     python3 tools/make_gb18030_table.py            writes the file
     python3 tools/make_gb18030_table.py --check    says whether the committed file is up to date

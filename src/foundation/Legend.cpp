@@ -1,7 +1,7 @@
 #include "foundation/Legend.h"
 
 #include "foundation/TextPropertyOperation.h"
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 

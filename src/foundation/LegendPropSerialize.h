@@ -2,8 +2,8 @@
 
 #include "foundation/Export.h"
 #include "foundation/Legend.h"
-#include "penlode/ISerialize.h"
-#include "penlode/SerializeStream.h"
+#include "penlode/streams/ISerialize.h"
+#include "penlode/streams/SerializeStream.h"
 
 namespace millichart {
 

@@ -7,11 +7,11 @@
 namespace millichart {
 
 std::string FixedText(double value, int decimals) {
-    constexpr int kMostDecimals = 400;
+    constexpr int kMaxDecimals = 400;
     // The largest double has 309 digits before the point.
-    std::array<char, 320 + kMostDecimals> buffer{};
+    std::array<char, 320 + kMaxDecimals> buffer{};
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::fixed, std::clamp(decimals, 0, kMostDecimals));
+                                      std::chars_format::fixed, std::clamp(decimals, 0, kMaxDecimals));
     return {buffer.data(), result.ptr};
 }
 

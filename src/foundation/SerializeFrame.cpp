@@ -1,7 +1,7 @@
 #include "foundation/SerializeFrame.h"
 
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 

@@ -3,10 +3,10 @@
 #include "foundation/Export.h"
 #include "penlode/Color.h"
 #include "penlode/Font.h"
-#include "penlode/ISerialize.h"
 #include "penlode/Owned.h"
 #include "penlode/Pen.h"
-#include "penlode/SerializeStream.h"
+#include "penlode/streams/ISerialize.h"
+#include "penlode/streams/SerializeStream.h"
 
 #include <cstdint>
 #include <span>

@@ -1,7 +1,7 @@
 #include "foundation/TextPropertyOperation.h"
 
-#include "penlode/EngineArguments.h"
-#include "penlode/StringUtil.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "foundation/TextPropertySerialize.h"
 
 #include "foundation/SerializeFrame.h"
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 namespace millichart {
 

@@ -8,7 +8,7 @@
 namespace penlode {
 namespace {
 
-constexpr double kLongestArc = std::numbers::pi / 4.0;
+constexpr double kMaxArc = std::numbers::pi / 4.0;
 
 double Radians(double degrees) {
     return degrees * std::numbers::pi / 180.0;
@@ -77,7 +77,7 @@ public:
         if (!std::isfinite(sweep) || sweep == 0.0) {
             return;
         }
-        const int steps = std::max(1, static_cast<int>(std::ceil(std::abs(sweep) / kLongestArc - 1e-9)));
+        const int steps = std::max(1, static_cast<int>(std::ceil(std::abs(sweep) / kMaxArc - 1e-9)));
         const double step = sweep / steps;
         const double handle = 4.0 / 3.0 * std::tan(step / 4.0);
         for (int i = 0; i < steps; ++i) {

@@ -49,7 +49,7 @@ Status Region::Combine(const Shape& shape, CombineMode mode) {
     const std::size_t size = (afresh ? 0 : m_size) + 1 + (nested != nullptr ? nested->Area->m_size : 0);
     const std::size_t levels =
         std::max(afresh ? 1 : m_levels, nested != nullptr ? nested->Area->m_levels + 1 : 1);
-    if (size > kMostSteps || levels > kMostLevels) {
+    if (size > kMaxSteps || levels > kMaxLevels) {
         return Status::OutOfMemory;
     }
     Step step{mode, shape}; // the shape may be one of our own steps

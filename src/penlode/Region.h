@@ -15,12 +15,12 @@ namespace penlode {
 /// An area of the plane, kept as the steps that make it: starting from the whole plane, each step combines a
 /// shape with what stands. An engine turns the steps into its platform's clip.
 ///
-/// A step that would make a region of more than kMostSteps steps, or of regions within regions beyond
-/// kMostLevels, is refused with OutOfMemory and changes nothing.
+/// A step that would make a region of more than kMaxSteps steps, or of regions within regions beyond
+/// kMaxLevels, is refused with OutOfMemory and changes nothing.
 class PENLODE_API Region {
 public:
-    static constexpr std::size_t kMostSteps = 10000;
-    static constexpr std::size_t kMostLevels = 50;
+    static constexpr std::size_t kMaxSteps = 10000;
+    static constexpr std::size_t kMaxLevels = 50;
 
     struct Everything {
         friend bool operator==(const Everything&, const Everything&) = default;

@@ -2,8 +2,8 @@
 #include "foundation/LegendPropSerialize.h"
 #include "foundation/SerializeFrame.h"
 #include "foundation/TextPropertySerialize.h"
-#include "penlode/BinarySerialize.h"
-#include "penlode/JsonSerializeStream.h"
+#include "penlode/streams/BinarySerialize.h"
+#include "penlode/streams/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/SomeRecords.h"
 

@@ -37,11 +37,11 @@ TEST(Region, OneShapeIsCombinedAsItselfAndMoreAsARegion) {
 TEST(Region, GrowthHasAnEnd) {
     Region steps;
     Status status = Status::Ok;
-    for (std::size_t i = 0; i <= Region::kMostSteps; ++i) {
+    for (std::size_t i = 0; i <= Region::kMaxSteps; ++i) {
         status = steps.Combine(RectF{0, 0, 1, 1}, CombineMode::Xor);
     }
     EXPECT_EQ(status, Status::OutOfMemory);
-    EXPECT_EQ(steps.Steps().size(), Region::kMostSteps);
+    EXPECT_EQ(steps.Steps().size(), Region::kMaxSteps);
 
     Region nested(RectF{0, 0, 1, 1});
     nested.Combine(RectF{2, 2, 1, 1}, CombineMode::Union);
@@ -49,6 +49,6 @@ TEST(Region, GrowthHasAnEnd) {
     while (rounds < 1000 && nested.Combine(Region(nested), CombineMode::Intersect) == Status::Ok) {
         ++rounds;
     }
-    EXPECT_LT(rounds, Region::kMostLevels);
+    EXPECT_LT(rounds, Region::kMaxLevels);
     EXPECT_EQ(nested.Combine(nested, CombineMode::Replace), Status::Ok);
 }

@@ -1,5 +1,5 @@
-#include "penlode/FontFace.h"
-#include "penlode/StringUtil.h"
+#include "penlode/text/FontFace.h"
+#include "penlode/text/StringUtil.h"
 
 /// Faces to go with the sizes of simple arithmetic: "宋体" is not installed and "Noto Serif CJK SC" stands
 /// for it; every character but the blank is a box as wide as it is measured and half the font's size high, on

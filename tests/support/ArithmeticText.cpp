@@ -1,4 +1,4 @@
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 /// Text sizes that a reader of a test can work out, the same on every machine: a character below U+0100 is
 /// half as wide as the font is high and any other as wide as high; a line's ascent is the font's size and its

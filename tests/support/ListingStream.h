@@ -1,8 +1,8 @@
 #pragma once
 
-#include "penlode/ISerialize.h"
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/ISerialize.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 #include <string>
 #include <string_view>

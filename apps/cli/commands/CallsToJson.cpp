@@ -1,8 +1,8 @@
 #include "commands/CallsToJson.h"
 
 #include "penlode/Owned.h"
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <array>
 #include <map>

@@ -2,7 +2,7 @@
 
 #include "files/Console.h"
 #include "kinds/Chart.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
 
 #include <CLI/CLI.hpp>
 #include <cctype>
@@ -11,13 +11,13 @@
 namespace cli {
 namespace {
 
-constexpr float kLargestPage = 5000.0F;
+constexpr float kMaxPage = 5000.0F;
 constexpr double kLeastDpi = 10.0;
-constexpr double kMostDpi = 2400.0;
+constexpr double kMaxDpi = 2400.0;
 constexpr const char* kDataHelp = "a CSV file (name, value) that replaces the document's data";
 
 bool ParseSide(std::string text, float& side) {
-    return penlode::ser_evaluate(side, text, false) && side > 0.0F && side <= kLargestPage;
+    return penlode::ser_evaluate(side, text, false) && side > 0.0F && side <= kMaxPage;
 }
 
 bool ParsePage(const std::string& text, penlode::SizeF& page) {
@@ -27,7 +27,7 @@ bool ParsePage(const std::string& text, penlode::SizeF& page) {
 }
 
 bool ParseDpi(std::string text, double& dpi) {
-    return penlode::ser_evaluate(dpi, text, false) && dpi >= kLeastDpi && dpi <= kMostDpi;
+    return penlode::ser_evaluate(dpi, text, false) && dpi >= kLeastDpi && dpi <= kMaxDpi;
 }
 
 bool ParseBackground(std::string text, penlode::Color& color) {

@@ -1,7 +1,7 @@
 #include "data/ChartData.h"
 
 #include "documents/Fields.h"
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 #include <filesystem>
 

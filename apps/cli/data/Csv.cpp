@@ -1,6 +1,6 @@
 #include "data/Csv.h"
 
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include "charts/curve/CurveProp.h"
 #include "data/CurveTable.h"
 #include "documents/Fields.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "data/CurveTable.h"
 
 #include "documents/Fields.h"
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <charconv>

@@ -2,8 +2,8 @@
 
 #include "documents/Fields.h"
 #include "files/UserError.h"
-#include "penlode/JsonFault.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/JsonFault.h"
+#include "penlode/streams/TextForms.h"
 
 #include <algorithm>
 #include <utility>
@@ -44,9 +44,9 @@ const std::vector<CsvRow>& DataTable::Rows() {
 /// With a separator or a line break behind each cell, a row takes as many bytes at least; and lines may be
 /// blank.
 std::size_t DataTable::RowsToMakeRoomFor(std::size_t width) const {
-    constexpr std::size_t kMost = std::size_t{1} << 22U;
+    constexpr std::size_t kMax = std::size_t{1} << 22U;
     const auto lines = static_cast<std::size_t>(std::count(m_text.begin(), m_text.end(), '\n')) + 1;
-    return std::min({lines, m_text.size() / width + 1, kMost});
+    return std::min({lines, m_text.size() / width + 1, kMax});
 }
 
 /// An open quote swallows the rest, so that what was read is not what was meant.
@@ -106,15 +106,15 @@ void DataTable::Warn(const CsvRow& row, const std::string& sentence) {
 
 void DataTable::Tell(Message message) {
     m_isSound = false;
-    if (++m_told <= kMostKept) {
+    if (++m_told <= kMaxKept) {
         m_messages->push_back(std::move(message));
         return;
     }
-    if (m_told == kMostKept + 1) {
+    if (m_told == kMaxKept + 1) {
         m_rest = m_messages->size();
         m_messages->push_back({m_file, Severity::Error, 0, "", "", "", "", true});
     }
-    (*m_messages)[m_rest].Text = "and " + std::to_string(m_told - kMostKept) + " more, which are not told";
+    (*m_messages)[m_rest].Text = "and " + std::to_string(m_told - kMaxKept) + " more, which are not told";
 }
 
 std::string ColumnPlace(std::size_t column) {

@@ -1,8 +1,8 @@
 #include "data/PieData.h"
 
 #include "documents/Fields.h"
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <utility>
@@ -38,10 +38,10 @@ bool CheckRows(DataTable& table, std::size_t count, const char* wanted) {
     if (count == 0 && table.IsSound()) {
         table.Refuse("no rows", wanted);
     }
-    if (count > kMostSlices) {
+    if (count > kMaxSlices) {
         table.Refuse(Counted(count, "row"), FewerSlices());
     }
-    return count <= kMostSlices;
+    return count <= kMaxSlices;
 }
 
 /// Names that are all empty are none.
@@ -90,7 +90,7 @@ void LoadValues(ChartStream& stream, PieData& data, std::vector<Message>& messag
             stream.Refuse(std::string(kValues) + "/" + std::to_string(i), "a number below 0", kNoLess);
         }
     }
-    if (data.Values.size() > kMostSlices) {
+    if (data.Values.size() > kMaxSlices) {
         messages.push_back({"", Severity::Error, 0, data.Place + "/" + kValues,
                             Counted(data.Values.size(), "value"), FewerSlices()});
         data.Values.clear();
@@ -128,7 +128,7 @@ void LoadHalf(ChartStream& stream, const char* key, const DataSource& source, bo
 } // namespace
 
 std::string FewerSlices() {
-    return "at most " + std::to_string(kMostSlices) + ", a slice each";
+    return "at most " + std::to_string(kMaxSlices) + ", a slice each";
 }
 
 PieData LoadPieData(ChartStream& stream, const DataSource& source) {

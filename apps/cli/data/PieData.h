@@ -18,7 +18,7 @@ struct PieData {
 };
 
 /// A pie of more is a grey disk, and takes its layout minutes.
-inline constexpr std::size_t kMostSlices = 5000;
+inline constexpr std::size_t kMaxSlices = 5000;
 
 /// What is expected of data that have more.
 std::string FewerSlices();

@@ -1,8 +1,8 @@
 #include "documents/ChartStream.h"
 
 #include "foundation/SerializeFrame.h"
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/JsonSerializeStream.h"
+#include "penlode/streams/JsonSerializeStream.h"
 
 #include <map>
 #include <set>

@@ -1,6 +1,6 @@
 #include "documents/Fields.h"
 
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
 
 #include <cmath>
 #include <cstdint>
@@ -29,7 +29,7 @@ template <class T> bool Parse(const std::string& text, T& value) {
 }
 
 bool IsFar(PointF point) {
-    return std::abs(point.X) > kFarthestPoint || std::abs(point.Y) > kFarthestPoint;
+    return std::abs(point.X) > kMaxPoint || std::abs(point.Y) > kMaxPoint;
 }
 
 bool ParsePoint(const std::string& text, PointF& point) {
@@ -103,8 +103,8 @@ std::vector<double> LoadNumbers(CSerializeStream& stream, const char* key, doubl
 }
 
 std::string NumberText(double number) {
-    constexpr double kMostWhole = 1e15;
-    if (number == std::trunc(number) && std::abs(number) < kMostWhole) {
+    constexpr double kMaxWhole = 1e15;
+    if (number == std::trunc(number) && std::abs(number) < kMaxWhole) {
         return std::to_string(static_cast<std::int64_t>(number));
     }
     return TextOf(number);

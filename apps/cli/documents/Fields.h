@@ -1,7 +1,7 @@
 #pragma once
 
 #include "penlode/Geometry.h"
-#include "penlode/SerializeStream.h"
+#include "penlode/streams/SerializeStream.h"
 
 #include <string>
 #include <vector>
@@ -11,12 +11,12 @@
 namespace cli {
 
 /// In mm, in each direction. Farther away single-precision numbers no longer tell a chart's parts apart.
-inline constexpr float kFarthestPoint = 1e6F;
+inline constexpr float kMaxPoint = 1e6F;
 
 /// A narrow text.
 std::string LoadText(penlode::CSerializeStream& stream, const char* key, const std::string& defaultText);
 double LoadNumber(penlode::CSerializeStream& stream, const char* key, double defaultNumber);
-/// Points are at most kFarthestPoint away.
+/// Points are at most kMaxPoint away.
 penlode::PointF LoadPoint(penlode::CSerializeStream& stream, const char* key);
 std::vector<penlode::PointF> LoadPoints(penlode::CSerializeStream& stream, const char* key);
 /// What is no number is `unread`.

@@ -1,6 +1,6 @@
 #include "documents/Json.h"
 
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <cmath>

@@ -115,8 +115,8 @@ private:
 
     /// Documents nest no deeper; what does is refused by the stream and needs no places.
     bool Open(bool isList) {
-        constexpr std::size_t kMostLevels = 64;
-        if (m_levels.size() >= kMostLevels) {
+        constexpr std::size_t kMaxLevels = 64;
+        if (m_levels.size() >= kMaxLevels) {
             return false;
         }
         Value();

@@ -7,7 +7,7 @@
 namespace cli {
 namespace {
 
-constexpr std::size_t kLongestName = 64;
+constexpr std::size_t kMaxNameLength = 64;
 
 std::string Lowered(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
@@ -38,7 +38,7 @@ std::size_t EditDistance(const std::string& a, const std::string& b) {
 } // namespace
 
 std::string NearestName(const std::string& name, const std::vector<std::string>& known) {
-    if (name.size() > kLongestName) {
+    if (name.size() > kMaxNameLength) {
         return {};
     }
     std::string nearest;

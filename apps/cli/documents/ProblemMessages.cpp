@@ -103,11 +103,10 @@ std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, 
             messages.push_back(MessageOf(problem));
         }
     }
-    if (json.Problems().size() >= kMostKept) {
+    if (json.Problems().size() >= kMaxKept) {
         messages.push_back(
             {"", Severity::Error, 0, "", "", "",
-             "too many problems; those after the first " + std::to_string(kMostKept) + " are not told",
-             true});
+             "too many problems; those after the first " + std::to_string(kMaxKept) + " are not told", true});
     }
     if (!stream.AskedKeys().contains("property")) {
         return messages; // the record was not asked for, so that none of its keys is known

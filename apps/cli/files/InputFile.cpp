@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kMostBytes = std::size_t{1} << 30U;
+constexpr std::size_t kMaxBytes = std::size_t{1} << 30U;
 constexpr std::size_t kPiece = std::size_t{1} << 16U;
 
 UserError Unreadable(const std::string& name, const std::string& reason) {
@@ -36,7 +36,7 @@ std::size_t RefuseByKind(const std::string& name, NamedBy who) {
     if (error) {
         return 0;
     }
-    if (size > kMostBytes) {
+    if (size > kMaxBytes) {
         throw Unreadable(name, "it is larger than 1 GB");
     }
     return static_cast<std::size_t>(size);
@@ -49,7 +49,7 @@ std::string ReadAll(std::istream& stream, const std::string& name, std::size_t s
     std::vector<char> piece(kPiece);
     while (stream.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stream.gcount() > 0) {
         bytes.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
-        if (bytes.size() > kMostBytes) {
+        if (bytes.size() > kMaxBytes) {
             throw Unreadable(name, "it is larger than 1 GB");
         }
     }

@@ -14,7 +14,7 @@ using Json = nlohmann::ordered_json;
 /// How the place of what is not JSON begins.
 constexpr const char* kLinePlace = "line ";
 
-constexpr std::size_t kMostShown = 50;
+constexpr std::size_t kMaxShown = 50;
 
 /// Also the two bytes of a control character from U+0080 to U+009F.
 bool IsControl(std::string_view text, std::size_t i) {
@@ -106,10 +106,10 @@ std::vector<std::string> ToLines(const std::vector<Message>& messages, bool with
     for (const Message& message : messages) {
         const bool isNote = message.Weight == Severity::Note;
         const std::size_t count = isNote ? 0 : ++counts[message.File];
-        if (isNote ? withNotes : count <= kMostShown) {
+        if (isNote ? withNotes : count <= kMaxShown) {
             lines.push_back(ToLine(message));
-        } else if (count == kMostShown + 1) {
-            const std::string more = std::to_string(totals[message.File] - kMostShown);
+        } else if (count == kMaxShown + 1) {
+            const std::string more = std::to_string(totals[message.File] - kMaxShown);
             const char* const atLeast = withRest.contains(message.File) ? "at least " : "";
             lines.push_back(Printable(message.File + ": and " + atLeast + more + " more"));
         }

@@ -29,7 +29,7 @@ struct Message {
 };
 
 /// The most messages of one source that are kept.
-inline constexpr std::size_t kMostKept = 10000;
+inline constexpr std::size_t kMaxKept = 10000;
 
 /// A sentence about what stands at a place.
 Message At(const FilePlace& place, Severity severity, std::string sentence);

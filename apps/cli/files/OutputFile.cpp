@@ -58,11 +58,11 @@ void Require(bool written, const std::string& name) {
 
 /// The file that a link leads to, there or not, so that the link stays one.
 std::string BehindLinks(const std::string& name) {
-    constexpr int kMostLinks = 40;
+    constexpr int kMaxLinks = 40;
     std::error_code error;
     fs::path file = name;
     for (int i = 0; fs::is_symlink(fs::symlink_status(file, error)); ++i) {
-        if (i == kMostLinks) {
+        if (i == kMaxLinks) {
             throw UserError(name, "cannot be written: too many links lead from one to the next");
         }
         file = file.parent_path() / fs::read_symlink(file, error);

@@ -102,7 +102,7 @@ std::vector<Message> Bars::Doubts(const millichart::CBasicHistogram& chart) cons
 }
 
 std::vector<Message> Bars::DoubtSizes(const millichart::CBasicHistogram& chart) const {
-    constexpr float kThinnest = 0.1F;
+    constexpr float kMinBarWidth = 0.1F;
     const millichart::HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
     const millichart::HistogramLayout& layout = chart.GetLayout();
     std::vector<Message> doubts = PlotSizeFaults(m_place, plot.PlotWidth, plot.PlotHeight);
@@ -118,7 +118,7 @@ std::vector<Message> Bars::DoubtSizes(const millichart::CBasicHistogram& chart) 
         doubts.push_back(
             At({"", 0, m_place + key}, Severity::Warning, "the bars of neighbouring groups overlap"));
     }
-    if (layout.ComponentWidth < kThinnest) {
+    if (layout.ComponentWidth < kMinBarWidth) {
         doubts.push_back(At({"", 0, m_place + "/PlotWidth"}, Severity::Warning,
                             "each bar is only " + NumberText(layout.ComponentWidth) + " mm wide"));
     }

@@ -23,7 +23,7 @@ const std::string kHorAxis = "property/CurveHorAxisProp/";
 
 constexpr float kLineWidth = 0.4F;
 constexpr float kMarkerWidth = 1.6F;
-constexpr std::size_t kMostLabels = 12;
+constexpr std::size_t kMaxLabels = 12;
 constexpr std::size_t kManyLabels = 2000;
 
 /// The largest value that is not null. -infinity when there is none.
@@ -41,7 +41,7 @@ double LargestOf(const std::vector<std::vector<double>>& curves) {
 std::int32_t ReadableStep(std::size_t count) {
     for (std::int32_t power = 1; power < 1000000000; power *= 10) {
         for (const std::int32_t digit : {1, 2, 5}) {
-            if (count / static_cast<std::size_t>(digit * power) < kMostLabels) {
+            if (count / static_cast<std::size_t>(digit * power) < kMaxLabels) {
                 return digit * power;
             }
         }

@@ -4,7 +4,7 @@
 #include "charts/pie/PieProp.h"
 #include "documents/Json.h"
 #include "kinds/Palette.h"
-#include "penlode/JsonSerializeStream.h"
+#include "penlode/streams/JsonSerializeStream.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "kinds/Palette.h"
 
-#include "penlode/TextForms.h"
+#include "penlode/streams/TextForms.h"
 
 #include <array>
 

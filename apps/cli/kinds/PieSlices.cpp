@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kNames = "ComponentName";
 constexpr const char* kColors = "ComponentColor";
 
-constexpr float kSmallestPie = 5.0F;
+constexpr float kMinPie = 5.0F;
 constexpr const char* kSizesAboveZero =
     "FixedWidth above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0";
 
@@ -27,7 +27,7 @@ void PieSlices::AllowShortForms(ChartStream& stream) {
 void PieSlices::Complete(const ChartStream& stream, std::vector<std::string>& names,
                          std::vector<penlode::Color>& colors, std::vector<Message>& messages) {
     // A legend would lay out each of them, values or not.
-    if (names.size() > kMostSlices) {
+    if (names.size() > kMaxSlices) {
         messages.push_back(
             {"", Severity::Error, 0, m_place + "/" + kNames, Counted(names.size(), "name"), FewerSlices()});
         names.clear();
@@ -91,7 +91,7 @@ std::vector<Message> PieSlices::Doubts(std::size_t names, std::size_t colors, bo
     } else if (width < 0.0F) {
         doubts.push_back(
             {"", Severity::Error, 0, m_place, "a pie of " + NumberText(width) + " mm", kSizesAboveZero});
-    } else if (width < kSmallestPie) {
+    } else if (width < kMinPie) {
         doubts.push_back(Smallness(width, isFixed));
     }
     if (names != 0 && names != values) {

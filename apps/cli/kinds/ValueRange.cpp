@@ -1,7 +1,7 @@
 #include "kinds/ValueRange.h"
 
+#include "charts/cartesian/Coordinate.h"
 #include "documents/Fields.h"
-#include "foundation/Coordinate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@
 namespace cli {
 namespace {
 
-constexpr const char* kLargest = "InitializeValueRange";
+constexpr const char* kMax = "InitializeValueRange";
 constexpr const char* kNatural = "NaturalValueRange";
 constexpr const char* kLogarithm = "LogarithmValueRange";
 
@@ -23,7 +23,7 @@ std::string ListShown(const std::vector<double>& numbers) {
 }
 
 bool IsInReach(double number) {
-    return std::abs(number) <= kLargestValue;
+    return std::abs(number) <= kMaxValue;
 }
 
 /// Was what is wrong with it told when it was loaded?
@@ -34,7 +34,7 @@ bool IsUnread(ChartStream& stream, const char* key, const std::vector<double>& n
 
 bool IsNaturalRange(const std::vector<double>& r) {
     return r.size() == 4 && r[0] < r[1] && r[2] > 0.0 && r[3] > 0.0 && IsInReach(r[0]) && IsInReach(r[1]) &&
-           (r[1] - r[0]) / std::min(r[2], r[3]) < static_cast<double>(millichart::kMostTicks);
+           (r[1] - r[0]) / std::min(r[2], r[3]) < static_cast<double>(millichart::kMaxTicks);
 }
 
 bool IsLogarithmRange(const std::vector<double>& r) {
@@ -56,9 +56,9 @@ template <class Visit> void InRange(ChartStream& stream, std::vector<Message>& m
 }
 
 double LoadLargest(ChartStream& stream, double largest) {
-    const double value = LoadNumber(stream, kLargest, largest);
+    const double value = LoadNumber(stream, kMax, largest);
     if (!IsInReach(value)) {
-        stream.Refuse(kLargest, NumberText(value), "at most " + NumberText(kLargestValue));
+        stream.Refuse(kMax, NumberText(value), "at most " + NumberText(kMaxValue));
     }
     return value;
 }
@@ -72,7 +72,7 @@ std::vector<double> LoadRange(ChartStream& stream, const char* key) {
 
 ValueRange::ValueRange(ChartStream& stream, bool isLogarithmic, std::vector<Message>& messages) {
     InRange(stream, messages, [&] {
-        if (stream.Has(kLargest)) {
+        if (stream.Has(kMax)) {
             m_largest = {LoadLargest(stream, 0.0)};
         }
         m_natural = LoadRange(stream, kNatural);
@@ -90,8 +90,8 @@ void ValueRange::Check(ChartStream& stream, bool isLogarithmic, std::vector<Mess
     if (stream.Has(foreign)) {
         tell(foreign, "a range of the other scale",
              own + ", as LogarithmScale is " + (isLogarithmic ? "on" : "off"));
-    } else if (stream.Has(own) && stream.Has(kLargest)) {
-        tell(kLargest, "a second range", "either it or " + own);
+    } else if (stream.Has(own) && stream.Has(kMax)) {
+        tell(kMax, "a second range", "either it or " + own);
     } else if (IsUnread(stream, kNatural, m_natural) || IsUnread(stream, kLogarithm, m_logarithm)) {
         return;
     } else if (stream.Has(kNatural) && !IsNaturalRange(m_natural)) {
@@ -100,18 +100,18 @@ void ValueRange::Check(ChartStream& stream, bool isLogarithmic, std::vector<Mess
              "ticks");
     } else if (stream.Has(kLogarithm) && !IsLogarithmRange(m_logarithm)) {
         tell(kLogarithm, ListShown(m_logarithm), "minimum above 0 and larger maximum");
-    } else if (!stream.Has(own) && !stream.Has(kLargest)) {
-        tell("", "no range", std::string(kLargest) + " or " + own);
+    } else if (!stream.Has(own) && !stream.Has(kMax)) {
+        tell("", "no range", std::string(kMax) + " or " + own);
     }
 }
 
 double LoadLargestValue(ChartStream& stream, double largest, std::vector<Message>& messages) {
     double value = largest;
     InRange(stream, messages, [&] {
-        if (stream.Has(kLargest)) {
+        if (stream.Has(kMax)) {
             value = LoadLargest(stream, largest);
         } else {
-            messages.push_back({"", Severity::Error, 0, "range", "no range", kLargest});
+            messages.push_back({"", Severity::Error, 0, "range", "no range", kMax});
         }
     });
     return value;
@@ -124,7 +124,7 @@ std::vector<Message> RangeDoubts::Doubts() const {
     if (m_huge != 0) {
         return {At(m_firstHuge, Severity::Error,
                    several(m_huge, "is", " are") + " too large for a value axis, expected at most " +
-                       NumberText(kLargestValue))};
+                       NumberText(kMaxValue))};
     }
     if (m_outside != 0) {
         return {

@@ -9,7 +9,7 @@
 namespace cli {
 
 /// Beyond it in either direction an axis cannot tell values apart, nor place them.
-inline constexpr double kLargestValue = 1e300;
+inline constexpr double kMaxValue = 1e300;
 
 /// The range of a value axis as a document gives it in its group "range", by the library's own words:
 ///
@@ -67,7 +67,7 @@ public:
             m_first = m_outside == 0 ? place() : m_first;
             ++m_outside;
         }
-        if (value < -kLargestValue || value > kLargestValue) {
+        if (value < -kMaxValue || value > kMaxValue) {
             m_firstHuge = m_huge == 0 ? place() : m_firstHuge;
             ++m_huge;
         }

@@ -5,7 +5,7 @@
 #include "files/InputFile.h"
 #include "files/UserError.h"
 #include "pages/FontReport.h"
-#include "penlode/StringUtil.h"
+#include "penlode/text/StringUtil.h"
 
 #include <cmath>
 #include <filesystem>
@@ -17,7 +17,7 @@ namespace {
 using penlode::CStringUtil;
 
 constexpr const char* kFormatVersion = "1";
-constexpr float kLargestPage = 5000.0F;
+constexpr float kMaxPage = 5000.0F;
 
 void LoadHead(ChartStream& stream, ChartDocument& document) {
     const std::string version = LoadText(stream, "version", kFormatVersion);
@@ -43,7 +43,7 @@ void LoadContent(ChartStream& stream, const DataSource& source, ChartDocument& d
 
 bool FitsAPage(const penlode::RectF& extent) {
     return std::isfinite(extent.X) && std::isfinite(extent.Y) && extent.Width >= 0.0F &&
-           extent.Height >= 0.0F && extent.Width <= kLargestPage && extent.Height <= kLargestPage;
+           extent.Height >= 0.0F && extent.Width <= kMaxPage && extent.Height <= kMaxPage;
 }
 
 /// Why the chart cannot be drawn, or what is doubtful about it.

@@ -1,8 +1,8 @@
 #include "pages/FontReport.h"
 
 #include "pages/TextListener.h"
-#include "penlode/FontFace.h"
-#include "penlode/StringUtil.h"
+#include "penlode/text/FontFace.h"
+#include "penlode/text/StringUtil.h"
 
 #include <map>
 
@@ -11,11 +11,11 @@ namespace {
 
 using penlode::CStringUtil;
 
-constexpr std::size_t kMostShown = 20;
+constexpr std::size_t kMaxShown = 20;
 
 void AddNew(std::wstring& characters, const std::wstring& more) {
     for (const wchar_t character : more) {
-        if (characters.find(character) == std::wstring::npos && characters.size() < kMostShown) {
+        if (characters.find(character) == std::wstring::npos && characters.size() < kMaxShown) {
             characters += character;
         }
     }

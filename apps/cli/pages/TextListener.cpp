@@ -1,7 +1,7 @@
 #include "pages/TextListener.h"
 
-#include "penlode/StringUtil.h"
 #include "penlode/Units.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <utility>

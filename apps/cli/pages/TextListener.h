@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/TrackingEngine.h"
+#include "penlode/engine/TrackingEngine.h"
 
 #include <functional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "charts/cartesian/ValueAxis.h"
 
-#include "foundation/LogarithmCoordinate.h"
-#include "foundation/NaturalCoordinate.h"
+#include "charts/cartesian/LogarithmCoordinate.h"
+#include "charts/cartesian/NaturalCoordinate.h"
 
 #include <algorithm>
 #include <limits>

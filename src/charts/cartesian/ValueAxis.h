@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/Coordinate.h"
+#include "charts/cartesian/Coordinate.h"
 #include "foundation/Export.h"
 
 #include <memory>

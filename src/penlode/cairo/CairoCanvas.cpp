@@ -12,7 +12,7 @@ cairo_antialias_t AntialiasFor(SmoothingMode mode) {
     return jagged ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT;
 }
 
-constexpr double kStrongestTransform = 1e9;
+constexpr double kMaxTransform = 1e9;
 
 } // namespace
 
@@ -27,7 +27,7 @@ CairoCanvas::~CairoCanvas() {
 }
 
 double CairoCanvas::ThinnestLine() const {
-    return m_setting.HasPixels ? 1.0 : kThinnestPageLine * m_setting.Dpi / kMillimetresPerInch;
+    return m_setting.HasPixels ? 1.0 : kMinPageLine * m_setting.Dpi / kMillimetresPerInch;
 }
 
 Status CairoCanvas::Recover() {
@@ -88,7 +88,7 @@ void CairoCanvas::UpdateClip(const CSurfaceState& state) {
 Painter::Painter(CairoCanvas& canvas, const CSurfaceState& state)
     : m_canvas(canvas), m_toDevice(state.WorldToDevice() * canvas.Setting().FromState),
       m_snaps(canvas.Setting().HasPixels && KeepsAxesNearly(m_toDevice)),
-      m_ready(IsSound(m_toDevice, kStrongestTransform) && canvas.Begin(state)) {}
+      m_ready(IsSound(m_toDevice, kMaxTransform) && canvas.Begin(state)) {}
 
 Painter::~Painter() {
     if (m_ready) {

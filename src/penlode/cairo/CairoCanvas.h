@@ -1,11 +1,11 @@
 #pragma once
 
 #include "penlode/Color.h"
-#include "penlode/DeviceGeometry.h"
-#include "penlode/SurfaceState.h"
 #include "penlode/cairo/CairoClip.h"
 #include "penlode/cairo/CairoHandles.h"
 #include "penlode/cairo/PixelGrid.h"
+#include "penlode/engine/DeviceGeometry.h"
+#include "penlode/engine/SurfaceState.h"
 
 #include <optional>
 
@@ -25,7 +25,7 @@ struct CanvasSetting {
 };
 
 /// The thinnest line of a page, in millimetres: what a hairline pen draws there.
-inline constexpr double kThinnestPageLine = 0.05;
+inline constexpr double kMinPageLine = 0.05;
 
 /// A Cairo context on which drawings are bracketed and clipped.
 class CairoCanvas {
@@ -97,7 +97,7 @@ public:
     const PixelGrid& Grid() const { return Setting().Grid; }
 
     /// The surface and a margin around it: outlines beyond this box can be cut off unseen.
-    BoxD FarBox(double margin = 0.0) const { return Setting().Area.Grown(64.0 + margin); }
+    BoxD GuardBand(double margin = 0.0) const { return Setting().Area.Grown(64.0 + margin); }
 
     void SetColor(Color color) const;
     /// The context's matrix, as a map to device units.

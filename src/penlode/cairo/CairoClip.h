@@ -1,8 +1,8 @@
 #pragma once
 
-#include "penlode/DeviceGeometry.h"
 #include "penlode/Region.h"
 #include "penlode/cairo/CairoHandles.h"
+#include "penlode/engine/DeviceGeometry.h"
 
 #include <vector>
 

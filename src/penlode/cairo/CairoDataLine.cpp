@@ -1,9 +1,9 @@
 #include "penlode/cairo/CairoDataLine.h"
 
-#include "penlode/LineThinning.h"
 #include "penlode/Units.h"
 #include "penlode/cairo/CairoStroke.h"
 #include "penlode/cairo/LineCoverage.h"
+#include "penlode/engine/LineThinning.h"
 
 #include <optional>
 #include <utility>
@@ -18,12 +18,12 @@ constexpr double kColumnsPerPixel = 2.0;
 /// it is drawn in a second or so.
 constexpr double kSectionsPerPixel = 16.0;
 constexpr double kSectionsPerDensePixel = 6.0;
-constexpr double kMostSections = 1e8;
+constexpr double kMaxSections = 1e8;
 
-constexpr double kFarthestTip = 0.75;
+constexpr double kMaxTip = 0.75;
 
 ThinningGrid GridOf(const Painter& painter, double margin) {
-    const BoxD box = painter.FarBox(margin);
+    const BoxD box = painter.GuardBand(margin);
     const CanvasSetting& setting = painter.Setting();
     return {setting.HasPixels ? 1.0 / kColumnsPerPixel : setting.Dpi / kDocumentColumnsPerInch, box.Left,
             box.Right};
@@ -46,13 +46,13 @@ int SectionsFor(const std::vector<PolylineRun>& runs, double lineWidth, bool thi
         }
     }
     const double finest = thinned ? kSectionsPerDensePixel : kSectionsPerPixel;
-    return static_cast<int>(std::clamp(kMostSections / width, 1.0, finest));
+    return static_cast<int>(std::clamp(kMaxSections / width, 1.0, finest));
 }
 
 /// The corners of a thinned line are not quite those of the full one: a tip that reaches more than a pixel
 /// beyond the line's edge might stand alone.
 double MiterLimitFor(double lineWidth, bool thinned) {
-    return thinned ? std::min(kMiterLimit, 1.0 + 2.0 * kFarthestTip / lineWidth) : kMiterLimit;
+    return thinned ? std::min(kMiterLimit, 1.0 + 2.0 * kMaxTip / lineWidth) : kMiterLimit;
 }
 
 /// The whole pixels on which the line can be seen.
@@ -68,7 +68,7 @@ BoxD SeenArea(const Painter& painter, const std::vector<PolylineRun>& runs, doub
 
 void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<PointD> points,
                       bool thinned) {
-    const std::vector<PolylineRun> runs = ClippedPolyline(std::move(points), painter.FarBox(pen.Margin()));
+    const std::vector<PolylineRun> runs = ClippedPolyline(std::move(points), painter.GuardBand(pen.Margin()));
     if (runs.empty()) {
         return;
     }

@@ -1,16 +1,16 @@
 #include "penlode/cairo/CairoGradient.h"
 
-#include "penlode/FarClip.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoShapes.h"
+#include "penlode/engine/GuardBand.h"
 
 #include <array>
 
 namespace penlode {
 namespace {
 
-Tint Blend(std::span<const TintedPoint, 3> corners, const std::array<double, 3>& weights) {
-    Tint sum{};
+Rgb Blend(std::span<const ColoredPoint, 3> corners, const std::array<double, 3>& weights) {
+    Rgb sum{};
     for (std::size_t corner = 0; corner < 3; ++corner) {
         for (std::size_t channel = 0; channel < 3; ++channel) {
             sum[channel] += weights[corner] * corners[corner].Colour[channel];
@@ -24,7 +24,7 @@ double Cross(PointD origin, PointD a, PointD b) {
 }
 
 /// The colour of a flat triangle at a point of it, by the areas that the point cuts off.
-Tint TintAt(std::span<const TintedPoint, 3> t, PointD p) {
+Rgb RgbAt(std::span<const ColoredPoint, 3> t, PointD p) {
     const double whole = Cross(t[0].Place, t[1].Place, t[2].Place);
     const double first = std::clamp(Cross(p, t[1].Place, t[2].Place) / whole, 0.0, 1.0);
     const double second = std::clamp(Cross(p, t[2].Place, t[0].Place) / whole, 0.0, 1.0 - first);
@@ -39,21 +39,21 @@ void ClipToBounds(const Painter& painter, const RectL& bounds) {
     if (painter.Snaps()) {
         corners = PixelGrid::Face(corners);
     }
-    AddPolygon(painter.Context(), corners, painter.FarBox());
+    AddPolygon(painter.Context(), corners, painter.GuardBand());
     cairo_clip(painter.Context());
 }
 
 /// The world rectangle in which anything can be seen.
 BoxD SeenWorld(const Painter& painter) {
-    return Mapped(painter.ToDevice().Inverted(), painter.FarBox());
+    return Mapped(painter.ToDevice().Inverted(), painter.GuardBand());
 }
 
-Tint Between(const Tint& a, const Tint& b, double t) {
+Rgb Between(const Rgb& a, const Rgb& b, double t) {
     return {a[0] + t * (b[0] - a[0]), a[1] + t * (b[1] - a[1]), a[2] + t * (b[2] - a[2])};
 }
 
 /// A blend along one axis, in world coordinates, cut to what can be seen.
-CairoPattern AxisBlend(const TintedPoint& from, const TintedPoint& to, bool vertical, const BoxD& seen) {
+CairoPattern AxisBlend(const ColoredPoint& from, const ColoredPoint& to, bool vertical, const BoxD& seen) {
     const auto along = [&](PointD p) { return vertical ? p.Y : p.X; };
     const double start = along(from.Place);
     const double end = along(to.Place);
@@ -64,7 +64,7 @@ CairoPattern AxisBlend(const TintedPoint& from, const TintedPoint& to, bool vert
     CairoPattern pattern(vertical ? cairo_pattern_create_linear(0.0, first, 0.0, last)
                                   : cairo_pattern_create_linear(first, 0.0, last, 0.0));
     const auto stop = [&](double offset, double place) {
-        const Tint c = Between(from.Colour, to.Colour, end == start ? 0.0 : (place - start) / (end - start));
+        const Rgb c = Between(from.Colour, to.Colour, end == start ? 0.0 : (place - start) / (end - start));
         cairo_pattern_add_color_stop_rgb(pattern.get(), offset, c[0] / 255.0, c[1] / 255.0, c[2] / 255.0);
     };
     stop(0.0, first);
@@ -72,7 +72,7 @@ CairoPattern AxisBlend(const TintedPoint& from, const TintedPoint& to, bool vert
     return pattern;
 }
 
-void FillRect(const Painter& painter, const TintedPoint& from, const TintedPoint& to, bool vertical) {
+void FillRect(const Painter& painter, const ColoredPoint& from, const ColoredPoint& to, bool vertical) {
     const BoxD seen = SeenWorld(painter);
     const BoxD area = BoxBetween(from.Place, to.Place);
     const RectF rect{static_cast<float>(area.Left), static_cast<float>(area.Top),
@@ -81,9 +81,9 @@ void FillRect(const Painter& painter, const TintedPoint& from, const TintedPoint
     path.AddRectangle(rect);
     const std::optional<BoxD> box = DeviceBox(painter, rect);
     if (box) {
-        AddBox(painter.Context(), *box, painter.FarBox());
+        AddBox(painter.Context(), *box, painter.GuardBand());
     } else {
-        AddArea(painter.Context(), path, painter.ToDevice(), painter.FarBox());
+        AddArea(painter.Context(), path, painter.ToDevice(), painter.GuardBand());
     }
     const CairoPattern pattern = AxisBlend(from, to, vertical, seen);
     const cairo_matrix_t matrix = ToCairo(painter.ToDevice().Inverted());
@@ -93,30 +93,30 @@ void FillRect(const Painter& painter, const TintedPoint& from, const TintedPoint
 }
 
 /// A patch whose fourth side has shrunk to the first corner.
-void AddPatch(cairo_pattern_t* mesh, std::span<const TintedPoint, 3> corners) {
+void AddPatch(cairo_pattern_t* mesh, std::span<const ColoredPoint, 3> corners) {
     cairo_mesh_pattern_begin_patch(mesh);
     cairo_mesh_pattern_move_to(mesh, corners[0].Place.X, corners[0].Place.Y);
     for (const std::size_t next : {1U, 2U, 0U}) {
         cairo_mesh_pattern_line_to(mesh, corners[next].Place.X, corners[next].Place.Y);
     }
     for (unsigned int corner = 0; corner < 4; ++corner) {
-        const Tint& c = corners[corner % 3].Colour;
+        const Rgb& c = corners[corner % 3].Colour;
         cairo_mesh_pattern_set_corner_color_rgb(mesh, corner, c[0] / 255.0, c[1] / 255.0, c[2] / 255.0);
     }
     cairo_mesh_pattern_end_patch(mesh);
 }
 
 /// The triangle in device units, cut to the surface's surroundings and handed on as a fan.
-void FillTriangle(const Painter& painter, const std::array<TintedPoint, 3>& corners) {
+void FillTriangle(const Painter& painter, const std::array<ColoredPoint, 3>& corners) {
     if (Cross(corners[0].Place, corners[1].Place, corners[2].Place) == 0.0) {
         return;
     }
     const std::vector<PointD> cut =
-        ClippedPolygon({corners[0].Place, corners[1].Place, corners[2].Place}, painter.FarBox());
+        ClippedPolygon({corners[0].Place, corners[1].Place, corners[2].Place}, painter.GuardBand());
     const CairoPattern mesh(cairo_pattern_create_mesh());
-    const auto tinted = [&](PointD p) { return TintedPoint{p, TintAt(corners, p)}; };
+    const auto tinted = [&](PointD p) { return ColoredPoint{p, RgbAt(corners, p)}; };
     for (std::size_t i = 2; i < cut.size(); ++i) {
-        const std::array<TintedPoint, 3> piece{tinted(cut[0]), tinted(cut[i - 1]), tinted(cut[i])};
+        const std::array<ColoredPoint, 3> piece{tinted(cut[0]), tinted(cut[i - 1]), tinted(cut[i])};
         AddPatch(mesh.get(), piece);
     }
     cairo_set_source(painter.Context(), mesh.get());
@@ -147,9 +147,9 @@ bool FillGradientTriangles(const Painter& painter, const GradientArea& area,
     cairo_save(painter.Context());
     ClipToBounds(painter, area.Bounds);
     for (const GradientTriangle& triangle : triangles) {
-        std::array<TintedPoint, 3> corners{Moved(area, triangle.Vertex1), Moved(area, triangle.Vertex2),
-                                           Moved(area, triangle.Vertex3)};
-        for (TintedPoint& corner : corners) {
+        std::array<ColoredPoint, 3> corners{Moved(area, triangle.Vertex1), Moved(area, triangle.Vertex2),
+                                            Moved(area, triangle.Vertex3)};
+        for (ColoredPoint& corner : corners) {
             corner.Place = Mapped(painter.ToDevice(), corner.Place);
         }
         FillTriangle(painter, corners);

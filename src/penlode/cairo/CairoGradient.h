@@ -1,7 +1,7 @@
 #pragma once
 
-#include "penlode/GradientVertices.h"
 #include "penlode/cairo/CairoCanvas.h"
+#include "penlode/engine/GradientVertices.h"
 
 #include <span>
 

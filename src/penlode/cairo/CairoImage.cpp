@@ -11,10 +11,10 @@ namespace {
 
 constexpr std::int32_t kRowsPerQuestion = 64;
 
-constexpr double kStrongestScale = 32767.0;
+constexpr double kMaxScale = 32767.0;
 
 /// Cairo's limit for the sides of an image.
-constexpr std::int32_t kLongestSide = 32767;
+constexpr std::int32_t kMaxSide = 32767;
 
 /// Whole pixels of an image.
 struct PixelRect {
@@ -109,7 +109,7 @@ void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& p
     GraphicsPath area;
     area.AddRectangle({static_cast<float>(visible.Left), static_cast<float>(visible.Top),
                        static_cast<float>(visible.Width()), static_cast<float>(visible.Height())});
-    if (!AddArea(painter.Context(), area, pixelsToDevice, painter.FarBox())) {
+    if (!AddArea(painter.Context(), area, pixelsToDevice, painter.GuardBand())) {
         return;
     }
     const CairoPattern pattern = PatternOf(copy, part, pixelsToDevice);
@@ -125,11 +125,11 @@ Status PaintImage(const Painter& painter, const Image& image, const RectF& desti
     const BoxD source = BoxBetween({s.X, s.Y}, {s.Right(), s.Bottom()});
     const PixelRect part = Covered(image, source);
     const Matrix pixelsToDevice = PixelsToDevice(painter, s, destination);
-    const bool countable = IsOnePixel(part) || IsSound(pixelsToDevice, kStrongestScale);
+    const bool countable = IsOnePixel(part) || IsSound(pixelsToDevice, kMaxScale);
     if (part.Width <= 0 || part.Height <= 0 || !countable) {
         return Status::Ok;
     }
-    if (part.Width > kLongestSide || part.Height > kLongestSide) {
+    if (part.Width > kMaxSide || part.Height > kMaxSide) {
         return Status::ValueOverflow;
     }
     Status status = Status::Ok;

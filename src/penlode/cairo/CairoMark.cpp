@@ -9,8 +9,8 @@ namespace penlode {
 Mark::Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, const CanvasSetting& setting,
            const CSurfaceState& state)
     : m_shape(shape), m_look(look), m_count(corners.size()),
-      m_reach(setting.HasPixels ? kShortestStepInPixels : kShortestStepOnPages),
-      m_smoothing(state.GetSmoothingMode()), m_clip(state.ClipGeneration()) {
+      m_reach(setting.HasPixels ? kMinStepInPixels : kMinStepOnPages), m_smoothing(state.GetSmoothingMode()),
+      m_clip(state.ClipGeneration()) {
     const Matrix toDevice = state.WorldToDevice() * setting.FromState;
     m_scale = toDevice.LengthFactor();
     for (std::size_t i = 0; i < m_count; ++i) {

@@ -14,9 +14,9 @@ enum class MarkShape { FilledBox, FilledEllipse, FilledPolygon, Box, Ellipse, Po
 /// paint an opaque one again where it was painted last changes nothing but the softness of its edge.
 class Mark {
 public:
-    static constexpr std::size_t kMostCorners = 4;
+    static constexpr std::size_t kMaxCorners = 4;
 
-    /// Up to kMostCorners in world coordinates. What is filled has a pen of its colour.
+    /// Up to kMaxCorners in world coordinates. What is filled has a pen of its colour.
     Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, const CanvasSetting& setting,
          const CSurfaceState& state);
 
@@ -28,8 +28,8 @@ private:
     MarkShape m_shape;
     Pen m_look;
     std::size_t m_count;
-    std::array<PointD, kMostCorners> m_corners{}; ///< device units
-    double m_reach;                               ///< of one place, in device units
+    std::array<PointD, kMaxCorners> m_corners{}; ///< device units
+    double m_reach;                              ///< of one place, in device units
     double m_scale;
     SmoothingMode m_smoothing;
     std::uint64_t m_clip;

@@ -1,6 +1,6 @@
 #include "penlode/cairo/CairoOutline.h"
 
-#include "penlode/FarClip.h"
+#include "penlode/engine/GuardBand.h"
 
 #include <utility>
 

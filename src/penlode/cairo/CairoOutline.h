@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/DeviceGeometry.h"
+#include "penlode/engine/DeviceGeometry.h"
 
 #include <cairo.h>
 #include <span>

@@ -1,10 +1,10 @@
 #include "penlode/cairo/CairoShapes.h"
 
-#include "penlode/FarClip.h"
-#include "penlode/LineThinning.h"
 #include "penlode/cairo/CairoDataLine.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoStroke.h"
+#include "penlode/engine/GuardBand.h"
+#include "penlode/engine/LineThinning.h"
 
 #include <array>
 
@@ -12,7 +12,7 @@ namespace penlode {
 namespace {
 
 /// Curve pieces in one stroke; longer outlines are flattened and stroked piece by piece.
-constexpr std::size_t kMostPieces = 64;
+constexpr std::size_t kMaxPieces = 64;
 
 std::array<PointF, 4> CornersOf(const RectF& r) {
     return {{{r.X, r.Y}, {r.Right(), r.Y}, {r.Right(), r.Bottom()}, {r.X, r.Bottom()}}};
@@ -43,7 +43,7 @@ Status FillCorners(const Painter& painter, Color color, std::span<const PointD> 
     if (!AreFinite(corners)) {
         return Status::ValueOverflow;
     }
-    AddPolygon(painter.Context(), corners, painter.FarBox());
+    AddPolygon(painter.Context(), corners, painter.GuardBand());
     painter.SetColor(color);
     cairo_fill(painter.Context());
     return Status::Ok;
@@ -120,7 +120,7 @@ Status FillPolygon(const Painter& painter, Color color, std::span<const PointF> 
 }
 
 Status FillPath(const Painter& painter, Color color, const GraphicsPath& path) {
-    if (!AddArea(painter.Context(), path, painter.ToDevice(), painter.FarBox())) {
+    if (!AddArea(painter.Context(), path, painter.ToDevice(), painter.GuardBand())) {
         return Status::ValueOverflow;
     }
     painter.SetColor(color);
@@ -136,7 +136,7 @@ Status StrokeBox(const Painter& painter, const Pen& pen, const RectF& rect) {
 }
 
 Status StrokeLines(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
-    if (points.size() >= kShortestDataLine) {
+    if (points.size() >= kMinDataLinePoints) {
         return StrokeDataLine(painter, pen, points);
     }
     std::vector<PointD> line = MapAll(painter, points);
@@ -154,12 +154,12 @@ Status StrokePolygon(const Painter& painter, const Pen& pen, std::span<const Poi
 
 Status StrokePath(const Painter& painter, const Pen& pen, const GraphicsPath& path) {
     const DevicePen drawn(pen, painter, false);
-    const BoxD box = painter.FarBox(drawn.Margin());
+    const BoxD box = painter.GuardBand(drawn.Margin());
     const Reach reach = ReachOf(path, painter.ToDevice(), box);
     if (reach == Reach::NotFinite) {
         return Status::ValueOverflow;
     }
-    if (reach == Reach::Inside && PiecesIn(path) <= kMostPieces) {
+    if (reach == Reach::Inside && PiecesIn(path) <= kMaxPieces) {
         CairoOutline outline(painter.Context());
         WalkOutline(path, painter.ToDevice(), outline);
         StrokeCurrentPath(painter, drawn);

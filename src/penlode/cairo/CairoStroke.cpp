@@ -7,12 +7,12 @@
 namespace penlode {
 namespace {
 
-constexpr double kWidestLine = 65536.0;
-constexpr std::size_t kLongestPath = 64;
+constexpr double kMaxLineWidth = 65536.0;
+constexpr std::size_t kMaxPathPoints = 64;
 constexpr std::size_t kPieceLength = 32;
 
 /// A line with more dashes than any eye can tell apart is drawn solid.
-constexpr double kMostDashes = 100000.0;
+constexpr double kMaxDashes = 100000.0;
 
 double LengthOf(std::span<const PointD> points) {
     double length = 0.0;
@@ -62,8 +62,8 @@ void StrokeInPenShape(const Painter& painter) {
 }
 
 /// A stretch of a polyline, its dashes as the whole line has them there.
-void StrokeStretch(const Painter& painter, std::span<const PointD> points, double before,
-                   const std::vector<double>& dashes) {
+void StrokePart(const Painter& painter, std::span<const PointD> points, double before,
+                const std::vector<double>& dashes) {
     cairo_t* context = painter.Context();
     if (!dashes.empty()) {
         cairo_set_dash(context, dashes.data(), static_cast<int>(dashes.size()),
@@ -78,14 +78,14 @@ void StrokeStretch(const Painter& painter, std::span<const PointD> points, doubl
 /// Each piece begins one segment early, so that the joint between two pieces is a corner like any other.
 void StrokeRun(const Painter& painter, const PolylineRun& run, const std::vector<double>& dashes) {
     const std::span<const PointD> points = run.Points;
-    if (points.size() <= kLongestPath) {
-        StrokeStretch(painter, points, run.Before, dashes);
+    if (points.size() <= kMaxPathPoints) {
+        StrokePart(painter, points, run.Before, dashes);
         return;
     }
     double before = run.Before;
     for (std::size_t first = 0; first + 2 < points.size(); first += kPieceLength - 2) {
         const auto piece = points.subspan(first, std::min(kPieceLength, points.size() - first));
-        StrokeStretch(painter, piece, before, dashes);
+        StrokePart(painter, piece, before, dashes);
         before += LengthOf(piece.first(std::min(kPieceLength - 1, piece.size())));
     }
 }
@@ -93,7 +93,7 @@ void StrokeRun(const Painter& painter, const PolylineRun& run, const std::vector
 /// Leaves out points next to the one before. Cairo counts in 1/256 of a pixel: shorter steps would go in
 /// wrong directions, and the pieces of a line that creeps along would pile up on one pixel.
 std::vector<PointD> WithoutCreeping(std::vector<PointD> points, double shortestStep) {
-    if (points.size() <= kLongestPath) {
+    if (points.size() <= kMaxPathPoints) {
         return points;
     }
     std::size_t kept = 1;
@@ -110,8 +110,7 @@ std::vector<PointD> WithoutCreeping(std::vector<PointD> points, double shortestS
 
 std::vector<PolylineRun> RunsOf(const Painter& painter, std::vector<PointD> points, bool closed,
                                 const DevicePen& pen) {
-    points = WithoutCreeping(std::move(points),
-                             painter.HasPixels() ? kShortestStepInPixels : kShortestStepOnPages);
+    points = WithoutCreeping(std::move(points), painter.HasPixels() ? kMinStepInPixels : kMinStepOnPages);
     if (closed && points.size() > 1) {
         const PointD second = points[1];
         points.push_back(points.front());
@@ -119,12 +118,12 @@ std::vector<PolylineRun> RunsOf(const Painter& painter, std::vector<PointD> poin
             points.push_back(second);
         }
     }
-    return ClippedPolyline(std::move(points), painter.FarBox(pen.Margin()));
+    return ClippedPolyline(std::move(points), painter.GuardBand(pen.Margin()));
 }
 
 /// Few points that lie near: one path, closed by Cairo itself.
 bool IsPlain(const std::vector<PointD>& points, const BoxD& box) {
-    return points.size() <= kLongestPath &&
+    return points.size() <= kMaxPathPoints &&
            std::all_of(points.begin(), points.end(), [&](PointD p) { return box.Contains(p); });
 }
 
@@ -133,7 +132,7 @@ bool HasTooManyDashes(const std::vector<PolylineRun>& runs, const std::vector<do
     for (const PolylineRun& run : runs) {
         length += LengthOf(run.Points);
     }
-    return length / Sum(dashes) * static_cast<double>(dashes.size()) > 2.0 * kMostDashes;
+    return length / Sum(dashes) * static_cast<double>(dashes.size()) > 2.0 * kMaxDashes;
 }
 
 /// Pieces overlap, which a translucent line would show: it is drawn opaque on a sheet of its own, and the
@@ -167,7 +166,7 @@ bool HasRoundPen(const Painter& painter) {
 DevicePen::DevicePen(const Pen& pen, const Painter& painter, bool snapped)
     : m_color(pen.GetColor()), m_dashStyle(pen.GetDashStyle()),
       m_width(std::clamp(std::abs(static_cast<double>(pen.GetWidth())) * painter.ToDevice().LengthFactor(),
-                         painter.ThinnestLine(), kWidestLine)) {
+                         painter.ThinnestLine(), kMaxLineWidth)) {
     if (snapped) {
         m_width = PixelGrid::WholeWidth(m_width);
     }
@@ -194,7 +193,7 @@ double DevicePen::Margin() const {
 }
 
 void StrokePolyline(const Painter& painter, const DevicePen& pen, std::vector<PointD> points, bool closed) {
-    const BoxD box = painter.FarBox(pen.Margin());
+    const BoxD box = painter.GuardBand(pen.Margin());
     if (points.size() < 2) {
         return;
     }

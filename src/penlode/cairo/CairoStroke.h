@@ -1,14 +1,14 @@
 #pragma once
 
-#include "penlode/FarClip.h"
 #include "penlode/Pen.h"
 #include "penlode/cairo/CairoCanvas.h"
+#include "penlode/engine/GuardBand.h"
 
 namespace penlode {
 
 /// Shorter steps, in device units, nobody sees.
-inline constexpr double kShortestStepInPixels = 1.0 / 8.0;
-inline constexpr double kShortestStepOnPages = 1.0 / 32.0;
+inline constexpr double kMinStepInPixels = 1.0 / 8.0;
+inline constexpr double kMinStepOnPages = 1.0 / 32.0;
 
 /// A pen as it is drawn under a painter's transform: its width in device units, not thinner than the
 /// surface's thinnest line and, where it is snapped, in whole pixels.

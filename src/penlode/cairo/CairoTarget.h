@@ -39,7 +39,7 @@ struct CGraphicsEngine::Target {
     template <std::invocable<const Painter&> Operation>
     Status DrawMark(const CSurfaceState& state, MarkShape shape, const Pen& look,
                     std::span<const PointF> corners, Operation&& operation) {
-        if (corners.size() > Mark::kMostCorners || What == Kind::Host || Finished) {
+        if (corners.size() > Mark::kMaxCorners || What == Kind::Host || Finished) {
             return Draw(state, operation);
         }
         const Mark mark(shape, look, corners, Canvas.Setting(), state);

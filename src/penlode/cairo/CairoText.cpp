@@ -1,11 +1,11 @@
 #include "penlode/cairo/CairoText.h"
 
-#include "penlode/FontFace.h"
-#include "penlode/StringUtil.h"
-#include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoOutline.h"
-#include "penlode/cairo/LetterMasks.h"
+#include "penlode/cairo/GlyphMasks.h"
 #include "penlode/cairo/PangoText.h"
+#include "penlode/text/FontFace.h"
+#include "penlode/text/StringUtil.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <array>
 #include <pango/pangocairo.h>
@@ -13,20 +13,20 @@
 namespace penlode {
 namespace {
 
-constexpr double kLargestEm = 16384.0;
-constexpr double kSmallestEm = 0.1;
+constexpr double kMaxEm = 16384.0;
+constexpr double kMinEm = 0.1;
 
-/// On pixels, Cairo 1.16 puts each letter on a whole pixel: small ones stand unevenly, and dance on a slanted
+/// On pixels, Cairo 1.16 puts each glyph on a whole pixel: small ones stand unevenly, and dance on a slanted
 /// line. Up to this em size, in pixels, they are drawn as outlines, which keep their places; larger ones as
-/// Cairo keeps letters.
-constexpr double kLargestOutlineEm = 32.0;
+/// Cairo keeps glyphs.
+constexpr double kMaxOutlineEm = 32.0;
 
 /// Cairo's coordinates wrap around at twice this distance.
-constexpr double kFarthest = 4194304.0;
+constexpr double kMaxDistance = 4194304.0;
 
 /// The map from a set line's own units, its baseline beginning at (0, 0), to device units.
 Matrix LineToDevice(const Painter& painter, const PlacedLine& line, const Font& font) {
-    const double scale = font.Size / kSetEm;
+    const double scale = font.Size / kShapingEm;
     return Matrix::Scale(scale, scale) * Matrix::Translation(line.Baseline.X, line.Baseline.Y) *
            painter.ToDevice();
 }
@@ -41,41 +41,41 @@ Matrix OnWholePixel(const Painter& painter, Matrix m) {
     return m;
 }
 
-/// A box round the line in device units, with room for letters that leave their line.
+/// A box round the line in device units, with room for glyphs that leave their line.
 BoxD Surroundings(const Matrix& toDevice, double width) {
-    const double room = 2.0 * kSetEm;
+    const double room = 2.0 * kShapingEm;
     return Mapped(toDevice, BoxD{-room, -room, width + room, room});
 }
 
 bool IsInSight(const Painter& painter, const BoxD& line) {
-    const BoxD surface = painter.FarBox();
-    const BoxD countable{-kFarthest, -kFarthest, kFarthest, kFarthest};
+    const BoxD surface = painter.GuardBand();
+    const BoxD countable{-kMaxDistance, -kMaxDistance, kMaxDistance, kMaxDistance};
     return line.Left <= surface.Right && line.Right >= surface.Left && line.Top <= surface.Bottom &&
            line.Bottom >= surface.Top && Common(line, countable) == line;
 }
 
 bool CanBeDrawn(const Matrix& toDevice) {
-    const double em = toDevice.LengthFactor() * kSetEm;
+    const double em = toDevice.LengthFactor() * kShapingEm;
     const double longest =
-        kSetEm * std::max(std::hypot(toDevice.M11, toDevice.M12), std::hypot(toDevice.M21, toDevice.M22));
-    return toDevice.IsInvertible() && em >= kSmallestEm && longest <= kLargestEm;
+        kShapingEm * std::max(std::hypot(toDevice.M11, toDevice.M12), std::hypot(toDevice.M21, toDevice.M22));
+    return toDevice.IsInvertible() && em >= kMinEm && longest <= kMaxEm;
 }
 
-/// FreeType refuses letters that are stretched far more one way than the other, and then refuses its face for
+/// FreeType refuses glyphs that are stretched far more one way than the other, and then refuses its face for
 /// good.
 bool IsMuchStretched(const Matrix& toDevice) {
-    constexpr double kStrongestStretch = 2.0;
+    constexpr double kMaxStretch = 2.0;
     const double x = std::hypot(toDevice.M11, toDevice.M12);
     const double y = std::hypot(toDevice.M21, toDevice.M22);
     const double flattest = std::abs(toDevice.Determinant()) / std::max(x, y);
-    return std::max(x, y) > kStrongestStretch * flattest;
+    return std::max(x, y) > kMaxStretch * flattest;
 }
 
 /// Fills outlines that were taken before the transform.
 void FillOutlines(const Painter& painter, std::wstring_view text, const Font& font, const Matrix& toDevice) {
-    const double scale = kSetEm / font.Size;
+    const double scale = kShapingEm / font.Size;
     AddArea(painter.Context(), OutlineOfLine(text, font), Matrix::Scale(scale, scale) * toDevice,
-            painter.FarBox());
+            painter.GuardBand());
     cairo_save(painter.Context());
     cairo_set_fill_rule(painter.Context(), CAIRO_FILL_RULE_WINDING);
     cairo_set_antialias(painter.Context(), CAIRO_ANTIALIAS_DEFAULT);
@@ -83,8 +83,8 @@ void FillOutlines(const Painter& painter, std::wstring_view text, const Font& fo
     cairo_restore(painter.Context());
 }
 
-/// As outlines, or as Cairo keeps letters.
-void DrawLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice, bool asOutlines) {
+/// As outlines, or as Cairo keeps glyphs.
+void DrawGlyphs(const Painter& painter, const ShapedLine& line, const Matrix& toDevice, bool asOutlines) {
     cairo_t* context = painter.Context();
     cairo_save(context);
     painter.SetMatrix(toDevice);
@@ -101,11 +101,12 @@ void DrawLetters(const Painter& painter, const SetLine& line, const Matrix& toDe
     cairo_new_path(context);
 }
 
-void ShowLetters(const Painter& painter, const SetLine& line, const Matrix& toDevice) {
-    if (!painter.HasPixels() || toDevice.LengthFactor() * kSetEm > kLargestOutlineEm) {
-        DrawLetters(painter, line, toDevice, false);
-    } else if (const std::optional<LetterMask> mask = LetterMaskOf(line, toDevice, painter.FarBox()); !mask) {
-        DrawLetters(painter, line, toDevice, true);
+void ShowGlyphs(const Painter& painter, const ShapedLine& line, const Matrix& toDevice) {
+    if (!painter.HasPixels() || toDevice.LengthFactor() * kShapingEm > kMaxOutlineEm) {
+        DrawGlyphs(painter, line, toDevice, false);
+    } else if (const std::optional<GlyphMask> mask = GlyphMaskOf(line, toDevice, painter.GuardBand());
+               !mask) {
+        DrawGlyphs(painter, line, toDevice, true);
     } else if (mask->Coverage != nullptr) {
         cairo_mask_surface(painter.Context(), mask->Coverage.get(), mask->X, mask->Y);
     }
@@ -123,23 +124,23 @@ BoxD WholePixelStroke(const BoxD& stroke) {
 }
 
 /// A stroke along the whole line whose middle lies `height` ems above the baseline.
-void Decorate(const Painter& painter, const SetLine& line, const Matrix& toDevice, double height) {
-    const double top = -(height + kDecorationThickness / 2.0) * kSetEm;
-    const double bottom = top + kDecorationThickness * kSetEm;
+void Decorate(const Painter& painter, const ShapedLine& line, const Matrix& toDevice, double height) {
+    const double top = -(height + kDecorationThickness / 2.0) * kShapingEm;
+    const double bottom = top + kDecorationThickness * kShapingEm;
     std::vector<PointD> corners;
     for (const PointD p : {PointD{0.0, top}, {line.Width, top}, {line.Width, bottom}, {0.0, bottom}}) {
         corners.push_back(Mapped(toDevice, p));
     }
     if (painter.Snaps()) {
-        AddBox(painter.Context(), WholePixelStroke(BoxBetween(corners[0], corners[2])), painter.FarBox());
+        AddBox(painter.Context(), WholePixelStroke(BoxBetween(corners[0], corners[2])), painter.GuardBand());
     } else {
-        AddPolygon(painter.Context(), corners, painter.FarBox());
+        AddPolygon(painter.Context(), corners, painter.GuardBand());
     }
     cairo_fill(painter.Context());
 }
 
-void ShowLine(const Painter& painter, const SetLine& line, const Matrix& toDevice, const Font& font) {
-    ShowLetters(painter, line, toDevice);
+void ShowLine(const Painter& painter, const ShapedLine& line, const Matrix& toDevice, const Font& font) {
+    ShowGlyphs(painter, line, toDevice);
     if (font.Has(FontStyle::Underline)) {
         Decorate(painter, line, toDevice, kUnderline);
     }
@@ -154,7 +155,7 @@ Status PaintText(const Painter& painter, std::wstring_view text, const Font& fon
                  const StringFormat& format, Color color) {
     painter.SetColor(color);
     for (const PlacedLine& placed : PlaceLines(text, font, box, format)) {
-        const SetLine line = SetTextLine(placed.Text, font);
+        const ShapedLine line = ShapeLine(placed.Text, font);
         const Matrix toDevice = OnWholePixel(painter, LineToDevice(painter, placed, font));
         if (line.Line != nullptr && CanBeDrawn(toDevice) &&
             IsInSight(painter, Surroundings(toDevice, line.Width))) {

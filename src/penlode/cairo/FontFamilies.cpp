@@ -1,8 +1,8 @@
 #include "penlode/cairo/FontFamilies.h"
 
-#include "penlode/FontFace.h"
-#include "penlode/TextPlacement.h"
 #include "penlode/cairo/PangoText.h"
+#include "penlode/text/FontFace.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <fontconfig/fontconfig.h>
 #include <initializer_list>

@@ -1,7 +1,7 @@
-#include "penlode/EngineArguments.h"
-#include "penlode/FontFace.h"
 #include "penlode/cairo/CairoHandles.h"
 #include "penlode/cairo/PangoText.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/text/FontFace.h"
 
 #include <pango/pangocairo.h>
 
@@ -15,7 +15,7 @@ struct PathDeleter {
 using CairoPath = std::unique_ptr<cairo_path_t, PathDeleter>;
 
 /// The outlines of a set line, in its own units.
-CairoPath OutlinesOf(const SetLine& line) {
+CairoPath OutlinesOf(const ShapedLine& line) {
     const CairoSurface surface(cairo_recording_surface_create(CAIRO_CONTENT_ALPHA, nullptr));
     const CairoContext context(cairo_create(surface.get()));
     pango_cairo_layout_line_path(context.get(), line.Line);
@@ -49,9 +49,9 @@ public:
 
     /// A stroke along the whole line whose middle lies `height` ems above the baseline.
     void AddDecoration(double width, double height) {
-        const double top = -(height + kDecorationThickness / 2.0) * kSetEm;
+        const double top = -(height + kDecorationThickness / 2.0) * kShapingEm;
         m_outline.AddRectangle({0.0F, static_cast<float>(top * m_scale), static_cast<float>(width * m_scale),
-                                static_cast<float>(kDecorationThickness * kSetEm * m_scale)});
+                                static_cast<float>(kDecorationThickness * kShapingEm * m_scale)});
     }
 
     GraphicsPath Take() { return std::move(m_outline); }
@@ -69,11 +69,11 @@ private:
 } // namespace
 
 GraphicsPath OutlineOfLine(std::wstring_view line, const Font& font) {
-    const SetLine set = IsDrawable(font) ? SetTextLine(line, font) : SetLine{};
+    const ShapedLine set = IsDrawable(font) ? ShapeLine(line, font) : ShapedLine{};
     if (set.Line == nullptr) {
         return {};
     }
-    OutlineBuilder builder(font.Size / kSetEm);
+    OutlineBuilder builder(font.Size / kShapingEm);
     const CairoPath path = OutlinesOf(set);
     for (int i = 0; i < path->num_data; i += path->data[i].header.length) {
         builder.Add(path->data + i);

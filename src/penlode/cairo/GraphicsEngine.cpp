@@ -1,14 +1,14 @@
 #include "penlode/cairo/GraphicsEngine.h"
 
-#include "penlode/EngineArguments.h"
-#include "penlode/LineThinning.h"
-#include "penlode/ShapePaths.h"
-#include "penlode/TextPlacement.h"
 #include "penlode/cairo/CairoGradient.h"
 #include "penlode/cairo/CairoImage.h"
 #include "penlode/cairo/CairoShapes.h"
 #include "penlode/cairo/CairoTarget.h"
 #include "penlode/cairo/CairoText.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/LineThinning.h"
+#include "penlode/engine/ShapePaths.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +38,7 @@ Status CGraphicsEngine::DrawRectangle(const Pen* pen, float x, float y, float wi
 
 /// Data are looked at when they are thinned, so that millions of points are gone through once.
 Status CGraphicsEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
-    const bool isData = points != nullptr && count >= static_cast<std::int32_t>(kShortestDataLine);
+    const bool isData = points != nullptr && count >= static_cast<std::int32_t>(kMinDataLinePoints);
     if (!IsUsable(pen) || (!isData && !AreUsable(points, count))) {
         return Status::InvalidParameter;
     }

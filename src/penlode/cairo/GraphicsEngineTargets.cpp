@@ -1,7 +1,7 @@
-#include "penlode/EngineArguments.h"
 #include "penlode/Units.h"
 #include "penlode/cairo/CairoTarget.h"
 #include "penlode/cairo/PngWriter.h"
+#include "penlode/engine/EngineArguments.h"
 
 #include <cairo-pdf.h>
 #include <cstring>
@@ -10,9 +10,9 @@
 namespace penlode {
 namespace {
 
-constexpr double kLongestSide = 32767.0;
-constexpr double kMostPixels = 500e6;
-constexpr double kLongestPageSide = 5080.0;
+constexpr double kMaxSide = 32767.0;
+constexpr double kMaxPixels = 500e6;
+constexpr double kMaxPageSide = 5080.0;
 
 double WholePixels(double millimetres, double dpi) {
     return std::max(1.0, std::round(millimetres * dpi / kMillimetresPerInch));
@@ -86,7 +86,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
     }
     const double width = WholePixels(millimetres.Width, dpi);
     const double height = WholePixels(millimetres.Height, dpi);
-    if (width > kLongestSide || height > kLongestSide || width * height > kMostPixels) {
+    if (width > kMaxSide || height > kMaxSide || width * height > kMaxPixels) {
         return nullptr;
     }
     const CairoSurface surface(
@@ -102,8 +102,8 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
 }
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
-    if (!(millimetres.Width > 0.0F && millimetres.Height > 0.0F && millimetres.Width <= kLongestPageSide &&
-          millimetres.Height <= kLongestPageSide)) {
+    if (!(millimetres.Width > 0.0F && millimetres.Height > 0.0F && millimetres.Width <= kMaxPageSide &&
+          millimetres.Height <= kMaxPageSide)) {
         return nullptr;
     }
     const double width = millimetres.Width * kPointsPerInch / kMillimetresPerInch;

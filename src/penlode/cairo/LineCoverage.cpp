@@ -15,11 +15,11 @@ namespace {
 constexpr std::int32_t kPixel = 256;
 
 /// Points nearer than this are one: the direction from one to the other would mean nothing.
-constexpr double kShortestStep = 1.0 / 512.0;
+constexpr double kMinStep = 1.0 / 512.0;
 
 /// Where a line turns back sharply, a wedge closes its tip. Wedges of fewer square pixels are left out: dense
 /// lines are full of them, and nobody sees them.
-constexpr double kSmallestTip = 1.0 / 64.0;
+constexpr double kMinTip = 1.0 / 64.0;
 
 /// Pixels side by side that are painted at once: what they take stays in the processor's cache.
 constexpr std::size_t kStripe = 64;
@@ -131,7 +131,7 @@ void LineCoverage::Add(std::span<const PointD> points) {
     for (const PointD to : points.subspan(1)) {
         const PointD step{to.X - from.X, to.Y - from.Y};
         const double length = std::sqrt(step.X * step.X + step.Y * step.Y);
-        if (length < kShortestStep) {
+        if (length < kMinStep) {
             continue;
         }
         const Segment segment{from, to, {step.X / length, step.Y / length}};
@@ -157,7 +157,7 @@ void LineCoverage::AddJoin(const Segment& before, const Segment& after) {
     const double turn = a.X * b.Y - a.Y * b.X;
     const double along = a.X * b.X + a.Y * b.Y;
     const bool isPointed = m_miterLimit * m_miterLimit * (1.0 + along) >= 2.0;
-    if (!isPointed && m_radius * m_radius * std::abs(turn) / 2.0 < kSmallestTip) {
+    if (!isPointed && m_radius * m_radius * std::abs(turn) / 2.0 < kMinTip) {
         return;
     }
     const double outwards = turn > 0.0 ? -m_radius : m_radius;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "penlode/DeviceGeometry.h"
 #include "penlode/cairo/SectionSpans.h"
+#include "penlode/engine/DeviceGeometry.h"
 
 #include <cairo.h>
 #include <span>

@@ -1,8 +1,8 @@
 #include "penlode/cairo/PangoText.h"
 
-#include "penlode/EngineArguments.h"
-#include "penlode/StringUtil.h"
 #include "penlode/cairo/FontFamilies.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <cmath>
@@ -96,7 +96,7 @@ Held<PangoFontDescription> Describe(const Font& font) {
                                       font.Has(FontStyle::Bold) ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_style(description.get(),
                                      font.Has(FontStyle::Italic) ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
-    pango_font_description_set_absolute_size(description.get(), kSetEm * PANGO_SCALE);
+    pango_font_description_set_absolute_size(description.get(), kShapingEm * PANGO_SCALE);
     return description;
 }
 
@@ -109,8 +109,8 @@ double SetWidth(PangoLayoutLine* line) {
 /// One thread's fonts and the lines that it has set. Both caches begin anew when they are full.
 class Typesetter {
 public:
-    SetLine Line(std::wstring_view text, const Font& font) {
-        text = text.substr(0, kLongestLine);
+    ShapedLine Line(std::wstring_view text, const Font& font) {
+        text = text.substr(0, kMaxLineCharacters);
         if (text.empty() || m_context == nullptr) {
             return {};
         }
@@ -118,7 +118,7 @@ public:
         if (const auto found = m_lines.find(key); found != m_lines.end()) {
             return found->second.Set;
         }
-        if (m_lines.size() >= kMostLines || m_characters >= kMostCharacters) {
+        if (m_lines.size() >= kMaxLines || m_characters >= kMaxCharacters) {
             m_lines.clear();
             m_characters = 0;
         }
@@ -132,7 +132,7 @@ public:
         if (const auto found = m_faces.find(key); found != m_faces.end()) {
             return found->second;
         }
-        if (m_faces.size() >= kMostFaces) {
+        if (m_faces.size() >= kMaxFaces) {
             m_faces.clear();
         }
         return m_faces.emplace(std::move(key), WithoutExcessAir(MeasureFace(font))).first->second;
@@ -148,13 +148,13 @@ public:
     }
 
 private:
-    static constexpr std::size_t kMostLines = 4096;
-    static constexpr std::size_t kMostCharacters = 262144;
-    static constexpr std::size_t kMostFaces = 256;
+    static constexpr std::size_t kMaxLines = 4096;
+    static constexpr std::size_t kMaxCharacters = 262144;
+    static constexpr std::size_t kMaxFaces = 256;
 
     struct CachedLine {
         Held<PangoLayout> Layout;
-        SetLine Set;
+        ShapedLine Set;
     };
 
     CachedLine Compose(std::wstring_view text, const Font& font) const {
@@ -180,7 +180,7 @@ private:
         int scaleX = 0;
         int scaleY = 0;
         hb_font_get_scale(shaper, &scaleX, &scaleY);
-        const double em = scaleY == 0 ? kSetEm * PANGO_SCALE : std::abs(scaleY);
+        const double em = scaleY == 0 ? kShapingEm * PANGO_SCALE : std::abs(scaleY);
         return {extents.ascender / em, -extents.descender / em};
     }
 
@@ -210,14 +210,14 @@ Typesetter& ThisThread() {
 
 } // namespace
 
-SetLine SetTextLine(std::wstring_view text, const Font& font) {
+ShapedLine ShapeLine(std::wstring_view text, const Font& font) {
     return ThisThread().Line(text, font);
 }
 
 std::vector<std::wstring> UnknownCharacters(std::wstring_view line, const Font& font) {
     std::vector<std::wstring> unknown;
-    const SetLine set = SetTextLine(line, font);
-    const std::string utf8 = CStringUtil::WideToUtf8(line.substr(0, kLongestLine));
+    const ShapedLine set = ShapeLine(line, font);
+    const std::string utf8 = CStringUtil::WideToUtf8(line.substr(0, kMaxLineCharacters));
     for (const GSList* run = set.Line == nullptr ? nullptr : set.Line->runs; run != nullptr;
          run = run->next) {
         const auto* const glyphs = static_cast<const PangoLayoutRun*>(run->data)->glyphs;
@@ -238,7 +238,7 @@ std::wstring FaceOf(const Font& font) {
 }
 
 float CStringUtil::MeasureLine(std::wstring_view line, const Font& font) {
-    return IsDrawable(font) ? static_cast<float>(SetTextLine(line, font).Width / kSetEm * font.Size) : 0.0F;
+    return IsDrawable(font) ? static_cast<float>(ShapeLine(line, font).Width / kShapingEm * font.Size) : 0.0F;
 }
 
 FontMetrics CStringUtil::MeasureFont(const Font& font) {

@@ -14,10 +14,10 @@ typedef struct _PangoLayoutLine PangoLayoutLine;
 namespace penlode {
 
 /// The em size of a set line, in its own units. All its measures are in proportion.
-inline constexpr double kSetEm = 100.0;
+inline constexpr double kShapingEm = 100.0;
 
 /// A line of a text that is longer ends after so many characters.
-inline constexpr std::size_t kLongestLine = 8192;
+inline constexpr std::size_t kMaxLineCharacters = 8192;
 
 /// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
 /// for every face, clear of ideographs as of Latin letters.
@@ -25,14 +25,14 @@ inline constexpr double kUnderline = -0.18;
 inline constexpr double kStrikeout = 0.3;
 inline constexpr double kDecorationThickness = 0.05;
 
-struct SetLine {
+struct ShapedLine {
     PangoLayoutLine* Line = nullptr; ///< null for an empty text or where no font is installed
     double Width = 0.0;
 };
 
 /// The line in a font's face, without underline or strikeout; the font's size does not count. Stays valid
 /// until the thread's next call.
-SetLine SetTextLine(std::wstring_view text, const Font& font);
+ShapedLine ShapeLine(std::wstring_view text, const Font& font);
 
 /// The characters of a line for which no face has a glyph, in order.
 std::vector<std::wstring> UnknownCharacters(std::wstring_view line, const Font& font);

@@ -1,6 +1,6 @@
 #include "penlode/cairo/PixelGrid.h"
 
-#include "penlode/LineThinning.h"
+#include "penlode/engine/LineThinning.h"
 
 #include <cstddef>
 
@@ -12,7 +12,7 @@ namespace {
 constexpr double kSame = 0.02;
 
 constexpr double kUnequalSides = 0.01;
-constexpr double kLargestMarker = 32.0;
+constexpr double kMaxMarker = 32.0;
 
 bool IsOdd(double wholeWidth) {
     return std::fmod(wholeWidth, 2.0) != 0.0;
@@ -31,7 +31,7 @@ std::size_t AxisParallelEdges(std::span<const PointD> polygon) {
 }
 
 bool IsMarker(const BoxD& box) {
-    return std::abs(box.Width() - box.Height()) <= kUnequalSides && box.Width() < kLargestMarker;
+    return std::abs(box.Width() - box.Height()) <= kUnequalSides && box.Width() < kMaxMarker;
 }
 
 double FarEdge(double nearEdge, double extent, double farDevice, bool keepsSize) {
@@ -122,7 +122,7 @@ BoxD PixelGrid::Outline(const BoxD& box, double lineWidth) const {
 }
 
 bool PixelGrid::IsAxisParallel(std::span<const PointD> polyline) {
-    if (polyline.size() < 2 || polyline.size() >= kShortestDataLine) {
+    if (polyline.size() < 2 || polyline.size() >= kMinDataLinePoints) {
         return false;
     }
     for (std::size_t i = 1; i < polyline.size(); ++i) {

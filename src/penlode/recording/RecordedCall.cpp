@@ -1,6 +1,6 @@
-#include "penlode/StringUtil.h"
-#include "penlode/TextForms.h"
 #include "penlode/recording/RecordingEngine.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #include "penlode/recording/RecordingEngine.h"
 
-#include "penlode/EngineArguments.h"
-#include "penlode/GradientVertices.h"
-#include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/GradientVertices.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <algorithm>
 #include <cmath>

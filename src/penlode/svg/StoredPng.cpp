@@ -9,8 +9,8 @@
 namespace penlode::svg {
 namespace {
 
-constexpr std::size_t kLongestBlock = 0xFFFF;
-constexpr std::size_t kLongestChunk = std::size_t{1} << 24U;
+constexpr std::size_t kMaxBlock = 0xFFFF;
+constexpr std::size_t kMaxChunk = std::size_t{1} << 24U;
 
 char Byte(std::uint32_t value) {
     return static_cast<char>(static_cast<unsigned char>(value & 0xFFU));
@@ -78,8 +78,8 @@ std::string Rows(std::span<const Color> pixels, std::size_t width) {
 /// A zlib stream of stored blocks.
 std::string Stored(std::string_view bytes) {
     std::string stream = {Byte(0x78), Byte(0x01)};
-    for (std::size_t at = 0; at < bytes.size(); at += kLongestBlock) {
-        const std::string_view block = bytes.substr(at, kLongestBlock);
+    for (std::size_t at = 0; at < bytes.size(); at += kMaxBlock) {
+        const std::string_view block = bytes.substr(at, kMaxBlock);
         const auto length = static_cast<std::uint32_t>(block.size());
         const bool isLast = at + block.size() == bytes.size();
         for (const std::uint32_t byte : {isLast ? 1U : 0U, length, length >> 8U, ~length, ~length >> 8U}) {
@@ -99,8 +99,8 @@ std::string StoredPng(std::span<const Color> pixels, std::size_t width) {
     AddChunk(file, "IHDR",
              BigEndian(static_cast<std::uint32_t>(width)) + BigEndian(height) + std::string(kRgbaOf8Bits));
     const std::string stream = Stored(Rows(pixels, width));
-    for (std::size_t at = 0; at < stream.size(); at += kLongestChunk) {
-        AddChunk(file, "IDAT", std::string_view(stream).substr(at, kLongestChunk));
+    for (std::size_t at = 0; at < stream.size(); at += kMaxChunk) {
+        AddChunk(file, "IDAT", std::string_view(stream).substr(at, kMaxChunk));
     }
     AddChunk(file, "IEND", "");
     return file;

@@ -1,6 +1,6 @@
 #include "penlode/svg/SvgClip.h"
 
-#include "penlode/EngineArguments.h"
+#include "penlode/engine/EngineArguments.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
@@ -38,7 +38,7 @@ bool AreAlike(const Term& a, const Term& b) {
 /// the bound is passed is of no use.
 class TermMaker {
 public:
-    bool IsExhausted() const { return m_made > kMostTerms || m_tooDeep; }
+    bool IsExhausted() const { return m_made > kMaxTerms || m_tooDeep; }
 
     TermRef Area(std::string data, bool inverted = false) {
         return Make({Term::Kind::Area, std::move(data), inverted, {}});
@@ -71,8 +71,8 @@ public:
     }
 
 private:
-    static constexpr std::size_t kMostTerms = 3000;
-    static constexpr std::size_t kMostNested = 100;
+    static constexpr std::size_t kMaxTerms = 3000;
+    static constexpr std::size_t kMaxNested = 100;
 
     TermRef Make(Term term) {
         ++m_made;
@@ -93,7 +93,7 @@ private:
                 joined.Parts.push_back(term);
             }
         }
-        m_tooDeep = m_tooDeep || (kind == Term::Kind::All && joined.Parts.size() > kMostNested);
+        m_tooDeep = m_tooDeep || (kind == Term::Kind::All && joined.Parts.size() > kMaxNested);
         return joined.Parts.size() == 1 ? joined.Parts.front() : Make(std::move(joined));
     }
 

@@ -1,8 +1,8 @@
 #include "penlode/svg/SvgDocument.h"
 
-#include "penlode/StringUtil.h"
 #include "penlode/svg/SvgShapes.h"
 #include "penlode/svg/SvgWriter.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <span>
@@ -12,10 +12,10 @@ namespace penlode::svg {
 namespace {
 
 /// Deep groups are not indented any further: a line would be all blanks.
-constexpr std::size_t kDeepestIndent = 16;
+constexpr std::size_t kMaxIndent = 16;
 
 std::string Indent(std::size_t depth) {
-    return std::string(2 * std::min(depth, kDeepestIndent), ' ');
+    return std::string(2 * std::min(depth, kMaxIndent), ' ');
 }
 
 std::string Line(std::size_t depth, std::string_view text) {

@@ -1,9 +1,8 @@
 #include "penlode/svg/SvgEngine.h"
 
-#include "penlode/EngineArguments.h"
-#include "penlode/ShapePaths.h"
-#include "penlode/TextPlacement.h"
 #include "penlode/Units.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/ShapePaths.h"
 #include "penlode/svg/SvgClip.h"
 #include "penlode/svg/SvgDocument.h"
 #include "penlode/svg/SvgGeometry.h"
@@ -14,6 +13,7 @@
 #include "penlode/svg/SvgShapes.h"
 #include "penlode/svg/SvgText.h"
 #include "penlode/svg/SvgWriter.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +28,7 @@ bool IsFiniteArc(const RectF& rect, float startAngle, float sweepAngle) {
 }
 
 double SideOf(float millimetres) {
-    return std::isfinite(millimetres) ? std::clamp<double>(millimetres, 0.0, svg::kFarthest) : 0.0;
+    return std::isfinite(millimetres) ? std::clamp<double>(millimetres, 0.0, svg::kMaxDistance) : 0.0;
 }
 
 SizeF PageOf(SizeF millimetres) {
@@ -90,7 +90,7 @@ struct CSvgEngine::Drawing {
 
     std::string TextLine(const svg::PageMap& map, PlacedLine line, const Font& font,
                          const std::string& fill) {
-        line.Text = line.Text.substr(0, svg::kLongestLine);
+        line.Text = line.Text.substr(0, svg::kMaxLineCharacters);
         return TextAsOutlines ? svg::OutlineElement(map, line, font, fill)
                               : svg::TextElement(map.ToPage, line, font, Families.For(font.Family), fill);
     }

@@ -1,7 +1,7 @@
 #include "penlode/svg/SvgGeometry.h"
 
-#include "penlode/EngineArguments.h"
-#include "penlode/FarClip.h"
+#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/GuardBand.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,23 +14,23 @@ namespace {
 /// Chains of turns leave noise of this size, far below a thousandth of a millimetre on any page.
 constexpr double kNoise = 1e-7;
 
-constexpr double kLargestFactor = 1e30;
+constexpr double kMaxFactor = 1e30;
 
 constexpr double kFarAway = 1e5;
 
 /// Above any float, and far from the limits of double.
-constexpr double kLargestPlace = 1e40;
+constexpr double kMaxPlace = 1e40;
 
 } // namespace
 
 PointD Placed(const Matrix& m, PointD p) {
-    return Mapped(m, PointD{std::clamp(p.X, -kLargestPlace, kLargestPlace),
-                            std::clamp(p.Y, -kLargestPlace, kLargestPlace)});
+    return Mapped(m, PointD{std::clamp(p.X, -kMaxPlace, kMaxPlace), std::clamp(p.Y, -kMaxPlace, kMaxPlace)});
 }
 
 PointD OnPage(const Matrix& m, PointD p) {
     const PointD placed = Placed(m, p);
-    return {std::clamp(placed.X, -kFarthest, kFarthest), std::clamp(placed.Y, -kFarthest, kFarthest)};
+    return {std::clamp(placed.X, -kMaxDistance, kMaxDistance),
+            std::clamp(placed.Y, -kMaxDistance, kMaxDistance)};
 }
 
 PointD OnPage(const Matrix& transform, PointF point) {
@@ -65,7 +65,7 @@ std::vector<PointD> AreaOnPage(const PageMap& map, std::span<const PointF> polyg
 bool CanMap(const Matrix& m) {
     const double largest = std::max(
         {std::abs(m.M11), std::abs(m.M12), std::abs(m.M21), std::abs(m.M22), std::abs(m.Dx), std::abs(m.Dy)});
-    return m.IsInvertible() && largest < kLargestFactor;
+    return m.IsInvertible() && largest < kMaxFactor;
 }
 
 MappedAxes AxesUnder(const Matrix& m) {

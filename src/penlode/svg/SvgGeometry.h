@@ -1,9 +1,9 @@
 #pragma once
 
-#include "penlode/DeviceGeometry.h"
 #include "penlode/Geometry.h"
 #include "penlode/GraphicsPath.h"
 #include "penlode/Matrix.h"
+#include "penlode/engine/DeviceGeometry.h"
 
 #include <span>
 #include <vector>
@@ -12,7 +12,7 @@
 namespace penlode::svg {
 
 /// Viewers count in floats. What lies a kilometre away is moved no farther.
-inline constexpr double kFarthest = 1e6;
+inline constexpr double kMaxDistance = 1e6;
 
 /// The point on the page, within a kilometre of it.
 PointD OnPage(const Matrix& transform, PointF point);

@@ -15,19 +15,19 @@
 namespace penlode::svg {
 namespace {
 
-constexpr int kMostCuts = 16;
+constexpr int kMaxCuts = 16;
 /// Flat parts need not differ by less than this, in steps of 1/255, nor be smaller than this, in millimetres.
 constexpr double kColorStep = 4.0;
-constexpr double kSmallestPart = 0.25;
+constexpr double kMinPart = 0.25;
 
-using Triangle = std::array<TintedPoint, 3>;
+using Triangle = std::array<ColoredPoint, 3>;
 
-Color ColorOf(const Tint& tint) {
+Color ColorOf(const Rgb& tint) {
     const auto byte = [](double channel) { return static_cast<std::uint32_t>(std::lround(channel)); };
     return Color::FromArgb(0xFFU, byte(tint[0]), byte(tint[1]), byte(tint[2]));
 }
 
-std::string OpaqueAttribute(const char* name, const Tint& tint) {
+std::string OpaqueAttribute(const char* name, const Rgb& tint) {
     const std::string fill = FillAttributes(ColorOf(tint));
     return std::string(" ") + name + fill.substr(fill.find('='));
 }
@@ -104,7 +104,7 @@ PointD BlendEnd(const Matrix& m, PointD start, double extent, bool vertical) {
     return {start.X + normal.X * share, start.Y + normal.Y * share};
 }
 
-std::string AxisBlend(const Matrix& toPage, const TintedPoint& from, const TintedPoint& to, bool vertical,
+std::string AxisBlend(const Matrix& toPage, const ColoredPoint& from, const ColoredPoint& to, bool vertical,
                       SvgDefinitions& definitions) {
     const PointD start = Placed(toPage, from.Place);
     const double extent = vertical ? to.Place.Y - from.Place.Y : to.Place.X - from.Place.X;
@@ -112,7 +112,7 @@ std::string AxisBlend(const Matrix& toPage, const TintedPoint& from, const Tinte
     const std::string attributes = " gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(start.X) + "\" y1=\"" +
                                    Number(start.Y) + "\" x2=\"" + Number(end.X) + "\" y2=\"" + Number(end.Y) +
                                    "\"";
-    const auto stop = [](const char* offset, const Tint& tint) {
+    const auto stop = [](const char* offset, const Rgb& tint) {
         return SvgElement("stop").Set("offset", offset).Raw(OpaqueAttribute("stop-color", tint)).Empty();
     };
     return definitions.LinearGradient(attributes, stop("0", from.Colour) + stop("1", to.Colour));
@@ -132,14 +132,14 @@ int CutsOf(const Triangle& t) {
         const PointD b = t[(i + 1) % 3].Place;
         longest = std::max(longest, std::hypot(b.X - a.X, b.Y - a.Y));
     }
-    const double wanted = std::ceil(std::min(colours / kColorStep, longest / kSmallestPart));
-    return static_cast<int>(std::clamp(wanted, 1.0, static_cast<double>(kMostCuts)));
+    const double wanted = std::ceil(std::min(colours / kColorStep, longest / kMinPart));
+    return static_cast<int>(std::clamp(wanted, 1.0, static_cast<double>(kMaxCuts)));
 }
 
 /// The point with these weights towards the second and third corner.
-TintedPoint Within(const Triangle& t, double second, double third) {
+ColoredPoint Within(const Triangle& t, double second, double third) {
     const auto mix = [&](double a, double b, double c) { return a + second * (b - a) + third * (c - a); };
-    TintedPoint point;
+    ColoredPoint point;
     point.Place = {mix(t[0].Place.X, t[1].Place.X, t[2].Place.X),
                    mix(t[0].Place.Y, t[1].Place.Y, t[2].Place.Y)};
     for (std::size_t channel = 0; channel < 3; ++channel) {
@@ -183,7 +183,7 @@ void AddTriangle(const Triangle& t, GradientParts& parts) {
 /// A triangle in world coordinates, unless it cannot be seen.
 void AddWhole(Triangle t, GradientParts& parts) {
     std::vector<PointD> places;
-    for (const TintedPoint& corner : t) {
+    for (const ColoredPoint& corner : t) {
         places.push_back(Placed(parts.Map().ToPage, corner.Place));
     }
     if (!parts.IsSeen(places)) {
@@ -206,8 +206,8 @@ std::optional<std::string> GradientRects(const PageMap& map, const GradientArea&
     }
     GradientParts parts(map, area);
     for (const GradientRect& rect : rects) {
-        const TintedPoint from = Moved(area, rect.UpperLeft);
-        const TintedPoint to = Moved(area, rect.LowerRight);
+        const ColoredPoint from = Moved(area, rect.UpperLeft);
+        const ColoredPoint to = Moved(area, rect.LowerRight);
         const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
         const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
         const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/GradientVertices.h"
+#include "penlode/engine/GradientVertices.h"
 #include "penlode/svg/SvgDocument.h"
 #include "penlode/svg/SvgGeometry.h"
 

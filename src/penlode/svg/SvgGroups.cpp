@@ -33,7 +33,7 @@ const std::vector<SvgGroup>& SvgGroups::For(const CSurfaceState& state, SvgDefin
     m_clipGroups = 0;
     m_clips = std::move(clips);
     std::size_t clipped = 0;
-    for (std::size_t i = 0; i < std::min(m_containers.size(), kMostContainers); ++i) {
+    for (std::size_t i = 0; i < std::min(m_containers.size(), kMaxContainers); ++i) {
         AddClips(clipped, m_containers[i].ClipsOutside, definitions);
         clipped = m_containers[i].ClipsOutside;
         m_groups.push_back({m_containers[i].Handle, {}});
@@ -49,7 +49,7 @@ const std::vector<SvgGroup>& SvgGroups::For(const CSurfaceState& state, SvgDefin
 void SvgGroups::AddClips(std::size_t begin, std::size_t end, SvgDefinitions& definitions) {
     for (std::size_t i = begin; i < end; ++i) {
         for (std::string& attributes : ClipGroups(m_clips[i], m_page, definitions)) {
-            if (m_clipGroups < kMostClipGroups) {
+            if (m_clipGroups < kMaxClipGroups) {
                 ++m_clipGroups;
                 m_groups.push_back({0, std::move(attributes)});
                 continue;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "penlode/Geometry.h"
-#include "penlode/SurfaceState.h"
+#include "penlode/engine/SurfaceState.h"
 #include "penlode/svg/SvgDocument.h"
 
 #include <cstdint>
@@ -26,8 +26,8 @@ public:
 private:
     /// XML readers refuse a document of more than 256 levels. Containers below this one get no group, and
     /// what clips would need groups of their own beyond that many is said by masks.
-    static constexpr std::size_t kMostContainers = 64;
-    static constexpr std::size_t kMostClipGroups = 130;
+    static constexpr std::size_t kMaxContainers = 64;
+    static constexpr std::size_t kMaxClipGroups = 130;
     static constexpr std::size_t kGroupsInMask = 64;
 
     void AddClips(std::size_t begin, std::size_t end, SvgDefinitions& definitions);

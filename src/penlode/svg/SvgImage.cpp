@@ -18,12 +18,12 @@ namespace {
 constexpr double kSameEdge = 1e-3;
 
 /// From one place to another along one side of the image, in pixels.
-struct Stretch {
+struct Interval {
     double From;
     double To;
 
     /// Whole pixels that hold it.
-    Stretch Whole() const { return {std::floor(From + kSameEdge), std::ceil(To - kSameEdge)}; }
+    Interval Whole() const { return {std::floor(From + kSameEdge), std::ceil(To - kSameEdge)}; }
 
     double Length() const { return To - From; }
 
@@ -33,13 +33,13 @@ struct Stretch {
 };
 
 /// The part of a source side that lies in the image.
-Stretch Inside(double start, double extent, std::int32_t size) {
+Interval Inside(double start, double extent, std::int32_t size) {
     const double low = std::min(start, start + extent);
     const double high = std::max(start, start + extent);
     return {std::clamp<double>(low, 0.0, size), std::clamp<double>(high, 0.0, size)};
 }
 
-std::vector<Color> Pixels(const Image& image, const Stretch& across, const Stretch& down,
+std::vector<Color> Pixels(const Image& image, const Interval& across, const Interval& down,
                           const ImageAttributes* attributes) {
     const auto width = static_cast<std::ptrdiff_t>(across.Length());
     std::vector<Color> pixels;
@@ -89,10 +89,10 @@ void Place(SvgElement& element, const Matrix& m) {
 
 DrawnImage DrawImagePart(const PageMap& map, const Image& image, const RectF& destination,
                          const RectF& source, const ImageAttributes* attributes) {
-    const Stretch across = Inside(source.X, source.Width, image.Width);
-    const Stretch down = Inside(source.Y, source.Height, image.Height);
-    const Stretch columns = across.Whole();
-    const Stretch rows = down.Whole();
+    const Interval across = Inside(source.X, source.Width, image.Width);
+    const Interval down = Inside(source.Y, source.Height, image.Height);
+    const Interval columns = across.Whole();
+    const Interval rows = down.Whole();
     const Matrix fromPixels = Matrix::Translation(-source.X, -source.Y) *
                               Matrix::Scale(1.0 / source.Width, 1.0 / source.Height) *
                               Matrix::Scale(destination.Width, destination.Height) *

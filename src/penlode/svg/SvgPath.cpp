@@ -1,6 +1,6 @@
 #include "penlode/svg/SvgPath.h"
 
-#include "penlode/EngineArguments.h"
+#include "penlode/engine/EngineArguments.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgWriter.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 /// An arc command gives no centre: a viewer works it out from end points that are rounded, and the nearer an
 /// arc comes to half a turn, the more the centre moves with them. A third of a turn keeps it in place.
-constexpr double kLongestArc = 2.0 * std::numbers::pi / 3.0;
+constexpr double kMaxArc = 2.0 * std::numbers::pi / 3.0;
 
 /// How far straight lines may stray from a curve, in millimetres.
 constexpr double kFlatness = 0.01;
@@ -134,7 +134,7 @@ private:
                                            arc.Ellipse.Y + ry + ry * std::sin(t)});
         };
         m_data.MoveTo(at(start));
-        const int steps = static_cast<int>(std::ceil(std::abs(sweep) / kLongestArc - 1e-6));
+        const int steps = static_cast<int>(std::ceil(std::abs(sweep) / kMaxArc - 1e-6));
         for (int i = 1; i <= steps; ++i) {
             m_data.ArcTo({rx * m_axes.X, ry * m_axes.Y, m_axes.Degrees, m_axes.Mirrored},
                          (sweep > 0.0) != m_axes.Mirrored, at(start + sweep * i / steps));
@@ -214,7 +214,7 @@ public:
     }
 
 private:
-    static constexpr int kDeepestCut = 40;
+    static constexpr int kMaxCut = 40;
 
     void Reach(PointD point) {
         if (m_started) {
@@ -231,7 +231,7 @@ private:
         const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
         const bool outside = around.Right < m_box.Left || around.Left > m_box.Right ||
                              around.Bottom < m_box.Top || around.Top > m_box.Bottom;
-        if (outside || !(bend > kFlatness) || depth == kDeepestCut) {
+        if (outside || !(bend > kFlatness) || depth == kMaxCut) {
             m_lines.LineTo(end);
             return;
         }

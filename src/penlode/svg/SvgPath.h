@@ -1,7 +1,7 @@
 #pragma once
 
-#include "penlode/FarClip.h"
 #include "penlode/GraphicsPath.h"
+#include "penlode/engine/GuardBand.h"
 #include "penlode/svg/SvgGeometry.h"
 
 #include <span>

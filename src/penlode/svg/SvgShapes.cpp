@@ -1,9 +1,9 @@
 #include "penlode/svg/SvgShapes.h"
 
-#include "penlode/FarClip.h"
-#include "penlode/LineThinning.h"
-#include "penlode/ShapePaths.h"
 #include "penlode/Units.h"
+#include "penlode/engine/GuardBand.h"
+#include "penlode/engine/LineThinning.h"
+#include "penlode/engine/ShapePaths.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
 
@@ -18,7 +18,7 @@ namespace penlode::svg {
 namespace {
 
 /// No wider pen is looked for beyond the page, in millimetres.
-constexpr double kWidestMargin = 1e5;
+constexpr double kMaxMargin = 1e5;
 
 std::string Hex(Color color) {
     constexpr std::string_view kDigits = "0123456789abcdef";
@@ -164,11 +164,11 @@ std::string FillAttributes(Color color) {
 
 Paint StrokePaint(const Pen& pen, double lengthFactor) {
     const double width =
-        std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kThinnestLine);
+        std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kMinLineWidth);
     const std::vector<double> pattern = DashPattern(pen.GetDashStyle());
     return {ColorAttributes("stroke", pen.GetColor()) + " stroke-width=\"" + Number(width) + "\"" +
                 DashAttribute(pattern, width),
-            true, std::min(width * kMiterLimit, kWidestMargin),
+            true, std::min(width * kMiterLimit, kMaxMargin),
             std::accumulate(pattern.begin(), pattern.end(), 0.0) * width};
 }
 
@@ -221,8 +221,8 @@ std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint&
 
 std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke) {
     return PointsElement("polyline", map,
-                         points.size() < kShortestDataLine ? MapAll(map.ToPage, points)
-                                                           : ThinnedOnPage(map, points, stroke.Margin),
+                         points.size() < kMinDataLinePoints ? MapAll(map.ToPage, points)
+                                                            : ThinnedOnPage(map, points, stroke.Margin),
                          stroke);
 }
 

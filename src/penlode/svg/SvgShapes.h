@@ -16,7 +16,7 @@ namespace penlode::svg {
 /// The thinnest line of a page, in millimetres; a pen of width 0 draws it. A line that keeps one pixel at
 /// every zoom (vector-effect) would be as readable on screen, but printers, converters and office programs
 /// pass that over and draw nothing, or a line of a whole millimetre.
-inline constexpr double kThinnestLine = 0.05;
+inline constexpr double kMinLineWidth = 0.05;
 
 /// ` fill="#336699" fill-opacity="0.502"`
 std::string FillAttributes(Color color);

@@ -1,10 +1,10 @@
 #include "penlode/svg/SvgText.h"
 
-#include "penlode/FontFace.h"
-#include "penlode/StringUtil.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
+#include "penlode/text/FontFace.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <array>

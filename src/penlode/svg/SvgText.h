@@ -2,8 +2,8 @@
 
 #include "penlode/Font.h"
 #include "penlode/Matrix.h"
-#include "penlode/TextPlacement.h"
 #include "penlode/svg/SvgGeometry.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <cstddef>
 #include <map>
@@ -22,7 +22,7 @@ private:
 };
 
 /// Longer lines end there, and are measured so.
-inline constexpr std::size_t kLongestLine = 8192;
+inline constexpr std::size_t kMaxLineCharacters = 8192;
 
 /// A line of text as text, pinned to its measured width whatever face the reader has. Nothing for an empty
 /// line.

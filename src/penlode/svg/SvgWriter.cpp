@@ -9,7 +9,7 @@ namespace penlode::svg {
 namespace {
 
 /// No page is so large; it keeps a number within its buffer.
-constexpr double kLargestNumber = 1e9;
+constexpr double kMaxNumber = 1e9;
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
@@ -54,7 +54,7 @@ std::string Number(double value, int decimals) {
     std::array<char, 32> digits;
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(),
-                      std::clamp(value, -kLargestNumber, kLargestNumber), std::chars_format::fixed, decimals)
+                      std::clamp(value, -kMaxNumber, kMaxNumber), std::chars_format::fixed, decimals)
             .ptr;
     std::string text(digits.data(), end);
     if (decimals > 0) {

@@ -1,6 +1,6 @@
 #include "charts/curve/CurvePropSerialize.h"
 
-#include "penlode/JsonSerializeStream.h"
+#include "penlode/streams/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Records.h"
 #include "support/SomeRecords.h"

@@ -1,8 +1,8 @@
 #include "charts/pie/BasicHalfPieHalfPie.h"
 
 #include "charts/pie/HalfPiePropSerialize.h"
-#include "penlode/BinarySerialize.h"
 #include "penlode/recording/RecordingEngine.h"
+#include "penlode/streams/BinarySerialize.h"
 #include "support/Rects.h"
 
 #include <cmath>

@@ -2,9 +2,9 @@
 
 #include "charts/pie/HalfPieHistogramPropSerialize.h"
 #include "charts/pie/HalfPiePropSerialize.h"
-#include "penlode/BinarySerialize.h"
-#include "penlode/JsonSerializeStream.h"
 #include "penlode/recording/RecordingEngine.h"
+#include "penlode/streams/BinarySerialize.h"
+#include "penlode/streams/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/Rects.h"
 

@@ -1,8 +1,8 @@
 #include "charts/pie/HalfPiePropSerialize.h"
 
 #include "charts/pie/PiePropSerialize.h"
-#include "penlode/BinarySerialize.h"
-#include "penlode/JsonSerializeStream.h"
+#include "penlode/streams/BinarySerialize.h"
+#include "penlode/streams/JsonSerializeStream.h"
 #include "support/ListingStream.h"
 #include "support/SomeRecords.h"
 

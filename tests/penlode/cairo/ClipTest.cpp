@@ -1,5 +1,5 @@
-#include "penlode/SurfaceState.h"
 #include "penlode/cairo/Picture.h"
+#include "penlode/engine/SurfaceState.h"
 
 #include <array>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "penlode/FontFace.h"
-#include "penlode/StringUtil.h"
 #include "penlode/cairo/Picture.h"
+#include "penlode/text/FontFace.h"
+#include "penlode/text/StringUtil.h"
 #include "support/PictureDifference.h"
 
 #include <array>

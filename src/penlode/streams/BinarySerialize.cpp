@@ -1,0 +1,285 @@
+#include "penlode/streams/BinarySerialize.h"
+
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <utility>
+
+namespace penlode {
+namespace {
+
+constexpr std::string_view kMagic = "MCPS";
+constexpr std::uint32_t kVersion = 1;
+constexpr std::size_t kWordSize = 4;
+
+std::uint32_t WordOf(std::string_view bytes) {
+    std::uint32_t word = 0;
+    for (std::size_t i = kWordSize; i > 0; --i) {
+        word = word << 8U | static_cast<unsigned char>(bytes[i - 1]);
+    }
+    return word;
+}
+
+void AppendWord(std::string& bytes, std::uint32_t word) {
+    for (std::size_t i = 0; i < kWordSize; ++i) {
+        bytes += static_cast<char>(word >> 8U * i & 0xFFU);
+    }
+}
+
+/// A length field holds 32 bits; what is longer is cut, so that the stream stays readable.
+std::uint32_t StoredLength(std::size_t length) {
+    constexpr std::size_t kMaxLength = std::numeric_limits<std::uint32_t>::max();
+    return static_cast<std::uint32_t>(std::min(length, kMaxLength));
+}
+
+void AppendText(std::string& bytes, std::string_view text) {
+    const std::uint32_t length = StoredLength(text.size());
+    AppendWord(bytes, length);
+    bytes += text.substr(0, length);
+}
+
+std::string ByteCount(std::size_t count) {
+    return std::to_string(count) + (count == 1 ? " byte" : " bytes");
+}
+
+std::string HexBytes(std::string_view bytes) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string text = "bytes";
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        text += {' ', kDigits[byte >> 4U], kDigits[byte & 0xFU]};
+    }
+    return text;
+}
+
+} // namespace
+
+CBinarySerialize::CBinarySerialize() : m_bytes(kMagic), m_saving(true) {
+    AppendWord(m_bytes, kVersion);
+}
+
+CBinarySerialize::CBinarySerialize(std::string_view bytes) : m_bytes(bytes), m_saving(false) {
+    std::string_view magic;
+    if (!Take(kMagic.size(), "\"MCPS\"", magic)) {
+        return;
+    }
+    if (magic != kMagic) {
+        Fail(0, HexBytes(magic), "\"MCPS\"");
+        return;
+    }
+    std::uint32_t version = 0;
+    if (TakeWord("a version", version) && version != kVersion) {
+        Fail(kMagic.size(), "version " + std::to_string(version), "version " + std::to_string(kVersion));
+    }
+}
+
+void CBinarySerialize::Write(Color value) {
+    WriteWord(value.Argb);
+}
+
+void CBinarySerialize::Write(const std::string& value) {
+    if (m_saving) {
+        AppendText(m_bytes, value);
+    }
+}
+
+void CBinarySerialize::Write(float value) {
+    WriteWord(std::bit_cast<std::uint32_t>(value));
+}
+
+void CBinarySerialize::Write(std::int32_t value) {
+    WriteWord(std::bit_cast<std::uint32_t>(value));
+}
+
+void CBinarySerialize::Write(const std::vector<std::string>& values) {
+    const std::uint32_t count = StoredLength(values.size());
+    WriteWord(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        Write(values[i]);
+    }
+}
+
+void CBinarySerialize::Write(const Font* font) {
+    if (WritePresence(font != nullptr)) {
+        Write(CStringUtil::WideToAnsiString(font->Family));
+        Write(font->Size);
+        Write(font->Style);
+    }
+}
+
+void CBinarySerialize::Write(const Pen* pen) {
+    if (WritePresence(pen != nullptr)) {
+        Write(pen->GetColor());
+        Write(pen->GetWidth());
+        Write(static_cast<std::int32_t>(pen->GetDashStyle()));
+    }
+}
+
+void CBinarySerialize::Read(Color& value) {
+    TakeWord("a colour", value.Argb);
+}
+
+void CBinarySerialize::Read(std::string& value) {
+    std::uint32_t length = 0;
+    std::string_view text;
+    if (TakeLength("a text", 1, length) && Take(length, "a text", text)) {
+        value = text;
+    }
+}
+
+void CBinarySerialize::Read(float& value) {
+    std::uint32_t word = 0;
+    if (TakeWord("a number", word)) {
+        value = std::bit_cast<float>(word);
+    }
+}
+
+void CBinarySerialize::Read(std::int32_t& value) {
+    std::uint32_t word = 0;
+    if (TakeWord("a whole number", word)) {
+        value = std::bit_cast<std::int32_t>(word);
+    }
+}
+
+void CBinarySerialize::Read(std::vector<std::string>& values) {
+    std::uint32_t count = 0;
+    if (!TakeLength("a list", kWordSize, count)) {
+        return;
+    }
+    std::vector<std::string> texts;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        Read(texts.emplace_back());
+        if (Failed()) {
+            return;
+        }
+    }
+    values = std::move(texts);
+}
+
+void CBinarySerialize::Read(Font** font) {
+    const auto present = TakePresence();
+    if (!present) {
+        return;
+    }
+    std::string family;
+    Font read;
+    if (*present) {
+        Read(family);
+        Read(read.Size);
+        Read(read.Style);
+        read.Family = CStringUtil::AnsiToWideString(family);
+    }
+    if (!Failed()) {
+        *font = *present ? new Font(std::move(read)) : nullptr;
+    }
+}
+
+void CBinarySerialize::Read(Pen** pen) {
+    const auto present = TakePresence();
+    if (!present) {
+        return;
+    }
+    Color color;
+    float width = 0.0F;
+    Pen read;
+    if (*present) {
+        Read(color);
+        Read(width);
+        ReadDashStyle(read);
+        read.SetColor(color);
+        read.SetWidth(width);
+    }
+    if (!Failed()) {
+        *pen = *present ? new Pen(read) : nullptr;
+    }
+}
+
+void CBinarySerialize::WriteWord(std::uint32_t word) {
+    if (m_saving) {
+        AppendWord(m_bytes, word);
+    }
+}
+
+bool CBinarySerialize::WritePresence(bool present) {
+    if (m_saving) {
+        m_bytes += static_cast<char>(present);
+    }
+    return present;
+}
+
+void CBinarySerialize::Refuse(const std::string& found, const std::string& expected) {
+    if (!Failed() && !m_saving) {
+        Fail(m_position, found, expected);
+    }
+}
+
+void CBinarySerialize::Fail(std::size_t offset, std::string found, std::string expected) {
+    m_problem = StreamProblem{StreamProblem::Kind::Unreadable, "byte " + std::to_string(offset),
+                              std::move(found), std::move(expected)};
+}
+
+bool CBinarySerialize::Take(std::size_t size, const char* what, std::string_view& bytes) {
+    if (Failed()) {
+        return false;
+    }
+    if (m_saving) {
+        Fail(m_bytes.size(), "a stream that is saving", "a stream that is loading");
+        return false;
+    }
+    if (size > Remaining()) {
+        Fail(m_position, "the end after " + ByteCount(Remaining()), what + (" of " + ByteCount(size)));
+        return false;
+    }
+    bytes = std::string_view(m_bytes).substr(m_position, size);
+    m_position += size;
+    return true;
+}
+
+bool CBinarySerialize::TakeWord(const char* what, std::uint32_t& word) {
+    std::string_view bytes;
+    const bool taken = Take(kWordSize, what, bytes);
+    if (taken) {
+        word = WordOf(bytes);
+    }
+    return taken;
+}
+
+bool CBinarySerialize::TakeLength(const char* what, std::size_t itemSize, std::uint32_t& length) {
+    if (!TakeWord(what, length)) {
+        return false;
+    }
+    const std::size_t most = Remaining() / itemSize;
+    if (length > most) {
+        m_position -= kWordSize;
+        Fail(m_position, "a length of " + std::to_string(length),
+             what + (" whose length is at most " + std::to_string(most)));
+        return false;
+    }
+    return true;
+}
+
+std::optional<bool> CBinarySerialize::TakePresence() {
+    std::string_view byte;
+    if (!Take(1, "a presence flag", byte)) {
+        return std::nullopt;
+    }
+    const auto flag = static_cast<unsigned char>(byte.front());
+    if (flag > 1) {
+        Fail(--m_position, std::to_string(flag), "0 for nothing or 1 for an object");
+        return std::nullopt;
+    }
+    return flag == 1;
+}
+
+void CBinarySerialize::ReadDashStyle(Pen& pen) {
+    std::int32_t style = 0;
+    Read(style);
+    if (!Failed() && pen.SetDashStyle(static_cast<DashStyle>(style)) != Status::Ok) {
+        m_position -= kWordSize;
+        Fail(m_position, std::to_string(style), "a dash style from 0 to 5");
+    }
+}
+
+} // namespace penlode

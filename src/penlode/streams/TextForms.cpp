@@ -1,0 +1,223 @@
+#include "penlode/streams/TextForms.h"
+
+#include "penlode/text/StringUtil.h"
+
+#include <array>
+#include <charconv>
+#include <optional>
+#include <sstream>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace penlode {
+namespace {
+
+/// None of these is ever the second byte of a narrow character, so narrow texts may be cut at them bytewise.
+constexpr std::string_view kBlanks = " \t\r\n";
+
+constexpr std::string_view kNone = "none";
+constexpr std::string_view kGenericFamily = "sans-serif";
+
+struct StyleWord {
+    std::int32_t Bit;
+    std::string_view Word;
+};
+
+constexpr std::array<StyleWord, 4> kStyleWords = {{{FontStyle::Bold, "bold"},
+                                                   {FontStyle::Italic, "italic"},
+                                                   {FontStyle::Underline, "underline"},
+                                                   {FontStyle::Strikeout, "strikeout"}}};
+
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(kBlanks);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string_view CutFirstWord(std::string_view& text) {
+    const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
+    text = Trimmed(text.substr(word.size()));
+    return word;
+}
+
+std::string_view CutLastWord(std::string_view& text) {
+    const std::size_t blank = text.find_last_of(kBlanks);
+    const std::string_view word = blank == std::string_view::npos ? text : text.substr(blank + 1);
+    text = Trimmed(text.substr(0, text.size() - word.size()));
+    return word;
+}
+
+template <class Number> std::string NumberText(Number value) {
+    std::array<char, 32> digits; // the longest shortest-form double takes 24 of it
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    return {digits.data(), end};
+}
+
+/// The whole text as a number; `form` is the base of an integer.
+template <class Number, class... Form> std::optional<Number> NumberOf(std::string_view text, Form... form) {
+    Number value{};
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value, form...);
+    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
+}
+
+std::string ColorText(Color color) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string text = "#";
+    for (std::uint32_t shift = 32; shift > 0; shift -= 4) {
+        text += kDigits[(color.Argb >> (shift - 4)) & 0xFU];
+    }
+    return text;
+}
+
+std::optional<Color> ColorOf(std::string_view text) {
+    const bool opaque = text.size() == 7;
+    if ((!opaque && text.size() != 9) || text.front() != '#') {
+        return std::nullopt;
+    }
+    const auto word = NumberOf<std::uint32_t>(text.substr(1), 16);
+    return word ? std::optional(Color{opaque ? *word | 0xFF000000U : *word}) : std::nullopt;
+}
+
+std::string PenText(const Pen& pen) {
+    const auto dash = static_cast<std::size_t>(pen.GetDashStyle());
+    return ColorText(pen.GetColor()) + ' ' + NumberText(pen.GetWidth()) + ' ' + std::string(kDashNames[dash]);
+}
+
+std::optional<DashStyle> DashOf(std::string_view word) {
+    for (std::size_t i = 0; i < kDashNames.size(); ++i) {
+        if (word == kDashNames[i]) {
+            return static_cast<DashStyle>(i);
+        }
+    }
+    return word.empty() ? std::optional(DashStyle::Solid) : std::nullopt;
+}
+
+std::optional<Pen> PenOf(std::string_view text) {
+    const auto color = ColorOf(CutFirstWord(text));
+    const auto width = NumberOf<float>(CutFirstWord(text));
+    const auto dash = DashOf(text);
+    return color && width && dash ? std::optional(Pen(*color, *width, *dash)) : std::nullopt;
+}
+
+std::string FontText(const Font& font) {
+    const std::string family = CStringUtil::WideToAnsiString(font.Family);
+    std::string text(Trimmed(family));
+    if (text.empty()) {
+        text = kGenericFamily;
+    }
+    text += ' ' + NumberText(font.Size);
+    for (const auto& [bit, word] : kStyleWords) {
+        if (font.Has(bit)) {
+            text.append(1, ' ').append(word);
+        }
+    }
+    return text;
+}
+
+std::int32_t StyleBitOf(std::string_view word) {
+    for (const auto& style : kStyleWords) {
+        if (word == style.Word) {
+            return style.Bit;
+        }
+    }
+    return FontStyle::Regular;
+}
+
+/// Read from the end, since a family may hold blanks, digits and style words itself.
+std::optional<Font> FontOf(std::string_view text) {
+    std::int32_t style = FontStyle::Regular;
+    std::string_view word = CutLastWord(text);
+    while (const std::int32_t bit = StyleBitOf(word)) {
+        style |= bit;
+        word = CutLastWord(text);
+    }
+    const auto size = NumberOf<float>(word);
+    if (!size || text.empty()) {
+        return std::nullopt;
+    }
+    return Font{CStringUtil::AnsiToWideString(std::string(text)), *size, style};
+}
+
+template <class Value> bool Take(Value& value, std::optional<Value> parsed) {
+    if (parsed) {
+        value = *parsed;
+    }
+    return parsed.has_value();
+}
+
+template <class Number> bool EvaluateNumber(Number& value, std::string& text, bool toText) {
+    if (toText) {
+        text = NumberText(value);
+        return true;
+    }
+    return Take(value, NumberOf<Number>(Trimmed(text)));
+}
+
+template <class Object>
+bool TakeObject(Owned<Object>& object, std::string_view text,
+                std::optional<Object> (*parse)(std::string_view)) {
+    if (text == kNone) {
+        object = nullptr;
+        return true;
+    }
+    auto parsed = parse(text);
+    if (parsed) {
+        object = std::move(*parsed);
+    }
+    return parsed.has_value();
+}
+
+} // namespace
+
+bool ser_evaluate(std::int32_t& value, std::string& text, bool toText) {
+    return EvaluateNumber(value, text, toText);
+}
+
+bool ser_evaluate(float& value, std::string& text, bool toText) {
+    return EvaluateNumber(value, text, toText);
+}
+
+bool ser_evaluate(double& value, std::string& text, bool toText) {
+    return EvaluateNumber(value, text, toText);
+}
+
+bool ser_evaluate(Color& value, std::string& text, bool toText) {
+    if (toText) {
+        text = ColorText(value);
+        return true;
+    }
+    return Take(value, ColorOf(Trimmed(text)));
+}
+
+bool ser_evaluate(Owned<Pen>& value, std::string& text, bool toText) {
+    if (toText) {
+        text = value ? PenText(*value) : kNone;
+        return true;
+    }
+    return TakeObject(value, Trimmed(text), PenOf);
+}
+
+bool ser_evaluate(Owned<Font>& value, std::string& text, bool toText) {
+    if (toText) {
+        text = value ? FontText(*value) : kNone;
+        return true;
+    }
+    return TakeObject(value, Trimmed(text), FontOf);
+}
+
+bool ser_evaluate_vector(float& value, std::stringstream& stream, bool toText) {
+    if (toText) {
+        const std::string text = NumberText(value) + ' ';
+        stream.write(text.data(), static_cast<std::streamsize>(text.size()));
+        return true;
+    }
+    std::string word;
+    stream >> word;
+    return ser_evaluate(value, word, false);
+}
+
+} // namespace penlode

@@ -1,0 +1,105 @@
+#include "penlode/cairo/Picture.h"
+
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+using namespace penlode;
+
+namespace {
+
+const Pen kPen(kBlack, 2.0F);
+const SolidBrush kBrush{kBlack};
+
+template <class Drawing> std::vector<Color> Picture(Drawing&& draw) {
+    const auto g = PixelSurface(40, 30);
+    draw(*g);
+    return g->Pixels().Pixels;
+}
+
+} // namespace
+
+TEST(GuardBand, FarLinesLookAsTheirNearPartsDo) {
+    EXPECT_EQ(Picture([](CGraphicsEngine& g) { g.DrawLine(&kPen, -3e7F, -3e7F, 3e7F, 3e7F); }),
+              Picture([](CGraphicsEngine& g) { g.DrawLine(&kPen, -50, -50, 50, 50); }));
+}
+
+TEST(GuardBand, FarPointsDoNotDisturbTheRestOfAPolyline) {
+    const std::array<PointF, 4> far{{{5, 5}, {20, 9}, {20, 1e9F}, {21, 1e9F}}};
+    const std::array<PointF, 3> near{{{5, 5}, {20, 9}, {20, 90}}};
+    EXPECT_EQ(Picture([&](CGraphicsEngine& g) { g.DrawLines(&kPen, far.data(), 4); }),
+              Picture([&](CGraphicsEngine& g) { g.DrawLines(&kPen, near.data(), 3); }));
+}
+
+TEST(GuardBand, DashesKeepTheirPlaces) {
+    const Pen dash(kBlack, 1, DashStyle::Dash);
+    EXPECT_EQ(Picture([&](CGraphicsEngine& g) { g.DrawLine(&dash, -4e6F, 5, 4e6F, 5); }),
+              Picture([&](CGraphicsEngine& g) { g.DrawLine(&dash, -4, 5, 60, 5); }));
+}
+
+TEST(GuardBand, FarAreasFillWhatIsSeen) {
+    EXPECT_EQ(Picture([](CGraphicsEngine& g) { g.FillRectangle(&kBrush, 10, -1e20F, 1e20F, 2e20F); }),
+              Picture([](CGraphicsEngine& g) { g.FillRectangle(&kBrush, 10, 0, 30, 30); }));
+    const std::array<PointF, 3> far{{{0, 0}, {1e8F, 1e8F}, {0, 1e8F}}};
+    const std::array<PointF, 3> near{{{0, 0}, {80, 80}, {0, 80}}};
+    EXPECT_EQ(Picture([&](CGraphicsEngine& g) { g.FillPolygon(&kBrush, far.data(), 3); }),
+              Picture([&](CGraphicsEngine& g) { g.FillPolygon(&kBrush, near.data(), 3); }));
+}
+
+TEST(GuardBand, AGiantEllipsePassesThroughTheSurfaceWhereItShould) {
+    const auto g = PixelSurface(40, 30);
+    g->FillEllipse(&kBrush, 20, -1e6F + 15, 2e6F, 2e6F);
+    EXPECT_EQ(PixelAt(g->Pixels(), 18, 15), kWhite);
+    EXPECT_EQ(PixelAt(g->Pixels(), 21, 15), kBlack);
+    EXPECT_EQ(PixelAt(g->Pixels(), 39, 1), kBlack);
+}
+
+TEST(GuardBand, ExtremeNumbersAreHarmless) {
+    const auto g = PixelSurface(40, 30);
+    const float huge = std::numeric_limits<float>::max();
+    const std::array<PointF, 4> corners{{{-huge, -huge}, {huge, -huge}, {huge, huge}, {-huge, huge}}};
+    std::vector<PointF> data;
+    for (std::size_t i = 0; i < 100; ++i) {
+        data.push_back(i % 3 == 0 ? PointF{static_cast<float>(i), 7} : corners[i % 4]);
+    }
+    const Font giant{L"宋体", 1e30F, FontStyle::Regular};
+    const Pen wide(kBlack, huge);
+    for (const float scale : {1e-30F, 1.0F, 1e30F}) {
+        g->ResetTransform();
+        g->ScaleTransform(scale, scale, MatrixOrder::Prepend);
+        g->DrawPolygon(&kPen, corners.data(), 4);
+        g->DrawLines(&wide, corners.data(), 4);
+        g->DrawLines(&wide, data.data(), 100);
+        g->DrawLines(&kPen, data.data(), 100);
+        g->DrawCurve(&kPen, corners.data(), 4);
+        g->DrawPie(&kPen, {-huge, -huge, huge, huge}, 1e30F, huge);
+        g->FillEllipse(&kBrush, -huge, -huge, huge, huge);
+        g->DrawString(L"大", -1, &giant, PointF{-huge, 0}, &kBrush);
+        g->SetClip(RectF{-huge, -huge, huge, huge}, CombineMode::Xor);
+        g->ResetClip();
+    }
+    g->ResetTransform();
+    const SolidBrush red{Color{0xFFFF0000}};
+    g->FillRectangle(&red, 0, 0, 40, 30);
+    EXPECT_EQ(CountOf(g->Pixels(), Color{0xFFFF0000}), 1200);
+}
+
+TEST(GuardBand, DenseLinesLookLikeSparseOnes) {
+    std::vector<PointF> dense;
+    for (int i = 0; i <= 3000; ++i) {
+        dense.push_back({static_cast<float>(i) * 0.01F + 5, static_cast<float>(i) * 0.005F + 5});
+    }
+    for (const Color color : {kBlack, Color{0x80000000}}) {
+        const Pen pen(color, 3);
+        const auto many = Picture(
+            [&](CGraphicsEngine& g) { g.DrawLines(&pen, dense.data(), static_cast<int>(dense.size())); });
+        const auto few = Picture([&](CGraphicsEngine& g) { g.DrawLine(&pen, 5, 5, 35, 20); });
+        EXPECT_EQ(many[40 * 12 + 20], few[40 * 12 + 20]);
+        const auto inked = [](const std::vector<Color>& pixels) {
+            return std::count_if(pixels.begin(), pixels.end(), [](Color c) { return c.R() < 0xA0; });
+        };
+        EXPECT_NEAR(static_cast<double>(inked(many)), static_cast<double>(inked(few)), 12.0);
+    }
+}
