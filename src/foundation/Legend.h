@@ -2,6 +2,7 @@
 
 #include "foundation/Export.h"
 #include "penlode/Color.h"
+#include "penlode/Equality.h"
 #include "penlode/Font.h"
 #include "penlode/Geometry.h"
 #include "penlode/IGraphicsEngine.h"
@@ -48,7 +49,9 @@ struct LegendProp {
     float ItemDist = 0.0F; ///< mm between neighbouring items
     penlode::Owned<penlode::Font> Font = penlode::Font{};
 
-    friend bool operator==(const LegendProp&, const LegendProp&) = default;
+    friend bool operator==(const LegendProp& a, const LegendProp& b) {
+        return penlode::HaveEqualMembers<8>(a, b);
+    }
 };
 
 /// Places and draws the legend.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "penlode/Equality.h"
+
 #include <cstdint>
 #include <string>
 
@@ -23,7 +25,7 @@ struct Font {
 
     bool Has(std::int32_t styleBits) const { return (Style & styleBits) == styleBits; }
 
-    friend bool operator==(const Font&, const Font&) = default;
+    friend bool operator==(const Font& a, const Font& b) { return HaveEqualMembers<3>(a, b); }
 };
 
 } // namespace penlode

@@ -6,7 +6,7 @@
 namespace penlode {
 
 /// Holds at most one T: clones it on copy, frees it on destruction, never shares it. Records hold their pens
-/// and fonts in it, so that they copy and compare as plain values.
+/// and fonts in it, so that they copy and compare as plain values, and a const record's cannot be changed.
 template <class T> class Owned {
 public:
     Owned() = default;
@@ -30,11 +30,17 @@ public:
     Owned& operator=(Owned&&) noexcept = default;
 
     /// The held object, or null. It stays owned by the handle.
-    T* Get() const { return m_object.get(); }
+    T* Get() { return m_object.get(); }
 
-    T& operator*() const { return *m_object; }
+    const T* Get() const { return m_object.get(); }
 
-    T* operator->() const { return m_object.get(); }
+    T& operator*() { return *m_object; }
+
+    const T& operator*() const { return *m_object; }
+
+    T* operator->() { return m_object.get(); }
+
+    const T* operator->() const { return m_object.get(); }
 
     explicit operator bool() const { return m_object != nullptr; }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "penlode/Color.h"
+#include "penlode/Equality.h"
 #include "penlode/GraphicsTypes.h"
 
 namespace penlode {
@@ -52,7 +53,7 @@ public:
 
     /// Compares what is drawn; the last status takes no part.
     friend bool operator==(const Pen& a, const Pen& b) {
-        return a.m_color == b.m_color && a.m_width == b.m_width && a.m_dashStyle == b.m_dashStyle;
+        return a.m_color == b.m_color && AreEqual(a.m_width, b.m_width) && a.m_dashStyle == b.m_dashStyle;
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "charts/cartesian/VerAxisProp.h"
 #include "foundation/CaptionProp.h"
 #include "foundation/Legend.h"
+#include "penlode/Equality.h"
 
 #include <vector>
 
@@ -74,7 +75,9 @@ struct CurvePlotProp {
     float PlotHeight = 30.0F;
     std::int32_t LogarithmScale = 0;
 
-    friend bool operator==(const CurvePlotProp&, const CurvePlotProp&) = default;
+    friend bool operator==(const CurvePlotProp& a, const CurvePlotProp& b) {
+        return penlode::HaveEqualMembers<15>(a, b);
+    }
 };
 
 struct CurveProp {

@@ -3,6 +3,7 @@
 #include "charts/cartesian/VerAxisProp.h"
 #include "foundation/CaptionProp.h"
 #include "foundation/Legend.h"
+#include "penlode/Equality.h"
 
 #include <vector>
 
@@ -53,7 +54,9 @@ struct HistogramPlotProp {
     std::int32_t PieStyle = BarStyle::Flat;
     std::int32_t LogarithmScale = 0;
 
-    friend bool operator==(const HistogramPlotProp&, const HistogramPlotProp&) = default;
+    friend bool operator==(const HistogramPlotProp& a, const HistogramPlotProp& b) {
+        return penlode::HaveEqualMembers<17>(a, b);
+    }
 };
 
 struct HistogramProp {

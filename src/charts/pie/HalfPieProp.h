@@ -22,7 +22,9 @@ struct HalfPieBasicProp {
     std::vector<std::string> ComponentName;     ///< one per slice
     std::vector<penlode::Color> ComponentColor; ///< one per slice; a slice without a colour is not filled
 
-    friend bool operator==(const HalfPieBasicProp&, const HalfPieBasicProp&) = default;
+    friend bool operator==(const HalfPieBasicProp& a, const HalfPieBasicProp& b) {
+        return penlode::HaveEqualMembers<9>(a, b);
+    }
 };
 
 struct HalfPieProp {

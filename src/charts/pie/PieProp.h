@@ -3,6 +3,7 @@
 #include "foundation/Legend.h"
 #include "foundation/TextProperty.h"
 #include "penlode/Color.h"
+#include "penlode/Equality.h"
 #include "penlode/Owned.h"
 #include "penlode/Pen.h"
 
@@ -33,7 +34,9 @@ struct PieBasicProp {
     std::vector<std::string> ComponentName;     ///< one per slice
     std::vector<penlode::Color> ComponentColor; ///< one per slice; a slice without a colour is not filled
 
-    friend bool operator==(const PieBasicProp&, const PieBasicProp&) = default;
+    friend bool operator==(const PieBasicProp& a, const PieBasicProp& b) {
+        return penlode::HaveEqualMembers<10>(a, b);
+    }
 };
 
 /// The labels round a pie. A flag of 1 puts its part into every label.
@@ -48,7 +51,9 @@ struct PieLabelProp {
     std::int32_t ShowLabelLeadLine = 1;              ///< travels with the record; no lead lines are drawn
     penlode::Owned<penlode::Pen> LabelLeadLinePen = penlode::Pen(penlode::kBlack, 0.1F);
 
-    friend bool operator==(const PieLabelProp&, const PieLabelProp&) = default;
+    friend bool operator==(const PieLabelProp& a, const PieLabelProp& b) {
+        return penlode::HaveEqualMembers<9>(a, b);
+    }
 };
 
 struct PieProp {

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <tuple>
+#include <vector>
+
+/// Equality of values that hold floating-point numbers. A NaN equals a NaN here, so that a record equals its
+/// copy whatever it holds; else an editor would see a change at every look, and an undo that never arrives.
+namespace penlode {
+
+template <class T> bool AreEqual(const T& a, const T& b) {
+    return a == b;
+}
+
+inline bool AreEqual(float a, float b) {
+    return a == b || (std::isnan(a) && std::isnan(b));
+}
+
+inline bool AreEqual(const std::vector<float>& a, const std::vector<float>& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](float x, float y) { return AreEqual(x, y); });
+}
+
+/// A plain structure's members in one tuple. `Count` must be their number, or this does not compile: a member
+/// that is added cannot be forgotten.
+template <std::size_t Count, class Plain> auto MembersOf(const Plain& plain) {
+    if constexpr (Count == 3) {
+        const auto& [a, b, c] = plain;
+        return std::tie(a, b, c);
+    } else if constexpr (Count == 8) {
+        const auto& [a, b, c, d, e, f, g, h] = plain;
+        return std::tie(a, b, c, d, e, f, g, h);
+    } else if constexpr (Count == 9) {
+        const auto& [a, b, c, d, e, f, g, h, i] = plain;
+        return std::tie(a, b, c, d, e, f, g, h, i);
+    } else if constexpr (Count == 10) {
+        const auto& [a, b, c, d, e, f, g, h, i, j] = plain;
+        return std::tie(a, b, c, d, e, f, g, h, i, j);
+    } else if constexpr (Count == 15) {
+        const auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o] = plain;
+        return std::tie(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o);
+    } else {
+        const auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q] = plain;
+        return std::tie(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q);
+    }
+}
+
+/// Whether two structures of `Count` members agree in each.
+template <std::size_t Count, class Plain> bool HaveEqualMembers(const Plain& a, const Plain& b) {
+    return std::apply(
+        [&b](const auto&... left) {
+            return std::apply([&](const auto&... right) { return (AreEqual(left, right) && ...); },
+                              MembersOf<Count>(b));
+        },
+        MembersOf<Count>(a));
+}
+
+} // namespace penlode
