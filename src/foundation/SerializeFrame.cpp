@@ -74,20 +74,19 @@ template <class T> void KeyedRecord::Number(const char* key, T& value, T default
     }
 }
 
-void KeyedRecord::Integer(const char* key, std::int32_t& value, std::int32_t defaultValue) {
+void KeyedRecord::Field(const char* key, std::int32_t& value, std::int32_t defaultValue) {
     Number(key, value, defaultValue, penlode::kIntegerForm);
 }
 
-void KeyedRecord::Float(const char* key, float& value, float defaultValue) {
+void KeyedRecord::Field(const char* key, float& value, float defaultValue) {
     Number(key, value, defaultValue, penlode::kFloatForm);
 }
 
-void KeyedRecord::Text(const char* key, std::string& value, const std::string& defaultValue) {
+void KeyedRecord::Field(const char* key, std::string& value, const std::string& defaultValue) {
     m_stream.Ser(key, value, defaultValue);
 }
 
-void KeyedRecord::Enumeration(const char* key, std::int32_t& value, EnumNames names,
-                              std::int32_t defaultValue) {
+void KeyedRecord::Field(const char* key, std::int32_t& value, EnumNames names, std::int32_t defaultValue) {
     std::string text = NameOf(value, names);
     m_stream.Ser(key, text, NameOf(defaultValue, names));
     if (!m_stream.IsSaving()) {
@@ -98,23 +97,22 @@ void KeyedRecord::Enumeration(const char* key, std::int32_t& value, EnumNames na
     }
 }
 
-void KeyedRecord::Color(const char* key, penlode::Color& value, penlode::Color defaultValue) {
+void KeyedRecord::Field(const char* key, penlode::Color& value, penlode::Color defaultValue) {
     m_stream.Ser(key, value, defaultValue);
 }
 
-void KeyedRecord::Pen(const char* key, penlode::Owned<penlode::Pen>& value,
-                      const penlode::Pen& defaultValue) {
+void KeyedRecord::Field(const char* key, penlode::Owned<penlode::Pen>& value,
+                        const penlode::Pen& defaultValue) {
     penlode::LendToStream(value, m_stream.IsSaving(),
                           [&](penlode::Pen** pen) { m_stream.Ser(key, pen, defaultValue); });
 }
 
-void KeyedRecord::Font(const std::string& key, penlode::Owned<penlode::Font>& value,
-                       const penlode::Font& defaultValue) {
+void KeyedRecord::Field(const std::string& key, penlode::Owned<penlode::Font>& value) {
     penlode::LendToStream(value, m_stream.IsSaving(),
-                          [&](penlode::Font** font) { m_stream.Ser(key, font, defaultValue); });
+                          [&](penlode::Font** font) { m_stream.Ser(key, font, penlode::Font{}); });
 }
 
-void KeyedRecord::TextList(const char* key, std::vector<std::string>& values) {
+void KeyedRecord::Field(const char* key, std::vector<std::string>& values) {
     m_stream.Ser(key, values, {});
 }
 
@@ -138,19 +136,19 @@ void KeyedRecord::List(const char* key, std::vector<T>& values, T fallback, cons
     }
 }
 
-void KeyedRecord::ColorList(const char* key, std::vector<penlode::Color>& values) {
+void KeyedRecord::Field(const char* key, std::vector<penlode::Color>& values) {
     List(key, values, penlode::kBlack, penlode::kColorForm, Evaluate<penlode::Color>);
 }
 
-void KeyedRecord::IntegerList(const char* key, std::vector<std::int32_t>& values) {
+void KeyedRecord::Field(const char* key, std::vector<std::int32_t>& values) {
     List(key, values, 0, penlode::kIntegerForm, Evaluate<std::int32_t>);
 }
 
-void KeyedRecord::FloatList(const char* key, std::vector<float>& values, float fallback) {
+void KeyedRecord::Field(const char* key, std::vector<float>& values, float fallback) {
     List(key, values, fallback, penlode::kFloatForm, Evaluate<float>);
 }
 
-void KeyedRecord::EnumerationList(const char* key, std::vector<std::int32_t>& values, EnumNames names) {
+void KeyedRecord::Field(const char* key, std::vector<std::int32_t>& values, EnumNames names) {
     List(key, values, 0, ListedNames(names), [names](std::int32_t& value, std::string& text, bool toText) {
         if (toText) {
             text = NameOf(value, names);
@@ -172,7 +170,7 @@ void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values)
 
 template <class T> void PositionalRecord::List(std::vector<T>& values, const char* items) {
     auto count = static_cast<std::int32_t>(values.size());
-    Field(count);
+    Put(count);
     if (m_stream.IsSaving()) {
         std::for_each(values.begin(), values.end(), [this](T value) { m_stream.Write(value); });
         return;
@@ -191,15 +189,15 @@ template <class T> void PositionalRecord::List(std::vector<T>& values, const cha
     }
 }
 
-void PositionalRecord::Field(std::vector<penlode::Color>& values) {
+void PositionalRecord::Put(std::vector<penlode::Color>& values) {
     List(values, "a count of colours");
 }
 
-void PositionalRecord::Field(std::vector<float>& values) {
+void PositionalRecord::Put(std::vector<float>& values) {
     List(values, "a count of numbers");
 }
 
-void PositionalRecord::Field(std::vector<std::int32_t>& values) {
+void PositionalRecord::Put(std::vector<std::int32_t>& values) {
     List(values, "a count of whole numbers");
 }
 

@@ -13,12 +13,14 @@
 #include <string>
 #include <vector>
 
-/// The frame of every record's serializer: one function serves saving and loading, and reads as a list of
-/// fields.
+/// The frame of every record's serializer. A record's fields stand in one list, a line a field, which both
+/// paths walk, saving and loading:
 ///
-///     KeyedRecord record(stream, "CaptionProp");
-///     record.Integer("ShowCaption", prop.ShowCaption, 0);
-///     record.Text("Caption", prop.Caption, "");
+///     template <class Fields> void Describe(Fields& record, CaptionProp& prop) {
+///         record.Field("ShowCaption", prop.ShowCaption, 0);
+///         record.Field("Caption", prop.Caption, "");
+///         record.Record("CaptionTextProperty", prop.CaptionTextProperty);
+///     }
 namespace millichart {
 
 /// An enumeration's value and the name under which documents store it.
@@ -44,28 +46,32 @@ public:
     KeyedRecord(const KeyedRecord&) = delete;
     KeyedRecord& operator=(const KeyedRecord&) = delete;
 
-    void Integer(const char* key, std::int32_t& value, std::int32_t defaultValue);
-    void Float(const char* key, float& value, float defaultValue);
-    void Text(const char* key, std::string& value, const std::string& defaultValue);
+    bool IsSaving() const { return m_stream.IsSaving(); }
+
+    void Field(const char* key, std::int32_t& value, std::int32_t defaultValue);
+    void Field(const char* key, float& value, float defaultValue);
+    void Field(const char* key, std::string& value, const std::string& defaultValue);
     /// Stored by name. A value without a name is stored as its number, for people to see; only names are
     /// loaded.
-    void Enumeration(const char* key, std::int32_t& value, EnumNames names, std::int32_t defaultValue);
-    void Color(const char* key, penlode::Color& value, penlode::Color defaultValue);
-    void Pen(const char* key, penlode::Owned<penlode::Pen>& value,
-             const penlode::Pen& defaultValue = kDefaultPen);
+    void Field(const char* key, std::int32_t& value, EnumNames names, std::int32_t defaultValue);
+    void Field(const char* key, penlode::Color& value, penlode::Color defaultValue);
+    void Field(const char* key, penlode::Owned<penlode::Pen>& value,
+               const penlode::Pen& defaultValue = kDefaultPen);
     /// `key` is narrow.
-    void Font(const std::string& key, penlode::Owned<penlode::Font>& value,
-              const penlode::Font& defaultValue = penlode::Font{});
-    void TextList(const char* key, std::vector<std::string>& values);
+    void Field(const std::string& key, penlode::Owned<penlode::Font>& value);
+    void Field(const char* key, std::vector<std::string>& values);
     /// Lists have no default. An item that means nothing keeps its place, so that the others keep theirs: as
     /// opaque black, as 0, or as `fallback`.
-    void ColorList(const char* key, std::vector<penlode::Color>& values);
-    void IntegerList(const char* key, std::vector<std::int32_t>& values);
-    void FloatList(const char* key, std::vector<float>& values, float fallback);
-    /// Items stored as Enumeration stores them.
-    void EnumerationList(const char* key, std::vector<std::int32_t>& values, EnumNames names);
+    void Field(const char* key, std::vector<penlode::Color>& values);
+    void Field(const char* key, std::vector<std::int32_t>& values);
+    void Field(const char* key, std::vector<float>& values, float fallback);
+    /// Items stored as a single value is.
+    void Field(const char* key, std::vector<std::int32_t>& values, EnumNames names);
     /// All texts in one, each followed by "||". What follows the last "||" is dropped on load.
     void JoinedTexts(const char* key, std::vector<std::string>& values);
+
+    /// A record within this one, in a group of its own.
+    template <class Prop> void Record(const char* tag, Prop& prop) { SerializeFields(m_stream, prop, tag); }
 
 private:
     template <class T> void Number(const char* key, T& value, T defaultValue, const char* form);
@@ -76,34 +82,69 @@ private:
     penlode::CSerializeStream& m_stream;
 };
 
-/// The fields of a positional stream, in the order in which they are named.
+/// A positional stream has no names, and an order of its own: in each record all that is no list and no
+/// text's look comes first, then those, each in the order of the record's list.
+template <class T> inline constexpr bool kIsStoredLast = false;
+template <class T> inline constexpr bool kIsStoredLast<std::vector<T>> = true;
+
+/// The fields of a positional stream; keys, defaults and names of values mean nothing to it.
 class MILLICHART_API PositionalRecord {
 public:
-    explicit PositionalRecord(penlode::ISerialize& stream) : m_stream(stream) {}
+    explicit PositionalRecord(penlode::ISerialize& stream, bool takesLast = false)
+        : m_stream(stream), m_takesLast(takesLast) {}
 
-    /// One field after another: integers, floats, texts, colours, pens, fonts, lists of texts, colours,
-    /// floats or integers.
-    template <class... Fields> void operator()(Fields&... fields) { (Field(fields), ...); }
+    /// One field after another, as they are named here: for a record whose order is neither list's.
+    template <class... Fields> void operator()(Fields&... fields) { (Put(fields), ...); }
+
+    template <class Key, class T, class... Forms> void Field(const Key&, T& value, const Forms&...) {
+        if (kIsStoredLast<T> == m_takesLast) {
+            Put(value);
+        }
+    }
+
+    void JoinedTexts(const char* key, std::vector<std::string>& values) { Field(key, values); }
+
+    template <class Prop> void Record(const char* tag, Prop& prop) { Field(tag, prop); }
 
 private:
-    template <class T> void Field(T& value) {
+    template <class T> void Put(T& value);
+    template <class T> void Put(penlode::Owned<T>& value);
+    void Put(std::vector<penlode::Color>& values);
+    void Put(std::vector<float>& values);
+    void Put(std::vector<std::int32_t>& values);
+    /// A count and the items.
+    template <class T> void List(std::vector<T>& values, const char* items);
+
+    penlode::ISerialize& m_stream;
+    bool m_takesLast;
+};
+
+/// Saves or loads a record by the list that `Describe` makes of it.
+template <class Prop> void SerializeFields(penlode::CSerializeStream& stream, Prop& prop, const char* tag) {
+    KeyedRecord record(stream, tag);
+    Describe(record, prop);
+}
+
+template <class Prop> void SerializeFields(penlode::ISerialize& stream, Prop& prop) {
+    for (const bool takesLast : {false, true}) {
+        PositionalRecord record(stream, takesLast);
+        Describe(record, prop);
+    }
+}
+
+template <class T> void PositionalRecord::Put(T& value) {
+    if constexpr (requires { m_stream.Read(value); }) {
         if (m_stream.IsSaving()) {
             m_stream.Write(value);
         } else {
             m_stream.Read(value);
         }
+    } else {
+        SerializeFields(m_stream, value);
     }
-    template <class T> void Field(penlode::Owned<T>& value);
-    void Field(std::vector<penlode::Color>& values);
-    void Field(std::vector<float>& values);
-    void Field(std::vector<std::int32_t>& values);
-    /// A count and the items.
-    template <class T> void List(std::vector<T>& values, const char* items);
+}
 
-    penlode::ISerialize& m_stream;
-};
-
-template <class T> void PositionalRecord::Field(penlode::Owned<T>& value) {
+template <class T> void PositionalRecord::Put(penlode::Owned<T>& value) {
     penlode::LendToStream(value, m_stream.IsSaving(), [this](T** object) {
         if (m_stream.IsSaving()) {
             m_stream.Write(static_cast<const T*>(*object));

@@ -1,7 +1,5 @@
-#include "foundation/CaptionPropSerialize.h"
-#include "foundation/LegendPropSerialize.h"
+#include "foundation/PropSerialize.h"
 #include "foundation/SerializeFrame.h"
-#include "foundation/TextPropertySerialize.h"
 #include "penlode/streams/BinarySerialize.h"
 #include "penlode/streams/JsonSerializeStream.h"
 #include "support/ListingStream.h"

@@ -1,10 +1,7 @@
 #include "charts/curve/CurvePropSerialize.h"
 
-#include "charts/cartesian/VerAxisPropSerialize.h"
+#include "charts/cartesian/VerAxisFields.h"
 #include "charts/curve/CurveStyle.h"
-#include "foundation/CaptionPropSerialize.h"
-#include "foundation/LegendPropSerialize.h"
-#include "foundation/TextPropertySerialize.h"
 
 namespace millichart {
 namespace {
@@ -28,92 +25,64 @@ constexpr EnumName kNullValueStyleNames[] = {{CurveNullValueStyle::Break, "break
 
 } // namespace
 
+template <class Fields> void Describe(Fields& record, CurveHorAxisProp& prop) {
+    record.Field("ShowHorAxis", prop.ShowHorAxis, 1);
+    record.Field("HorAxisPen", prop.HorAxisPen);
+    record.Field("ScaleStyle", prop.ScaleStyle, kScaleStyleNames, ScaleStyle::Outer);
+    record.Field("ScaleStep", prop.ScaleStep, 1);
+    record.Field("ShowLabel", prop.ShowLabel, 1);
+    record.Field("LabelStep", prop.LabelStep, 1);
+    record.Field("ShowVerGrid", prop.ShowVerGrid, 0);
+    record.Field("VerGridStep", prop.VerGridStep, 1);
+    record.Field("VerGridPen", prop.VerGridPen, kDefaultVerGridPen);
+    record.Field("ShowHorCaption", prop.ShowHorCaption, 0);
+    record.Field("HorCaption", prop.HorCaption, "");
+    record.Record("HorCaptionTextProperty", prop.HorCaptionTextProperty);
+    record.Record("HorLabelTextProperty", prop.HorLabelTextProperty);
+}
+
+/// The labels' look comes before the caption's here.
+void SerializeFields(penlode::ISerialize& stream, CurveHorAxisProp& prop) {
+    PositionalRecord record(stream);
+    record(prop.ShowHorAxis, prop.HorAxisPen, prop.ScaleStyle, prop.ScaleStep, prop.ShowLabel, prop.LabelStep,
+           prop.ShowVerGrid, prop.VerGridStep, prop.VerGridPen, prop.ShowHorCaption, prop.HorCaption,
+           prop.HorLabelTextProperty, prop.HorCaptionTextProperty);
+}
+
+template <class Fields> void Describe(Fields& record, CurvePlotProp& prop) {
+    const CurveStyle missing;
+    record.Field("ShowBackground", prop.ShowBackground, 1);
+    record.Field("PlotBackgroundColor", prop.PlotBackgroundColor, penlode::kWhite);
+    record.Field("ShowEdge", prop.ShowEdge, 1);
+    record.Field("EdgePen", prop.EdgePen, kDefaultEdgePen);
+    record.Field("CurveName", prop.CurveName);
+    record.Field("CurveColor", prop.CurveColor);
+    record.Field("CurveWidth", prop.CurveWidth, missing.Width);
+    record.Field("CurveDashStyle", prop.CurveDashStyle);
+    record.Field("CurveDotStyle", prop.CurveDotStyle, kDotStyleNames);
+    record.Field("CurveDotColor", prop.CurveDotColor);
+    record.Field("CurveDotWidth", prop.CurveDotWidth, missing.DotWidth);
+    record.Field("PlotWidth", prop.PlotWidth, 80.0F);
+    record.Field("PlotHeight", prop.PlotHeight, 30.0F);
+    record.Field("LogarithmScale", prop.LogarithmScale, 0);
+    record.Field("NullValueStyle", prop.NullValueStyle, kNullValueStyleNames);
+}
+
+template <class Fields> void Describe(Fields& record, CurveProp& prop) {
+    record.Record("CaptionProp", prop.Caption);
+    record.Record("CurveVerAxisProp", prop.VerAxis);
+    record.Record("CurveHorAxisProp", prop.HorAxis);
+    record.Record("CurvePlotProp", prop.Plot);
+    record.Record("CurveLegendProp", prop.Legend);
+}
+
 void CCurvePropSerialize::SerializeCurveProp(penlode::ISerialize& stream, CurveProp& prop) {
-    SerializeCaptionProp(stream, prop.Caption);
-    SerializeVerAxisProp(stream, prop.VerAxis);
-    SerializeHorAxisProp(stream, prop.HorAxis);
-    SerializePlotProp(stream, prop.Plot);
-    CLegendPropSerialize::SerializeLegendProp(stream, prop.Legend);
+    SerializeFields(stream, prop);
 }
 
 void CCurvePropSerialize::SerializeCurveProp(penlode::CSerializeStream& stream, CurveProp& prop,
                                              const char* tag) {
-    const KeyedRecord record(stream, tag);
-    SerializeCaptionProp(stream, prop.Caption);
-    SerializeVerAxisProp(stream, prop.VerAxis);
-    SerializeHorAxisProp(stream, prop.HorAxis);
-    SerializePlotProp(stream, prop.Plot);
-    CLegendPropSerialize::SerializeLegendProp(stream, prop.Legend, "CurveLegendProp");
-}
-
-void CCurvePropSerialize::SerializeCaptionProp(penlode::ISerialize& stream, CaptionProp& prop) {
-    CCaptionPropSerialize::SerializeCaptionProp(stream, prop);
-}
-
-void CCurvePropSerialize::SerializeCaptionProp(penlode::CSerializeStream& stream, CaptionProp& prop) {
-    CCaptionPropSerialize::SerializeCaptionProp(stream, prop);
-}
-
-void CCurvePropSerialize::SerializeVerAxisProp(penlode::ISerialize& stream, CurveVerAxisProp& prop) {
-    SerializeVerAxis(stream, prop);
-}
-
-void CCurvePropSerialize::SerializeVerAxisProp(penlode::CSerializeStream& stream, CurveVerAxisProp& prop) {
-    SerializeVerAxis(stream, prop, "CurveVerAxisProp");
-}
-
-void CCurvePropSerialize::SerializeHorAxisProp(penlode::ISerialize& stream, CurveHorAxisProp& prop) {
-    PositionalRecord record(stream);
-    record(prop.ShowHorAxis, prop.HorAxisPen, prop.ScaleStyle, prop.ScaleStep, prop.ShowLabel, prop.LabelStep,
-           prop.ShowVerGrid, prop.VerGridStep, prop.VerGridPen, prop.ShowHorCaption, prop.HorCaption);
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.HorLabelTextProperty);
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.HorCaptionTextProperty);
-}
-
-void CCurvePropSerialize::SerializeHorAxisProp(penlode::CSerializeStream& stream, CurveHorAxisProp& prop) {
-    KeyedRecord record(stream, "CurveHorAxisProp");
-    record.Integer("ShowHorAxis", prop.ShowHorAxis, 1);
-    record.Pen("HorAxisPen", prop.HorAxisPen);
-    record.Enumeration("ScaleStyle", prop.ScaleStyle, kScaleStyleNames, ScaleStyle::Outer);
-    record.Integer("ScaleStep", prop.ScaleStep, 1);
-    record.Integer("ShowLabel", prop.ShowLabel, 1);
-    record.Integer("LabelStep", prop.LabelStep, 1);
-    record.Integer("ShowVerGrid", prop.ShowVerGrid, 0);
-    record.Integer("VerGridStep", prop.VerGridStep, 1);
-    record.Pen("VerGridPen", prop.VerGridPen, kDefaultVerGridPen);
-    record.Integer("ShowHorCaption", prop.ShowHorCaption, 0);
-    record.Text("HorCaption", prop.HorCaption, "");
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.HorCaptionTextProperty,
-                                                  "HorCaptionTextProperty");
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.HorLabelTextProperty, "HorLabelTextProperty");
-}
-
-void CCurvePropSerialize::SerializePlotProp(penlode::ISerialize& stream, CurvePlotProp& prop) {
-    PositionalRecord record(stream);
-    record(prop.ShowBackground, prop.PlotBackgroundColor, prop.ShowEdge, prop.EdgePen, prop.PlotWidth,
-           prop.PlotHeight, prop.LogarithmScale);
-    record(prop.CurveName, prop.CurveColor, prop.CurveWidth, prop.CurveDashStyle, prop.CurveDotStyle,
-           prop.CurveDotColor, prop.CurveDotWidth, prop.NullValueStyle);
-}
-
-void CCurvePropSerialize::SerializePlotProp(penlode::CSerializeStream& stream, CurvePlotProp& prop) {
-    const CurveStyle missing;
-    KeyedRecord record(stream, "CurvePlotProp");
-    record.Integer("ShowBackground", prop.ShowBackground, 1);
-    record.Color("PlotBackgroundColor", prop.PlotBackgroundColor, penlode::kWhite);
-    record.Integer("ShowEdge", prop.ShowEdge, 1);
-    record.Pen("EdgePen", prop.EdgePen, kDefaultEdgePen);
-    record.TextList("CurveName", prop.CurveName);
-    record.ColorList("CurveColor", prop.CurveColor);
-    record.FloatList("CurveWidth", prop.CurveWidth, missing.Width);
-    record.IntegerList("CurveDashStyle", prop.CurveDashStyle);
-    record.EnumerationList("CurveDotStyle", prop.CurveDotStyle, kDotStyleNames);
-    record.ColorList("CurveDotColor", prop.CurveDotColor);
-    record.FloatList("CurveDotWidth", prop.CurveDotWidth, missing.DotWidth);
-    record.Float("PlotWidth", prop.PlotWidth, 80.0F);
-    record.Float("PlotHeight", prop.PlotHeight, 30.0F);
-    record.Integer("LogarithmScale", prop.LogarithmScale, 0);
-    record.EnumerationList("NullValueStyle", prop.NullValueStyle, kNullValueStyleNames);
+    SerializeFields(stream, prop, tag);
 }
 
 } // namespace millichart

@@ -1,102 +1,57 @@
 #include "charts/histogram/HistogramPropSerialize.h"
 
-#include "charts/cartesian/VerAxisPropSerialize.h"
-#include "foundation/CaptionPropSerialize.h"
-#include "foundation/LegendPropSerialize.h"
-#include "foundation/TextPropertySerialize.h"
+#include "charts/cartesian/VerAxisFields.h"
 
 namespace millichart {
 
+template <class Fields> void Describe(Fields& record, HistogramHorAxisProp& prop) {
+    record.Field("ShowHorAxis", prop.ShowHorAxis, 1);
+    record.Field("ScaleStyle", prop.ScaleStyle, kScaleStyleNames, ScaleStyle::Outer);
+    record.Field("HorAxisPen", prop.HorAxisPen);
+    record.Field("ShowGroupName", prop.ShowGroupName, 1);
+    record.Record("GroupNameTextProperty", prop.GroupNameTextProperty);
+    record.Field("ShowVerGrid", prop.ShowVerGrid, 1);
+    record.Field("VerGridPen", prop.VerGridPen, kDefaultVerGridPen);
+    record.Field("ShowHorCaption", prop.ShowHorCaption, 1);
+    record.Field("HorCaption", prop.HorCaption, "");
+    record.Record("HorCaptionTextProperty", prop.HorCaptionTextProperty);
+}
+
+template <class Fields> void Describe(Fields& record, HistogramPlotProp& prop) {
+    record.Field("ShowBackground", prop.ShowBackground, 1);
+    record.Field("PlotBackgroundColor", prop.PlotBackgroundColor, penlode::kWhite);
+    record.Field("ShowEdge", prop.ShowEdge, 1);
+    record.Field("EdgePen", prop.EdgePen, kDefaultEdgePen);
+    record.Field("ShowComponentName", prop.ShowComponentName, 1);
+    record.Field("ShowComponentValue", prop.ShowComponentValue, 1);
+    record.Field("ConponentInfoInSingleRow", prop.ConponentInfoInSingleRow, 1);
+    record.Field("ConponentInfoSeparator", prop.ConponentInfoSeparator, ";");
+    record.Record("ComponentInfoTextProperty", prop.ComponentInfoTextProperty);
+    record.Field("ComponentName", prop.ComponentName);
+    record.Field("ComponentColor", prop.ComponentColor);
+    record.Field("PlotWidth", prop.PlotWidth, 80.0F);
+    record.Field("PlotHeight", prop.PlotHeight, 30.0F);
+    record.Field("GroupDistane", prop.GroupDistane, 10.0F);
+    record.Field("Juxtaposition", prop.Juxtaposition, 1);
+    record.Field("PieStyle", prop.PieStyle, kPieStyleNames, BarStyle::Flat);
+    record.Field("LogarithmScale", prop.LogarithmScale, 0);
+}
+
+template <class Fields> void Describe(Fields& record, HistogramProp& prop) {
+    record.Record("CaptionProp", prop.Caption);
+    record.Record("HistogramVerAxisProp", prop.VerAxis);
+    record.Record("HistogramHorAxisProp", prop.HorAxis);
+    record.Record("HistogramPlotProp", prop.Plot);
+    record.Record("HistogramLegendProp", prop.Legend);
+}
+
 void CHistogramPropSerialize::SerializeHistogramProp(penlode::ISerialize& stream, HistogramProp& prop) {
-    SerializeCaptionProp(stream, prop.Caption);
-    SerializeVerAxisProp(stream, prop.VerAxis);
-    SerializeHorAxisProp(stream, prop.HorAxis);
-    SerializePlotProp(stream, prop.Plot);
-    CLegendPropSerialize::SerializeLegendProp(stream, prop.Legend);
+    SerializeFields(stream, prop);
 }
 
 void CHistogramPropSerialize::SerializeHistogramProp(penlode::CSerializeStream& stream, HistogramProp& prop,
                                                      const char* tag) {
-    const KeyedRecord record(stream, tag);
-    SerializeCaptionProp(stream, prop.Caption);
-    SerializeVerAxisProp(stream, prop.VerAxis);
-    SerializeHorAxisProp(stream, prop.HorAxis);
-    SerializePlotProp(stream, prop.Plot);
-    CLegendPropSerialize::SerializeLegendProp(stream, prop.Legend, "HistogramLegendProp");
-}
-
-void CHistogramPropSerialize::SerializeCaptionProp(penlode::ISerialize& stream, CaptionProp& prop) {
-    CCaptionPropSerialize::SerializeCaptionProp(stream, prop);
-}
-
-void CHistogramPropSerialize::SerializeCaptionProp(penlode::CSerializeStream& stream, CaptionProp& prop) {
-    CCaptionPropSerialize::SerializeCaptionProp(stream, prop);
-}
-
-void CHistogramPropSerialize::SerializeVerAxisProp(penlode::ISerialize& stream, HistogramVerAxisProp& prop) {
-    SerializeVerAxis(stream, prop);
-}
-
-void CHistogramPropSerialize::SerializeVerAxisProp(penlode::CSerializeStream& stream,
-                                                   HistogramVerAxisProp& prop) {
-    SerializeVerAxis(stream, prop, "HistogramVerAxisProp");
-}
-
-void CHistogramPropSerialize::SerializeHorAxisProp(penlode::ISerialize& stream, HistogramHorAxisProp& prop) {
-    PositionalRecord record(stream);
-    record(prop.ShowHorAxis, prop.ScaleStyle, prop.HorAxisPen, prop.ShowGroupName, prop.ShowVerGrid,
-           prop.VerGridPen, prop.ShowHorCaption, prop.HorCaption);
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.GroupNameTextProperty);
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.HorCaptionTextProperty);
-}
-
-void CHistogramPropSerialize::SerializeHorAxisProp(penlode::CSerializeStream& stream,
-                                                   HistogramHorAxisProp& prop) {
-    KeyedRecord record(stream, "HistogramHorAxisProp");
-    record.Integer("ShowHorAxis", prop.ShowHorAxis, 1);
-    record.Enumeration("ScaleStyle", prop.ScaleStyle, kScaleStyleNames, ScaleStyle::Outer);
-    record.Pen("HorAxisPen", prop.HorAxisPen);
-    record.Integer("ShowGroupName", prop.ShowGroupName, 1);
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.GroupNameTextProperty,
-                                                  "GroupNameTextProperty");
-    record.Integer("ShowVerGrid", prop.ShowVerGrid, 1);
-    record.Pen("VerGridPen", prop.VerGridPen, kDefaultVerGridPen);
-    record.Integer("ShowHorCaption", prop.ShowHorCaption, 1);
-    record.Text("HorCaption", prop.HorCaption, "");
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.HorCaptionTextProperty,
-                                                  "HorCaptionTextProperty");
-}
-
-void CHistogramPropSerialize::SerializePlotProp(penlode::ISerialize& stream, HistogramPlotProp& prop) {
-    PositionalRecord record(stream);
-    record(prop.ShowBackground, prop.PlotBackgroundColor, prop.ShowEdge, prop.EdgePen, prop.ShowComponentName,
-           prop.ShowComponentValue, prop.ConponentInfoInSingleRow, prop.ConponentInfoSeparator,
-           prop.PlotWidth, prop.PlotHeight, prop.GroupDistane, prop.Juxtaposition, prop.PieStyle,
-           prop.LogarithmScale);
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.ComponentInfoTextProperty);
-    record(prop.ComponentName, prop.ComponentColor);
-}
-
-void CHistogramPropSerialize::SerializePlotProp(penlode::CSerializeStream& stream, HistogramPlotProp& prop) {
-    KeyedRecord record(stream, "HistogramPlotProp");
-    record.Integer("ShowBackground", prop.ShowBackground, 1);
-    record.Color("PlotBackgroundColor", prop.PlotBackgroundColor, penlode::kWhite);
-    record.Integer("ShowEdge", prop.ShowEdge, 1);
-    record.Pen("EdgePen", prop.EdgePen, kDefaultEdgePen);
-    record.Integer("ShowComponentName", prop.ShowComponentName, 1);
-    record.Integer("ShowComponentValue", prop.ShowComponentValue, 1);
-    record.Integer("ConponentInfoInSingleRow", prop.ConponentInfoInSingleRow, 1);
-    record.Text("ConponentInfoSeparator", prop.ConponentInfoSeparator, ";");
-    CTextPropertySerialize::SerializeTextProperty(stream, prop.ComponentInfoTextProperty,
-                                                  "ComponentInfoTextProperty");
-    record.TextList("ComponentName", prop.ComponentName);
-    record.ColorList("ComponentColor", prop.ComponentColor);
-    record.Float("PlotWidth", prop.PlotWidth, 80.0F);
-    record.Float("PlotHeight", prop.PlotHeight, 30.0F);
-    record.Float("GroupDistane", prop.GroupDistane, 10.0F);
-    record.Integer("Juxtaposition", prop.Juxtaposition, 1);
-    record.Enumeration("PieStyle", prop.PieStyle, kPieStyleNames, BarStyle::Flat);
-    record.Integer("LogarithmScale", prop.LogarithmScale, 0);
+    SerializeFields(stream, prop, tag);
 }
 
 } // namespace millichart

@@ -15,16 +15,6 @@ public:
     /// In a group named `tag`.
     static void SerializeHistogramProp(penlode::CSerializeStream& stream, HistogramProp& prop,
                                        const char* tag);
-
-private:
-    static void SerializeCaptionProp(penlode::ISerialize& stream, CaptionProp& prop);
-    static void SerializeCaptionProp(penlode::CSerializeStream& stream, CaptionProp& prop);
-    static void SerializeVerAxisProp(penlode::ISerialize& stream, HistogramVerAxisProp& prop);
-    static void SerializeVerAxisProp(penlode::CSerializeStream& stream, HistogramVerAxisProp& prop);
-    static void SerializeHorAxisProp(penlode::ISerialize& stream, HistogramHorAxisProp& prop);
-    static void SerializeHorAxisProp(penlode::CSerializeStream& stream, HistogramHorAxisProp& prop);
-    static void SerializePlotProp(penlode::ISerialize& stream, HistogramPlotProp& prop);
-    static void SerializePlotProp(penlode::CSerializeStream& stream, HistogramPlotProp& prop);
 };
 
 } // namespace millichart

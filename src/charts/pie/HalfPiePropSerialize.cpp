@@ -1,70 +1,75 @@
 #include "charts/pie/HalfPiePropSerialize.h"
 
-#include "charts/pie/PieFieldSerialize.h"
-#include "charts/pie/PiePropSerialize.h"
+#include "charts/histogram/HistogramPropSerialize.h"
+#include "charts/pie/PieFields.h"
 
 namespace millichart {
-
 namespace {
 
 constexpr EnumName kHalfPiePartNames[] = {{HalfPiePart::Upper, "Top"}, {HalfPiePart::Lower, "Lower"}};
 
 /// Every number that draws the lower half is stored under its name, so that a load draws the same half.
-void SerializeWhichPart(KeyedRecord& record, std::int32_t& whichPart, bool saving) {
+void DescribeWhichPart(KeyedRecord& record, std::int32_t& whichPart) {
     std::int32_t named = whichPart == HalfPiePart::Upper ? HalfPiePart::Upper : HalfPiePart::Lower;
-    record.Enumeration("WhichPart", named, kHalfPiePartNames, HalfPiePart::Upper);
-    if (!saving) {
+    record.Field("WhichPart", named, kHalfPiePartNames, HalfPiePart::Upper);
+    if (!record.IsSaving()) {
         whichPart = named;
     }
 }
 
+void DescribeWhichPart(PositionalRecord& record, std::int32_t& whichPart) {
+    record.Field("WhichPart", whichPart);
+}
+
 } // namespace
 
+template <class Fields> void Describe(Fields& record, HalfPieBasicProp& prop) {
+    DescribeWhichPart(record, prop.WhichPart);
+    DescribeSize(record, prop);
+    DescribeSlices(record, prop);
+}
+
+template <class Fields> void Describe(Fields& record, HalfPieProp& prop) {
+    record.Record("HalfPieBasicProp", prop.Basic);
+    record.Record("PieLabelProp", prop.Label);
+}
+
+template <class Fields> void Describe(Fields& record, HalfPieHalfPieProp& prop) {
+    record.Record("TopHalf", prop.First);
+    record.Record("LowerHalf", prop.Second);
+}
+
 void CHalfPiePropSerialize::SerializeHalfPieProp(penlode::ISerialize& stream, HalfPieProp& prop) {
-    SerializeHalfPieBasicProp(stream, prop.Basic);
-    SerializeHalfPieLabelProp(stream, prop.Label);
+    SerializeFields(stream, prop);
 }
 
 void CHalfPiePropSerialize::SerializeHalfPieProp(penlode::CSerializeStream& stream, HalfPieProp& prop,
                                                  const char* tag) {
-    const KeyedRecord record(stream, tag);
-    SerializeHalfPieBasicProp(stream, prop.Basic);
-    SerializeHalfPieLabelProp(stream, prop.Label);
-}
-
-void CHalfPiePropSerialize::SerializeHalfPieBasicProp(penlode::ISerialize& stream, HalfPieBasicProp& prop) {
-    PositionalRecord record(stream);
-    record(prop.WhichPart, prop.FixedSize, prop.FixedWidth, prop.BaseValue, prop.BasePieWidth,
-           prop.DrawSepLine, prop.PenSepLine, prop.ComponentName, prop.ComponentColor);
-}
-
-void CHalfPiePropSerialize::SerializeHalfPieBasicProp(penlode::CSerializeStream& stream,
-                                                      HalfPieBasicProp& prop) {
-    KeyedRecord record(stream, "HalfPieBasicProp");
-    SerializeWhichPart(record, prop.WhichPart, stream.IsSaving());
-    SerializeSize(record, prop);
-    SerializeSlices(record, prop);
-}
-
-void CHalfPiePropSerialize::SerializeHalfPieLabelProp(penlode::ISerialize& stream, PieLabelProp& prop) {
-    CPieLabelPropSerialize::SerializePieLabelProp(stream, prop);
-}
-
-void CHalfPiePropSerialize::SerializeHalfPieLabelProp(penlode::CSerializeStream& stream, PieLabelProp& prop) {
-    CPieLabelPropSerialize::SerializePieLabelProp(stream, prop);
+    SerializeFields(stream, prop, tag);
 }
 
 void CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp(penlode::ISerialize& stream,
                                                                HalfPieHalfPieProp& prop) {
-    CHalfPiePropSerialize::SerializeHalfPieProp(stream, prop.First);
-    CHalfPiePropSerialize::SerializeHalfPieProp(stream, prop.Second);
+    SerializeFields(stream, prop);
 }
 
 void CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp(penlode::CSerializeStream& stream,
                                                                HalfPieHalfPieProp& prop, const char* tag) {
-    const KeyedRecord record(stream, tag);
-    CHalfPiePropSerialize::SerializeHalfPieProp(stream, prop.First, "TopHalf");
-    CHalfPiePropSerialize::SerializeHalfPieProp(stream, prop.Second, "LowerHalf");
+    SerializeFields(stream, prop, tag);
+}
+
+void CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(penlode::ISerialize& stream,
+                                                                   HalfPieHistogramProp& prop) {
+    SerializeFields(stream, prop.HalfPie);
+    CHistogramPropSerialize::SerializeHistogramProp(stream, prop.Histogram);
+}
+
+void CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(penlode::CSerializeStream& stream,
+                                                                   HalfPieHistogramProp& prop,
+                                                                   const char* tag) {
+    KeyedRecord record(stream, tag);
+    record.Record("HalfPie", prop.HalfPie);
+    CHistogramPropSerialize::SerializeHistogramProp(stream, prop.Histogram, "Histogram");
 }
 
 } // namespace millichart

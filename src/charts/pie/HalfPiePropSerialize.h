@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/pie/HalfPieHistogramProp.h"
 #include "charts/pie/HalfPieProp.h"
 #include "foundation/Export.h"
 #include "penlode/streams/ISerialize.h"
@@ -14,12 +15,6 @@ public:
     static void SerializeHalfPieProp(penlode::ISerialize& stream, HalfPieProp& prop);
     /// In a group named `tag`. The half is stored by its name, which loses any number but 0 and 1.
     static void SerializeHalfPieProp(penlode::CSerializeStream& stream, HalfPieProp& prop, const char* tag);
-
-private:
-    static void SerializeHalfPieBasicProp(penlode::ISerialize& stream, HalfPieBasicProp& prop);
-    static void SerializeHalfPieBasicProp(penlode::CSerializeStream& stream, HalfPieBasicProp& prop);
-    static void SerializeHalfPieLabelProp(penlode::ISerialize& stream, PieLabelProp& prop);
-    static void SerializeHalfPieLabelProp(penlode::CSerializeStream& stream, PieLabelProp& prop);
 };
 
 /// Saves and loads a HalfPieHalfPieProp; keyed, in a group named `tag` with the first half as "TopHalf" and
@@ -29,6 +24,15 @@ public:
     static void SerializeHalfPieHalfPieProp(penlode::ISerialize& stream, HalfPieHalfPieProp& prop);
     static void SerializeHalfPieHalfPieProp(penlode::CSerializeStream& stream, HalfPieHalfPieProp& prop,
                                             const char* tag);
+};
+
+/// Saves and loads a HalfPieHistogramProp, the half pie first, which is not the record's order; keyed, in a
+/// group named `tag` as "HalfPie" and "Histogram".
+class MILLICHART_API CHalfPieHistogramPropSerialize {
+public:
+    static void SerializeHalfPieHistogramProp(penlode::ISerialize& stream, HalfPieHistogramProp& prop);
+    static void SerializeHalfPieHistogramProp(penlode::CSerializeStream& stream, HalfPieHistogramProp& prop,
+                                              const char* tag);
 };
 
 } // namespace millichart

@@ -22,10 +22,6 @@ public:
     static void SerializePieProp(penlode::ISerialize& stream, PieProp& prop);
     /// In a group named `tag`.
     static void SerializePieProp(penlode::CSerializeStream& stream, PieProp& prop, const char* tag);
-
-private:
-    static void SerializePieBasicProp(penlode::ISerialize& stream, PieBasicProp& prop);
-    static void SerializePieBasicProp(penlode::CSerializeStream& stream, PieBasicProp& prop);
 };
 
 } // namespace millichart

@@ -1,6 +1,5 @@
 #include "charts/pie/BasicHalfPieHistogram.h"
 
-#include "charts/pie/HalfPieHistogramPropSerialize.h"
 #include "charts/pie/HalfPiePropSerialize.h"
 #include "penlode/recording/RecordingEngine.h"
 #include "penlode/streams/BinarySerialize.h"
