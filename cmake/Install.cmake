@@ -1,6 +1,7 @@
 # What a host gets: the libraries, the public headers under the paths by which they are included, a package file for
 # CMake and one for pkg-config.
 include(CMakePackageConfigHelpers)
+include(cmake/PublicHeaders.cmake)
 
 install(TARGETS penlode millichart millichart-core EXPORT millichartTargets)
 install(
@@ -17,18 +18,8 @@ file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(packaging/millichart.pc.in millichart.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichart.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-set(headers ${CMAKE_INSTALL_INCLUDEDIR}/millichart)
-install(FILES src/millichart.h DESTINATION ${headers})
-install(DIRECTORY src/foundation src/charts DESTINATION ${headers} FILES_MATCHING PATTERN *.h)
-install(
-  DIRECTORY src/penlode
-  DESTINATION ${headers}
-  FILES_MATCHING
-  PATTERN *.h
-  PATTERN Gb18030.h EXCLUDE
-  PATTERN JsonFault.h EXCLUDE
-  PATTERN JsonTree.h EXCLUDE
-  PATTERN cairo EXCLUDE
-  PATTERN svg EXCLUDE)
-install(FILES src/penlode/cairo/GraphicsEngine.h DESTINATION ${headers}/penlode/cairo)
-install(FILES src/penlode/svg/SvgEngine.h src/penlode/svg/SvgOptions.h DESTINATION ${headers}/penlode/svg)
+public_headers(millichart_headers)
+foreach(header IN LISTS millichart_headers)
+  cmake_path(GET header PARENT_PATH folder)
+  install(FILES src/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/millichart/${folder})
+endforeach()

@@ -55,9 +55,10 @@ constexpr RectF Translated(const RectF& rect, PointF offset) {
 /// Spans from the smaller left and top to the larger right and bottom. An empty rectangle still pulls the
 /// union to its corner.
 constexpr RectF Union(const RectF& a, const RectF& b) {
-    const float left = std::min(a.X, b.X);
-    const float top = std::min(a.Y, b.Y);
-    return {left, top, std::max(a.Right(), b.Right()) - left, std::max(a.Bottom(), b.Bottom()) - top};
+    // In parentheses, since <windows.h> has macros of these names.
+    const float left = (std::min)(a.X, b.X);
+    const float top = (std::min)(a.Y, b.Y);
+    return {left, top, (std::max)(a.Right(), b.Right()) - left, (std::max)(a.Bottom(), b.Bottom()) - top};
 }
 
 } // namespace penlode

@@ -2,6 +2,10 @@
 
 #include <cstdint>
 
+#if defined(Status) || defined(None)
+#error "<X11/Xlib.h> defines Status and None as macros: include it after these headers, or undefine both"
+#endif
+
 /// Numbers that cross the drawing surface's interface, with the values that GDI+ gives them.
 namespace penlode {
 
