@@ -20,6 +20,7 @@
 #include "charts/pie/PiePropSerialize.h"
 #include "foundation/CaptionProp.h"
 #include "foundation/CaptionPropSerialize.h"
+#include "foundation/ChartText.h"
 #include "foundation/Legend.h"
 #include "foundation/LegendPropSerialize.h"
 #include "foundation/TextProperty.h"

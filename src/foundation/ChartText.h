@@ -12,6 +12,7 @@
 
 namespace millichart {
 
+/// What kind of thing a text names or measures.
 enum class TextRole {
     SliceLabel,
     VerAxisLabel,

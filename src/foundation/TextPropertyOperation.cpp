@@ -46,27 +46,6 @@ void DrawBox(IGraphicsEngine& engine, const TextProperty& property, const RectF&
     }
 }
 
-/// A container of the surface that keeps the caller's page unit and scale; ends with the scope.
-class ScopedContainer {
-public:
-    explicit ScopedContainer(IGraphicsEngine& engine) : m_engine(engine) {
-        const float scale = engine.GetPageScale();
-        const penlode::Unit unit = engine.GetPageUnit();
-        m_container = engine.BeginContainer();
-        engine.SetPageScale(scale);
-        engine.SetPageUnit(unit);
-    }
-
-    ~ScopedContainer() { m_engine.EndContainer(m_container); }
-
-    ScopedContainer(const ScopedContainer&) = delete;
-    ScopedContainer& operator=(const ScopedContainer&) = delete;
-
-private:
-    IGraphicsEngine& m_engine;
-    std::uint32_t m_container;
-};
-
 using Corners = std::array<PointF, 4>;
 
 /// See GetTextBound.
@@ -131,15 +110,14 @@ SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextPro
 
 void CTextPropertyOperation::Visit(const TextVisitor& visit, TextOwner owner, const std::string& text,
                                    const TextProperty& property, PointF point, TextAnchor anchor) {
-    if (!penlode::AreFinite(point.X, point.Y)) {
-        return;
-    }
     const penlode::Font* font = property.Font.Get();
     std::wstring wide = penlode::CStringUtil::AnsiToWideString(text);
     const SizeF size = penlode::CStringUtil::MeasureWideString(wide, font);
-    const RectF layout{-size.Width * 0.5F, -size.Height * 0.5F, size.Width, size.Height + kLayoutSlack};
-    visit({owner, std::move(wide), font, &property, BoxCenter(size, property.Angle, point, anchor), layout,
-           size});
+    const PointF center = BoxCenter(size, property.Angle, point, anchor);
+    if (penlode::AreFinite(center.X, center.Y)) {
+        const RectF layout{-size.Width * 0.5F, -size.Height * 0.5F, size.Width, size.Height + kLayoutSlack};
+        visit({owner, std::move(wide), font, &property, center, layout, size});
+    }
 }
 
 void CTextPropertyOperation::Draw(IGraphicsEngine& engine, const ChartText& text) {
@@ -147,11 +125,16 @@ void CTextPropertyOperation::Draw(IGraphicsEngine& engine, const ChartText& text
         Write(engine, text, penlode::kBlack);
         return;
     }
-    const ScopedContainer container(engine);
+    const float scale = engine.GetPageScale();
+    const penlode::Unit unit = engine.GetPageUnit();
+    const std::uint32_t container = engine.BeginContainer();
+    engine.SetPageScale(scale);
+    engine.SetPageUnit(unit);
     engine.TranslateTransform(text.Origin.X, text.Origin.Y, penlode::MatrixOrder::Prepend);
     engine.RotateTransform(-static_cast<float>(text.Property->Angle), penlode::MatrixOrder::Prepend);
     DrawBox(engine, *text.Property, {text.Layout.X, text.Layout.Y, text.Size.Width, text.Size.Height});
     Write(engine, text, text.Property->TextColor);
+    engine.EndContainer(container);
 }
 
 TextVisitor CTextPropertyOperation::DrawingOn(IGraphicsEngine& engine) {

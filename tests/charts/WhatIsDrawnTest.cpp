@@ -338,6 +338,30 @@ TEST(InkExtent, HoldsTheTextsThatReachOut) {
     EXPECT_EQ(chart.InkExtent(), chart.GetPositionAll()) << "cannot be seen";
 }
 
+TEST(InkExtent, CountsWhatIsNeitherNegligibleNorFarOnEverySide) {
+    const RectF whole{0, 0, 100, 100};
+    const penlode::Font font;
+    ChartText text;
+    text.Text = L"10 mm";
+    text.Font = &font;
+    text.Size = {10, 10};
+    const auto counts = [&](float x, float y) {
+        text.Layout = {x, y, 10, 10};
+        const RectF extent = WithText(whole, text, whole);
+        EXPECT_TRUE(extent == whole || extent == penlode::Union(whole, text.Layout));
+        return extent != whole;
+    };
+    for (const float within : {-1.0F, 50.0F, 91.0F}) {
+        EXPECT_FALSE(counts(within, 50) || counts(50, within)) << within;
+    }
+    for (const float out : {-19.5F, -1.5F, 91.5F, 109.5F}) {
+        EXPECT_TRUE(counts(out, 50) && counts(50, out)) << out;
+    }
+    for (const float away : {-20.0F, 110.0F}) {
+        EXPECT_FALSE(counts(away, 50) || counts(50, away)) << away;
+    }
+}
+
 TEST(InkExtent, OfATurnedTextIsTheUprightBoxRoundIt) {
     TextProperty property;
     property.Angle = 90;

@@ -52,15 +52,17 @@ public:
     /// need no order. A value below kCurveNullThreshold is null. Lists that are handed over are not copied.
     void SetCurveData(std::vector<std::vector<double>> values, std::vector<std::vector<std::int32_t>> times);
 
-    /// One list a curve, as they were set.
+    /// One list a curve, as set, whether or not they have been laid out since.
     const std::vector<std::vector<double>>& GetCurveValue() const { return m_values; }
 
+    /// One list a curve, as set; the lists need not be as long as those of the values.
     const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_times; }
 
     /// Narrow texts, spread evenly over the plot's width whatever the times are; shown if there are two or
     /// more.
     void SetHorAxisLabel(std::vector<std::string> labels) { m_labels = std::move(labels); }
 
+    /// As set, whether or not they have been laid out since.
     const std::vector<std::string>& GetHorAxisLabel() const { return m_labels; }
 
     /// With no curves, everything is empty at the location.

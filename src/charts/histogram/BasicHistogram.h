@@ -63,11 +63,13 @@ public:
     /// One list a group, one value a component.
     void SetComponentValue(const std::vector<std::vector<double>>& values) { m_values = values; }
 
+    /// As set, whether or not they have been laid out since.
     const std::vector<std::vector<double>>& GetComponentValue() const { return m_values; }
 
     /// Narrow texts, one a group; shown only if there are as many as groups.
     void SetGroupName(const std::vector<std::string>& names) { m_groupNames = names; }
 
+    /// As set, whether or not they have been laid out since.
     const std::vector<std::string>& GetGroupName() const { return m_groupNames; }
 
     /// With no groups, everything is empty at the location.

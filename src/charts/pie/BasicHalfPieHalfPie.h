@@ -38,8 +38,10 @@ public:
     /// One a slice of each half; shown after the next Layout.
     void SetComponentValue(const std::vector<double>& first, const std::vector<double>& second);
 
+    /// As set, whether or not they have been laid out since.
     const std::vector<double>& GetFirstComponentValue() const { return m_firstValues; }
 
+    /// As set, whether or not they have been laid out since.
     const std::vector<double>& GetSecondComponentValue() const { return m_secondValues; }
 
     /// The common centre of both circles.

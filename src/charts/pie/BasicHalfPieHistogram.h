@@ -37,10 +37,13 @@ public:
     void SetComponentValue(const std::vector<double>& slices, const std::vector<std::vector<double>>& groups,
                            double largest);
 
+    /// The slices', as set, whether or not they have been laid out since.
     const std::vector<double>& GetHalfPieValue() const { return m_slices; }
 
+    /// The bars', one list a group, as set, whether or not they have been laid out since.
     const std::vector<std::vector<double>>& GetHistogramValue() const { return m_groups; }
 
+    /// What the bars' axis was asked to hold; its range may come from an earlier one.
     double GetLargestValue() const { return m_largest; }
 
     /// The half pie's centre.

@@ -15,6 +15,7 @@ public:
     /// One a slice.
     void SetComponentValue(const std::vector<double>& values) { m_values = values; }
 
+    /// As set, whether or not they have been laid out since.
     const std::vector<double>& GetComponentValue() const { return m_values; }
 
     /// The centre of the full circle, in mm of the page: for a half pie, the middle of its flat side.
