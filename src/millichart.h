@@ -21,6 +21,7 @@
 #include "charts/pie/PieProp.h"
 #include "charts/pie/PiePropSerialize.h"
 #include "foundation/CaptionProp.h"
+#include "foundation/ChartText.h"
 #include "foundation/Legend.h"
 #include "foundation/PropSerialize.h"
 #include "foundation/TextProperty.h"

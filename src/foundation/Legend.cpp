@@ -4,6 +4,7 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace millichart {
 
@@ -81,6 +82,32 @@ PointF ColumnStart(const LegendProp& prop, const std::vector<SizeF>& sizes, cons
             Aligned(prop.LegendPos % kAlongEachSide, plot.Y, plot.Height, height)};
 }
 
+/// Black and level, in the middle of what the swatch leaves of the item.
+ChartText NameOf(const LegendProp& prop, std::size_t index, const std::string& name, const RectF& item,
+                 float swatchFactor) {
+    const penlode::Font* font = prop.Font.Get();
+    const float swatch = swatchFactor * item.Height;
+    std::wstring wide = penlode::CStringUtil::AnsiToWideString(name);
+    const SizeF size = penlode::CStringUtil::MeasureWideString(wide, font);
+    return {{TextRole::LegendName, index},
+            std::move(wide),
+            font,
+            nullptr,
+            {},
+            {item.X + swatch, item.Y, item.Width - swatch, item.Height},
+            size};
+}
+
+void DrawBox(penlode::IGraphicsEngine& engine, const LegendProp& prop, const RectF& box) {
+    if (prop.ShowBackground != 0) {
+        const penlode::SolidBrush brush{prop.BackgroundColor};
+        engine.FillRectangle(&brush, box.X, box.Y, box.Width, box.Height);
+    }
+    if (prop.ShowEdge != 0) {
+        engine.DrawRectangle(prop.PenEdge.Get(), box.X, box.Y, box.Width, box.Height);
+    }
+}
+
 } // namespace
 
 RectF UnionOf(const std::vector<RectF>& rects) {
@@ -108,35 +135,23 @@ std::vector<RectF> CLegendOperation::PlaceItems(const LegendProp& prop, const st
     return items;
 }
 
-void CLegendOperation::DrawBox(penlode::IGraphicsEngine* engine, const LegendProp& prop,
-                               const std::vector<RectF>& items) {
-    const RectF box = UnionOf(items);
-    if (prop.ShowBackground != 0) {
-        const penlode::SolidBrush brush{prop.BackgroundColor};
-        engine->FillRectangle(&brush, box.X, box.Y, box.Width, box.Height);
+void CLegendOperation::VisitNames(const TextVisitor& visit, const LegendProp& prop,
+                                  const std::vector<std::string>& names, const std::vector<RectF>& items,
+                                  float swatchFactor) {
+    const std::size_t count = prop.ShowLegend == 0 ? 0 : std::min(names.size(), items.size());
+    for (std::size_t i = 0; i < count; ++i) {
+        visit(NameOf(prop, i, names[i], items[i], swatchFactor));
     }
-    if (prop.ShowEdge != 0) {
-        engine->DrawRectangle(prop.PenEdge.Get(), box.X, box.Y, box.Width, box.Height);
-    }
-}
-
-void CLegendOperation::DrawName(penlode::IGraphicsEngine* engine, const LegendProp& prop,
-                                const std::string& name, const RectF& place) {
-    const penlode::SolidBrush black{penlode::kBlack};
-    const std::wstring text = penlode::CStringUtil::AnsiToWideString(name);
-    engine->DrawString(text.c_str(), -1, prop.Font.Get(), place, &kCenteredFormat, &black);
 }
 
 void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& prop,
                             const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
                             const std::vector<RectF>& items) {
-    if (engine == nullptr || prop.ShowLegend == 0 || items.empty()) {
+    if (engine == nullptr) {
         return;
     }
-    DrawBox(engine, prop, items);
     const penlode::Pen frame(penlode::kBlack, kSwatchFrameWidth);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const RectF& item = items[i];
+    Draw(*engine, prop, names, items, kLegendSquareFactor, [&](std::size_t i, const RectF& item) {
         const float side = item.Height - 2.0F * kSwatchMargin;
         const PointF corner{item.X + kSwatchMargin, item.Y + kSwatchMargin};
         if (i < colors.size()) {
@@ -144,9 +159,20 @@ void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& 
             engine->FillRectangle(&fill, corner.X, corner.Y, side, side);
         }
         engine->DrawRectangle(&frame, corner.X, corner.Y, side, side);
+    });
+}
+
+void CLegendOperation::Draw(penlode::IGraphicsEngine& engine, const LegendProp& prop,
+                            const std::vector<std::string>& names, const std::vector<RectF>& items,
+                            float swatchFactor, const LegendSwatch& drawSwatch) {
+    if (prop.ShowLegend == 0 || items.empty()) {
+        return;
+    }
+    DrawBox(engine, prop, UnionOf(items));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        drawSwatch(i, items[i]);
         if (i < names.size()) {
-            DrawName(engine, prop, names[i],
-                     {item.X + item.Height, item.Y, item.Width - item.Height, item.Height});
+            CTextPropertyOperation::Draw(engine, NameOf(prop, i, names[i], items[i], swatchFactor));
         }
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "penlode/Color.h"
 #include "penlode/Equality.h"
@@ -10,6 +11,7 @@
 #include "penlode/Pen.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -54,6 +56,12 @@ struct LegendProp {
     }
 };
 
+/// A colour square is as wide as its item is high.
+inline constexpr float kLegendSquareFactor = 1.0F;
+
+/// Draws what stands before the name of item `index`.
+using LegendSwatch = std::function<void(std::size_t index, const penlode::RectF& item)>;
+
 /// Places and draws the legend.
 class MILLICHART_API CLegendOperation {
 public:
@@ -69,13 +77,15 @@ public:
                      const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
                      const std::vector<penlode::RectF>& items);
 
-    /// The fill and the frame of the legend's box, the union of its items.
-    static void DrawBox(penlode::IGraphicsEngine* engine, const LegendProp& prop,
-                        const std::vector<penlode::RectF>& items);
+    /// Draws a legend whose items begin with swatches of another kind, `swatchFactor` times as wide as high.
+    static void Draw(penlode::IGraphicsEngine& engine, const LegendProp& prop,
+                     const std::vector<std::string>& names, const std::vector<penlode::RectF>& items,
+                     float swatchFactor, const LegendSwatch& drawSwatch);
 
-    /// An item's name, black, in the middle of `place`.
-    static void DrawName(penlode::IGraphicsEngine* engine, const LegendProp& prop, const std::string& name,
-                         const penlode::RectF& place);
+    /// The names that a legend shows, each in the middle of what its swatch leaves of its item.
+    static void VisitNames(const TextVisitor& visit, const LegendProp& prop,
+                           const std::vector<std::string>& names, const std::vector<penlode::RectF>& items,
+                           float swatchFactor);
 };
 
 /// The union of all rectangles; (0, 0, 0, 0) for none.

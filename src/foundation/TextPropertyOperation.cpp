@@ -4,7 +4,9 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 namespace millichart {
 
@@ -23,6 +25,10 @@ constexpr float kFrameWidth = 0.1F;
 /// The layout rectangle is a little taller than the box, so that rounding never costs a text its last line.
 constexpr float kLayoutSlack = 0.5F;
 
+/// Across and down in the middle of the layout rectangle, as all chart texts stand.
+constexpr penlode::StringFormat kCenteredFormat{0, 0, penlode::StringAlignment::Center,
+                                                penlode::StringAlignment::Center};
+
 /// (cos angle, sin angle) × length on a surface whose y grows downwards, each factor in single precision.
 PointF Along(double angle, float length) {
     return {static_cast<float>(std::cos(angle)) * length, -static_cast<float>(std::sin(angle)) * length};
@@ -40,74 +46,114 @@ void DrawBox(IGraphicsEngine& engine, const TextProperty& property, const RectF&
     }
 }
 
-} // namespace
+using Corners = std::array<PointF, 4>;
 
-ScopedContainer::ScopedContainer(IGraphicsEngine& engine) : m_engine(engine) {
-    const float scale = engine.GetPageScale();
-    const penlode::Unit unit = engine.GetPageUnit();
-    m_container = engine.BeginContainer();
-    engine.SetPageScale(scale);
-    engine.SetPageUnit(unit);
-}
-
-ScopedContainer::~ScopedContainer() {
-    m_engine.EndContainer(m_container);
-}
-
-void CTextPropertyOperation::GetTextBound(const std::string& text, const TextProperty& property,
-                                          std::vector<PointF>& corners) {
-    const SizeF size = penlode::CStringUtil::MeasureString(text, property.Font.Get());
-    const double angle = property.Angle * kPi / 180.0;
+/// See GetTextBound.
+Corners TurnedCorners(SizeF size, std::int32_t degrees) {
+    const double angle = degrees * kPi / 180.0;
     const float diagonal = std::sqrt(size.Width * size.Width + size.Height * size.Height);
     // An empty text has no diagonal and so no direction.
     const double toDiagonal = diagonal > 0.0F ? std::acos(size.Width / diagonal) : 0.0;
     const auto down = static_cast<float>(std::cos(kHalfPi - angle));
     const auto acrossDown = static_cast<float>(std::sin(kHalfPi - angle));
-    corners = {PointF{}, Along(angle, size.Width), Along(angle - toDiagonal, diagonal),
-               PointF{down * size.Height, acrossDown * size.Height}};
+    return {PointF{}, Along(angle, size.Width), Along(angle - toDiagonal, diagonal),
+            PointF{down * size.Height, acrossDown * size.Height}};
 }
 
-SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextProperty& property) {
-    std::vector<PointF> corners;
-    GetTextBound(text, property, corners);
-    PointF least = corners.front();
-    PointF most = corners.front();
-    for (const PointF& corner : corners) {
+SizeF TurnedSize(SizeF size, std::int32_t degrees) {
+    PointF least;
+    PointF most;
+    for (const PointF& corner : TurnedCorners(size, degrees)) {
         least = {std::min(least.X, corner.X), std::min(least.Y, corner.Y)};
         most = {std::max(most.X, corner.X), std::max(most.Y, corner.Y)};
     }
     return {most.X - least.X, most.Y - least.Y};
 }
 
-void CTextPropertyOperation::DrawTextAtCenter(IGraphicsEngine* engine, const std::string& text,
-                                              const TextProperty& property, PointF point) {
-    if (engine == nullptr || !penlode::AreFinite(point.X, point.Y)) {
+/// Where the centre of a turned text is whose bounding box is held at `point`.
+PointF BoxCenter(SizeF text, std::int32_t degrees, PointF point, TextAnchor anchor) {
+    switch (anchor) {
+    case TextAnchor::BottomCenter:
+        return {point.X, point.Y - TurnedSize(text, degrees).Height * 0.5F};
+    case TextAnchor::LeftCenter:
+        return {point.X + TurnedSize(text, degrees).Width * 0.5F, point.Y};
+    default:
+        return point;
+    }
+}
+
+void DrawHeld(IGraphicsEngine* engine, const std::string& text, const TextProperty& property, PointF point,
+              TextAnchor anchor) {
+    if (engine != nullptr) {
+        CTextPropertyOperation::Visit(CTextPropertyOperation::DrawingOn(*engine), {}, text, property, point,
+                                      anchor);
+    }
+}
+
+void Write(IGraphicsEngine& engine, const ChartText& text, penlode::Color color) {
+    const penlode::SolidBrush brush{color};
+    engine.DrawString(text.Text.c_str(), -1, text.Font, text.Layout, &kCenteredFormat, &brush);
+}
+
+} // namespace
+
+void CTextPropertyOperation::GetTextBound(const std::string& text, const TextProperty& property,
+                                          std::vector<PointF>& corners) {
+    const Corners turned =
+        TurnedCorners(penlode::CStringUtil::MeasureString(text, property.Font.Get()), property.Angle);
+    corners.assign(turned.begin(), turned.end());
+}
+
+SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextProperty& property) {
+    return TurnedSize(penlode::CStringUtil::MeasureString(text, property.Font.Get()), property.Angle);
+}
+
+void CTextPropertyOperation::Visit(const TextVisitor& visit, TextOwner owner, const std::string& text,
+                                   const TextProperty& property, PointF point, TextAnchor anchor) {
+    const penlode::Font* font = property.Font.Get();
+    std::wstring wide = penlode::CStringUtil::AnsiToWideString(text);
+    const SizeF size = penlode::CStringUtil::MeasureWideString(wide, font);
+    const PointF center = BoxCenter(size, property.Angle, point, anchor);
+    if (penlode::AreFinite(center.X, center.Y)) {
+        const RectF layout{-size.Width * 0.5F, -size.Height * 0.5F, size.Width, size.Height + kLayoutSlack};
+        visit({owner, std::move(wide), font, &property, center, layout, size});
+    }
+}
+
+void CTextPropertyOperation::Draw(IGraphicsEngine& engine, const ChartText& text) {
+    if (text.Property == nullptr) {
+        Write(engine, text, penlode::kBlack);
         return;
     }
-    const penlode::SolidBrush brush{property.TextColor};
-    const std::wstring wide = penlode::CStringUtil::AnsiToWideString(text);
+    const float scale = engine.GetPageScale();
+    const penlode::Unit unit = engine.GetPageUnit();
+    const std::uint32_t container = engine.BeginContainer();
+    engine.SetPageScale(scale);
+    engine.SetPageUnit(unit);
+    engine.TranslateTransform(text.Origin.X, text.Origin.Y, penlode::MatrixOrder::Prepend);
+    engine.RotateTransform(-static_cast<float>(text.Property->Angle), penlode::MatrixOrder::Prepend);
+    DrawBox(engine, *text.Property, {text.Layout.X, text.Layout.Y, text.Size.Width, text.Size.Height});
+    Write(engine, text, text.Property->TextColor);
+    engine.EndContainer(container);
+}
 
-    const ScopedContainer container(*engine);
-    engine->TranslateTransform(point.X, point.Y, penlode::MatrixOrder::Prepend);
-    engine->RotateTransform(-static_cast<float>(property.Angle), penlode::MatrixOrder::Prepend);
+TextVisitor CTextPropertyOperation::DrawingOn(IGraphicsEngine& engine) {
+    return [&engine](const ChartText& text) { Draw(engine, text); };
+}
 
-    const SizeF size = penlode::CStringUtil::MeasureString(text, property.Font.Get());
-    const RectF box{-size.Width * 0.5F, -size.Height * 0.5F, size.Width, size.Height};
-    DrawBox(*engine, property, box);
-    engine->DrawString(wide.c_str(), -1, property.Font.Get(),
-                       RectF{box.X, box.Y, box.Width, box.Height + kLayoutSlack}, &kCenteredFormat, &brush);
+void CTextPropertyOperation::DrawTextAtCenter(IGraphicsEngine* engine, const std::string& text,
+                                              const TextProperty& property, PointF point) {
+    DrawHeld(engine, text, property, point, TextAnchor::Center);
 }
 
 void CTextPropertyOperation::DrawTextAtBottomCenter(IGraphicsEngine* engine, const std::string& text,
                                                     const TextProperty& property, PointF point) {
-    const SizeF size = GetTextSize(text, property);
-    DrawTextAtCenter(engine, text, property, {point.X, point.Y - size.Height * 0.5F});
+    DrawHeld(engine, text, property, point, TextAnchor::BottomCenter);
 }
 
 void CTextPropertyOperation::DrawTextAtLeftCenter(IGraphicsEngine* engine, const std::string& text,
                                                   const TextProperty& property, PointF point) {
-    const SizeF size = GetTextSize(text, property);
-    DrawTextAtCenter(engine, text, property, {point.X + size.Width * 0.5F, point.Y});
+    DrawHeld(engine, text, property, point, TextAnchor::LeftCenter);
 }
 
 } // namespace millichart

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "foundation/TextProperty.h"
 #include "penlode/Geometry.h"
@@ -10,8 +11,11 @@
 
 namespace millichart {
 
-/// Measures and draws texts that may be turned, boxed and framed. Texts are narrow; "\n" breaks a line. The
-/// record's prefix and postfix are the caller's to apply (see Decorated).
+/// What of a turned text's bounding box is held at a point.
+enum class TextAnchor { Center, BottomCenter, LeftCenter };
+
+/// Measures, places and draws texts that may be turned, boxed and framed. Texts are narrow; "\n" breaks a
+/// line. The record's prefix and postfix are the caller's to apply (see Decorated).
 class MILLICHART_API CTextPropertyOperation {
 public:
     /// The four corners of the turned text box, with the unturned box's top-left corner at (0, 0):
@@ -25,8 +29,17 @@ public:
     /// Width and height of the axis-aligned box that holds the turned text; (0, 0) for an empty text.
     static penlode::SizeF GetTextSize(const std::string& text, const TextProperty& property);
 
-    /// Draws with the box's centre at `point`; nothing where that is not finite. The surface is left as it
-    /// was found.
+    /// Hands on a text that looks as `property` says and is held at `point`; nothing where that is not
+    /// finite.
+    static void Visit(const TextVisitor& visit, TextOwner owner, const std::string& text,
+                      const TextProperty& property, penlode::PointF point,
+                      TextAnchor anchor = TextAnchor::Center);
+    /// Draws a text as it was placed. The surface is left as it was found.
+    static void Draw(penlode::IGraphicsEngine& engine, const ChartText& text);
+    /// A visitor that draws what it gets. The engine must outlive it.
+    static TextVisitor DrawingOn(penlode::IGraphicsEngine& engine);
+
+    /// Draws with the box's centre at `point`; nothing where that is not finite.
     static void DrawTextAtCenter(penlode::IGraphicsEngine* engine, const std::string& text,
                                  const TextProperty& property, penlode::PointF point);
     /// Draws with the bottom centre of the turned bounding box at `point`.
@@ -36,22 +49,5 @@ public:
     static void DrawTextAtLeftCenter(penlode::IGraphicsEngine* engine, const std::string& text,
                                      const TextProperty& property, penlode::PointF point);
 };
-
-/// A container of the surface that keeps the caller's page unit and scale; ends with the scope.
-class MILLICHART_API ScopedContainer {
-public:
-    explicit ScopedContainer(penlode::IGraphicsEngine& engine);
-    ~ScopedContainer();
-    ScopedContainer(const ScopedContainer&) = delete;
-    ScopedContainer& operator=(const ScopedContainer&) = delete;
-
-private:
-    penlode::IGraphicsEngine& m_engine;
-    std::uint32_t m_container;
-};
-
-/// Across and down in the middle of the layout rectangle, as all chart texts stand.
-inline constexpr penlode::StringFormat kCenteredFormat{0, 0, penlode::StringAlignment::Center,
-                                                       penlode::StringAlignment::Center};
 
 } // namespace millichart

@@ -7,7 +7,6 @@
 #include "files/OutputFile.h"
 #include "files/UserError.h"
 #include "pages/ChartDocument.h"
-#include "pages/ChartExtent.h"
 #include "pages/FontReport.h"
 
 #include <filesystem>
@@ -59,7 +58,7 @@ SizeF PageOf(const DrawOptions& options, const RectF& extent, const std::string&
 /// The file's bytes.
 std::string Render(const DrawOptions& options, const ChartDocument& document, const std::string& shownName,
                    const OutputName& output) {
-    const RectF extent = ExtentWithTexts(*document.Content);
+    const RectF extent = document.Content->InkExtent();
     const SizeF page = PageOf(options, extent, shownName);
     const std::unique_ptr<Picture> picture =
         MakePicture({output.Format, page, options.Dpi, options.Background, document.Title,

@@ -5,7 +5,6 @@
 #include "files/InputFile.h"
 #include "files/OutputFile.h"
 #include "pages/ChartDocument.h"
-#include "pages/ChartExtent.h"
 
 namespace cli {
 namespace {
@@ -25,7 +24,7 @@ bool Inspect(const InspectOptions& options) {
     document.Content->Draw(recorder);
     const Json inspected{{"file", ShownName(options.Input)},
                          {"kind", document.Kind},
-                         {"extent", ToJson(ExtentWithTexts(*document.Content))},
+                         {"extent", ToJson(document.Content->InkExtent())},
                          {"layout", document.Content->Layout()},
                          {"calls", CallsToJson(recorder.Calls())}};
     WriteOutput(kStandardStream, Printed(inspected, kLevels));

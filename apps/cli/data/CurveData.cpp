@@ -20,8 +20,7 @@ constexpr const char* kWhole = "a whole number within 32 bits";
 std::vector<double> LoadValues(ChartStream& stream) {
     std::vector<double> values = stream.LoadNumbersAndGaps("values");
     std::replace_if(
-        values.begin(), values.end(), [](double value) { return std::isnan(value); },
-        millichart::kCurveNullThreshold - 1.0);
+        values.begin(), values.end(), [](double value) { return std::isnan(value); }, millichart::kCurveNull);
     return values;
 }
 

@@ -1,5 +1,6 @@
 #include "data/CurveTable.h"
 
+#include "charts/curve/CurveProp.h"
 #include "documents/Fields.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"
@@ -12,9 +13,6 @@ namespace cli {
 namespace {
 
 using penlode::CStringUtil;
-
-/// Below the library's threshold.
-constexpr double kNull = -9999999.0;
 
 constexpr const char* kWholeNumber = "a whole number, as in the rows above";
 
@@ -103,7 +101,7 @@ private:
     /// Most cells are plain numbers; the table knows what to say of the others.
     double ValueOf(const CsvRow& row, std::size_t column) {
         if (column >= row.Cells.size() || row.Cells[column].empty()) {
-            return kNull;
+            return millichart::kCurveNull;
         }
         const std::string& cell = row.Cells[column];
         const char* const end = cell.data() + cell.size();

@@ -3,6 +3,7 @@
 #include "data/ChartData.h"
 #include "documents/ChartStream.h"
 #include "documents/Json.h"
+#include "foundation/ChartText.h"
 #include "penlode/Geometry.h"
 #include "penlode/IGraphicsEngine.h"
 
@@ -16,6 +17,10 @@ class Chart {
 public:
     virtual ~Chart() = default;
     virtual penlode::RectF Extent() const = 0;
+    /// With the texts that reach out of it.
+    virtual penlode::RectF InkExtent() const = 0;
+    /// The texts that Draw would draw.
+    virtual void VisitTexts(const millichart::TextVisitor& visit) const = 0;
     virtual void Draw(penlode::IGraphicsEngine& engine) const = 0;
     /// The results of its layout, in the chart's own millimetres.
     virtual Json Layout() const = 0;

@@ -34,7 +34,7 @@ double LargestOf(const std::vector<std::vector<double>>& curves) {
             largest = std::max(largest, value);
         }
     }
-    return largest < millichart::kCurveNullThreshold ? -HUGE_VAL : largest;
+    return millichart::IsCurveNull(largest) ? -HUGE_VAL : largest;
 }
 
 /// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
@@ -49,7 +49,7 @@ std::int32_t ReadableStep(std::size_t count) {
     return 1000000000;
 }
 
-Json FigureToJson(const millichart::CurveFigure& curve) {
+Json FigureToJson(const millichart::CurveTrace& curve) {
     Json nulls = Json::array();
     for (std::size_t i = 0; curve.HasNull && i < curve.NullFlags.size(); ++i) {
         if (curve.NullFlags[i]) {
@@ -86,6 +86,10 @@ public:
 
     penlode::RectF Extent() const override { return m_chart.GetPositionAll(); }
 
+    penlode::RectF InkExtent() const override { return m_chart.InkExtent(); }
+
+    void VisitTexts(const millichart::TextVisitor& visit) const override { m_chart.VisitTexts(visit); }
+
     void Draw(penlode::IGraphicsEngine& engine) const override { m_chart.Draw(&engine); }
 
     Json Layout() const override {
@@ -93,7 +97,7 @@ public:
         Json json = CartesianLayoutToJson(layout);
         json["horLabelRects"] = ListToJson(layout.HorLabelRects);
         Json curves = Json::array();
-        for (const millichart::CurveFigure& curve : layout.Curves) {
+        for (const millichart::CurveTrace& curve : layout.Curves) {
             curves.push_back(FigureToJson(curve));
         }
         json["curves"] = std::move(curves);
@@ -198,7 +202,7 @@ private:
                                       plot.NullValueStyle[curve] != millichart::CurveNullValueStyle::Break;
             for (std::size_t i = 0; i < data.Values[curve].size(); ++i) {
                 const double value = data.Values[curve][i];
-                const bool isNull = value < millichart::kCurveNullThreshold;
+                const bool isNull = millichart::IsCurveNull(value);
                 if (!isNull || nullsAreZero) {
                     doubts.Look(isNull ? 0.0 : value, [&] { return data.PlaceOf(curve, i); });
                 }

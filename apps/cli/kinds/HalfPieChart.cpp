@@ -27,6 +27,10 @@ public:
 
     penlode::RectF Extent() const override { return m_halfPie.GetPositionAll(); }
 
+    penlode::RectF InkExtent() const override { return m_halfPie.InkExtent(); }
+
+    void VisitTexts(const millichart::TextVisitor& visit) const override { m_halfPie.VisitTexts(visit); }
+
     void Draw(penlode::IGraphicsEngine& engine) const override { m_halfPie.Draw(&engine); }
 
     Json Layout() const override { return PieLayoutToJson(m_halfPie.GetLayout()); }

@@ -16,9 +16,6 @@ using penlode::PointF;
 constexpr const char* kFirstPlace = "property/TopHalf/HalfPieBasicProp";
 constexpr const char* kSecondPlace = "property/LowerHalf/HalfPieBasicProp";
 
-/// In the chart's one list of label offsets, between those of the first half and those of the second.
-constexpr PointF kSeparator{-99999.0F, -99999.0F};
-
 bool IsUpper(const HalfPieProp& prop) {
     return prop.Basic.WhichPart == millichart::HalfPiePart::Upper;
 }
@@ -41,6 +38,10 @@ public:
     }
 
     penlode::RectF Extent() const override { return m_chart.GetPositionAll(); }
+
+    penlode::RectF InkExtent() const override { return m_chart.InkExtent(); }
+
+    void VisitTexts(const millichart::TextVisitor& visit) const override { m_chart.VisitTexts(visit); }
 
     void Draw(penlode::IGraphicsEngine& engine) const override { m_chart.Draw(&engine); }
 
@@ -77,7 +78,7 @@ private:
         stream.Pop();
         m_first.DoubtOffsets(offsets.size(), "labelOffsets/first", prop.First.Basic);
         m_second.DoubtOffsets(second.size(), "labelOffsets/second", prop.Second.Basic);
-        offsets.push_back(kSeparator);
+        offsets.push_back(millichart::kHalvesSeparator);
         offsets.insert(offsets.end(), second.begin(), second.end());
         return offsets;
     }

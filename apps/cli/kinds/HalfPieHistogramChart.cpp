@@ -41,6 +41,10 @@ public:
 
     penlode::RectF Extent() const override { return m_chart.GetPositionAll(); }
 
+    penlode::RectF InkExtent() const override { return m_chart.InkExtent(); }
+
+    void VisitTexts(const millichart::TextVisitor& visit) const override { m_chart.VisitTexts(visit); }
+
     void Draw(penlode::IGraphicsEngine& engine) const override { m_chart.Draw(&engine); }
 
     Json Layout() const override {

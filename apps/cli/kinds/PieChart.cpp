@@ -12,7 +12,6 @@ namespace {
 
 using millichart::PieProp;
 
-constexpr float kFullTurn = 360.0F;
 /// After these a number of single precision no longer tells the slices apart.
 constexpr float kManyTurns = 1e5F;
 
@@ -34,6 +33,10 @@ public:
 
     penlode::RectF Extent() const override { return m_pie.GetPositionAll(); }
 
+    penlode::RectF InkExtent() const override { return m_pie.InkExtent(); }
+
+    void VisitTexts(const millichart::TextVisitor& visit) const override { m_pie.VisitTexts(visit); }
+
     void Draw(penlode::IGraphicsEngine& engine) const override { m_pie.Draw(&engine); }
 
     Json Layout() const override {
@@ -45,7 +48,7 @@ public:
     std::vector<Message> Doubts() const override {
         const millichart::PieBasicProp& basic = m_pie.GetPieProp().Basic;
         std::vector<Message> doubts = m_slices.Doubts(basic, m_pie.GetLayout().Pie.Width);
-        if (basic.StartAngle < 0.0F || basic.StartAngle >= kFullTurn) {
+        if (basic.StartAngle < 0.0F || basic.StartAngle >= millichart::kFullTurn) {
             doubts.push_back({"",
                               std::abs(basic.StartAngle) < kManyTurns ? Severity::Warning : Severity::Error,
                               0, "property/PieBasicProp/StartAngle", NumberText(basic.StartAngle),

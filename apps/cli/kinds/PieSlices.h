@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/pie/PieFigure.h"
+#include "charts/pie/PieLayout.h"
 #include "data/PieData.h"
 #include "documents/ChartStream.h"
 #include "documents/Json.h"

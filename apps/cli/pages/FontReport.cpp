@@ -1,6 +1,5 @@
 #include "pages/FontReport.h"
 
-#include "pages/TextListener.h"
 #include "penlode/text/FontFace.h"
 #include "penlode/text/StringUtil.h"
 
@@ -31,10 +30,11 @@ std::string FaceMessage(const std::wstring& family) {
 
 FontReport ReportFonts(const Chart& chart) {
     std::map<std::wstring, std::wstring> missingByFamily;
-    TextListener listener([&](const std::wstring& text, const penlode::Font& font, const penlode::RectF&) {
-        AddNew(missingByFamily[font.Family], penlode::MissingCharacters(text, font));
+    chart.VisitTexts([&](const millichart::ChartText& text) {
+        if (text.Font != nullptr) {
+            AddNew(missingByFamily[text.Font->Family], penlode::MissingCharacters(text.Text, *text.Font));
+        }
     });
-    chart.Draw(listener);
     FontReport report;
     for (const auto& [family, missing] : missingByFamily) {
         report.Faces.push_back(FaceMessage(family));

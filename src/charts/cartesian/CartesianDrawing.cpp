@@ -1,9 +1,5 @@
 #include "charts/cartesian/CartesianDrawing.h"
 
-#include "foundation/TextPropertyOperation.h"
-
-#include <algorithm>
-
 namespace millichart {
 
 using penlode::IGraphicsEngine;
@@ -45,17 +41,6 @@ void DrawVerAxisLine(IGraphicsEngine& engine, const VerAxisProp& prop, const Car
     DrawVerTicks(engine, pen, layout.VerMinorTicks, TickOf(prop.MinorScaleStyle, kMinorTickLength));
 }
 
-void DrawVerLabels(IGraphicsEngine& engine, const VerAxisProp& prop, const CartesianLayout& layout) {
-    if (prop.ShowVerAxisLabel == 0) {
-        return;
-    }
-    for (std::size_t i = 0; i < layout.VerLabelRects.size(); ++i) {
-        CTextPropertyOperation::DrawTextAtCenter(&engine, layout.VerLabelTexts[i],
-                                                 prop.VerAxisLabelTextProperty,
-                                                 layout.VerLabelRects[i].Center());
-    }
-}
-
 void DrawHorGrid(IGraphicsEngine& engine, const penlode::Pen* pen, const std::vector<PointF>& ticks,
                  float plotWidth) {
     for (const PointF tick : ticks) {
@@ -86,10 +71,25 @@ void FillRect(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const R
     engine.FillRectangle(&brush, rect.X, rect.Y, rect.Width, rect.Height);
 }
 
-void DrawCaptionText(IGraphicsEngine& engine, std::int32_t isShown, const std::string& caption,
-                     const TextProperty& property, const RectF& rect) {
-    if (isShown != 0) {
-        CTextPropertyOperation::DrawTextAtCenter(&engine, caption, property, rect.Center());
+void VisitVerLabels(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout) {
+    const bool isShown = prop.ShowVerAxis != 0 && prop.ShowVerAxisLabel != 0;
+    for (std::size_t i = 0; isShown && i < layout.VerLabelRects.size(); ++i) {
+        CTextPropertyOperation::Visit(visit, {TextRole::VerAxisLabel, i}, layout.VerLabelTexts[i],
+                                      prop.VerAxisLabelTextProperty, layout.VerLabelRects[i].Center());
+    }
+}
+
+void VisitVerCaption(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout) {
+    if (prop.ShowVerAxis != 0 && prop.ShowVerCaption != 0) {
+        CTextPropertyOperation::Visit(visit, {TextRole::VerCaption}, prop.VerCaption,
+                                      prop.VerCaptionTextProperty, layout.VerCaption.Center());
+    }
+}
+
+void VisitCaption(const TextVisitor& visit, const CaptionProp& prop, const CartesianLayout& layout) {
+    if (prop.ShowCaption != 0) {
+        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, prop.Caption, prop.CaptionTextProperty,
+                                      layout.Caption.Center());
     }
 }
 

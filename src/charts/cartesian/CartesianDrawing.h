@@ -1,6 +1,8 @@
 #pragma once
 
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianPlacement.h"
+#include "foundation/CaptionProp.h"
+#include "foundation/TextPropertyOperation.h"
 #include "penlode/IGraphicsEngine.h"
 
 /// What bar and line charts share in their drawing: ticks, labels, grids, captions.
@@ -22,8 +24,6 @@ TickSpan TickOf(std::int32_t style, float length);
 void DrawVerAxisLine(penlode::IGraphicsEngine& engine, const VerAxisProp& prop,
                      const CartesianLayout& layout);
 
-void DrawVerLabels(penlode::IGraphicsEngine& engine, const VerAxisProp& prop, const CartesianLayout& layout);
-
 /// One line across the plot from each point.
 void DrawHorGrid(penlode::IGraphicsEngine& engine, const penlode::Pen* pen,
                  const std::vector<penlode::PointF>& ticks, float plotWidth);
@@ -41,8 +41,23 @@ void DrawHorTicks(penlode::IGraphicsEngine& engine, const penlode::Pen* pen,
 
 void FillRect(penlode::IGraphicsEngine& engine, const penlode::SolidBrush& brush, const penlode::RectF& rect);
 
-/// In the middle of `rect`, if its flag is on.
-void DrawCaptionText(penlode::IGraphicsEngine& engine, std::int32_t isShown, const std::string& caption,
-                     const TextProperty& property, const penlode::RectF& rect);
+/// The value axis's labels, if axis and labels are shown.
+void VisitVerLabels(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout);
+
+/// The value axis's caption, if axis and caption are shown.
+void VisitVerCaption(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout);
+
+/// The horizontal axis's caption, if axis and caption are shown. For a HistogramHorAxisProp or a
+/// CurveHorAxisProp.
+template <class HorAxisProp>
+void VisitHorCaption(const TextVisitor& visit, const HorAxisProp& prop, const CartesianLayout& layout) {
+    if (prop.ShowHorAxis != 0 && prop.ShowHorCaption != 0) {
+        CTextPropertyOperation::Visit(visit, {TextRole::HorCaption}, prop.HorCaption,
+                                      prop.HorCaptionTextProperty, layout.HorCaption.Center());
+    }
+}
+
+/// The chart's caption, if it is shown.
+void VisitCaption(const TextVisitor& visit, const CaptionProp& prop, const CartesianLayout& layout);
 
 } // namespace millichart

@@ -1,6 +1,7 @@
 #include "charts/curve/BasicCurve.h"
 
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianPlacement.h"
+#include "charts/curve/CurvePlacement.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ using penlode::SizeF;
 
 namespace {
 
-constexpr float kLegendSampleFactor = 2.0F;
 constexpr std::size_t kFewestLabels = 2;
 
 /// The distance between neighbours of `count` labels, two or more, that stand over the plot's whole width.
@@ -171,7 +171,7 @@ void CBasicCurve::PlaceLegendAndShift() {
     }
     Move(m_layout, shift);
     Move(m_layout.HorLabelRects, shift);
-    for (CurveFigure& curve : m_layout.Curves) {
+    for (CurveTrace& curve : m_layout.Curves) {
         Move(curve.Points, shift);
     }
 }

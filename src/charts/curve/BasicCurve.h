@@ -1,9 +1,10 @@
 #pragma once
 
+#include "charts/cartesian/CartesianChart.h"
 #include "charts/cartesian/CartesianLayout.h"
-#include "charts/cartesian/ValueAxis.h"
-#include "charts/curve/CurveFigure.h"
 #include "charts/curve/CurveProp.h"
+#include "charts/curve/CurveTrace.h"
+#include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "penlode/IGraphicsEngine.h"
 
@@ -13,11 +14,14 @@
 
 namespace millichart {
 
+/// A curve's sample in the legend is twice as wide as its item is high.
+inline constexpr float kLegendSampleFactor = 2.0F;
+
 /// Where everything of a line chart stands, in mm of the page.
 struct CurveLayout : CartesianLayout {
     std::vector<penlode::RectF> HorLabelRects; ///< one per label, or none
     std::vector<penlode::SizeF> HorLabelSizes; ///< parallel to the rectangles
-    std::vector<CurveFigure> Curves;           ///< one per list of values
+    std::vector<CurveTrace> Curves;            ///< one per list of values
 };
 
 /// The line chart: curves of values over whole-number times, on a linear or logarithmic value axis.
@@ -31,10 +35,11 @@ struct CurveLayout : CartesianLayout {
 ///     chart.Layout();
 ///     chart.Draw(&engine);
 ///
-/// Setters only store; Layout computes every point from what is stored; Draw and the getters read the last
-/// layout. Copies share the value axis and nothing else. Lists may be shorter than they should be: what is
-/// missing is not drawn, or looks as CurvePlotProp says.
-class MILLICHART_API CBasicCurve {
+/// Setters only store; Layout computes every point from what is stored; Draw, the shapes and
+/// the texts show the last layout with the record's present looks and the present labels. Copies share the
+/// value axis and nothing else. Lists may be shorter than they should be: what is missing is not drawn, or
+/// looks as CurvePlotProp says.
+class MILLICHART_API CBasicCurve : public CCartesianChart {
 public:
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
     /// long and has no range yet. An axis that stays keeps its range and its length, whatever the plot's
@@ -47,30 +52,18 @@ public:
     /// need no order. A value below kCurveNullThreshold is null. Lists that are handed over are not copied.
     void SetCurveData(std::vector<std::vector<double>> values, std::vector<std::vector<std::int32_t>> times);
 
+    /// One list a curve, as set, whether or not they have been laid out since.
+    const std::vector<std::vector<double>>& GetCurveValue() const { return m_values; }
+
+    /// One list a curve, as set; the lists need not be as long as those of the values.
+    const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_times; }
+
     /// Narrow texts, spread evenly over the plot's width whatever the times are; shown if there are two or
     /// more.
     void SetHorAxisLabel(std::vector<std::string> labels) { m_labels = std::move(labels); }
 
-    /// The top-left corner, legend included.
-    void SetLocation(penlode::PointF location) { m_location = location; }
-
-    penlode::PointF GetLocation() const { return m_location; }
-
-    /// Takes a round range that holds `largest`. The range operations do nothing before the first
-    /// SetCurveProp, nor those of the other scale.
-    void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
-
-    void SetNaturalValueRange(double min, double max, double step, double minorStep) {
-        m_axis.SetNaturalRange(min, max, step, minorStep);
-    }
-
-    void GetNaturalValueRange(double& min, double& max, double& step, double& minorStep) const {
-        m_axis.GetNaturalRange(min, max, step, minorStep);
-    }
-
-    void SetLogarithmValueRange(double min, double max) { m_axis.SetLogarithmRange(min, max); }
-
-    void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
+    /// As set, whether or not they have been laid out since.
+    const std::vector<std::string>& GetHorAxisLabel() const { return m_labels; }
 
     /// With no curves, everything is empty at the location.
     void Layout();
@@ -83,6 +76,16 @@ public:
     /// Nothing on a null engine. A line's call is made even for a run of no or one point, which draws
     /// nothing.
     void Draw(penlode::IGraphicsEngine* engine) const;
+
+    /// The curves as they would be drawn now: those of the last layout that have a name.
+    std::vector<CurveShape> GetShapes() const;
+
+    /// The texts as they would be drawn now: labels and caption of the value axis and of the other, the
+    /// chart's caption, the legend's names.
+    void VisitTexts(const TextVisitor& visit) const;
+
+    /// GetPositionAll with the texts that reach out of it.
+    penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
 protected:
     /// The chart's caption, which runs across; the time axis's is measured in CalcHorAxisSize.
@@ -117,12 +120,10 @@ protected:
 
 private:
     void PlaceLegendAndShift();
-    void DrawHorLabels(penlode::IGraphicsEngine& engine) const;
-    void DrawLegendItem(penlode::IGraphicsEngine& engine, std::size_t index) const;
+    void VisitHorLabels(const TextVisitor& visit) const;
+    void DrawSample(penlode::IGraphicsEngine& engine, std::size_t index, const penlode::RectF& item) const;
 
-    ValueAxis m_axis;
     CurveProp m_prop;
-    penlode::PointF m_location;
     std::vector<std::vector<double>> m_values;
     std::vector<std::vector<std::int32_t>> m_times;
     std::vector<std::string> m_labels;

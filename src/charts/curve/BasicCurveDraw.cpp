@@ -2,10 +2,10 @@
 #include "charts/curve/BasicCurve.h"
 #include "charts/curve/CurveMarker.h"
 #include "charts/curve/CurveStyle.h"
-#include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace millichart {
 
@@ -35,28 +35,35 @@ struct Points {
     bool HasNoPlace(std::size_t index) const { return HasUnplaced && !IsPlaced(List[index]); }
 };
 
-Points PointsOf(const CurveFigure& curve) {
+Points PointsOf(const CurveTrace& curve) {
     return {curve.Points, curve.NullFlags, curve.HasNull, curve.HasUnplaced};
 }
 
-/// The points up to each gap, and those after the last one, straight from the list. Every run makes a call,
-/// the empty ones too.
-void DrawRuns(IGraphicsEngine& engine, const Points& line, const CurveStyle& style) {
-    penlode::Pen pen(style.LineColor, style.Width);
-    pen.SetDashStyle(static_cast<penlode::DashStyle>(style.Dash));
-    const bool breaks = style.NullValue == CurveNullValueStyle::Break;
-    const auto drawRun = [&](std::size_t start, std::size_t end) {
-        engine.DrawLines(&pen, line.List.data() + start, static_cast<std::int32_t>(end - start));
-    };
+using Line = std::span<const PointF>;
+
+/// The points up to each gap, and those after the last one, straight from the list; the empty runs too.
+std::vector<Line> LinesOf(const Points& points, std::int32_t nullValue) {
+    const bool breaks = nullValue == CurveNullValueStyle::Break;
+    const Line all(points.List);
+    std::vector<Line> lines;
     std::size_t start = 0;
-    const std::size_t searched = line.HasUnplaced || (breaks && line.HasNull) ? line.List.size() : 0;
+    const std::size_t searched = points.HasUnplaced || (breaks && points.HasNull) ? all.size() : 0;
     for (std::size_t i = 0; i < searched; ++i) {
-        if ((breaks && line.IsNull(i)) || line.HasNoPlace(i)) {
-            drawRun(start, i);
+        if ((breaks && points.IsNull(i)) || points.HasNoPlace(i)) {
+            lines.push_back(all.subspan(start, i - start));
             start = i + 1;
         }
     }
-    drawRun(start, line.List.size());
+    lines.push_back(all.subspan(start));
+    return lines;
+}
+
+void DrawLines(IGraphicsEngine& engine, const std::vector<Line>& lines, const CurveStyle& style) {
+    penlode::Pen pen(style.LineColor, style.Width);
+    pen.SetDashStyle(static_cast<penlode::DashStyle>(style.Dash));
+    for (const Line& line : lines) {
+        engine.DrawLines(&pen, line.data(), static_cast<std::int32_t>(line.size()));
+    }
 }
 
 void DrawMarkers(IGraphicsEngine& engine, const Points& markers, const CurveStyle& style) {
@@ -89,16 +96,16 @@ void CBasicCurve::DrawVerAxis(IGraphicsEngine* engine) const {
     if (axis.ShowVerAxis == 0) {
         return;
     }
+    const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
     DrawVerAxisLine(*engine, axis, m_layout);
-    DrawVerLabels(*engine, axis, m_layout);
+    VisitVerLabels(draw, axis, m_layout);
     if (axis.ShowHorMinorGrid != 0) {
         DrawHorGrid(*engine, axis.HorMinorGridPen.Get(), m_layout.VerMinorTicks, m_layout.Plot.Width);
     }
     if (axis.ShowHorMajorGrid != 0) {
         DrawHorGrid(*engine, axis.HorMajorGridPen.Get(), m_layout.VerMajorTicks, m_layout.Plot.Width);
     }
-    DrawCaptionText(*engine, axis.ShowVerCaption, axis.VerCaption, axis.VerCaptionTextProperty,
-                    m_layout.VerCaption);
+    VisitVerCaption(draw, axis, m_layout);
 }
 
 void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
@@ -107,23 +114,34 @@ void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
         return;
     }
     const RectF& plot = m_layout.Plot;
+    const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
     DrawHorAxisLine(*engine, axis.HorAxisPen.Get(), plot);
     DrawHorTicks(*engine, axis.HorAxisPen.Get(), m_layout.HorTicks, TickOf(axis.ScaleStyle, kMajorTickLength),
                  StepOf(axis.ScaleStep));
-    DrawHorLabels(*engine);
+    VisitHorLabels(draw);
     if (axis.ShowVerGrid != 0) {
         DrawVerGrid(*engine, axis.VerGridPen.Get(), m_layout.HorTicks, plot.Height, StepOf(axis.VerGridStep));
     }
-    DrawCaptionText(*engine, axis.ShowHorCaption, axis.HorCaption, axis.HorCaptionTextProperty,
-                    m_layout.HorCaption);
+    VisitHorCaption(draw, axis, m_layout);
 }
 
-void CBasicCurve::DrawHorLabels(IGraphicsEngine& engine) const {
+void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
+    VisitVerLabels(visit, m_prop.VerAxis, m_layout);
+    VisitVerCaption(visit, m_prop.VerAxis, m_layout);
+    VisitHorLabels(visit);
+    VisitHorCaption(visit, m_prop.HorAxis, m_layout);
+    VisitCaption(visit, m_prop.Caption, m_layout);
+    CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Plot.CurveName, m_layout.LegendItemRects,
+                                 kLegendSampleFactor);
+}
+
+void CBasicCurve::VisitHorLabels(const TextVisitor& visit) const {
     const CurveHorAxisProp& axis = m_prop.HorAxis;
+    const bool areShown = axis.ShowHorAxis != 0 && axis.ShowLabel != 0;
     const std::size_t count = std::min(m_layout.HorLabelRects.size(), m_labels.size());
-    for (std::size_t i = 0; axis.ShowLabel != 0 && i < count; i += StepOf(axis.LabelStep)) {
-        CTextPropertyOperation::DrawTextAtCenter(&engine, m_labels[i], axis.HorLabelTextProperty,
-                                                 m_layout.HorLabelRects[i].Center());
+    for (std::size_t i = 0; areShown && i < count; i += StepOf(axis.LabelStep)) {
+        CTextPropertyOperation::Visit(visit, {TextRole::HorAxisLabel, i}, m_labels[i],
+                                      axis.HorLabelTextProperty, m_layout.HorLabelRects[i].Center());
     }
 }
 
@@ -133,13 +151,21 @@ void CBasicCurve::DrawPlot(IGraphicsEngine* engine) const {
     if (prop.ShowEdge != 0) {
         engine->DrawRectangle(prop.EdgePen.Get(), plot.X, plot.Y, plot.Width, plot.Height);
     }
-    const std::size_t curves = std::min(prop.CurveName.size(), m_layout.Curves.size());
-    for (std::size_t i = 0; i < curves; ++i) {
-        const Points curve = PointsOf(m_layout.Curves[i]);
-        const CurveStyle style = StyleOf(prop, i);
-        DrawRuns(*engine, curve, style);
-        DrawMarkers(*engine, curve, style);
+    for (const CurveShape& curve : GetShapes()) {
+        DrawLines(*engine, curve.Lines, curve.Style);
+        DrawMarkers(*engine, PointsOf(*curve.Trace), curve.Style);
     }
+}
+
+std::vector<CurveShape> CBasicCurve::GetShapes() const {
+    std::vector<CurveShape> shapes;
+    const std::size_t curves = std::min(m_prop.Plot.CurveName.size(), m_layout.Curves.size());
+    for (std::size_t i = 0; i < curves; ++i) {
+        const CurveTrace& trace = m_layout.Curves[i];
+        const CurveStyle style = StyleOf(m_prop.Plot, i);
+        shapes.push_back({style, LinesOf(PointsOf(trace), style.NullValue), &trace});
+    }
+    return shapes;
 }
 
 void CBasicCurve::DrawLine(IGraphicsEngine* engine, const std::vector<PointF>& line,
@@ -147,42 +173,28 @@ void CBasicCurve::DrawLine(IGraphicsEngine* engine, const std::vector<PointF>& l
                            penlode::Color color, float width, std::int32_t dashStyle, std::int32_t dotStyle,
                            penlode::Color dotColor, float dotWidth, std::int32_t nullStyle) const {
     const CurveStyle style{color, width, dashStyle, dotStyle, dotColor, dotWidth, nullStyle};
-    DrawRuns(*engine, {line, nulls, true, true}, style);
+    DrawLines(*engine, LinesOf({line, nulls, true, true}, style.NullValue), style);
     DrawMarkers(*engine, {markers, nulls, true, true}, style);
 }
 
 void CBasicCurve::DrawLegend(IGraphicsEngine* engine) const {
-    const std::vector<RectF>& items = m_layout.LegendItemRects;
-    if (m_prop.Legend.ShowLegend == 0 || items.empty()) {
-        return;
-    }
-    CLegendOperation::DrawBox(engine, m_prop.Legend, items);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        DrawLegendItem(*engine, i);
-    }
+    CLegendOperation::Draw(*engine, m_prop.Legend, m_prop.Plot.CurveName, m_layout.LegendItemRects,
+                           kLegendSampleFactor,
+                           [&](std::size_t index, const RectF& item) { DrawSample(*engine, index, item); });
 }
 
-/// A piece of the curve with a marker on it, and the name. The marker is drawn twice, as a line of two points
-/// has two.
-void CBasicCurve::DrawLegendItem(IGraphicsEngine& engine, std::size_t index) const {
-    const RectF& item = m_layout.LegendItemRects[index];
-    const float width = 2.0F * item.Height;
+/// A piece of the curve with a marker on it. The marker is drawn twice, as a line of two points has two.
+void CBasicCurve::DrawSample(IGraphicsEngine& engine, std::size_t index, const RectF& item) const {
     const float middle = item.Y + item.Height * 0.5F;
     const PointF center{item.X + item.Height, middle};
     const CurveStyle style = StyleOf(m_prop.Plot, index);
-    DrawLine(&engine, {{item.X, middle}, {item.X + width, middle}}, {center, center}, {false, false},
-             style.LineColor, style.Width, style.Dash, style.Dot, style.DotColor, style.DotWidth,
-             style.NullValue);
-    if (index < m_prop.Plot.CurveName.size()) {
-        CLegendOperation::DrawName(&engine, m_prop.Legend, m_prop.Plot.CurveName[index],
-                                   {item.X + width, item.Y, item.Width - width, item.Height});
-    }
+    DrawLine(&engine, {{item.X, middle}, {item.X + kLegendSampleFactor * item.Height, middle}},
+             {center, center}, {false, false}, style.LineColor, style.Width, style.Dash, style.Dot,
+             style.DotColor, style.DotWidth, style.NullValue);
 }
 
 void CBasicCurve::DrawCaption(IGraphicsEngine* engine) const {
-    const CaptionProp& caption = m_prop.Caption;
-    DrawCaptionText(*engine, caption.ShowCaption, caption.Caption, caption.CaptionTextProperty,
-                    m_layout.Caption);
+    VisitCaption(CTextPropertyOperation::DrawingOn(*engine), m_prop.Caption, m_layout);
 }
 
 } // namespace millichart

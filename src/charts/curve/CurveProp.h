@@ -56,6 +56,14 @@ inline constexpr std::int32_t AsZero = 1; ///< runs through the value 0
 /// A value below this is null: not measured, not there.
 inline constexpr double kCurveNullThreshold = -9999998.0;
 
+/// The null that documents and tables without a value give.
+inline constexpr double kCurveNull = -9999999.0;
+
+/// A NaN is not null: it has no place.
+constexpr bool IsCurveNull(double value) {
+    return value < kCurveNullThreshold;
+}
+
 /// The plot and its curves. Lengths in mm; flags are on when not zero. The lists have one entry a curve; one
 /// that is missing counts as what its comment says.
 struct CurvePlotProp {

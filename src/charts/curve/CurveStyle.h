@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/curve/CurveProp.h"
+#include "foundation/Export.h"
 
 namespace millichart {
 
@@ -16,6 +17,6 @@ struct CurveStyle {
 };
 
 /// The entries at `index` of the plot's lists; the values above where a list has none.
-CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index);
+MILLICHART_API CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index);
 
 } // namespace millichart

@@ -1,6 +1,6 @@
 #include "charts/histogram/BasicHistogram.h"
 
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianPlacement.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
@@ -16,7 +16,6 @@ using penlode::SizeF;
 namespace {
 
 constexpr float kLeastGroupWidth = 1.0F;
-constexpr float kLegendSwatchFactor = 1.0F;
 constexpr float kDepthOfWidth = 0.5F;
 // 30 degrees; its digits are part of the bars' depth.
 constexpr float kDepthAngle = 0.5235988F;
@@ -218,7 +217,7 @@ void CBasicHistogram::PlaceLegendAndShift() {
     if (m_prop.Legend.ShowLegend == 0) {
         return;
     }
-    PlaceLegend(m_prop.Legend, m_prop.Plot.ComponentName, kLegendSwatchFactor, m_layout);
+    PlaceLegend(m_prop.Legend, m_prop.Plot.ComponentName, kLegendSquareFactor, m_layout);
     const PointF shift = m_location - m_layout.Whole.TopLeft();
     Move(m_layout, shift);
     Move(m_layout.GroupNameRects, shift);

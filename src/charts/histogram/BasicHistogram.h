@@ -1,8 +1,9 @@
 #pragma once
 
+#include "charts/cartesian/CartesianChart.h"
 #include "charts/cartesian/CartesianLayout.h"
-#include "charts/cartesian/ValueAxis.h"
 #include "charts/histogram/HistogramProp.h"
+#include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "penlode/Geometry.h"
 #include "penlode/IGraphicsEngine.h"
@@ -22,6 +23,21 @@ struct HistogramLayout : CartesianLayout {
     float GroupGap = -1.0F;       ///< between groups, as it came out; -1 before a layout with groups
 };
 
+/// A bar as it is drawn: its front, in mm of the page. A negative value's has a negative height.
+struct BarShape {
+    std::size_t Group = 0;
+    std::size_t Component = 0; ///< of the group
+    penlode::RectF Front;
+    penlode::Color Fill; ///< of the front
+};
+
+/// All bars, in the order in which they are drawn. The top and the right side of each join its front to the
+/// same rectangle moved by `Depth`, which is (0, 0) for flat bars.
+struct BarShapes {
+    penlode::PointF Depth;
+    std::vector<BarShape> Bars;
+};
+
 /// The bar chart: a cluster of bars, or one stacked bar, a group, over a linear or logarithmic value axis.
 ///
 ///     CBasicHistogram chart;
@@ -32,10 +48,10 @@ struct HistogramLayout : CartesianLayout {
 ///     chart.Layout();
 ///     chart.Draw(&engine);
 ///
-/// Setters only store; Layout computes every rectangle from what is stored; Draw shows the last
-/// layout in the record's present colours and texts. Copies share the value axis and nothing else. Lists may
-/// be shorter than they should be: what is missing is not drawn.
-class MILLICHART_API CBasicHistogram {
+/// Setters only store; Layout computes every rectangle from what is stored; Draw, the shapes and the texts
+/// show the last layout with the record's present looks and the present values and names. Copies share the
+/// value axis and nothing else. Lists may be shorter than they should be: what is missing is not drawn.
+class MILLICHART_API CBasicHistogram : public CCartesianChart {
 public:
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
     /// long and has no range yet. An axis that stays keeps its range and its length, whatever the plot's
@@ -47,29 +63,14 @@ public:
     /// One list a group, one value a component.
     void SetComponentValue(const std::vector<std::vector<double>>& values) { m_values = values; }
 
+    /// As set, whether or not they have been laid out since.
+    const std::vector<std::vector<double>>& GetComponentValue() const { return m_values; }
+
     /// Narrow texts, one a group; shown only if there are as many as groups.
     void SetGroupName(const std::vector<std::string>& names) { m_groupNames = names; }
 
-    /// The top-left corner, legend included.
-    void SetLocation(penlode::PointF location) { m_location = location; }
-
-    penlode::PointF GetLocation() const { return m_location; }
-
-    /// Takes a round range that holds `largest`. The range operations do nothing before the first
-    /// SetHistogramProp, nor those of the other scale.
-    void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
-
-    void SetNaturalValueRange(double min, double max, double step, double minorStep) {
-        m_axis.SetNaturalRange(min, max, step, minorStep);
-    }
-
-    void GetNaturalValueRange(double& min, double& max, double& step, double& minorStep) const {
-        m_axis.GetNaturalRange(min, max, step, minorStep);
-    }
-
-    void SetLogarithmValueRange(double min, double max) { m_axis.SetLogarithmRange(min, max); }
-
-    void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
+    /// As set, whether or not they have been laid out since.
+    const std::vector<std::string>& GetGroupName() const { return m_groupNames; }
 
     /// With no groups, everything is empty at the location.
     void Layout();
@@ -81,6 +82,16 @@ public:
 
     /// Nothing on a null engine.
     void Draw(penlode::IGraphicsEngine* engine) const;
+
+    /// The bars as they would be drawn now: those that have a name, a value and a colour.
+    BarShapes GetShapes() const;
+
+    /// The texts as they would be drawn now: labels and caption of the value axis, names and caption of the
+    /// group axis, labels of the bars, the chart's caption, the legend's names.
+    void VisitTexts(const TextVisitor& visit) const;
+
+    /// GetPositionAll with the texts that reach out of it, such as labels beside the last bar.
+    penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
 protected:
     penlode::SizeF CalcCaptionSize() const;
@@ -118,16 +129,16 @@ private:
     std::vector<penlode::RectF> SideBySide(const std::vector<double>& values, float& x) const;
     std::vector<penlode::RectF> Stacked(const std::vector<double>& values, float& x) const;
     std::size_t BarsOf(std::size_t group) const;
+    template <class Visit> void VisitBars(const Visit& visit) const;
     std::string ComponentInfo(std::size_t group, std::size_t component) const;
+    void VisitGroupNames(const TextVisitor& visit) const;
+    void VisitBarLabels(const TextVisitor& visit) const;
     void DrawFlatBackground(penlode::IGraphicsEngine& engine) const;
     void DrawDeepBackground(penlode::IGraphicsEngine& engine) const;
     void DrawDeepWalls(penlode::IGraphicsEngine& engine, const penlode::RectF& back) const;
     void DrawDeepGrids(penlode::IGraphicsEngine& engine, penlode::PointF depth) const;
-    void DrawComponentInfo(penlode::IGraphicsEngine& engine, std::size_t group, std::size_t component) const;
 
-    ValueAxis m_axis;
     HistogramProp m_prop;
-    penlode::PointF m_location;
     std::vector<std::vector<double>> m_values;
     std::vector<std::string> m_groupNames;
     HistogramLayout m_layout;

@@ -1,7 +1,6 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/histogram/BasicHistogram.h"
 #include "foundation/NumberText.h"
-#include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
 #include <array>
@@ -147,14 +146,13 @@ void CBasicHistogram::DrawDeepGrids(IGraphicsEngine& engine, PointF depth) const
 }
 
 void CBasicHistogram::DrawVerAxis(IGraphicsEngine* engine) const {
-    const HistogramVerAxisProp& axis = m_prop.VerAxis;
-    if (axis.ShowVerAxis == 0) {
+    if (m_prop.VerAxis.ShowVerAxis == 0) {
         return;
     }
-    DrawVerAxisLine(*engine, axis, m_layout);
-    DrawVerLabels(*engine, axis, m_layout);
-    DrawCaptionText(*engine, axis.ShowVerCaption, axis.VerCaption, axis.VerCaptionTextProperty,
-                    m_layout.VerCaption);
+    const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
+    DrawVerAxisLine(*engine, m_prop.VerAxis, m_layout);
+    VisitVerLabels(draw, m_prop.VerAxis, m_layout);
+    VisitVerCaption(draw, m_prop.VerAxis, m_layout);
 }
 
 void CBasicHistogram::DrawHorAxis(IGraphicsEngine* engine) const {
@@ -169,31 +167,75 @@ void CBasicHistogram::DrawHorAxis(IGraphicsEngine* engine) const {
         std::swap(tick.From, tick.To);
     }
     DrawHorTicks(*engine, pen, m_layout.HorTicks, tick);
-    const std::size_t names = std::min(m_layout.GroupNameRects.size(), m_groupNames.size());
-    for (std::size_t i = 0; axis.ShowGroupName != 0 && i < names; ++i) {
-        CTextPropertyOperation::DrawTextAtCenter(engine, m_groupNames[i], axis.GroupNameTextProperty,
-                                                 m_layout.GroupNameRects[i].Center());
-    }
-    DrawCaptionText(*engine, axis.ShowHorCaption, axis.HorCaption, axis.HorCaptionTextProperty,
-                    m_layout.HorCaption);
+    const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
+    VisitGroupNames(draw);
+    VisitHorCaption(draw, axis, m_layout);
 }
 
 /// All bars first, so that none covers a label.
 void CBasicHistogram::DrawPlot(IGraphicsEngine* engine) const {
+    VisitBars([&](const BarShape& bar) {
+        if (m_prop.Plot.PieStyle == BarStyle::Flat) {
+            DrawComponent2D(engine, bar.Front, bar.Fill);
+        } else {
+            DrawComponent3D(engine, bar.Front, bar.Fill);
+        }
+    });
+    VisitBarLabels(CTextPropertyOperation::DrawingOn(*engine));
+}
+
+BarShapes CBasicHistogram::GetShapes() const {
+    BarShapes shapes;
+    Calc3DComponentBackSurfaceOffset(shapes.Depth.X, shapes.Depth.Y);
+    VisitBars([&shapes](const BarShape& bar) { shapes.Bars.push_back(bar); });
+    return shapes;
+}
+
+void CBasicHistogram::VisitTexts(const TextVisitor& visit) const {
+    VisitVerLabels(visit, m_prop.VerAxis, m_layout);
+    VisitVerCaption(visit, m_prop.VerAxis, m_layout);
+    VisitGroupNames(visit);
+    VisitHorCaption(visit, m_prop.HorAxis, m_layout);
+    VisitBarLabels(visit);
+    VisitCaption(visit, m_prop.Caption, m_layout);
+    CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Plot.ComponentName, m_layout.LegendItemRects,
+                                 kLegendSquareFactor);
+}
+
+template <class Visit> void CBasicHistogram::VisitBars(const Visit& visit) const {
     for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
         const std::size_t bars = std::min(BarsOf(group), m_prop.Plot.ComponentColor.size());
         for (std::size_t i = 0; i < bars; ++i) {
-            const RectF& bar = m_layout.ComponentRects[group][i];
-            if (m_prop.Plot.PieStyle == BarStyle::Flat) {
-                DrawComponent2D(engine, bar, m_prop.Plot.ComponentColor[i]);
-            } else {
-                DrawComponent3D(engine, bar, m_prop.Plot.ComponentColor[i]);
-            }
+            visit({group, i, m_layout.ComponentRects[group][i], m_prop.Plot.ComponentColor[i]});
         }
     }
+}
+
+void CBasicHistogram::VisitGroupNames(const TextVisitor& visit) const {
+    const HistogramHorAxisProp& axis = m_prop.HorAxis;
+    const bool areShown = axis.ShowHorAxis != 0 && axis.ShowGroupName != 0;
+    const std::size_t names = std::min(m_layout.GroupNameRects.size(), m_groupNames.size());
+    for (std::size_t i = 0; areShown && i < names; ++i) {
+        CTextPropertyOperation::Visit(visit, {TextRole::GroupName, i}, m_groupNames[i],
+                                      axis.GroupNameTextProperty, m_layout.GroupNameRects[i].Center());
+    }
+}
+
+/// On the bar's top side by side, at its right when stacked.
+void CBasicHistogram::VisitBarLabels(const TextVisitor& visit) const {
+    const HistogramPlotProp& prop = m_prop.Plot;
+    const bool isStacked = prop.Juxtaposition == 0;
     for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
         for (std::size_t i = 0; i < BarsOf(group); ++i) {
-            DrawComponentInfo(*engine, group, i);
+            const RectF& bar = m_layout.ComponentRects[group][i];
+            const PointF at = isStacked ? PointF{bar.X + bar.Width, bar.Y + bar.Height * 0.5F}
+                                        : PointF{bar.X + bar.Width * 0.5F, bar.Y};
+            const std::string text = ComponentInfo(group, i);
+            if (!text.empty()) {
+                CTextPropertyOperation::Visit(visit, {TextRole::BarLabel, group, i}, text,
+                                              prop.ComponentInfoTextProperty, at,
+                                              isStacked ? TextAnchor::LeftCenter : TextAnchor::BottomCenter);
+            }
         }
     }
 }
@@ -219,24 +261,6 @@ std::string CBasicHistogram::ComponentInfo(std::size_t group, std::size_t compon
     return text;
 }
 
-/// On the bar's top side by side, at its right when stacked.
-void CBasicHistogram::DrawComponentInfo(IGraphicsEngine& engine, std::size_t group,
-                                        std::size_t component) const {
-    const RectF& bar = m_layout.ComponentRects[group][component];
-    const TextProperty& property = m_prop.Plot.ComponentInfoTextProperty;
-    const std::string text = ComponentInfo(group, component);
-    if (text.empty()) {
-        return;
-    }
-    if (m_prop.Plot.Juxtaposition != 0) {
-        CTextPropertyOperation::DrawTextAtBottomCenter(&engine, text, property,
-                                                       {bar.X + bar.Width * 0.5F, bar.Y});
-    } else {
-        CTextPropertyOperation::DrawTextAtLeftCenter(&engine, text, property,
-                                                     {bar.X + bar.Width, bar.Y + bar.Height * 0.5F});
-    }
-}
-
 void CBasicHistogram::DrawComponent2D(IGraphicsEngine* engine, const RectF& bar, Color color) const {
     FillRect(*engine, {color}, bar);
 }
@@ -254,9 +278,7 @@ void CBasicHistogram::DrawComponent3D(IGraphicsEngine* engine, const RectF& bar,
 }
 
 void CBasicHistogram::DrawCaption(IGraphicsEngine* engine) const {
-    const CaptionProp& caption = m_prop.Caption;
-    DrawCaptionText(*engine, caption.ShowCaption, caption.Caption, caption.CaptionTextProperty,
-                    m_layout.Caption);
+    VisitCaption(CTextPropertyOperation::DrawingOn(*engine), m_prop.Caption, m_layout);
 }
 
 } // namespace millichart

@@ -1,16 +1,13 @@
 #include "charts/pie/BasicHalfPie.h"
 
+#include "charts/pie/PiePlacement.h"
+#include "charts/pie/PieSlices.h"
+#include "foundation/TextPropertyOperation.h"
+
 namespace millichart {
 
 using penlode::IGraphicsEngine;
-using penlode::PointF;
 using penlode::RectF;
-
-namespace {
-
-constexpr float kHalfTurn = 180.0F;
-
-} // namespace
 
 void CBasicHalfPie::SetHalfPieProp(const HalfPieProp& prop) {
     m_prop = prop;
@@ -20,12 +17,10 @@ void CBasicHalfPie::SetHalfPieProp(const HalfPieProp& prop) {
 void CBasicHalfPie::Layout() {
     m_layout.Whole = {m_location.X, m_location.Y, 0.0F, 0.0F};
     const HalfPieBasicProp& basic = m_prop.Basic;
-    const float diameter = PieDiameter(basic.FixedSize, basic.FixedWidth, basic.BaseValue, basic.BasePieWidth,
-                                       TotalOf(m_values));
-    if (LayOutFigure({m_location, diameter, StartAngle(), kHalfTurn, m_values, basic.ComponentName,
-                      m_prop.Label, m_labelOffsets},
-                     m_layout)) {
-        m_layout.Whole = FigureExtent(VisibleHalf(), m_layout.LabelRects);
+    if (PlacePie({m_location, PieDiameter(basic, m_values), StartAngle(), kHalfTurn, m_values,
+                  basic.ComponentName, m_prop.Label, m_labelOffsets},
+                 m_layout)) {
+        m_layout.Whole = WithLabels(VisibleHalf(), m_layout.LabelRects);
     }
 }
 
@@ -35,36 +30,22 @@ RectF CBasicHalfPie::VisibleHalf() const {
     return {circle.X, IsUpper() ? circle.Y : circle.Y + height, circle.Width, height};
 }
 
+PieShapes CBasicHalfPie::GetShapes() const {
+    const HalfPieBasicProp& basic = m_prop.Basic;
+    return {m_layout.Pie, 0.0F, basic.DrawSepLine == 1 ? basic.PenSepLine.Get() : nullptr,
+            FlatSlices(StartAngle(), SliceSweeps(m_values, kHalfTurn), basic.ComponentColor)};
+}
+
 void CBasicHalfPie::Draw(IGraphicsEngine* engine) const {
     if (engine == nullptr) {
         return;
     }
     DrawHalfPie(engine);
-    DrawPieLabels(*engine, m_layout, m_prop.Label);
+    VisitTexts(CTextPropertyOperation::DrawingOn(*engine));
 }
 
 void CBasicHalfPie::DrawHalfPie(IGraphicsEngine* engine) const {
-    const HalfPieBasicProp& basic = m_prop.Basic;
-    DrawFlatSlices(*engine, m_layout.Pie, StartAngle(), SliceSweeps(m_values, kHalfTurn),
-                   basic.ComponentColor, basic.DrawSepLine == 1 ? basic.PenSepLine.Get() : nullptr);
-}
-
-void CBasicHalfPie::GetChildPosition(RectF& pie, std::vector<RectF>& labels, std::vector<RectF>&) const {
-    pie = m_layout.Pie;
-    labels = m_layout.LabelRects;
-}
-
-void CBasicHalfPie::SetChildPosition(const RectF&, const std::vector<RectF>& labels,
-                                     const std::vector<RectF>&) {
-    AddMoves(m_labelOffsets, m_layout.LabelRects, labels);
-}
-
-void CBasicHalfPie::GetChildOffset(std::vector<PointF>& labels, std::vector<PointF>&) const {
-    labels = m_labelOffsets;
-}
-
-void CBasicHalfPie::SetChildOffset(const std::vector<PointF>& labels, const std::vector<PointF>&) {
-    m_labelOffsets = labels;
+    DrawSlices(*engine, GetShapes());
 }
 
 } // namespace millichart

@@ -12,20 +12,19 @@ using penlode::RectF;
 
 namespace {
 
-// No label stands so far off the page.
-constexpr float kSeparator = -99999.0F;
 // A host may have turned the separator into other units and back.
 constexpr double kSeparatorTolerance = 0.1;
 
-bool IsSeparator(float coordinate) {
-    return std::fabs(static_cast<double>(coordinate) - kSeparator) < kSeparatorTolerance;
+/// Entries are points or rectangles.
+template <class Entry> bool IsSeparator(const Entry& entry) {
+    const auto isNear = [](double a, double b) { return std::fabs(a - b) < kSeparatorTolerance; };
+    return isNear(entry.X, kHalvesSeparator.X) && isNear(entry.Y, kHalvesSeparator.Y);
 }
 
-/// Entries are points or rectangles.
 template <class Entry>
 std::vector<Entry> Joined(const std::vector<Entry>& first, const std::vector<Entry>& second) {
     std::vector<Entry> all = first;
-    all.push_back({kSeparator, kSeparator});
+    all.push_back({kHalvesSeparator.X, kHalvesSeparator.Y});
     all.insert(all.end(), second.begin(), second.end());
     return all;
 }
@@ -37,9 +36,7 @@ template <class Entry> struct Halves {
 
 /// The entries before and after the first separator; nothing if there is none.
 template <class Entry> std::optional<Halves<Entry>> Split(const std::vector<Entry>& all) {
-    const auto separator = std::find_if(all.begin(), all.end(), [](const Entry& entry) {
-        return IsSeparator(entry.X) && IsSeparator(entry.Y);
-    });
+    const auto separator = std::find_if(all.begin(), all.end(), IsSeparator<Entry>);
     if (separator == all.end()) {
         return std::nullopt;
     }
@@ -69,6 +66,11 @@ void CBasicHalfPieHalfPie::Layout() {
 void CBasicHalfPieHalfPie::Draw(IGraphicsEngine* engine) const {
     m_first.Draw(engine);
     m_second.Draw(engine);
+}
+
+void CBasicHalfPieHalfPie::VisitTexts(const TextVisitor& visit) const {
+    m_first.VisitTexts(visit);
+    m_second.VisitTexts(InPart(1, visit));
 }
 
 void CBasicHalfPieHalfPie::GetChildPosition(RectF&, std::vector<RectF>& labels, std::vector<RectF>&) const {

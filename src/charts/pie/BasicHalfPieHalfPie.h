@@ -4,6 +4,15 @@
 
 namespace millichart {
 
+/// Stands between the entries of the two halves in one list. No label stands so far off the page.
+inline constexpr penlode::PointF kHalvesSeparator{-99999.0F, -99999.0F};
+
+/// Both halves' slices, in the order in which they are drawn.
+struct HalfPieHalfPieShapes {
+    PieShapes First;
+    PieShapes Second;
+};
+
 /// Two half pies round one centre, usually an upper and a lower one, to compare two series across the
 /// diameter.
 ///
@@ -17,8 +26,8 @@ namespace millichart {
 /// Setters only store; Layout hands everything to the two halves and lays them out; Draw and the getters read
 /// the last layout. A plain value: copies share nothing.
 ///
-/// The labels of both halves are exchanged as one list: the first half's, a separator at
-/// (-99999, -99999), the second half's.
+/// The labels of both halves are exchanged as one list: the first half's,
+/// kHalvesSeparator, the second half's.
 class MILLICHART_API CBasicHalfPieHalfPie {
 public:
     /// Copies the record. At the next Layout each half's label offsets become as many as its names.
@@ -26,7 +35,14 @@ public:
 
     const HalfPieHalfPieProp& GetHalfPieHalfPieProp() const { return m_prop; }
 
+    /// One a slice of each half; shown after the next Layout.
     void SetComponentValue(const std::vector<double>& first, const std::vector<double>& second);
+
+    /// As set, whether or not they have been laid out since.
+    const std::vector<double>& GetFirstComponentValue() const { return m_firstValues; }
+
+    /// As set, whether or not they have been laid out since.
+    const std::vector<double>& GetSecondComponentValue() const { return m_secondValues; }
 
     /// The common centre of both circles.
     void SetLocation(penlode::PointF location) { m_location = location; }
@@ -45,6 +61,15 @@ public:
 
     /// The first half, then the second over it. Nothing on a null engine.
     void Draw(penlode::IGraphicsEngine* engine) const;
+
+    /// Both halves' slices as they would be drawn now.
+    HalfPieHalfPieShapes GetShapes() const { return {m_first.GetShapes(), m_second.GetShapes()}; }
+
+    /// Both halves' labels as they would be drawn now; those of the second are of part 1.
+    void VisitTexts(const TextVisitor& visit) const;
+
+    /// GetPositionAll with the texts that reach out of it.
+    penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
     /// Where the labels stand. `pie` and `legend` are left as they are.
     void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,

@@ -67,6 +67,11 @@ void CBasicHalfPieHistogram::Draw(IGraphicsEngine* engine) const {
     m_histogram.Draw(engine);
 }
 
+void CBasicHalfPieHistogram::VisitTexts(const TextVisitor& visit) const {
+    m_halfPie.VisitTexts(visit);
+    m_histogram.VisitTexts(InPart(1, visit));
+}
+
 void CBasicHalfPieHistogram::GetChildPosition(RectF& pie, std::vector<RectF>& labels,
                                               std::vector<RectF>& legend) const {
     m_halfPie.GetChildPosition(pie, labels, legend);

@@ -6,6 +6,12 @@
 
 namespace millichart {
 
+/// Slices and bars, in the order in which they are drawn.
+struct HalfPieHistogramShapes {
+    PieShapes HalfPie;
+    BarShapes Histogram;
+};
+
 /// A half pie, usually a lower one, with bars standing on the line through its centre:
 ///
 ///          | |  |
@@ -31,6 +37,15 @@ public:
     void SetComponentValue(const std::vector<double>& slices, const std::vector<std::vector<double>>& groups,
                            double largest);
 
+    /// The slices', as set, whether or not they have been laid out since.
+    const std::vector<double>& GetHalfPieValue() const { return m_slices; }
+
+    /// The bars', one list a group, as set, whether or not they have been laid out since.
+    const std::vector<std::vector<double>>& GetHistogramValue() const { return m_groups; }
+
+    /// What the bars' axis was asked to hold; its range may come from an earlier one.
+    double GetLargestValue() const { return m_largest; }
+
     /// The half pie's centre.
     void SetLocation(penlode::PointF location) { m_location = location; }
 
@@ -48,6 +63,15 @@ public:
 
     /// The half pie, then the bars over it. Nothing on a null engine.
     void Draw(penlode::IGraphicsEngine* engine) const;
+
+    /// Slices and bars as they would be drawn now.
+    HalfPieHistogramShapes GetShapes() const { return {m_halfPie.GetShapes(), m_histogram.GetShapes()}; }
+
+    /// The half pie's labels, then the bar chart's texts, of part 1, as they would be drawn now.
+    void VisitTexts(const TextVisitor& visit) const;
+
+    /// GetPositionAll with the texts that reach out of it.
+    penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
     /// The half pie's movable parts; the bar chart's do not move.
     void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,

@@ -1,16 +1,11 @@
 #include "charts/pie/BasicPie.h"
 
+#include "charts/pie/PiePlacement.h"
+
 namespace millichart {
 
 using penlode::PointF;
 using penlode::RectF;
-
-namespace {
-
-constexpr float kFullTurn = 360.0F;
-constexpr float kLegendSwatchFactor = 1.0F;
-
-} // namespace
 
 void CBasicPie::SetPieProp(const PieProp& prop) {
     m_prop = prop;
@@ -21,15 +16,12 @@ void CBasicPie::Layout() {
     m_layout.Whole = {m_location.X, m_location.Y, 0.0F, 0.0F};
     m_layout.LegendItemRects.clear();
     const PieBasicProp& basic = m_prop.Basic;
-    const float diameter = PieDiameter(basic.FixedSize, basic.FixedWidth, basic.BaseValue, basic.BasePieWidth,
-                                       TotalOf(m_values));
-    if (!LayOutFigure({m_location, diameter, basic.StartAngle, kFullTurn, m_values, basic.ComponentName,
-                       m_prop.Label, m_labelOffsets},
-                      m_layout)) {
-        return;
+    if (PlacePie({m_location, PieDiameter(basic, m_values), basic.StartAngle, kFullTurn, m_values,
+                  basic.ComponentName, m_prop.Label, m_labelOffsets},
+                 m_layout)) {
+        m_layout.Whole = WithLabels(m_layout.Pie, m_layout.LabelRects);
+        PlaceLegend();
     }
-    m_layout.Whole = FigureExtent(m_layout.Pie, m_layout.LabelRects);
-    PlaceLegend();
 }
 
 void CBasicPie::PlaceLegend() {
@@ -37,7 +29,7 @@ void CBasicPie::PlaceLegend() {
         return;
     }
     m_layout.LegendItemRects = CLegendOperation::PlaceItems(m_prop.Legend, m_prop.Basic.ComponentName,
-                                                            m_layout.Whole, kLegendSwatchFactor);
+                                                            m_layout.Whole, kLegendSquareFactor);
     for (RectF& item : m_layout.LegendItemRects) {
         item = penlode::Translated(item, m_legendOffset);
         m_layout.Whole = penlode::Union(m_layout.Whole, item);
@@ -45,17 +37,16 @@ void CBasicPie::PlaceLegend() {
 }
 
 void CBasicPie::GetChildPosition(RectF& pie, std::vector<RectF>& labels, std::vector<RectF>& legend) const {
-    pie = m_layout.Pie;
-    labels = m_layout.LabelRects;
+    CSlicedCircle::GetChildPosition(pie, labels, legend);
     legend.clear();
     if (!m_layout.LegendItemRects.empty()) {
         legend.push_back(UnionOf(m_layout.LegendItemRects));
     }
 }
 
-void CBasicPie::SetChildPosition(const RectF&, const std::vector<RectF>& labels,
+void CBasicPie::SetChildPosition(const RectF& pie, const std::vector<RectF>& labels,
                                  const std::vector<RectF>& legend) {
-    AddMoves(m_labelOffsets, m_layout.LabelRects, labels);
+    CSlicedCircle::SetChildPosition(pie, labels, legend);
     if (legend.size() == 1 && !m_layout.LegendItemRects.empty()) {
         const PointF from = UnionOf(m_layout.LegendItemRects).TopLeft();
         m_legendOffset = m_legendOffset + (legend.front().TopLeft() - from);
@@ -63,7 +54,7 @@ void CBasicPie::SetChildPosition(const RectF&, const std::vector<RectF>& labels,
 }
 
 void CBasicPie::GetChildOffset(std::vector<PointF>& labels, std::vector<PointF>& legend) const {
-    labels = m_labelOffsets;
+    CSlicedCircle::GetChildOffset(labels, legend);
     legend.clear();
     if (!m_layout.LegendItemRects.empty()) {
         legend.push_back(m_legendOffset);
@@ -71,7 +62,7 @@ void CBasicPie::GetChildOffset(std::vector<PointF>& labels, std::vector<PointF>&
 }
 
 void CBasicPie::SetChildOffset(const std::vector<PointF>& labels, const std::vector<PointF>& legend) {
-    m_labelOffsets = labels;
+    CSlicedCircle::SetChildOffset(labels, legend);
     if (legend.size() == 1) {
         m_legendOffset = legend.front();
     }

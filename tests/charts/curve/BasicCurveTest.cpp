@@ -196,10 +196,10 @@ TEST(BasicCurve, ALongCurveIsPlacedAsItsValuesAreOneByOne) {
     }
     values[100] = kNan;
     CBasicCurve chart = LaidOut(PlotAlone(), {values}, {times});
-    const CurveFigure curve = chart.GetLayout().Curves[0];
+    const CurveTrace curve = chart.GetLayout().Curves[0];
     ASSERT_EQ(curve.Points.size(), 1300U);
     for (std::size_t i = 0; i < curve.Points.size(); ++i) {
-        const CurveFigure one =
+        const CurveTrace one =
             LaidOut(PlotAlone(), {{values[i]}, {}}, {{times[i]}, {0, 1299}}).GetLayout().Curves[0];
         EXPECT_EQ(curve.Points[i].X, one.Points[0].X) << i;
         EXPECT_TRUE(i == 100 || curve.Points[i].Y == one.Points[0].Y) << i;
@@ -212,7 +212,7 @@ TEST(BasicCurve, ALongCurveIsPlacedAsItsValuesAreOneByOne) {
     for (const std::size_t count : {1000U, 3U, 2000U}) {
         chart.SetCurveData({std::vector<double>(count, 20)}, {std::vector<std::int32_t>(count, 5)});
         chart.Layout();
-        const CurveFigure& next = chart.GetLayout().Curves[0];
+        const CurveTrace& next = chart.GetLayout().Curves[0];
         EXPECT_EQ(next.Points, Points(count, {100, 215}));
         EXPECT_EQ(next.NullFlags, std::vector<bool>(count));
         EXPECT_FALSE(next.HasNull || next.HasUnplaced);

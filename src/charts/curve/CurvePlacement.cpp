@@ -1,4 +1,4 @@
-#include "charts/curve/CurveFigure.h"
+#include "charts/curve/CurvePlacement.h"
 
 #include "charts/curve/CurveProp.h"
 
@@ -17,22 +17,18 @@ namespace {
 /// values while it still computes with the last.
 constexpr std::size_t kRun = 64;
 
-bool IsNull(double value) {
-    return value < kCurveNullThreshold;
-}
-
 /// How far up from the plot's bottom the values are. `first` is the index of the first of them.
 void TakeDistances(std::span<const double> values, std::size_t first, const ValueAxis& axis,
-                   std::span<float> distances, CurveFigure& curve) {
+                   std::span<float> distances, CurveTrace& curve) {
     // Counting to the end is faster than looking for the first.
-    if (std::count_if(values.begin(), values.end(), IsNull) == 0) {
+    if (std::count_if(values.begin(), values.end(), IsCurveNull) == 0) {
         axis.ValuesToPositions(values, distances);
         return;
     }
     curve.HasNull = true;
     std::array<double, kRun> placed;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const bool isNull = IsNull(values[i]);
+        const bool isNull = IsCurveNull(values[i]);
         curve.NullFlags[first + i] = isNull;
         placed[i] = isNull ? 0.0 : values[i];
     }
@@ -41,7 +37,7 @@ void TakeDistances(std::span<const double> values, std::size_t first, const Valu
 
 /// Points at the times, `distances` up from the plot's bottom.
 void TakePoints(std::span<const std::int32_t> times, std::span<const float> distances,
-                const CurveScales& scales, std::span<PointF> points, CurveFigure& curve) {
+                const CurveScales& scales, std::span<PointF> points, CurveTrace& curve) {
     const double left = scales.Plot.X;
     const double start = scales.Times.Min;
     const double span = scales.Times.Max - start;
@@ -98,7 +94,7 @@ TimeSpan TimeSpanOf(std::span<const std::vector<std::int32_t>> curves, TimeSpan 
 }
 
 void PlaceCurve(std::span<const double> values, std::span<const std::int32_t> times,
-                const CurveScales& scales, CurveFigure& curve) {
+                const CurveScales& scales, CurveTrace& curve) {
     MakeRoom(curve.Points, values.size());
     curve.NullFlags.assign(values.size(), false);
     curve.HasNull = false;

@@ -1,4 +1,4 @@
-#include "charts/cartesian/CartesianFigure.h"
+#include "charts/cartesian/CartesianPlacement.h"
 
 #include "foundation/TextPropertyOperation.h"
 

@@ -41,8 +41,8 @@ struct FrameSizes {
 };
 
 /// Places the whole, the plot and the captions, whose sizes must have been taken. `depth` is what a plot with
-/// depth reaches to the right and up; captions below and beside it take that height a second time, as
-/// documents that were laid out earlier have them.
+/// depth reaches to the right and up. Captions below and beside it take that height a second time: hosts make
+/// room for them there.
 void PlaceFrame(const FrameSizes& sizes, penlode::PointF location, penlode::SizeF depth,
                 CartesianLayout& layout);
 

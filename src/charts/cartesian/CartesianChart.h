@@ -1,0 +1,39 @@
+#pragma once
+
+#include "charts/cartesian/ValueAxis.h"
+#include "foundation/Export.h"
+#include "penlode/Geometry.h"
+
+namespace millichart {
+
+/// What a bar and a line chart have alike for their hosts: a place, and a value axis with its range. Copies
+/// share the axis.
+class MILLICHART_API CCartesianChart {
+public:
+    /// The top-left corner, legend included, in mm of the page.
+    void SetLocation(penlode::PointF location) { m_location = location; }
+
+    penlode::PointF GetLocation() const { return m_location; }
+
+    /// Takes a round range that holds `largest`. The range operations do nothing before the chart has its
+    /// first record, nor those of the other scale.
+    void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
+
+    void SetNaturalValueRange(double min, double max, double step, double minorStep) {
+        m_axis.SetNaturalRange(min, max, step, minorStep);
+    }
+
+    void GetNaturalValueRange(double& min, double& max, double& step, double& minorStep) const {
+        m_axis.GetNaturalRange(min, max, step, minorStep);
+    }
+
+    void SetLogarithmValueRange(double min, double max) { m_axis.SetLogarithmRange(min, max); }
+
+    void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
+
+protected:
+    ValueAxis m_axis;
+    penlode::PointF m_location;
+};
+
+} // namespace millichart
