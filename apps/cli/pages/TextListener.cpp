@@ -1,6 +1,8 @@
 #include "pages/TextListener.h"
 
 #include "penlode/Units.h"
+#include "penlode/engine/Drawings.h"
+#include "penlode/engine/SurfaceState.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -32,18 +34,12 @@ TextListener::TextListener(Heard heard)
 }
 
 /// All chart texts stand in the middle of their rectangles.
-penlode::Status TextListener::DrawString(const wchar_t* text, std::int32_t length, const penlode::Font* font,
-                                         const RectF& layout, const penlode::StringFormat*,
-                                         const penlode::SolidBrush*) {
-    if (text == nullptr || font == nullptr) {
-        return penlode::Status::InvalidParameter;
-    }
-    const std::wstring said =
-        length < 0 ? std::wstring(text) : std::wstring(text, static_cast<std::size_t>(length));
-    const penlode::SizeF size = penlode::CStringUtil::MeasureWideString(said, font);
-    const penlode::PointF center = layout.Center();
+penlode::Status TextListener::PaintText(const penlode::TextRun& text) {
+    const std::wstring said(text.Text);
+    const penlode::SizeF size = penlode::CStringUtil::MeasureWideString(said, text.Face);
+    const penlode::PointF center = text.Box.Center();
     const RectF place{center.X - size.Width * 0.5F, center.Y - size.Height * 0.5F, size.Width, size.Height};
-    m_heard(said, *font, BoxOf(place, State().WorldToDevice()));
+    m_heard(said, *text.Face, BoxOf(place, State().WorldToDevice()));
     return kOk;
 }
 

@@ -3,6 +3,7 @@
 #include "penlode/cairo/FontFamilies.h"
 #include "penlode/engine/EngineArguments.h"
 #include "penlode/text/StringUtil.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <algorithm>
 #include <cmath>

@@ -16,9 +16,6 @@ namespace penlode {
 /// The em size of a set line, in its own units. All its measures are in proportion.
 inline constexpr double kShapingEm = 100.0;
 
-/// A line of a text that is longer ends after so many characters.
-inline constexpr std::size_t kMaxLineCharacters = 8192;
-
 /// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
 /// for every face, clear of ideographs as of Latin letters.
 inline constexpr double kUnderline = -0.18;

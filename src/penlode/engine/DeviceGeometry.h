@@ -26,10 +26,6 @@ struct BoxD {
     friend bool operator==(const BoxD&, const BoxD&) = default;
 };
 
-inline bool IsFinite(PointD p) {
-    return std::isfinite(p.X) && std::isfinite(p.Y);
-}
-
 inline BoxD BoxBetween(PointD a, PointD b) {
     return {std::min(a.X, b.X), std::min(a.Y, b.Y), std::max(a.X, b.X), std::max(a.Y, b.Y)};
 }

@@ -1,5 +1,6 @@
 #include "penlode/svg/SvgGradient.h"
 
+#include "penlode/engine/GradientColors.h"
 #include "penlode/svg/SvgClip.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgPath.h"
@@ -55,8 +56,8 @@ std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
 /// The elements, in a group that cuts them to the bounds if any of their corners lies outside.
 class GradientParts {
 public:
-    GradientParts(const PageMap& map, const GradientArea& area)
-        : m_map(map), m_bounds(area.Bounds), m_shown(BoxAround(BoundsOnPage(map.ToPage, area.Bounds))) {
+    GradientParts(const PageMap& map, const RectL& bounds)
+        : m_map(map), m_bounds(bounds), m_shown(BoxAround(BoundsOnPage(map.ToPage, bounds))) {
         m_shown = Common(m_shown, {0.0, 0.0, map.Page.Width, map.Page.Height});
     }
 
@@ -196,45 +197,33 @@ void AddWhole(Triangle t, GradientParts& parts) {
     AddTriangle(t, parts);
 }
 
-} // namespace
-
-std::optional<std::string> GradientRects(const PageMap& map, const GradientArea& area,
-                                         std::span<const GradientRect> rects, bool vertical,
-                                         SvgDefinitions& definitions) {
-    if (!AreVerticesThere(rects, area.Vertices.size())) {
-        return std::nullopt;
+void AddRect(const ColoredPoint& from, const ColoredPoint& to, bool vertical, SvgDefinitions& definitions,
+             GradientParts& parts) {
+    const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
+    const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
+    const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),
+                    static_cast<float>(std::abs(from.Place.Y - to.Place.Y))};
+    if (box.Width > 0.0F && box.Height > 0.0F) {
+        parts.Include(from.Place);
+        parts.Include(to.Place);
+        const std::string id = AxisBlend(parts.Map().ToPage, from, to, vertical, definitions);
+        parts.Add(ShapeElement(parts.Map(), {Outline::Rectangle{box}}, {" fill=\"" + Reference(id) + "\""}));
     }
-    GradientParts parts(map, area);
-    for (const GradientRect& rect : rects) {
-        const ColoredPoint from = Moved(area, rect.UpperLeft);
-        const ColoredPoint to = Moved(area, rect.LowerRight);
-        const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
-        const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
-        const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),
-                        static_cast<float>(std::abs(from.Place.Y - to.Place.Y))};
-        if (box.Width > 0.0F && box.Height > 0.0F) {
-            parts.Include(from.Place);
-            parts.Include(to.Place);
-            const std::string id = AxisBlend(map.ToPage, from, to, vertical, definitions);
-            parts.Add(FilledBox(map, box, {" fill=\"" + Reference(id) + "\""}));
-        }
-    }
-    return parts.Grouped("", definitions);
 }
 
-std::optional<std::string> GradientTriangles(const PageMap& map, const GradientArea& area,
-                                             std::span<const GradientTriangle> triangles,
-                                             SvgDefinitions& definitions) {
-    if (!AreVerticesThere(triangles, area.Vertices.size())) {
-        return std::nullopt;
+} // namespace
+
+std::string GradientElements(const PageMap& map, const GradientMesh& mesh, SvgDefinitions& definitions) {
+    GradientParts parts(map, mesh.Bounds);
+    for (const GradientRect& entry : mesh.Rects) {
+        AddRect(Moved(mesh, entry.UpperLeft), Moved(mesh, entry.LowerRight), mesh.Mode == GradientMode::RectV,
+                definitions, parts);
     }
-    GradientParts parts(map, area);
-    for (const GradientTriangle& entry : triangles) {
-        const Triangle corners{Moved(area, entry.Vertex1), Moved(area, entry.Vertex2),
-                               Moved(area, entry.Vertex3)};
-        AddWhole(corners, parts);
+    for (const GradientTriangle& entry : mesh.Triangles) {
+        AddWhole({Moved(mesh, entry.Vertex1), Moved(mesh, entry.Vertex2), Moved(mesh, entry.Vertex3)}, parts);
     }
-    return parts.Grouped(" shape-rendering=\"crispEdges\"", definitions);
+    const bool flat = mesh.Mode == GradientMode::Triangle;
+    return parts.Grouped(flat ? " shape-rendering=\"crispEdges\"" : "", definitions);
 }
 
 } // namespace penlode::svg

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "penlode/Color.h"
-#include "penlode/Geometry.h"
-#include "penlode/GraphicsPath.h"
 #include "penlode/Pen.h"
+#include "penlode/engine/Outline.h"
 #include "penlode/svg/SvgGeometry.h"
 
 #include <span>
@@ -32,16 +31,9 @@ struct Paint {
 /// A pen under a transform that makes lengths grow by `lengthFactor`.
 Paint StrokePaint(const Pen& pen, double lengthFactor);
 
-/// A box without extent is a line for a pen and nothing for a brush; a negative one is nothing.
-std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke);
-std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill);
-
-std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke);
-/// Nothing for fewer than two points. Points that fall together when rounded are written once; of data, what
-/// 600 dots per inch can show.
-std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
-std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint);
-std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint);
-std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint);
+/// A box without extent is a line for a pen. Points that fall together when rounded are written once.
+std::string ShapeElement(const PageMap& map, const Outline& outline, const Paint& paint);
+/// What 600 dots per inch can show of a polyline.
+std::string DataLineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
 
 } // namespace penlode::svg
