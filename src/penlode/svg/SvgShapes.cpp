@@ -194,11 +194,12 @@ std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill) 
     if (rect.Width <= 0.0F || rect.Height <= 0.0F) {
         return "";
     }
-    if (!KeepsAxesNearly(map.ToPage)) {
+    const PointD a = Mapped(map.ToPage, rect.TopLeft());
+    const PointD b = Mapped(map.ToPage, PointF{rect.Right(), rect.Bottom()});
+    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b)) {
         return PolygonElement(map, CornersOf(rect), fill);
     }
-    return BoxElement(OnPage(map.ToPage, rect.TopLeft()),
-                      OnPage(map.ToPage, PointF{rect.Right(), rect.Bottom()}), fill);
+    return BoxElement(a, b, fill);
 }
 
 std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke) {
