@@ -95,21 +95,30 @@ private:
     std::string m_elements;
 };
 
-/// Where the last colour is reached on the page: straight across the lines of equal colour, which a skewed
-/// transform does not leave at right angles to the blend's axis.
-PointD BlendEnd(const Matrix& m, PointD start, double extent, bool vertical) {
+double Dot(PointD a, PointD b) {
+    return a.X * b.X + a.Y * b.Y;
+}
+
+/// Where the first and the last colour are reached on the page: straight across the lines of equal colour,
+/// which a skewed transform does not leave at right angles to the blend's axis. Any point of the line on
+/// which the first one lies will do: of a far line it is the one next to the page's corner, as viewers count
+/// in floats.
+std::array<PointD, 2> BlendEnds(const Matrix& m, PointD from, double extent, bool vertical) {
     const PointD along = vertical ? PointD{m.M21, m.M22} : PointD{m.M11, m.M12};
     const PointD normal = vertical ? PointD{-m.M12, m.M11} : PointD{-m.M22, m.M21};
-    const double share =
-        extent * (along.X * normal.X + along.Y * normal.Y) / (normal.X * normal.X + normal.Y * normal.Y);
-    return {start.X + normal.X * share, start.Y + normal.Y * share};
+    const auto onNormal = [&](PointD p) {
+        const double share = Dot(p, normal) / Dot(normal, normal);
+        return PointD{normal.X * share, normal.Y * share};
+    };
+    const PointD start = IsFar(from) ? onNormal(from) : from;
+    const PointD step = onNormal({along.X * extent, along.Y * extent});
+    return {start, {start.X + step.X, start.Y + step.Y}};
 }
 
 std::string AxisBlend(const Matrix& toPage, const ColoredPoint& from, const ColoredPoint& to, bool vertical,
                       SvgDefinitions& definitions) {
-    const PointD start = Placed(toPage, from.Place);
     const double extent = vertical ? to.Place.Y - from.Place.Y : to.Place.X - from.Place.X;
-    const PointD end = BlendEnd(toPage, start, extent, vertical);
+    const auto [start, end] = BlendEnds(toPage, Placed(toPage, from.Place), extent, vertical);
     const std::string attributes = " gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(start.X) + "\" y1=\"" +
                                    Number(start.Y) + "\" x2=\"" + Number(end.X) + "\" y2=\"" + Number(end.Y) +
                                    "\"";

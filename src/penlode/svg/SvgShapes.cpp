@@ -193,11 +193,12 @@ std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& strok
 }
 
 std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill) {
-    if (!KeepsAxesNearly(map.ToPage)) {
+    const PointD a = Mapped(map.ToPage, rect.TopLeft());
+    const PointD b = Mapped(map.ToPage, PointF{rect.Right(), rect.Bottom()});
+    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b)) {
         return PolygonElement(map, CornersOf(rect), fill);
     }
-    return BoxElement(OnPage(map.ToPage, rect.TopLeft()),
-                      OnPage(map.ToPage, PointF{rect.Right(), rect.Bottom()}), fill);
+    return BoxElement(a, b, fill);
 }
 
 std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint) {
@@ -229,7 +230,7 @@ std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& p
         .Empty();
 }
 
-/// What pens and brushes draw alike.
+/// Writes an outline as an element; nothing where a brush finds no area.
 struct ElementWriter {
     const PageMap& Map;
     const Paint& Look;
