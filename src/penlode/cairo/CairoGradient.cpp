@@ -32,7 +32,7 @@ Rgb RgbAt(std::span<const ColoredPoint, 3> t, PointD p) {
 
 void ClipToBounds(const Painter& painter, const RectL& bounds) {
     std::vector<PointD> corners;
-    for (const PointD p : CornersOf(bounds)) {
+    for (const PointD p : CornersOf(BoxOf(bounds))) {
         corners.push_back(Mapped(painter.ToDevice(), p));
     }
     if (painter.Snaps()) {

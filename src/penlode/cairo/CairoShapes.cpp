@@ -12,14 +12,6 @@ namespace {
 /// Curve pieces in one stroke; longer outlines are flattened and stroked piece by piece.
 constexpr std::size_t kMaxPieces = 64;
 
-std::array<PointF, 4> CornersOf(const RectF& r) {
-    return {{{r.X, r.Y}, {r.Right(), r.Y}, {r.Right(), r.Bottom()}, {r.X, r.Bottom()}}};
-}
-
-std::array<PointD, 4> CornersOf(const BoxD& b) {
-    return {{{b.Left, b.Top}, {b.Right, b.Top}, {b.Right, b.Bottom}, {b.Left, b.Bottom}}};
-}
-
 std::vector<PointD> MapAll(const Painter& painter, std::span<const PointF> points) {
     std::vector<PointD> mapped;
     mapped.reserve(points.size());

@@ -1,6 +1,5 @@
 #include "penlode/cairo/PangoText.h"
 
-#include "penlode/cairo/FontFamilies.h"
 #include "penlode/engine/EngineArguments.h"
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "penlode/engine/DeviceGeometry.h"
 #include "penlode/engine/Drawings.h"
 
 #include <algorithm>
@@ -26,11 +27,9 @@ inline ColoredPoint Moved(const GradientMesh& mesh, std::uint32_t index) {
             {channel(v.Red), channel(v.Green), channel(v.Blue)}};
 }
 
-/// Corners of the bounds in order.
-inline std::array<PointD, 4> CornersOf(const RectL& r) {
-    const PointD a{static_cast<double>(r.Left), static_cast<double>(r.Top)};
-    const PointD b{static_cast<double>(r.Right), static_cast<double>(r.Bottom)};
-    return {a, {b.X, a.Y}, b, {a.X, b.Y}};
+inline BoxD BoxOf(const RectL& r) {
+    return {static_cast<double>(r.Left), static_cast<double>(r.Top), static_cast<double>(r.Right),
+            static_cast<double>(r.Bottom)};
 }
 
 } // namespace penlode

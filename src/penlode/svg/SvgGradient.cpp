@@ -33,10 +33,6 @@ std::string OpaqueAttribute(const char* name, const Rgb& tint) {
     return std::string(" ") + name + fill.substr(fill.find('='));
 }
 
-bool IsWithin(PointD p, const RectL& bounds) {
-    return p.X >= bounds.Left && p.X <= bounds.Right && p.Y >= bounds.Top && p.Y <= bounds.Bottom;
-}
-
 BoxD BoxAround(std::span<const PointD> points) {
     BoxD box = BoxBetween(points.front(), points.front());
     for (const PointD p : points) {
@@ -47,7 +43,7 @@ BoxD BoxAround(std::span<const PointD> points) {
 
 std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
     std::vector<PointD> corners;
-    for (const PointD p : CornersOf(bounds)) {
+    for (const PointD p : CornersOf(BoxOf(bounds))) {
         corners.push_back(Placed(toPage, p));
     }
     return corners;
@@ -70,7 +66,7 @@ public:
                box.Bottom > m_shown.Top;
     }
 
-    void Include(PointD corner) { m_fits = m_fits && IsWithin(corner, m_bounds); }
+    void Include(PointD corner) { m_fits = m_fits && BoxOf(m_bounds).Contains(corner); }
 
     void Add(const std::string& element) { m_elements += (m_elements.empty() ? "" : "\n") + element; }
 

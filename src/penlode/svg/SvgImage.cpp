@@ -76,8 +76,7 @@ std::string Base64(std::string_view bytes) {
 
 /// The unit square becomes these pixels' place on the page.
 void Place(SvgElement& element, const Matrix& m) {
-    constexpr double kNoise = 1e-7;
-    const bool upright = std::abs(m.M12) + std::abs(m.M21) <= kNoise * m.LengthFactor();
+    const bool upright = std::abs(m.M12) + std::abs(m.M21) <= kTurnNoise * m.LengthFactor();
     if (upright && m.M11 > 0.0 && m.M22 > 0.0) {
         element.Set("x", m.Dx).Set("y", m.Dy).Set("width", m.M11).Set("height", m.M22);
         return;

@@ -1,5 +1,6 @@
 #include "penlode/svg/SvgShapes.h"
 
+#include "penlode/PenDrawing.h"
 #include "penlode/Units.h"
 #include "penlode/engine/GuardBand.h"
 #include "penlode/engine/LineThinning.h"
@@ -37,23 +38,7 @@ std::string ColorAttributes(const std::string& name, Color color) {
     return text;
 }
 
-/// Dash and gap lengths in widths of the pen.
-std::vector<double> DashPattern(DashStyle style) {
-    switch (style) {
-    case DashStyle::Dash:
-        return {3, 1};
-    case DashStyle::Dot:
-        return {1, 1};
-    case DashStyle::DashDot:
-        return {3, 1, 1, 1};
-    case DashStyle::DashDotDot:
-        return {3, 1, 1, 1, 1, 1};
-    default:
-        return {};
-    }
-}
-
-std::string DashAttribute(const std::vector<double>& pattern, double width) {
+std::string DashAttribute(std::span<const double> pattern, double width) {
     std::string lengths;
     for (const double part : pattern) {
         lengths += (lengths.empty() ? "" : " ") + Number(part * width);
@@ -269,9 +254,8 @@ std::string FillAttributes(Color color) {
 }
 
 Paint StrokePaint(const Pen& pen, double lengthFactor) {
-    const double width =
-        std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kMinLineWidth);
-    const std::vector<double> pattern = DashPattern(pen.GetDashStyle());
+    const double width = std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kMinPageLine);
+    const std::span<const double> pattern = DashPattern(pen.GetDashStyle());
     return {ColorAttributes("stroke", pen.GetColor()) + " stroke-width=\"" + Number(width) + "\"" +
                 DashAttribute(pattern, width),
             true, std::min(width * kMiterLimit, kMaxMargin),

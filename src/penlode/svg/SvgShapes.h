@@ -12,11 +12,6 @@
 /// that reaches far, what lies near the page is written as a path of straight lines.
 namespace penlode::svg {
 
-/// The thinnest line of a page, in millimetres; a pen of width 0 draws it. A line that keeps one pixel at
-/// every zoom (vector-effect) would be as readable on screen, but printers, converters and office programs
-/// pass that over and draw nothing, or a line of a whole millimetre.
-inline constexpr double kMinLineWidth = 0.05;
-
 /// ` fill="#336699" fill-opacity="0.502"`
 std::string FillAttributes(Color color);
 
@@ -28,7 +23,9 @@ struct Paint {
     double DashPeriod = 0.0; ///< the length of a pen's pattern, in millimetres; 0 for a solid line
 };
 
-/// A pen under a transform that makes lengths grow by `lengthFactor`.
+/// A pen under a transform that makes lengths grow by `lengthFactor`. A thinnest line that keeps one pixel at
+/// every zoom (vector-effect) would be as readable on screen as one of a fixed width, but printers,
+/// converters and office programs pass that over and draw nothing, or a line of a whole millimetre.
 Paint StrokePaint(const Pen& pen, double lengthFactor);
 
 /// A box without extent is a line for a pen. Points that fall together when rounded are written once.
