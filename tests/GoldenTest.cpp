@@ -19,8 +19,6 @@ constexpr std::uint32_t kTolerance = 8;
 constexpr double kShare = 0.005;
 
 const std::vector<Color> kColors{{0xFF3B6FB6}, {0xFFE58A3C}, {0xB057A168}, {0xFFC9504E}};
-const SolidBrush kBlue{kColors[0]};
-const SolidBrush kOrange{kColors[1]};
 
 void Pie(IGraphicsEngine& g, std::int32_t style) {
     millichart::PieProp prop;
@@ -73,53 +71,6 @@ void Lines(IGraphicsEngine& g) {
     }
 }
 
-/// Stripes seen through two circles, combined in each way.
-void Clips(IGraphicsEngine& g) {
-    for (int mode = 1; mode <= 5; ++mode) {
-        const std::uint32_t container = g.BeginContainer();
-        g.SetPageUnit(Unit::Millimeter);
-        g.TranslateTransform(static_cast<float>((mode - 1) % 3) * 14.0F,
-                             static_cast<float>((mode - 1) / 3) * 11.0F, MatrixOrder::Prepend);
-        GraphicsPath left;
-        left.AddEllipse({1, 1, 8, 9});
-        GraphicsPath right;
-        right.AddEllipse({5.5F, 1, 7, 9});
-        g.SetClip(&left, CombineMode::Replace);
-        g.SetClip(&right, static_cast<CombineMode>(mode));
-        for (int i = 0; i < 8; ++i) {
-            g.FillRectangle(i % 2 == 0 ? &kBlue : &kOrange, 0, 1.3F * static_cast<float>(i), 14, 1.3F);
-        }
-        g.EndContainer(container);
-    }
-}
-
-void Gradients(IGraphicsEngine& g) {
-    const GradientVertex vertices[] = {{0, 0, 0xFF00, 0x4000, 0x2000, 0xFF00},
-                                       {10, 16, 0x2000, 0x6000, 0xFF00, 0xFF00},
-                                       {0, 16, 0x2000, 0xE000, 0x6000, 0x8000}};
-    const GradientRect rect{0, 1};
-    const GradientTriangle triangle{0, 1, 2};
-    g.GradientFill({0, 0, 40, 20}, {2, 2}, vertices, 2, &rect, 1, GradientMode::RectH);
-    g.GradientFill({0, 0, 40, 20}, {14, 2}, vertices, 2, &rect, 1, GradientMode::RectV);
-    g.GradientFill({0, 0, 40, 16}, {26, 2}, vertices, 3, &triangle, 1, GradientMode::Triangle);
-}
-
-/// Slices and rings that overlap translucently, a spline, an even-odd star and a turned frame.
-void Shapes(IGraphicsEngine& g) {
-    const SolidBrush glass{kColors[2]};
-    const Pen pen(kColors[3], 0.5F);
-    g.FillEllipse(&kOrange, 2, 2, 16, 11);
-    g.FillPie(&glass, {8, 3, 20, 18}, 150, 250);
-    g.DrawPie(&pen, {8, 3, 20, 18}, 40, 110);
-    const PointF star[] = {{31, 2}, {34.5F, 13}, {25, 6}, {37, 6}, {27.5F, 13}};
-    g.FillPolygon(&kBlue, star, 5);
-    const PointF wave[] = {{2, 19}, {8, 24}, {16, 17}, {26, 25}, {37, 18}};
-    g.DrawCurve(&pen, wave, 5);
-    g.TranslateTransform(8, 18, MatrixOrder::Prepend);
-    g.RotateTransform(25, MatrixOrder::Prepend);
-    g.DrawRectangle(&pen, -4, -2, 9, 4);
-}
-
 struct Golden {
     const char* Name;
     SizeF Page;
@@ -127,10 +78,10 @@ struct Golden {
 };
 
 const Golden kGoldens[] = {
-    {"pie-flat", {34, 34}, FlatPie},     {"pie-depth", {34, 34}, PieWithDepth},
-    {"legend", {18, 28}, LegendSquares}, {"lines", {42, 32}, Lines},
-    {"clips", {42, 22}, Clips},          {"gradients", {38, 20}, Gradients},
-    {"shapes", {40, 28}, Shapes},
+    {"pie-flat", {34, 34}, FlatPie},
+    {"pie-depth", {34, 34}, PieWithDepth},
+    {"legend", {18, 28}, LegendSquares},
+    {"lines", {42, 32}, Lines},
 };
 
 std::ostream& operator<<(std::ostream& stream, const Golden& golden) {

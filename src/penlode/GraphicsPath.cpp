@@ -1,5 +1,8 @@
 #include "penlode/GraphicsPath.h"
 
+#include "penlode/engine/DeviceGeometry.h"
+#include "penlode/engine/EllipseAngle.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -9,21 +12,6 @@ namespace penlode {
 namespace {
 
 constexpr double kMaxArc = std::numbers::pi / 4.0;
-
-double Radians(double degrees) {
-    return degrees * std::numbers::pi / 180.0;
-}
-
-/// The parameter t at which (rx·cos t, ry·sin t) lies on the ray at `degrees`: tan t = tan θ · rx / ry, in
-/// the same quadrant and turn as θ.
-double EllipseParameter(double rx, double ry, double degrees) {
-    const double angle = Radians(degrees);
-    if (rx == ry || rx == 0.0 || ry == 0.0) {
-        return angle;
-    }
-    const double parameter = std::atan2(rx * std::sin(angle), ry * std::cos(angle));
-    return parameter + 2.0 * std::numbers::pi * std::round((angle - parameter) / (2.0 * std::numbers::pi));
-}
 
 struct EllipseArc {
     PointD Center;
@@ -176,9 +164,7 @@ void GraphicsPath::AddCurve(std::span<const PointF> points) {
 }
 
 void GraphicsPath::AddRectangle(const RectF& rect) {
-    const std::array<PointF, 4> corners{
-        {{rect.X, rect.Y}, {rect.Right(), rect.Y}, {rect.Right(), rect.Bottom()}, {rect.X, rect.Bottom()}}};
-    AddPolygon(corners);
+    AddPolygon(CornersOf(rect));
 }
 
 void GraphicsPath::AddEllipse(const RectF& ellipse) {

@@ -53,9 +53,15 @@ using DrawImageAbort = bool (*)(void* callbackData);
 ///
 /// Coordinates, pen widths and font sizes are in page units under the current transform; angles are degrees,
 /// clockwise on screen from the positive x axis. Texts are zero-terminated wide strings with a length, −1
-/// meaning up to the terminator; "\n" breaks a line. Pens, brushes, fonts, paths and images stay the caller's
-/// and are not kept. A null one is skipped with InvalidParameter, and so is a call whose numbers are not
-/// finite.
+/// meaning up to the terminator; "\n" breaks a line, and nothing else does. A line of more than 8192
+/// characters ends there. Pens, brushes, fonts, paths and images stay the caller's and are not kept.
+///
+/// A call with a null pen, brush, font, text, path, image or list of points, with a number that is not
+/// finite, or with a font of no size is an InvalidParameter and changes nothing. What has no extent draws
+/// nothing, and is Ok: a rectangle of negative width or height, a fill, an ellipse, an arc or a pie without
+/// width or height, a line of fewer than two points, an area of fewer than three. A pen draws a rectangle
+/// without width or height as a line. Under a transform that folds the plane to a line nothing can be seen,
+/// and all is Ok.
 ///
 /// The order of the operations is part of the interface; a compiler may still lay out overloads in an order
 /// of its own.
@@ -80,7 +86,8 @@ public:
                               const PointF& origin, const SolidBrush* brush) = 0;
     virtual Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
                               const StringFormat* format, const SolidBrush* brush) = 0;
-    /// The source rectangle is in `sourceUnit` of the image, at the image's own resolution.
+    /// The source rectangle is in `sourceUnit` of the image, at the image's own resolution; InvalidParameter
+    /// if that gives no number of pixels. `attributes` and `abort` may be null.
     virtual Status DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
                              float sourceWidth, float sourceHeight, Unit sourceUnit,
                              const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) = 0;
@@ -96,7 +103,10 @@ public:
                            float sweepAngle) = 0;
     virtual Status FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) = 0;
     virtual Status FillPath(const SolidBrush* brush, const GraphicsPath* path) = 0;
-    /// The last three may be null: the text's bounds, the characters that fit, the lines that they fill.
+    /// Each of the last three may be null. The bounds are those of all lines, whether they fit or not, since
+    /// lines are neither wrapped nor cut. What fits are whole lines, as many as have room in the layout's
+    /// height whatever its width, and all of them in a layout without height: `charactersFitted` counts their
+    /// characters with the breaks that end them, `linesFilled` the lines.
     virtual Status MeasureString(const wchar_t* text, std::int32_t length, const Font* font,
                                  const RectF& layout, const StringFormat* format, RectF* bounds,
                                  std::int32_t* charactersFitted, std::int32_t* linesFilled) = 0;
@@ -122,10 +132,12 @@ public:
     virtual std::uint32_t BeginContainer() = 0;
     /// Ends the container and any that was begun inside it and left open.
     virtual Status EndContainer(std::uint32_t container) = 0;
+    /// Whether edges are smoothed: AntiAlias at first; None and HighSpeed leave them jagged.
     virtual Status SetSmoothingMode(SmoothingMode mode) = 0;
     virtual SmoothingMode GetSmoothingMode() = 0;
     /// Fills `mesh` (GradientRect or GradientTriangle entries, as `mode` says) with colours blended between
-    /// the vertices, each moved by `origin`, inside `bounds`. Non-zero on success.
+    /// the vertices, each moved by `origin`, inside `bounds`. Non-zero on success; zero, and nothing drawn,
+    /// when an entry names a vertex that is not there.
     virtual std::int32_t GradientFill(const RectL& bounds, const PointF& origin,
                                       const GradientVertex* vertices, std::uint32_t vertexCount,
                                       const void* mesh, std::uint32_t meshCount, GradientMode mode) = 0;

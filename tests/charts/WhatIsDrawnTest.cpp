@@ -30,7 +30,7 @@ struct HeardText {
 };
 
 template <class T> T Argument(const penlode::RecordedCall& call, std::size_t index) {
-    return std::get<T>(call.Arguments.at(index));
+    return std::get<T>(call.Arguments.at(index).Held);
 }
 
 template <class Chart> std::vector<HeardText> TextsHeard(const Chart& chart) {

@@ -227,7 +227,7 @@ TEST_F(Formats, ABrowserShowsTheSvgAsThePngLooks) {
         const penlode::Image shown = Screenshot(browser, Drawn(Example(name), "b.svg"), picture);
         // Another rasteriser smooths edges differently and puts no frame on whole pixels: 0.3 % here. A text
         // in another face is 0.75 %, a wrong slice several.
-        const PictureDifference difference = Compare(Blurred(picture), Blurred(shown), 48);
+        const PictureDifference difference = CompareSmoothed(picture, shown, 48);
         EXPECT_LT(difference.Share, 0.006) << name << ": " << difference;
     }
 }

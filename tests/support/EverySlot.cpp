@@ -50,7 +50,7 @@ const std::array<PointF, 5> kZigzag{{{3, 15}, {7, 4}, {12, 14}, {16, 5}, {21, 12
 
 void Lines(IGraphicsEngine& g) {
     for (int style = 0; style < 5; ++style) {
-        const Pen pen(kBlack, 0.5F, static_cast<DashStyle>(style));
+        const Pen pen(kBlack, 0.4F, static_cast<DashStyle>(style));
         const float y = 4.0F + 3.0F * static_cast<float>(style);
         g.DrawLine(&pen, 3, y, 21, y);
     }
@@ -245,12 +245,7 @@ template <GradientMode Mode> void Gradient(IGraphicsEngine& g) {
     g.EndContainer(container);
 }
 
-struct Cell {
-    const wchar_t* Caption;
-    void (*Draw)(IGraphicsEngine&);
-};
-
-const Cell kCells[] = {
+const SlotCell kCells[] = {
     {L"DrawLine, dashes", Lines},
     {L"rectangles", Rectangles},
     {L"DrawLines, DrawCurve", Polylines},
@@ -276,6 +271,10 @@ const Cell kCells[] = {
 };
 
 } // namespace
+
+std::span<const SlotCell> SlotCells() {
+    return kCells;
+}
 
 void DrawEverySlot(IGraphicsEngine& engine) {
     const StringFormat center{0, 0, StringAlignment::Center, StringAlignment::Near};

@@ -46,24 +46,18 @@ template <class Visit> void ForEachPixel(const Image& image, const Visit& visit)
     }
 }
 
-} // namespace
-
-std::ostream& operator<<(std::ostream& stream, const PictureDifference& difference) {
-    return stream << difference.Share * 100.0 << " % of the pixels differ, by up to " << difference.Largest
-                  << ", from (" << difference.Left << ", " << difference.Top << ") to (" << difference.Right
-                  << ", " << difference.Bottom << ")";
-}
-
-PictureDifference Compare(const Image& a, const Image& b, std::uint32_t tolerance) {
+template <class Distance>
+PictureDifference Difference(const Image& a, const Image& b, std::uint32_t tolerance,
+                             const Distance& distance) {
     if (a.Width != b.Width || a.Height != b.Height || !a.IsDrawable() || !b.IsDrawable()) {
         return {};
     }
     PictureDifference found{0.0, 0, a.Width, a.Height, -1, -1};
     std::size_t count = 0;
     ForEachPixel(a, [&](std::int32_t x, std::int32_t y) {
-        const std::uint32_t distance = Distance(a.Pixels[IndexOf(a, x, y)], b.Pixels[IndexOf(b, x, y)]);
-        found.Largest = std::max(found.Largest, distance);
-        if (distance > tolerance) {
+        const std::uint32_t apart = distance(x, y);
+        found.Largest = std::max(found.Largest, apart);
+        if (apart > tolerance) {
             ++count;
             found.Left = std::min(found.Left, x);
             found.Top = std::min(found.Top, y);
@@ -75,10 +69,24 @@ PictureDifference Compare(const Image& a, const Image& b, std::uint32_t toleranc
     return found;
 }
 
-Image Blurred(const Image& image) {
-    Image blurred = image;
-    ForEachPixel(image, [&](std::int32_t x, std::int32_t y) {
-        blurred.Pixels[IndexOf(image, x, y)] = MeanAround(image, x, y);
+} // namespace
+
+std::ostream& operator<<(std::ostream& stream, const PictureDifference& difference) {
+    return stream << difference.Share * 100.0 << " % of the pixels differ, by up to " << difference.Largest
+                  << ", from (" << difference.Left << ", " << difference.Top << ") to (" << difference.Right
+                  << ", " << difference.Bottom << ")";
+}
+
+PictureDifference Compare(const Image& a, const Image& b, std::uint32_t tolerance) {
+    return Difference(a, b, tolerance, [&](std::int32_t x, std::int32_t y) {
+        return Distance(a.Pixels[IndexOf(a, x, y)], b.Pixels[IndexOf(b, x, y)]);
     });
-    return blurred;
+}
+
+PictureDifference CompareSmoothed(const Image& a, const Image& b, std::uint32_t tolerance) {
+    return Difference(a, b, tolerance, [&](std::int32_t x, std::int32_t y) {
+        const std::uint32_t sharp = Distance(a.Pixels[IndexOf(a, x, y)], b.Pixels[IndexOf(b, x, y)]);
+        return sharp <= tolerance ? sharp
+                                  : std::min(sharp, Distance(MeanAround(a, x, y), MeanAround(b, x, y)));
+    });
 }

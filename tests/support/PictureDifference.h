@@ -20,6 +20,6 @@ std::ostream& operator<<(std::ostream& stream, const PictureDifference& differen
 /// A pixel differs when one of its channels is more than `tolerance` (of 255) away.
 PictureDifference Compare(const penlode::Image& a, const penlode::Image& b, std::uint32_t tolerance);
 
-/// Each pixel becomes the mean of the 3 × 3 round it: two renderers' edges come closer, displaced shapes do
-/// not.
-penlode::Image Blurred(const penlode::Image& image);
+/// The same, but a pixel counts only if the mean of the 3 × 3 round it differs too: two renderers' edges do
+/// not, displaced shapes do.
+PictureDifference CompareSmoothed(const penlode::Image& a, const penlode::Image& b, std::uint32_t tolerance);

@@ -5,7 +5,6 @@
 #include "penlode/text/StringUtil.h"
 
 #include <array>
-#include <map>
 #include <string>
 #include <utility>
 
@@ -13,7 +12,6 @@ namespace cli {
 namespace {
 
 using namespace penlode;
-using Named = std::pair<const char*, Json>;
 
 constexpr std::array kAlignments{"near", "center", "far"};
 constexpr std::array kModes{"replace", "intersect", "union", "xor", "exclude", "complement"};
@@ -37,35 +35,35 @@ Json Joined(Json list, const Json& more) {
     return list;
 }
 
-/// An argument under the name of what it is.
-struct NamedArgument {
-    Named operator()(std::monostate) const { return {"missing", nullptr}; }
+struct ArgumentToJson {
+    Json operator()(std::monostate) const { return nullptr; }
 
-    Named operator()(std::int32_t value) const { return {"number", value}; }
+    Json operator()(std::int32_t value) const { return value; }
 
-    Named operator()(std::uint32_t value) const { return {"number", value}; }
+    Json operator()(std::uint32_t value) const { return value; }
 
-    Named operator()(float value) const { return {"number", ToJson(static_cast<double>(value))}; }
+    Json operator()(float value) const { return ToJson(static_cast<double>(value)); }
 
-    Named operator()(const PointF& point) const { return {"point", ToJson(point)}; }
+    Json operator()(const PointF& point) const { return ToJson(point); }
 
-    Named operator()(const RectF& rect) const { return {"rect", ToJson(rect)}; }
+    Json operator()(const RectF& rect) const { return ToJson(rect); }
 
-    Named operator()(const std::vector<PointF>& points) const { return {"points", ListToJson(points)}; }
+    Json operator()(const std::vector<PointF>& points) const { return ListToJson(points); }
 
-    Named operator()(const std::wstring& text) const { return {"text", CStringUtil::WideToUtf8(text)}; }
+    Json operator()(const std::wstring& text) const { return CStringUtil::WideToUtf8(text); }
 
-    Named operator()(const Pen& pen) const { return {"pen", Form(Owned<Pen>(pen))}; }
+    Json operator()(const Pen& pen) const { return Form(Owned<Pen>(pen)); }
 
-    Named operator()(const SolidBrush& brush) const { return {"brush", Form(brush.FillColor)}; }
+    Json operator()(const SolidBrush& brush) const { return Form(brush.FillColor); }
 
-    Named operator()(const Font& font) const { return {"font", Form(Owned<Font>(font))}; }
+    Json operator()(const Font& font) const { return Form(Owned<Font>(font)); }
 
-    Named operator()(const StringFormat& format) const {
-        return {"align", {NameOf(kAlignments, format.Alignment), NameOf(kAlignments, format.LineAlignment)}};
+    Json operator()(const StringFormat& format) const {
+        return Json::array(
+            {NameOf(kAlignments, format.Alignment), NameOf(kAlignments, format.LineAlignment)});
     }
 
-    Named operator()(const GraphicsPath& path) const {
+    Json operator()(const GraphicsPath& path) const {
         Json figures = Json::array();
         for (const GraphicsPath::Figure& figure : path.Figures()) {
             Json pieces = Json::array();
@@ -74,47 +72,45 @@ struct NamedArgument {
             }
             figures.push_back({{"closed", figure.Closed}, {"pieces", pieces}});
         }
-        return {"path", figures};
+        return figures;
     }
 
-    Named operator()(const Region& region) const {
+    Json operator()(const Region& region) const {
         Json steps = Json::array();
         for (const Region::Step& step : region.Steps()) {
-            const auto [name, shape] = std::visit(*this, step.Operand);
-            steps.push_back({{"mode", NameOf(kModes, step.Mode)}, {name, shape}});
+            steps.push_back({{"mode", NameOf(kModes, step.Mode)},
+                             {KindOf(step.Operand), std::visit(*this, step.Operand)}});
         }
-        return {"region", steps};
+        return steps;
     }
 
-    Named operator()(const Region::Everything&) const { return {"region", "everything"}; }
+    Json operator()(const Region::Everything&) const { return "everything"; }
 
-    Named operator()(const Region::Nothing&) const { return {"region", "nothing"}; }
+    Json operator()(const Region::Nothing&) const { return "nothing"; }
 
-    Named operator()(const Region::Nested& nested) const { return (*this)(*nested.Area); }
+    Json operator()(const Region::Nested& nested) const { return (*this)(*nested.Area); }
 
-    Named operator()(const Matrix& m) const {
+    Json operator()(const Matrix& m) const {
         Json numbers = Json::array();
         for (const auto part : {m.M11, m.M12, m.M21, m.M22, m.Dx, m.Dy}) {
             numbers.push_back(ToJson(static_cast<double>(part)));
         }
-        return {"matrix", numbers};
+        return numbers;
     }
 
-    Named operator()(const Image& image) const {
-        return {"image", {{"width", image.Width}, {"height", image.Height}}};
-    }
+    Json operator()(const Image& image) const { return {{"width", image.Width}, {"height", image.Height}}; }
 
-    Named operator()(const std::vector<Color>& colors) const {
+    Json operator()(const std::vector<Color>& colors) const {
         Json texts = Json::array();
         for (const Color color : colors) {
             texts.push_back(Form(color));
         }
-        return {"colors", texts};
+        return texts;
     }
 
-    Named operator()(const std::vector<std::uint32_t>& numbers) const { return {"mesh", Json(numbers)}; }
+    Json operator()(const std::vector<std::uint32_t>& numbers) const { return numbers; }
 
-    Named operator()(const ImageAttributes& attributes) const {
+    Json operator()(const ImageAttributes& attributes) const {
         Json rows = Json::array();
         for (const auto& row : attributes.ColorMatrix) {
             Json numbers = Json::array();
@@ -123,20 +119,24 @@ struct NamedArgument {
             }
             rows.push_back(numbers);
         }
-        return {"colorMatrix", rows};
+        return rows;
     }
 
-    Named operator()(CombineMode mode) const { return {"mode", NameOf(kModes, mode)}; }
+    Json operator()(CombineMode mode) const { return NameOf(kModes, mode); }
 
-    Named operator()(MatrixOrder order) const {
-        return {"order", order == MatrixOrder::Prepend ? "prepend" : "append"};
-    }
+    Json operator()(MatrixOrder order) const { return order == MatrixOrder::Prepend ? "prepend" : "append"; }
 
-    Named operator()(Unit unit) const { return {"unit", NameOf(kUnits, unit)}; }
+    Json operator()(Unit unit) const { return NameOf(kUnits, unit); }
 
-    Named operator()(SmoothingMode mode) const { return {"smoothing", NameOf(kSmoothing, mode)}; }
+    Json operator()(SmoothingMode mode) const { return NameOf(kSmoothing, mode); }
 
 private:
+    static const char* KindOf(const Region::Shape& shape) {
+        return std::holds_alternative<RectF>(shape)          ? "rect"
+               : std::holds_alternative<GraphicsPath>(shape) ? "path"
+                                                             : "region";
+    }
+
     static Json Piece(const GraphicsPath::Line& line) {
         return {{"line", Joined(ToJson(line.From), ToJson(line.To))}};
     }
@@ -156,29 +156,10 @@ private:
     }
 };
 
-/// Names that say more than what the argument is, in the order of an operation's arguments of one name.
-const std::map<std::pair<std::string, std::string>, std::vector<const char*>> kBetterNames{
-    {{"DrawLine", "point"}, {"from", "to"}},      {{"DrawArc", "number"}, {"start", "sweep"}},
-    {{"DrawPie", "number"}, {"start", "sweep"}},  {{"FillPie", "number"}, {"start", "sweep"}},
-    {{"DrawImage", "rect"}, {"rect", "source"}},  {{"TranslateTransform", "number"}, {"dx", "dy"}},
-    {{"ScaleTransform", "number"}, {"sx", "sy"}}, {{"RotateTransform", "number"}, {"degrees"}},
-    {{"SetPageScale", "number"}, {"scale"}},      {{"BeginContainer", "number"}, {"container"}},
-    {{"EndContainer", "number"}, {"container"}},  {{"GradientFill", "number"}, {"meshes", "mode"}}};
-
-std::string BetterName(const std::string& operation, const std::string& name, std::size_t index) {
-    const auto found = kBetterNames.find({operation, name});
-    if (found != kBetterNames.end() && index < found->second.size()) {
-        return found->second[index];
-    }
-    return index == 0 ? name : name + std::to_string(index + 1);
-}
-
 Json CallToJson(const RecordedCall& call) {
     Json object{{"call", call.Operation}};
-    std::map<std::string, std::size_t> counts;
-    for (const RecordedCall::Value& argument : call.Arguments) {
-        auto [name, value] = std::visit(NamedArgument(), argument);
-        object[BetterName(call.Operation, name, counts[name]++)] = std::move(value);
+    for (const RecordedCall::Argument& argument : call.Arguments) {
+        object[argument.Name] = std::visit(ArgumentToJson(), argument.Held);
     }
     return object;
 }

@@ -1,5 +1,6 @@
 #include "penlode/cairo/CairoCanvas.h"
 
+#include "penlode/PenDrawing.h"
 #include "penlode/Units.h"
 
 #include <utility>
@@ -104,13 +105,6 @@ void Painter::SetColor(Color color) const {
 void Painter::SetMatrix(const Matrix& toDevice) const {
     const cairo_matrix_t matrix = ToCairo(toDevice * Setting().ToUserSpace);
     cairo_set_matrix(Context(), &matrix);
-}
-
-bool KeepsAxesNearly(const Matrix& m) {
-    constexpr double kNoise = 1e-9;
-    const double straight = std::abs(m.M11) + std::abs(m.M22);
-    const double turned = std::abs(m.M12) + std::abs(m.M21);
-    return turned <= kNoise * straight || straight <= kNoise * turned;
 }
 
 bool IsSound(const Matrix& m, double strongest) {

@@ -24,9 +24,6 @@ struct CanvasSetting {
     bool OwnsSurface = true; ///< a failed context may be replaced by a new one on the same surface
 };
 
-/// The thinnest line of a page, in millimetres: what a hairline pen draws there.
-inline constexpr double kMinPageLine = 0.05;
-
 /// A Cairo context on which drawings are bracketed and clipped.
 class CairoCanvas {
 public:
@@ -109,9 +106,6 @@ private:
     bool m_snaps;
     bool m_ready;
 };
-
-/// A turn by a fraction of a degree moves lines off the grid; the noise of a chain of turns does not.
-bool KeepsAxesNearly(const Matrix& m);
 
 /// False for a matrix that enlarges or reduces by more than `strongest`, or flattens the plane to nearly a
 /// line: Cairo turns matrices round in fixed point, and a surface on which that fails is lost.

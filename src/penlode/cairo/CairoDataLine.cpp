@@ -1,6 +1,5 @@
-#include "penlode/cairo/CairoDataLine.h"
-
 #include "penlode/Units.h"
+#include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoStroke.h"
 #include "penlode/cairo/LineCoverage.h"
 #include "penlode/engine/LineThinning.h"
@@ -84,7 +83,7 @@ void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<
 
 } // namespace
 
-Status StrokeDataLine(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
+Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, const Pen& pen) {
     const DevicePen drawn(pen, painter, false);
     std::optional<std::vector<PointD>> line = Thinned(painter, drawn.Margin(), points);
     if (!line) {

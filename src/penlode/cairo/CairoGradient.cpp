@@ -1,7 +1,6 @@
-#include "penlode/cairo/CairoGradient.h"
-
+#include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoOutline.h"
-#include "penlode/cairo/CairoShapes.h"
+#include "penlode/engine/GradientColors.h"
 #include "penlode/engine/GuardBand.h"
 
 #include <array>
@@ -33,7 +32,7 @@ Rgb RgbAt(std::span<const ColoredPoint, 3> t, PointD p) {
 
 void ClipToBounds(const Painter& painter, const RectL& bounds) {
     std::vector<PointD> corners;
-    for (const PointD p : CornersOf(bounds)) {
+    for (const PointD p : CornersOf(BoxOf(bounds))) {
         corners.push_back(Mapped(painter.ToDevice(), p));
     }
     if (painter.Snaps()) {
@@ -125,37 +124,23 @@ void FillTriangle(const Painter& painter, const std::array<ColoredPoint, 3>& cor
 
 } // namespace
 
-bool FillGradientRects(const Painter& painter, const GradientArea& area, std::span<const GradientRect> rects,
-                       bool vertical) {
-    if (!AreVerticesThere(rects, area.Vertices.size())) {
-        return false;
-    }
+Status PaintGradient(const Painter& painter, const GradientMesh& mesh) {
     cairo_save(painter.Context());
-    ClipToBounds(painter, area.Bounds);
-    for (const GradientRect& rect : rects) {
-        FillRect(painter, Moved(area, rect.UpperLeft), Moved(area, rect.LowerRight), vertical);
+    ClipToBounds(painter, mesh.Bounds);
+    for (const GradientRect& rect : mesh.Rects) {
+        FillRect(painter, Moved(mesh, rect.UpperLeft), Moved(mesh, rect.LowerRight),
+                 mesh.Mode == GradientMode::RectV);
     }
-    cairo_restore(painter.Context());
-    return true;
-}
-
-bool FillGradientTriangles(const Painter& painter, const GradientArea& area,
-                           std::span<const GradientTriangle> triangles) {
-    if (!AreVerticesThere(triangles, area.Vertices.size())) {
-        return false;
-    }
-    cairo_save(painter.Context());
-    ClipToBounds(painter, area.Bounds);
-    for (const GradientTriangle& triangle : triangles) {
-        std::array<ColoredPoint, 3> corners{Moved(area, triangle.Vertex1), Moved(area, triangle.Vertex2),
-                                            Moved(area, triangle.Vertex3)};
+    for (const GradientTriangle& triangle : mesh.Triangles) {
+        std::array<ColoredPoint, 3> corners{Moved(mesh, triangle.Vertex1), Moved(mesh, triangle.Vertex2),
+                                            Moved(mesh, triangle.Vertex3)};
         for (ColoredPoint& corner : corners) {
             corner.Place = Mapped(painter.ToDevice(), corner.Place);
         }
         FillTriangle(painter, corners);
     }
     cairo_restore(painter.Context());
-    return true;
+    return Status::Ok;
 }
 
 } // namespace penlode

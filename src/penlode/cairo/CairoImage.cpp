@@ -1,7 +1,5 @@
-#include "penlode/cairo/CairoImage.h"
-
+#include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoOutline.h"
-#include "penlode/cairo/CairoShapes.h"
 
 #include <cmath>
 #include <cstring>
@@ -53,7 +51,7 @@ void CopyRow(const Image& image, const PixelRect& part, std::int32_t row, const 
 }
 
 /// A Cairo copy of a part of the image. Null when the callback asked to stop, or memory ran out.
-CairoSurface Copied(const Image& image, const PixelRect& part, const ImageDrawing& drawing, Status& status) {
+CairoSurface Copied(const ImagePart& drawn, const PixelRect& part, Status& status) {
     CairoSurface copy(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, part.Width, part.Height));
     if (cairo_surface_status(copy.get()) != CAIRO_STATUS_SUCCESS) {
         status = Status::OutOfMemory;
@@ -62,11 +60,12 @@ CairoSurface Copied(const Image& image, const PixelRect& part, const ImageDrawin
     unsigned char* data = cairo_image_surface_get_data(copy.get());
     const int stride = cairo_image_surface_get_stride(copy.get());
     for (std::int32_t row = 0; row < part.Height; ++row) {
-        if (drawing.Abort != nullptr && row % kRowsPerQuestion == 0 && drawing.Abort(drawing.CallbackData)) {
+        if (drawn.Abort != nullptr && row % kRowsPerQuestion == 0 && drawn.Abort(drawn.CallbackData)) {
             status = Status::Aborted;
             return nullptr;
         }
-        CopyRow(image, part, row, drawing.Attributes, data + static_cast<std::ptrdiff_t>(row) * stride);
+        CopyRow(*drawn.Picture, part, row, drawn.Attributes,
+                data + static_cast<std::ptrdiff_t>(row) * stride);
     }
     cairo_surface_mark_dirty(copy.get());
     return copy;
@@ -119,12 +118,12 @@ void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& p
 
 } // namespace
 
-Status PaintImage(const Painter& painter, const Image& image, const RectF& destination,
-                  const ImageDrawing& drawing) {
-    const RectF& s = drawing.Source;
+Status PaintImage(const Painter& painter, const ImagePart& drawn) {
+    const Image& image = *drawn.Picture;
+    const RectF& s = drawn.Source;
     const BoxD source = BoxBetween({s.X, s.Y}, {s.Right(), s.Bottom()});
     const PixelRect part = Covered(image, source);
-    const Matrix pixelsToDevice = PixelsToDevice(painter, s, destination);
+    const Matrix pixelsToDevice = PixelsToDevice(painter, s, drawn.Destination);
     const bool countable = IsOnePixel(part) || IsSound(pixelsToDevice, kMaxScale);
     if (part.Width <= 0 || part.Height <= 0 || !countable) {
         return Status::Ok;
@@ -133,7 +132,7 @@ Status PaintImage(const Painter& painter, const Image& image, const RectF& desti
         return Status::ValueOverflow;
     }
     Status status = Status::Ok;
-    const CairoSurface copy = Copied(image, part, drawing, status);
+    const CairoSurface copy = Copied(drawn, part, status);
     if (copy != nullptr) {
         const BoxD visible =
             Common(source, {0.0, 0.0, static_cast<double>(image.Width), static_cast<double>(image.Height)});

@@ -1,5 +1,6 @@
 #include "penlode/cairo/CairoOutline.h"
 
+#include "penlode/engine/Finite.h"
 #include "penlode/engine/GuardBand.h"
 
 #include <utility>

@@ -1,10 +1,8 @@
-#include "penlode/cairo/CairoShapes.h"
-
-#include "penlode/cairo/CairoDataLine.h"
+#include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/CairoStroke.h"
+#include "penlode/engine/Finite.h"
 #include "penlode/engine/GuardBand.h"
-#include "penlode/engine/LineThinning.h"
 
 #include <array>
 
@@ -14,14 +12,6 @@ namespace {
 /// Curve pieces in one stroke; longer outlines are flattened and stroked piece by piece.
 constexpr std::size_t kMaxPieces = 64;
 
-std::array<PointF, 4> CornersOf(const RectF& r) {
-    return {{{r.X, r.Y}, {r.Right(), r.Y}, {r.Right(), r.Bottom()}, {r.X, r.Bottom()}}};
-}
-
-std::array<PointD, 4> CornersOf(const BoxD& b) {
-    return {{{b.Left, b.Top}, {b.Right, b.Top}, {b.Right, b.Bottom}, {b.Left, b.Bottom}}};
-}
-
 std::vector<PointD> MapAll(const Painter& painter, std::span<const PointF> points) {
     std::vector<PointD> mapped;
     mapped.reserve(points.size());
@@ -29,10 +19,6 @@ std::vector<PointD> MapAll(const Painter& painter, std::span<const PointF> point
         mapped.push_back(painter.Map(p));
     }
     return mapped;
-}
-
-bool AreFinite(std::span<const PointD> points) {
-    return std::all_of(points.begin(), points.end(), [](PointD p) { return IsFinite(p); });
 }
 
 BoxD BoundsOf(std::span<const PointD> box) {
@@ -88,38 +74,7 @@ std::size_t PiecesIn(const GraphicsPath& path) {
     return count;
 }
 
-} // namespace
-
-std::optional<BoxD> DeviceBox(const Painter& painter, const RectF& rect) {
-    if (!KeepsAxesNearly(painter.ToDevice())) {
-        return std::nullopt;
-    }
-    const BoxD box =
-        BoxBetween(painter.Map(rect.TopLeft()), painter.Map(PointF{rect.Right(), rect.Bottom()}));
-    return painter.Snaps() ? PixelGrid::Box(box) : box;
-}
-
-Status FillBox(const Painter& painter, Color color, const RectF& rect) {
-    if (rect.Width <= 0.0F || rect.Height <= 0.0F) {
-        return Status::Ok;
-    }
-    const std::optional<BoxD> box = DeviceBox(painter, rect);
-    return box ? FillCorners(painter, color, CornersOf(*box))
-               : FillCorners(painter, color, MapAll(painter, CornersOf(rect)));
-}
-
-Status FillPolygon(const Painter& painter, Color color, std::span<const PointF> points) {
-    std::vector<PointD> corners = MapAll(painter, points);
-    if (painter.Snaps() && IsBox(corners)) {
-        return FillCorners(painter, color, CornersOf(PixelGrid::Box(BoundsOf(corners))));
-    }
-    if (painter.Snaps() && PixelGrid::IsFace(corners)) {
-        corners = PixelGrid::Face(corners);
-    }
-    return FillCorners(painter, color, corners);
-}
-
-Status FillPath(const Painter& painter, Color color, const GraphicsPath& path) {
+Status FillPath(const Painter& painter, const GraphicsPath& path, Color color) {
     if (!AddArea(painter.Context(), path, painter.ToDevice(), painter.GuardBand())) {
         return Status::ValueOverflow;
     }
@@ -128,31 +83,7 @@ Status FillPath(const Painter& painter, Color color, const GraphicsPath& path) {
     return Status::Ok;
 }
 
-Status StrokeBox(const Painter& painter, const Pen& pen, const RectF& rect) {
-    if (rect.Width < 0.0F || rect.Height < 0.0F) {
-        return Status::Ok;
-    }
-    return StrokeCorners(painter, pen, MapAll(painter, CornersOf(rect)));
-}
-
-Status StrokeLines(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
-    if (points.size() >= kMinDataLinePoints) {
-        return StrokeDataLine(painter, pen, points);
-    }
-    std::vector<PointD> line = MapAll(painter, points);
-    const bool snapped = painter.Snaps() && AreFinite(line) && PixelGrid::IsAxisParallel(line);
-    const DevicePen drawn(pen, painter, snapped);
-    if (snapped) {
-        line = painter.Grid().Polyline(line, drawn.Width());
-    }
-    return StrokePoints(painter, drawn, std::move(line), false);
-}
-
-Status StrokePolygon(const Painter& painter, const Pen& pen, std::span<const PointF> points) {
-    return StrokeCorners(painter, pen, MapAll(painter, points));
-}
-
-Status StrokePath(const Painter& painter, const Pen& pen, const GraphicsPath& path) {
+Status StrokePath(const Painter& painter, const GraphicsPath& path, const Pen& pen) {
     const DevicePen drawn(pen, painter, false);
     const BoxD box = painter.GuardBand(drawn.Margin());
     const Reach reach = ReachOf(path, painter.ToDevice(), box);
@@ -171,6 +102,89 @@ Status StrokePath(const Painter& painter, const Pen& pen, const GraphicsPath& pa
         StrokePolyline(painter, drawn, std::move(figure.Points), figure.Closed);
     }
     return Status::Ok;
+}
+
+Status StrokeLine(const Painter& painter, std::span<const PointF> points, const Pen& pen) {
+    std::vector<PointD> line = MapAll(painter, points);
+    const bool snapped = painter.Snaps() && AreFinite(line) && PixelGrid::IsAxisParallel(line);
+    const DevicePen drawn(pen, painter, snapped);
+    if (snapped) {
+        line = painter.Grid().Polyline(line, drawn.Width());
+    }
+    return StrokePoints(painter, drawn, std::move(line), false);
+}
+
+struct Stroker {
+    const Painter& Surface;
+    const Pen& Look;
+
+    Status operator()(const Outline::Nothing&) const { return Status::Ok; }
+
+    Status operator()(const Outline::Line& line) const {
+        return StrokeLine(Surface, std::array{line.From, line.To}, Look);
+    }
+
+    Status operator()(const Outline::Polyline& line) const { return StrokeLine(Surface, line.Points, Look); }
+
+    Status operator()(const Outline::Rectangle& rectangle) const {
+        return StrokeCorners(Surface, Look, MapAll(Surface, CornersOf(rectangle.Box)));
+    }
+
+    Status operator()(const Outline::Polygon& polygon) const {
+        return StrokeCorners(Surface, Look, MapAll(Surface, polygon.Points));
+    }
+
+    template <class Curved> Status operator()(const Curved& shape) const {
+        return StrokePath(Surface, PathOf(shape), Look);
+    }
+};
+
+struct Filler {
+    const Painter& Surface;
+    Color Ink;
+
+    Status operator()(const Outline::Rectangle& rectangle) const {
+        const std::optional<BoxD> box = DeviceBox(Surface, rectangle.Box);
+        return box ? FillCorners(Surface, Ink, CornersOf(*box))
+                   : FillCorners(Surface, Ink, MapAll(Surface, CornersOf(rectangle.Box)));
+    }
+
+    Status operator()(const Outline::Polygon& polygon) const {
+        std::vector<PointD> corners = MapAll(Surface, polygon.Points);
+        if (Surface.Snaps() && IsBox(corners)) {
+            return FillCorners(Surface, Ink, CornersOf(PixelGrid::Box(BoundsOf(corners))));
+        }
+        if (Surface.Snaps() && PixelGrid::IsFace(corners)) {
+            corners = PixelGrid::Face(corners);
+        }
+        return FillCorners(Surface, Ink, corners);
+    }
+
+    template <class Shape> Status operator()(const Shape& shape) const {
+        if constexpr (requires { PathOf(shape); }) {
+            return FillPath(Surface, PathOf(shape), Ink);
+        }
+        return Status::Ok; // lines have no area
+    }
+};
+
+} // namespace
+
+std::optional<BoxD> DeviceBox(const Painter& painter, const RectF& rect) {
+    if (!KeepsAxesNearly(painter.ToDevice())) {
+        return std::nullopt;
+    }
+    const BoxD box =
+        BoxBetween(painter.Map(rect.TopLeft()), painter.Map(PointF{rect.Right(), rect.Bottom()}));
+    return painter.Snaps() ? PixelGrid::Box(box) : box;
+}
+
+Status Stroke(const Painter& painter, const Outline& outline, const Pen& pen) {
+    return std::visit(Stroker{painter, pen}, outline.Shape);
+}
+
+Status Fill(const Painter& painter, const Outline& outline, Color color) {
+    return std::visit(Filler{painter, color}, outline.Shape);
 }
 
 } // namespace penlode

@@ -1,5 +1,7 @@
 #include "penlode/cairo/CairoStroke.h"
 
+#include "penlode/PenDrawing.h"
+
 #include <numeric>
 #include <span>
 #include <utility>
@@ -173,19 +175,11 @@ DevicePen::DevicePen(const Pen& pen, const Painter& painter, bool snapped)
 }
 
 std::vector<double> DevicePen::Dashes() const {
-    const double w = m_width;
-    switch (m_dashStyle) {
-    case DashStyle::Dash:
-        return {3.0 * w, w};
-    case DashStyle::Dot:
-        return {w, w};
-    case DashStyle::DashDot:
-        return {3.0 * w, w, w, w};
-    case DashStyle::DashDotDot:
-        return {3.0 * w, w, w, w, w, w};
-    default:
-        return {};
+    std::vector<double> lengths;
+    for (const double part : DashPattern(m_dashStyle)) {
+        lengths.push_back(part * m_width);
     }
+    return lengths;
 }
 
 double DevicePen::Margin() const {

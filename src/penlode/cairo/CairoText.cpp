@@ -1,5 +1,4 @@
-#include "penlode/cairo/CairoText.h"
-
+#include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/cairo/GlyphMasks.h"
 #include "penlode/cairo/PangoText.h"
@@ -151,10 +150,10 @@ void ShowLine(const Painter& painter, const ShapedLine& line, const Matrix& toDe
 
 } // namespace
 
-Status PaintText(const Painter& painter, std::wstring_view text, const Font& font, const RectF& box,
-                 const StringFormat& format, Color color) {
-    painter.SetColor(color);
-    for (const PlacedLine& placed : PlaceLines(text, font, box, format)) {
+Status PaintText(const Painter& painter, const TextRun& text) {
+    const Font& font = *text.Face;
+    painter.SetColor(text.Ink);
+    for (const PlacedLine& placed : PlaceLines(text.Text, font, text.Box, text.Format)) {
         const ShapedLine line = ShapeLine(placed.Text, font);
         const Matrix toDevice = OnWholePixel(painter, LineToDevice(painter, placed, font));
         if (line.Line != nullptr && CanBeDrawn(toDevice) &&

@@ -1,4 +1,4 @@
-#include "penlode/cairo/FontFamilies.h"
+#include "penlode/cairo/PangoText.h"
 
 #include "penlode/cairo/PangoText.h"
 #include "penlode/text/FontFace.h"

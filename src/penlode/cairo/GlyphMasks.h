@@ -8,7 +8,9 @@
 #include <optional>
 
 /// Small glyphs as pixels. Each is filled once for each place within a pixel, and copied from then on: most
-/// of the time that a labelled chart is drawn in went into filling the same glyphs.
+/// of the time that a labelled chart is drawn in went into filling the same glyphs. Cairo 1.16 keeps a glyph
+/// for whole pixels alone; from 1.18 on it keeps phases between them itself, and this can go where no older
+/// one is to be found.
 namespace penlode {
 
 /// How much of each pixel the glyphs of a line cover.

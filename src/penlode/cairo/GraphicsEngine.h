@@ -28,15 +28,9 @@ namespace penlode {
 /// a 600th of an inch, and the rest costs next to nothing. An opaque shape that lies where the last one was
 /// drawn, as markers of dense data do, is not drawn again.
 ///
-/// A rectangle of negative width or height draws nothing, and so does a fill without width or height. Lines
-/// of text beyond 8192 characters end there.
-///
 /// One thread at a time may use an engine; different engines may live on different threads.
 class PENLODE_API CGraphicsEngine final : public CTrackingEngine {
 public:
-    using CTrackingEngine::DrawImage;
-    using CTrackingEngine::DrawString;
-
     /// A picture of that many millimetres (rounded to whole pixels, at least one) at `dpi` dots per inch,
     /// from 1 to 9600. Null for a size that is not above 0, more than 32767 pixels along a side or 500
     /// million in all, or when memory runs out.
@@ -67,33 +61,17 @@ public:
     /// the engine draws no PDF.
     std::string FinishPdf();
 
-    Status DrawRectangle(const Pen* pen, float x, float y, float width, float height) override;
-    Status DrawLines(const Pen* pen, const PointF* points, std::int32_t count) override;
-    Status DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) override;
-    Status DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
-                   float sweepAngle) override;
-    Status DrawEllipse(const Pen* pen, float x, float y, float width, float height) override;
-    Status DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) override;
-    Status DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) override;
-    Status DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) override;
-    Status DrawString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
-                      const StringFormat* format, const SolidBrush* brush) override;
-    Status DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
-                     float sourceWidth, float sourceHeight, Unit sourceUnit,
-                     const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) override;
-    Status FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) override;
-    Status FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) override;
-    Status FillPie(const SolidBrush* brush, const RectF& rect, float startAngle, float sweepAngle) override;
-    Status FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) override;
-    Status FillPath(const SolidBrush* brush, const GraphicsPath* path) override;
-    std::int32_t GradientFill(const RectL& bounds, const PointF& origin, const GradientVertex* vertices,
-                              std::uint32_t vertexCount, const void* mesh, std::uint32_t meshCount,
-                              GradientMode mode) override;
-
 private:
     struct Target;
 
     explicit CGraphicsEngine(std::unique_ptr<Target> target);
+
+    Status StrokeOutline(const Outline& outline, const Pen& pen) override;
+    Status FillOutline(const Outline& outline, const SolidBrush& brush) override;
+    Status StrokeDataLine(std::span<const PointF> points, const Pen& pen) override;
+    Status PaintText(const TextRun& text) override;
+    Status PaintImage(const ImagePart& part) override;
+    Status PaintGradient(const GradientMesh& mesh) override;
 
     std::unique_ptr<Target> m_target;
 };

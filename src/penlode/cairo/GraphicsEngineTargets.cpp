@@ -1,7 +1,7 @@
 #include "penlode/Units.h"
 #include "penlode/cairo/CairoTarget.h"
 #include "penlode/cairo/PngWriter.h"
-#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/Finite.h"
 
 #include <cairo-pdf.h>
 #include <cstring>

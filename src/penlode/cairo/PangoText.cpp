@@ -1,8 +1,8 @@
 #include "penlode/cairo/PangoText.h"
 
-#include "penlode/cairo/FontFamilies.h"
 #include "penlode/engine/EngineArguments.h"
 #include "penlode/text/StringUtil.h"
+#include "penlode/text/TextPlacement.h"
 
 #include <algorithm>
 #include <cmath>

@@ -8,6 +8,7 @@
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier): Pango's name
 typedef struct _PangoLayoutLine PangoLayoutLine;
+struct _FcConfig; // NOLINT(bugprone-reserved-identifier): fontconfig's name
 
 /// Texts set by Pango: shaped once per thread, face and text, at a size of their own, so that one line
 /// serves every surface at every size.
@@ -15,9 +16,6 @@ namespace penlode {
 
 /// The em size of a set line, in its own units. All its measures are in proportion.
 inline constexpr double kShapingEm = 100.0;
-
-/// A line of a text that is longer ends after so many characters.
-inline constexpr std::size_t kMaxLineCharacters = 8192;
 
 /// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
 /// for every face, clear of ideographs as of Latin letters.
@@ -39,5 +37,10 @@ std::vector<std::wstring> UnknownCharacters(std::wstring_view line, const Font& 
 
 /// The name of the face that is taken for a font.
 std::wstring FaceOf(const Font& font);
+
+/// The fonts of this process: the system's configuration behind the library's own table of companions. Built
+/// on first use, shared by all threads, never changed; nothing of the system's is touched. Null when memory
+/// runs out.
+_FcConfig* FontConfiguration();
 
 } // namespace penlode

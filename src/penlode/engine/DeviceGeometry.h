@@ -4,6 +4,7 @@
 #include "penlode/Matrix.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 /// Points and boxes in device units, in double precision.
@@ -25,10 +26,6 @@ struct BoxD {
 
     friend bool operator==(const BoxD&, const BoxD&) = default;
 };
-
-inline bool IsFinite(PointD p) {
-    return std::isfinite(p.X) && std::isfinite(p.Y);
-}
 
 inline BoxD BoxBetween(PointD a, PointD b) {
     return {std::min(a.X, b.X), std::min(a.Y, b.Y), std::max(a.X, b.X), std::max(a.Y, b.Y)};
@@ -52,6 +49,26 @@ inline BoxD Union(const BoxD& a, const BoxD& b) {
 inline BoxD Mapped(const Matrix& m, const BoxD& box) {
     return Union(BoxBetween(Mapped(m, PointD{box.Left, box.Top}), Mapped(m, PointD{box.Right, box.Bottom})),
                  BoxBetween(Mapped(m, PointD{box.Right, box.Top}), Mapped(m, PointD{box.Left, box.Bottom})));
+}
+
+/// Corners in order, from the top left one clockwise.
+inline std::array<PointF, 4> CornersOf(const RectF& r) {
+    return {{{r.X, r.Y}, {r.Right(), r.Y}, {r.Right(), r.Bottom()}, {r.X, r.Bottom()}}};
+}
+
+inline std::array<PointD, 4> CornersOf(const BoxD& b) {
+    return {{{b.Left, b.Top}, {b.Right, b.Top}, {b.Right, b.Bottom}, {b.Left, b.Bottom}}};
+}
+
+/// Chains of turns leave noise of this size, which nobody sees across any surface; a turn by a fraction of a
+/// degree is more.
+inline constexpr double kTurnNoise = 1e-7;
+
+/// Axis-parallel lines stay so, turned by quarters at most.
+inline bool KeepsAxesNearly(const Matrix& m) {
+    const double x = kTurnNoise * std::hypot(m.M11, m.M12);
+    const double y = kTurnNoise * std::hypot(m.M21, m.M22);
+    return (std::abs(m.M12) <= x && std::abs(m.M21) <= y) || (std::abs(m.M11) <= x && std::abs(m.M22) <= y);
 }
 
 /// With edges on whole numbers, no smaller than it was.

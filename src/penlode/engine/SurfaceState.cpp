@@ -1,6 +1,7 @@
 #include "penlode/engine/SurfaceState.h"
 
 #include "penlode/Units.h"
+#include "penlode/engine/Finite.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,11 +10,6 @@
 
 namespace penlode {
 namespace {
-
-bool IsFinite(const Matrix& m) {
-    return std::isfinite(m.M11) && std::isfinite(m.M12) && std::isfinite(m.M21) && std::isfinite(m.M22) &&
-           std::isfinite(m.Dx) && std::isfinite(m.Dy);
-}
 
 RectF RectBetween(PointF a, PointF b) {
     return {std::min(a.X, b.X), std::min(a.Y, b.Y), std::abs(a.X - b.X), std::abs(a.Y - b.Y)};

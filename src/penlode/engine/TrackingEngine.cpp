@@ -1,6 +1,10 @@
 #include "penlode/engine/TrackingEngine.h"
 
+#include "penlode/engine/Drawings.h"
 #include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/LineThinning.h"
+#include "penlode/engine/Outline.h"
+#include "penlode/engine/SurfaceState.h"
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
 
@@ -21,29 +25,203 @@ std::size_t CharactersIn(std::wstring_view text, const std::vector<std::wstring_
     return count == lines.size() ? text.size() : static_cast<std::size_t>(lines[count].data() - text.data());
 }
 
+struct FiniteCheck {
+    bool operator()(const Outline::Nothing&) const { return true; }
+
+    bool operator()(const Outline::Line& line) const { return IsFinite(line.From) && IsFinite(line.To); }
+
+    bool operator()(const Outline::Path& path) const { return IsFinite(*path.Whole); }
+
+    template <class Shape> bool operator()(const Shape& shape) const {
+        if constexpr (requires { shape.Points; }) {
+            return AreFinite(shape.Points);
+        } else if constexpr (requires { shape.SweepAngle; }) {
+            return IsFinite(shape.Box) && AreFinite(shape.StartAngle, shape.SweepAngle);
+        } else {
+            return IsFinite(shape.Box);
+        }
+    }
+};
+
+bool IsFinite(const Outline& outline) {
+    return std::visit(FiniteCheck{}, outline.Shape);
+}
+
+/// What has no extent where it needs one is nothing. A pen draws a box without width or height as a line.
+struct ExtentCheck {
+    bool Fills;
+
+    bool operator()(const Outline::Rectangle& rectangle) const {
+        const RectF& box = rectangle.Box;
+        return Fills ? HasExtent(box) : box.Width >= 0.0F && box.Height >= 0.0F;
+    }
+
+    bool operator()(const Outline::Polygon& polygon) const { return !Fills || polygon.Points.size() >= 3; }
+
+    template <class Shape> bool operator()(const Shape& shape) const {
+        if constexpr (requires { shape.Box; }) {
+            return HasExtent(shape.Box);
+        } else {
+            return true;
+        }
+    }
+};
+
+Outline WhatShows(const Outline& outline, bool fills) {
+    return std::visit(ExtentCheck{fills}, outline.Shape) ? outline : Outline{Outline::Nothing{}};
+}
+
 } // namespace
+
+CTrackingEngine::CTrackingEngine(double dpiX, double dpiY)
+    : m_state(std::make_unique<CSurfaceState>(dpiX, dpiY)) {}
+
+CTrackingEngine::~CTrackingEngine() = default;
+
+Status CTrackingEngine::Stroke(const Pen* pen, const Outline& outline) {
+    return IsUsable(pen) && IsFinite(outline) ? StrokeOutline(WhatShows(outline, false), *pen)
+                                              : Status::InvalidParameter;
+}
+
+Status CTrackingEngine::Fill(const SolidBrush* brush, const Outline& outline) {
+    return brush != nullptr && IsFinite(outline) ? FillOutline(WhatShows(outline, true), *brush)
+                                                 : Status::InvalidParameter;
+}
+
+Status CTrackingEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
+    return Stroke(pen, {Outline::Rectangle{{x, y, width, height}}});
+}
+
+Status CTrackingEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
+    if (!IsUsable(pen) || !AreThere(points, count)) {
+        return Status::InvalidParameter;
+    }
+    const std::span<const PointF> line = SpanOf(points, count);
+    return line.size() < kMinDataLinePoints ? Stroke(pen, {Outline::Polyline{line}})
+                                            : StrokeDataLine(line, *pen);
+}
+
+Status CTrackingEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
+    return Stroke(pen, {Outline::Line{{x1, y1}, {x2, y2}}});
+}
+
+Status CTrackingEngine::DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
+                                float sweepAngle) {
+    return Stroke(pen, {Outline::Arc{{x, y, width, height}, startAngle, sweepAngle}});
+}
+
+Status CTrackingEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
+    return Stroke(pen, {Outline::Ellipse{{x, y, width, height}}});
+}
+
+Status CTrackingEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
+    return Stroke(pen, {Outline::Pie{rect, startAngle, sweepAngle}});
+}
+
+Status CTrackingEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
+    return AreThere(points, count) ? Stroke(pen, {Outline::Polygon{SpanOf(points, count)}})
+                                   : Status::InvalidParameter;
+}
+
+Status CTrackingEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
+    return AreThere(points, count) ? Stroke(pen, {Outline::Curve{SpanOf(points, count)}})
+                                   : Status::InvalidParameter;
+}
+
+Status CTrackingEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
+    return Fill(brush, {Outline::Rectangle{{x, y, width, height}}});
+}
+
+Status CTrackingEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
+    return Fill(brush, {Outline::Ellipse{{x, y, width, height}}});
+}
+
+Status CTrackingEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
+                                float sweepAngle) {
+    return Fill(brush, {Outline::Pie{rect, startAngle, sweepAngle}});
+}
+
+Status CTrackingEngine::FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) {
+    return AreThere(points, count) ? Fill(brush, {Outline::Polygon{SpanOf(points, count)}})
+                                   : Status::InvalidParameter;
+}
+
+Status CTrackingEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
+    return path != nullptr ? Fill(brush, {Outline::Path{path}}) : Status::InvalidParameter;
+}
+
+Status CTrackingEngine::PaintString(const wchar_t* text, std::int32_t length, const Font* font,
+                                    const RectF& layout, const StringFormat* format,
+                                    const SolidBrush* brush) {
+    if (text == nullptr || font == nullptr || brush == nullptr || !IsDrawable(*font) || !IsFinite(layout)) {
+        return Status::InvalidParameter;
+    }
+    return PaintText(
+        {TextOf(text, length), font, layout, format == nullptr ? StringFormat{} : *format, brush->FillColor});
+}
+
+Status CTrackingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
+                                   const RectF& layout, const StringFormat* format, const SolidBrush* brush) {
+    return PaintString(text, length, font, layout, format, brush);
+}
 
 Status CTrackingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                    const PointF& origin, const StringFormat* format,
                                    const SolidBrush* brush) {
-    return DrawString(text, length, font, RectF{origin.X, origin.Y, 0.0F, 0.0F}, format, brush);
+    return PaintString(text, length, font, {origin.X, origin.Y, 0.0F, 0.0F}, format, brush);
 }
 
 Status CTrackingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                    const PointF& origin, const SolidBrush* brush) {
-    return DrawString(text, length, font, origin, nullptr, brush);
+    return PaintString(text, length, font, {origin.X, origin.Y, 0.0F, 0.0F}, nullptr, brush);
+}
+
+void CTrackingEngine::DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
+                                     const SolidBrush* brush) {
+    PaintString(text, -1, font, {x, y, 0.0F, 0.0F}, nullptr, brush);
+}
+
+Status CTrackingEngine::PaintPart(const ImagePart& part, Unit sourceUnit) {
+    if (part.Picture == nullptr || !part.Picture->IsDrawable() || !IsFinite(part.Destination)) {
+        return Status::InvalidParameter;
+    }
+    const std::optional<RectF> pixels = SourceInPixels(*part.Picture, part.Source, sourceUnit);
+    if (!pixels || !IsFinite(*pixels)) {
+        return Status::InvalidParameter;
+    }
+    ImagePart inPixels = part;
+    inPixels.Source = *pixels;
+    return PaintImage(inPixels);
+}
+
+Status CTrackingEngine::DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
+                                  float sourceWidth, float sourceHeight, Unit sourceUnit,
+                                  const ImageAttributes* attributes, DrawImageAbort abort,
+                                  void* callbackData) {
+    return PaintPart(
+        {image, {sourceX, sourceY, sourceWidth, sourceHeight}, destination, attributes, abort, callbackData},
+        sourceUnit);
 }
 
 Status CTrackingEngine::DrawImage(const Image* image, const RectF& destination) {
     if (image == nullptr) {
         return Status::InvalidParameter;
     }
-    return DrawImage(image, destination, 0.0F, 0.0F, static_cast<float>(image->Width),
-                     static_cast<float>(image->Height), Unit::Pixel, nullptr, nullptr, nullptr);
+    const RectF whole{0.0F, 0.0F, static_cast<float>(image->Width), static_cast<float>(image->Height)};
+    return PaintPart({image, whole, destination}, Unit::Pixel);
+}
+
+std::int32_t CTrackingEngine::GradientFill(const RectL& bounds, const PointF& origin,
+                                           const GradientVertex* vertices, std::uint32_t vertexCount,
+                                           const void* mesh, std::uint32_t meshCount, GradientMode mode) {
+    const GradientMesh whole = MeshOf(bounds, origin, vertices, vertexCount, mesh, meshCount, mode);
+    const bool sound = vertices != nullptr && mesh != nullptr && mode <= GradientMode::Triangle &&
+                       IsFinite(origin) && AreVerticesThere(whole);
+    return sound && PaintGradient(whole) == Status::Ok ? 1 : 0;
 }
 
 Status CTrackingEngine::ResetClip() {
-    m_state.ResetClip();
+    m_state->ResetClip();
     return Status::Ok;
 }
 
@@ -51,7 +229,7 @@ Status CTrackingEngine::GetClip(Region* region) {
     if (region == nullptr) {
         return Status::InvalidParameter;
     }
-    *region = m_state.WorldClip();
+    *region = m_state->WorldClip();
     return Status::Ok;
 }
 
@@ -59,21 +237,21 @@ Status CTrackingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
     if (path == nullptr || !IsFinite(*path) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    return m_state.CombineClip(Region::Shape{*path}, mode);
+    return m_state->CombineClip(Region::Shape{*path}, mode);
 }
 
 Status CTrackingEngine::SetClip(const Region* region, CombineMode mode) {
     if (region == nullptr || !IsFinite(*region) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    return m_state.CombineClip(*region, mode);
+    return m_state->CombineClip(*region, mode);
 }
 
 Status CTrackingEngine::SetClip(const RectF& rect, CombineMode mode) {
     if (!IsFinite(rect) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    return m_state.CombineClip(Region::Shape{rect}, mode);
+    return m_state->CombineClip(Region::Shape{rect}, mode);
 }
 
 Status CTrackingEngine::SetClip(Region* region, CombineMode mode) {
@@ -114,78 +292,73 @@ Status CTrackingEngine::MeasureString(const wchar_t* text, std::int32_t length, 
 }
 
 Status CTrackingEngine::SetTransform(const Matrix* matrix) {
-    return m_state.SetTransform(matrix);
+    return m_state->SetTransform(matrix);
 }
 
 Status CTrackingEngine::GetTransform(Matrix* matrix) {
-    return m_state.GetTransform(matrix);
+    return m_state->GetTransform(matrix);
 }
 
 Status CTrackingEngine::TransformPoints(CoordinateSpace destination, CoordinateSpace source, PointF* points,
                                         std::int32_t count) {
-    return m_state.TransformPoints(destination, source, points, count);
+    return m_state->TransformPoints(destination, source, points, count);
 }
 
 Status CTrackingEngine::TranslateTransform(float dx, float dy, MatrixOrder order) {
-    return m_state.Transform(Matrix::Translation(dx, dy), order);
+    return m_state->Transform(Matrix::Translation(dx, dy), order);
 }
 
 Status CTrackingEngine::RotateTransform(float degrees, MatrixOrder order) {
-    return m_state.Transform(Matrix::Rotation(degrees), order);
+    return m_state->Transform(Matrix::Rotation(degrees), order);
 }
 
 Status CTrackingEngine::ScaleTransform(float sx, float sy, MatrixOrder order) {
-    return m_state.Transform(Matrix::Scale(sx, sy), order);
+    return m_state->Transform(Matrix::Scale(sx, sy), order);
 }
 
 Status CTrackingEngine::ResetTransform() {
-    m_state.ResetTransform();
+    m_state->ResetTransform();
     return Status::Ok;
 }
 
 float CTrackingEngine::GetPageScale() {
-    return m_state.GetPageScale();
+    return m_state->GetPageScale();
 }
 
 Unit CTrackingEngine::GetPageUnit() {
-    return m_state.GetPageUnit();
+    return m_state->GetPageUnit();
 }
 
 Status CTrackingEngine::SetPageScale(float scale) {
-    return m_state.SetPageScale(scale);
+    return m_state->SetPageScale(scale);
 }
 
 Status CTrackingEngine::SetPageUnit(Unit unit) {
-    return m_state.SetPageUnit(unit);
+    return m_state->SetPageUnit(unit);
 }
 
 std::uint32_t CTrackingEngine::BeginContainer() {
-    return m_state.BeginContainer();
+    return m_state->BeginContainer();
 }
 
 Status CTrackingEngine::EndContainer(std::uint32_t container) {
-    return m_state.EndContainer(container);
+    return m_state->EndContainer(container);
 }
 
 Status CTrackingEngine::SetSmoothingMode(SmoothingMode mode) {
-    if (mode < SmoothingMode::Default || mode > SmoothingMode::AntiAlias) {
+    if (!IsKnown(mode)) {
         return Status::InvalidParameter;
     }
-    m_state.SetSmoothingMode(mode);
+    m_state->SetSmoothingMode(mode);
     return Status::Ok;
 }
 
 SmoothingMode CTrackingEngine::GetSmoothingMode() {
-    return m_state.GetSmoothingMode();
+    return m_state->GetSmoothingMode();
 }
 
 SizeF CTrackingEngine::MeasureScriptText(const wchar_t* text, const Font* font) {
     return CStringUtil::MeasureWideString(TextOf(text, -1), font);
-}
-
-void CTrackingEngine::DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
-                                     const SolidBrush* brush) {
-    DrawString(text, -1, font, PointF{x, y}, brush);
 }
 
 } // namespace penlode

@@ -193,8 +193,8 @@ private:
 
 std::string ToText(const RecordedCall& call, int decimals) {
     Printer printer(call.Operation, decimals);
-    for (const RecordedCall::Value& value : call.Arguments) {
-        std::visit([&printer](const auto& held) { printer(held); }, value);
+    for (const RecordedCall::Argument& argument : call.Arguments) {
+        std::visit([&printer](const auto& held) { printer(held); }, argument.Held);
     }
     return printer.Take();
 }

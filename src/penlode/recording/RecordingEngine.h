@@ -8,8 +8,8 @@
 
 namespace penlode {
 
-/// One call that an engine got: the operation's name and its arguments in order. A null pointer is a
-/// monostate.
+/// One call that an engine got: the operation's name and its arguments in order, each with a name of its own
+/// in the call. A null pointer is a monostate.
 struct RecordedCall {
     using Value =
         std::variant<std::monostate, std::int32_t, std::uint32_t, float, PointF, RectF, std::vector<PointF>,
@@ -17,8 +17,13 @@ struct RecordedCall {
                      CombineMode, MatrixOrder, Unit, SmoothingMode, std::vector<Color>,
                      std::vector<std::uint32_t>, ImageAttributes>;
 
+    struct Argument {
+        const char* Name; ///< "pen", "rect", "start"
+        Value Held;
+    };
+
     std::string Operation;
-    std::vector<Value> Arguments;
+    std::vector<Argument> Arguments;
 };
 
 /// The call on one line: `DrawPie #FF000000/0.1 (45 45 10 10) 180 108`. Numbers are rounded to `decimals`
@@ -84,8 +89,14 @@ public:
                         const SolidBrush* brush) override;
 
 private:
-    template <class... Arguments> void Record(const char* operation, const Arguments&... arguments);
-    template <class... Arguments> Status RecordDrawing(const char* operation, const Arguments&... arguments);
+    Status StrokeOutline(const Outline& outline, const Pen& pen) override;
+    Status FillOutline(const Outline& outline, const SolidBrush& brush) override;
+    Status StrokeDataLine(std::span<const PointF> points, const Pen& pen) override;
+    Status PaintText(const TextRun& text) override;
+    Status PaintImage(const ImagePart& part) override;
+    Status PaintGradient(const GradientMesh& mesh) override;
+
+    void Record(const char* operation, std::vector<RecordedCall::Argument> arguments = {});
 
     std::vector<RecordedCall> m_calls;
 };

@@ -112,9 +112,7 @@ struct ShapeTerm {
     TermRef operator()(const Region::Nothing&) const { return Make.Nothing(); }
 
     TermRef operator()(const RectF& rect) const {
-        return rect.Width > 0.0F && rect.Height > 0.0F
-                   ? Near(PolygonData(AreaOnPage({{}, Page}, CornersOf(rect))))
-                   : Make.Nothing();
+        return HasExtent(rect) ? Near(PolygonData(AreaOnPage({{}, Page}, CornersOf(rect)))) : Make.Nothing();
     }
 
     TermRef operator()(const GraphicsPath& path) const {
@@ -159,7 +157,7 @@ TermRef TermOf(const Region& region, SizeF page, TermMaker& make) {
 }
 
 std::string PageData(SizeF page) {
-    return PolygonData(MapAll({}, CornersOf({0.0F, 0.0F, page.Width, page.Height})));
+    return PolygonData(MapAll({}, CornersOf(RectF{0.0F, 0.0F, page.Width, page.Height})));
 }
 
 std::string MaskArea(SizeF page) {

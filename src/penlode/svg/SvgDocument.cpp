@@ -1,5 +1,6 @@
 #include "penlode/svg/SvgDocument.h"
 
+#include "penlode/engine/EngineArguments.h"
 #include "penlode/svg/SvgShapes.h"
 #include "penlode/svg/SvgWriter.h"
 #include "penlode/text/StringUtil.h"
@@ -104,9 +105,10 @@ std::string SvgDocument::Head() const {
     if (!m_definitions.Text().empty()) {
         head += Line(1, "<defs>") + m_definitions.Text() + Line(1, "</defs>");
     }
-    if (m_options.Background) {
-        head += Line(1, FilledBox({{}, m_page}, {0.0F, 0.0F, m_page.Width, m_page.Height},
-                                  {FillAttributes(*m_options.Background)}));
+    const RectF page{0.0F, 0.0F, m_page.Width, m_page.Height};
+    if (m_options.Background && HasExtent(page)) {
+        head += Line(1, ShapeElement({{}, m_page}, {Outline::Rectangle{page}},
+                                     {FillAttributes(*m_options.Background)}));
     }
     return head;
 }

@@ -1,8 +1,10 @@
 #include "penlode/svg/SvgEngine.h"
 
 #include "penlode/Units.h"
-#include "penlode/engine/EngineArguments.h"
-#include "penlode/engine/ShapePaths.h"
+#include "penlode/engine/Drawings.h"
+#include "penlode/engine/Finite.h"
+#include "penlode/engine/Outline.h"
+#include "penlode/engine/SurfaceState.h"
 #include "penlode/svg/SvgClip.h"
 #include "penlode/svg/SvgDocument.h"
 #include "penlode/svg/SvgGeometry.h"
@@ -22,10 +24,6 @@
 
 namespace penlode {
 namespace {
-
-bool IsFiniteArc(const RectF& rect, float startAngle, float sweepAngle) {
-    return IsFinite(rect) && AreFinite(startAngle, sweepAngle);
-}
 
 double SideOf(float millimetres) {
     return std::isfinite(millimetres) ? std::clamp<double>(millimetres, 0.0, svg::kMaxDistance) : 0.0;
@@ -62,35 +60,17 @@ struct CSvgEngine::Drawing {
         LastClip = state.ClipGeneration();
     }
 
-    /// Writes what `shape` makes of the map to the page and the pen.
-    template <class Shape>
-    Status Stroke(const CSurfaceState& state, const Pen* pen, bool valid, const Shape& shape) {
-        if (!IsUsable(pen) || !valid) {
-            return Status::InvalidParameter;
-        }
+    /// Writes what `element` makes of the map to the page.
+    template <class Element> Status Draw(const CSurfaceState& state, Color color, const Element& element) {
         const svg::PageMap map = Map(state);
-        if (svg::CanMap(map.ToPage) && pen->GetColor().A() != 0) {
-            WriteShape(state, shape(map, svg::StrokePaint(*pen, map.ToPage.LengthFactor())), pen->GetColor());
+        if (svg::CanMap(map.ToPage) && color.A() != 0) {
+            WriteShape(state, element(map), color);
         }
         return Status::Ok;
     }
 
-    template <class Shape>
-    Status Fill(const CSurfaceState& state, const SolidBrush* brush, bool valid, const Shape& shape) {
-        if (brush == nullptr || !valid) {
-            return Status::InvalidParameter;
-        }
-        const svg::PageMap map = Map(state);
-        if (svg::CanMap(map.ToPage) && brush->FillColor.A() != 0) {
-            WriteShape(state, shape(map, svg::Paint{svg::FillAttributes(brush->FillColor)}),
-                       brush->FillColor);
-        }
-        return Status::Ok;
-    }
-
-    std::string TextLine(const svg::PageMap& map, PlacedLine line, const Font& font,
+    std::string TextLine(const svg::PageMap& map, const PlacedLine& line, const Font& font,
                          const std::string& fill) {
-        line.Text = line.Text.substr(0, svg::kMaxLineCharacters);
         return TextAsOutlines ? svg::OutlineElement(map, line, font, fill)
                               : svg::TextElement(map.ToPage, line, font, Families.For(font.Family), fill);
     }
@@ -114,104 +94,48 @@ std::string CSvgEngine::Text() const {
     return m_drawing->Document.Text();
 }
 
-Status CSvgEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
-    const RectF rect{x, y, width, height};
-    return m_drawing->Stroke(State(), pen, IsFinite(rect),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::StrokedBox(map, rect, stroke);
-                             });
+Status CSvgEngine::StrokeOutline(const Outline& outline, const Pen& pen) {
+    return m_drawing->Draw(State(), pen.GetColor(), [&](const svg::PageMap& map) {
+        return svg::ShapeElement(map, outline, svg::StrokePaint(pen, map.ToPage.LengthFactor()));
+    });
 }
 
-Status CSvgEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
-    return m_drawing->Stroke(State(), pen, AreUsable(points, count),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::PolylineElement(map, SpanOf(points, count), stroke);
-                             });
+Status CSvgEngine::FillOutline(const Outline& outline, const SolidBrush& brush) {
+    return m_drawing->Draw(State(), brush.FillColor, [&](const svg::PageMap& map) {
+        return svg::ShapeElement(map, outline, {svg::FillAttributes(brush.FillColor)});
+    });
 }
 
-Status CSvgEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
-    const PointF from{x1, y1};
-    const PointF to{x2, y2};
-    return m_drawing->Stroke(State(), pen, AreFinite(x1, y1, x2, y2),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::LineElement(map, from, to, stroke);
-                             });
-}
-
-Status CSvgEngine::DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
-                           float sweepAngle) {
-    const RectF rect{x, y, width, height};
-    return m_drawing->Stroke(State(), pen, IsFiniteArc(rect, startAngle, sweepAngle),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::PathElement(map, ArcOf(rect, startAngle, sweepAngle), stroke);
-                             });
-}
-
-Status CSvgEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
-    const RectF rect{x, y, width, height};
-    return m_drawing->Stroke(State(), pen, IsFinite(rect),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return HasExtent(rect) ? svg::EllipseElement(map, rect, stroke) : "";
-                             });
-}
-
-Status CSvgEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
-    return m_drawing->Stroke(State(), pen, IsFiniteArc(rect, startAngle, sweepAngle),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::PathElement(map, PieOf(rect, startAngle, sweepAngle), stroke);
-                             });
-}
-
-Status CSvgEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
-    return m_drawing->Stroke(State(), pen, AreUsable(points, count),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::PolygonElement(map, SpanOf(points, count), stroke);
-                             });
-}
-
-Status CSvgEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
-    return m_drawing->Stroke(State(), pen, AreUsable(points, count),
-                             [&](const svg::PageMap& map, const svg::Paint& stroke) {
-                                 return svg::PathElement(map, CurveOf(SpanOf(points, count)), stroke);
-                             });
-}
-
-Status CSvgEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
-                              const StringFormat* format, const SolidBrush* brush) {
-    if (text == nullptr || font == nullptr || brush == nullptr || !IsDrawable(*font) || !IsFinite(layout)) {
+Status CSvgEngine::StrokeDataLine(std::span<const PointF> points, const Pen& pen) {
+    if (!AreFinite(points)) {
         return Status::InvalidParameter;
     }
+    return m_drawing->Draw(State(), pen.GetColor(), [&](const svg::PageMap& map) {
+        return svg::DataLineElement(map, points, svg::StrokePaint(pen, map.ToPage.LengthFactor()));
+    });
+}
+
+Status CSvgEngine::PaintText(const TextRun& text) {
     const svg::PageMap map = m_drawing->Map(State());
-    if (!svg::CanMap(map.ToPage) || brush->FillColor.A() == 0) {
+    if (!svg::CanMap(map.ToPage) || text.Ink.A() == 0) {
         return Status::Ok;
     }
-    const std::string fill = svg::FillAttributes(brush->FillColor);
-    const StringFormat plain;
-    for (const PlacedLine& line :
-         PlaceLines(TextOf(text, length), *font, layout, format == nullptr ? plain : *format)) {
-        m_drawing->Write(State(), m_drawing->TextLine(map, line, *font, fill));
+    const std::string fill = svg::FillAttributes(text.Ink);
+    for (const PlacedLine& line : PlaceLines(text.Text, *text.Face, text.Box, text.Format)) {
+        m_drawing->Write(State(), m_drawing->TextLine(map, line, *text.Face, fill));
     }
     return Status::Ok;
 }
 
-Status CSvgEngine::DrawImage(const Image* image, const RectF& destination, float sourceX, float sourceY,
-                             float sourceWidth, float sourceHeight, Unit sourceUnit,
-                             const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) {
-    if (image == nullptr || !image->IsDrawable() || !IsFinite(destination)) {
-        return Status::InvalidParameter;
-    }
-    const auto source = SourceInPixels(*image, {sourceX, sourceY, sourceWidth, sourceHeight}, sourceUnit);
-    if (!source || !IsFinite(*source)) {
-        return Status::InvalidParameter;
-    }
+Status CSvgEngine::PaintImage(const ImagePart& part) {
     const svg::PageMap map = m_drawing->Map(State());
     if (!svg::CanMap(map.ToPage)) {
         return Status::Ok;
     }
-    if (abort != nullptr && abort(callbackData)) {
+    if (part.Abort != nullptr && part.Abort(part.CallbackData)) {
         return Status::Aborted;
     }
-    const svg::DrawnImage drawn = svg::DrawImagePart(map, *image, destination, *source, attributes);
+    const svg::DrawnImage drawn = svg::ImageElement(map, part);
     if (drawn.ClipData.empty()) {
         m_drawing->Write(State(), drawn.Element);
         return Status::Ok;
@@ -221,62 +145,12 @@ Status CSvgEngine::DrawImage(const Image* image, const RectF& destination, float
     return Status::Ok;
 }
 
-Status CSvgEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
-    const RectF rect{x, y, width, height};
-    return m_drawing->Fill(
-        State(), brush, IsFinite(rect),
-        [&](const svg::PageMap& map, const svg::Paint& fill) { return svg::FilledBox(map, rect, fill); });
-}
-
-Status CSvgEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
-    const RectF rect{x, y, width, height};
-    return m_drawing->Fill(State(), brush, IsFinite(rect),
-                           [&](const svg::PageMap& map, const svg::Paint& fill) {
-                               return HasExtent(rect) ? svg::EllipseElement(map, rect, fill) : "";
-                           });
-}
-
-Status CSvgEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle, float sweepAngle) {
-    return m_drawing->Fill(State(), brush, IsFiniteArc(rect, startAngle, sweepAngle),
-                           [&](const svg::PageMap& map, const svg::Paint& fill) {
-                               return svg::PathElement(map, PieOf(rect, startAngle, sweepAngle), fill);
-                           });
-}
-
-Status CSvgEngine::FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) {
-    return m_drawing->Fill(State(), brush, AreUsable(points, count),
-                           [&](const svg::PageMap& map, const svg::Paint& fill) {
-                               return count < 3 ? "" : svg::PolygonElement(map, SpanOf(points, count), fill);
-                           });
-}
-
-Status CSvgEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
-    return m_drawing->Fill(
-        State(), brush, path != nullptr && IsFinite(*path),
-        [&](const svg::PageMap& map, const svg::Paint& fill) { return svg::PathElement(map, *path, fill); });
-}
-
-std::int32_t CSvgEngine::GradientFill(const RectL& bounds, const PointF& origin,
-                                      const GradientVertex* vertices, std::uint32_t vertexCount,
-                                      const void* mesh, std::uint32_t meshCount, GradientMode mode) {
-    if (vertices == nullptr || mesh == nullptr || !AreFinite(origin.X, origin.Y) ||
-        mode > GradientMode::Triangle) {
-        return 0;
-    }
+Status CSvgEngine::PaintGradient(const GradientMesh& mesh) {
     const svg::PageMap map = m_drawing->Map(State());
-    if (!svg::CanMap(map.ToPage)) {
-        return 1;
+    if (svg::CanMap(map.ToPage)) {
+        m_drawing->Write(State(), svg::GradientElements(map, mesh, m_drawing->Document.Definitions()));
     }
-    const GradientArea area{bounds, origin, {vertices, vertexCount}};
-    svg::SvgDefinitions& definitions = m_drawing->Document.Definitions();
-    const auto elements =
-        mode == GradientMode::Triangle
-            ? svg::GradientTriangles(map, area, {static_cast<const GradientTriangle*>(mesh), meshCount},
-                                     definitions)
-            : svg::GradientRects(map, area, {static_cast<const GradientRect*>(mesh), meshCount},
-                                 mode == GradientMode::RectV, definitions);
-    m_drawing->Write(State(), elements.value_or(""));
-    return elements ? 1 : 0;
+    return Status::Ok;
 }
 
 std::uint32_t CSvgEngine::BeginContainer() {

@@ -1,6 +1,5 @@
 #include "penlode/svg/SvgGeometry.h"
 
-#include "penlode/engine/EngineArguments.h"
 #include "penlode/engine/GuardBand.h"
 
 #include <algorithm>
@@ -10,9 +9,6 @@
 
 namespace penlode::svg {
 namespace {
-
-/// Chains of turns leave noise of this size, far below a thousandth of a millimetre on any page.
-constexpr double kNoise = 1e-7;
 
 constexpr double kMaxFactor = 1e30;
 
@@ -75,22 +71,12 @@ MappedAxes AxesUnder(const Matrix& m) {
 
 bool KeepsRightAngles(const Matrix& m) {
     const MappedAxes axes = AxesUnder(m);
-    return std::abs(m.M11 * m.M21 + m.M12 * m.M22) <= kNoise * axes.X * axes.Y;
-}
-
-bool KeepsAxesNearly(const Matrix& m) {
-    const MappedAxes axes = AxesUnder(m);
-    const bool upright = std::abs(m.M12) <= kNoise * axes.X && std::abs(m.M21) <= kNoise * axes.Y;
-    return upright || (std::abs(m.M11) <= kNoise * axes.X && std::abs(m.M22) <= kNoise * axes.Y);
+    return std::abs(m.M11 * m.M21 + m.M12 * m.M22) <= kTurnNoise * axes.X * axes.Y;
 }
 
 bool KeepsShapes(const Matrix& m) {
     const double scale = m.LengthFactor();
-    return std::abs(m.M11 - m.M22) <= kNoise * scale && std::abs(m.M12 + m.M21) <= kNoise * scale;
-}
-
-std::vector<PointF> CornersOf(const RectF& r) {
-    return {{r.X, r.Y}, {r.Right(), r.Y}, {r.Right(), r.Bottom()}, {r.X, r.Bottom()}};
+    return std::abs(m.M11 - m.M22) <= kTurnNoise * scale && std::abs(m.M12 + m.M21) <= kTurnNoise * scale;
 }
 
 } // namespace penlode::svg

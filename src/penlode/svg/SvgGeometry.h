@@ -58,12 +58,7 @@ MappedAxes AxesUnder(const Matrix& transform);
 
 /// Right angles between the axes stay right angles, so that an ellipse keeps its axes.
 bool KeepsRightAngles(const Matrix& transform);
-/// The axes stay parallel to the page's, turned by quarters at most.
-bool KeepsAxesNearly(const Matrix& transform);
 /// Shapes are turned and scaled, but neither mirrored nor distorted.
 bool KeepsShapes(const Matrix& transform);
-
-/// A rectangle's corners in order.
-std::vector<PointF> CornersOf(const RectF& rect);
 
 } // namespace penlode::svg

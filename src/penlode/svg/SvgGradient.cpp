@@ -1,5 +1,6 @@
 #include "penlode/svg/SvgGradient.h"
 
+#include "penlode/engine/GradientColors.h"
 #include "penlode/svg/SvgClip.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgPath.h"
@@ -32,10 +33,6 @@ std::string OpaqueAttribute(const char* name, const Rgb& tint) {
     return std::string(" ") + name + fill.substr(fill.find('='));
 }
 
-bool IsWithin(PointD p, const RectL& bounds) {
-    return p.X >= bounds.Left && p.X <= bounds.Right && p.Y >= bounds.Top && p.Y <= bounds.Bottom;
-}
-
 BoxD BoxAround(std::span<const PointD> points) {
     BoxD box = BoxBetween(points.front(), points.front());
     for (const PointD p : points) {
@@ -46,7 +43,7 @@ BoxD BoxAround(std::span<const PointD> points) {
 
 std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
     std::vector<PointD> corners;
-    for (const PointD p : CornersOf(bounds)) {
+    for (const PointD p : CornersOf(BoxOf(bounds))) {
         corners.push_back(Placed(toPage, p));
     }
     return corners;
@@ -55,8 +52,8 @@ std::vector<PointD> BoundsOnPage(const Matrix& toPage, const RectL& bounds) {
 /// The elements, in a group that cuts them to the bounds if any of their corners lies outside.
 class GradientParts {
 public:
-    GradientParts(const PageMap& map, const GradientArea& area)
-        : m_map(map), m_bounds(area.Bounds), m_shown(BoxAround(BoundsOnPage(map.ToPage, area.Bounds))) {
+    GradientParts(const PageMap& map, const RectL& bounds)
+        : m_map(map), m_bounds(bounds), m_shown(BoxAround(BoundsOnPage(map.ToPage, bounds))) {
         m_shown = Common(m_shown, {0.0, 0.0, map.Page.Width, map.Page.Height});
     }
 
@@ -69,7 +66,7 @@ public:
                box.Bottom > m_shown.Top;
     }
 
-    void Include(PointD corner) { m_fits = m_fits && IsWithin(corner, m_bounds); }
+    void Include(PointD corner) { m_fits = m_fits && BoxOf(m_bounds).Contains(corner); }
 
     void Add(const std::string& element) { m_elements += (m_elements.empty() ? "" : "\n") + element; }
 
@@ -94,21 +91,30 @@ private:
     std::string m_elements;
 };
 
-/// Where the last colour is reached on the page: straight across the lines of equal colour, which a skewed
-/// transform does not leave at right angles to the blend's axis.
-PointD BlendEnd(const Matrix& m, PointD start, double extent, bool vertical) {
+double Dot(PointD a, PointD b) {
+    return a.X * b.X + a.Y * b.Y;
+}
+
+/// Where the first and the last colour are reached on the page: straight across the lines of equal colour,
+/// which a skewed transform does not leave at right angles to the blend's axis. Any point of the line on
+/// which the first one lies will do: of a far line it is the one next to the page's corner, as viewers count
+/// in floats.
+std::array<PointD, 2> BlendEnds(const Matrix& m, PointD from, double extent, bool vertical) {
     const PointD along = vertical ? PointD{m.M21, m.M22} : PointD{m.M11, m.M12};
     const PointD normal = vertical ? PointD{-m.M12, m.M11} : PointD{-m.M22, m.M21};
-    const double share =
-        extent * (along.X * normal.X + along.Y * normal.Y) / (normal.X * normal.X + normal.Y * normal.Y);
-    return {start.X + normal.X * share, start.Y + normal.Y * share};
+    const auto onNormal = [&](PointD p) {
+        const double share = Dot(p, normal) / Dot(normal, normal);
+        return PointD{normal.X * share, normal.Y * share};
+    };
+    const PointD start = IsFar(from) ? onNormal(from) : from;
+    const PointD step = onNormal({along.X * extent, along.Y * extent});
+    return {start, {start.X + step.X, start.Y + step.Y}};
 }
 
 std::string AxisBlend(const Matrix& toPage, const ColoredPoint& from, const ColoredPoint& to, bool vertical,
                       SvgDefinitions& definitions) {
-    const PointD start = Placed(toPage, from.Place);
     const double extent = vertical ? to.Place.Y - from.Place.Y : to.Place.X - from.Place.X;
-    const PointD end = BlendEnd(toPage, start, extent, vertical);
+    const auto [start, end] = BlendEnds(toPage, Placed(toPage, from.Place), extent, vertical);
     const std::string attributes = " gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(start.X) + "\" y1=\"" +
                                    Number(start.Y) + "\" x2=\"" + Number(end.X) + "\" y2=\"" + Number(end.Y) +
                                    "\"";
@@ -196,45 +202,33 @@ void AddWhole(Triangle t, GradientParts& parts) {
     AddTriangle(t, parts);
 }
 
-} // namespace
-
-std::optional<std::string> GradientRects(const PageMap& map, const GradientArea& area,
-                                         std::span<const GradientRect> rects, bool vertical,
-                                         SvgDefinitions& definitions) {
-    if (!AreVerticesThere(rects, area.Vertices.size())) {
-        return std::nullopt;
+void AddRect(const ColoredPoint& from, const ColoredPoint& to, bool vertical, SvgDefinitions& definitions,
+             GradientParts& parts) {
+    const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
+    const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
+    const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),
+                    static_cast<float>(std::abs(from.Place.Y - to.Place.Y))};
+    if (box.Width > 0.0F && box.Height > 0.0F) {
+        parts.Include(from.Place);
+        parts.Include(to.Place);
+        const std::string id = AxisBlend(parts.Map().ToPage, from, to, vertical, definitions);
+        parts.Add(ShapeElement(parts.Map(), {Outline::Rectangle{box}}, {" fill=\"" + Reference(id) + "\""}));
     }
-    GradientParts parts(map, area);
-    for (const GradientRect& rect : rects) {
-        const ColoredPoint from = Moved(area, rect.UpperLeft);
-        const ColoredPoint to = Moved(area, rect.LowerRight);
-        const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
-        const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
-        const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),
-                        static_cast<float>(std::abs(from.Place.Y - to.Place.Y))};
-        if (box.Width > 0.0F && box.Height > 0.0F) {
-            parts.Include(from.Place);
-            parts.Include(to.Place);
-            const std::string id = AxisBlend(map.ToPage, from, to, vertical, definitions);
-            parts.Add(FilledBox(map, box, {" fill=\"" + Reference(id) + "\""}));
-        }
-    }
-    return parts.Grouped("", definitions);
 }
 
-std::optional<std::string> GradientTriangles(const PageMap& map, const GradientArea& area,
-                                             std::span<const GradientTriangle> triangles,
-                                             SvgDefinitions& definitions) {
-    if (!AreVerticesThere(triangles, area.Vertices.size())) {
-        return std::nullopt;
+} // namespace
+
+std::string GradientElements(const PageMap& map, const GradientMesh& mesh, SvgDefinitions& definitions) {
+    GradientParts parts(map, mesh.Bounds);
+    for (const GradientRect& entry : mesh.Rects) {
+        AddRect(Moved(mesh, entry.UpperLeft), Moved(mesh, entry.LowerRight), mesh.Mode == GradientMode::RectV,
+                definitions, parts);
     }
-    GradientParts parts(map, area);
-    for (const GradientTriangle& entry : triangles) {
-        const Triangle corners{Moved(area, entry.Vertex1), Moved(area, entry.Vertex2),
-                               Moved(area, entry.Vertex3)};
-        AddWhole(corners, parts);
+    for (const GradientTriangle& entry : mesh.Triangles) {
+        AddWhole({Moved(mesh, entry.Vertex1), Moved(mesh, entry.Vertex2), Moved(mesh, entry.Vertex3)}, parts);
     }
-    return parts.Grouped(" shape-rendering=\"crispEdges\"", definitions);
+    const bool flat = mesh.Mode == GradientMode::Triangle;
+    return parts.Grouped(flat ? " shape-rendering=\"crispEdges\"" : "", definitions);
 }
 
 } // namespace penlode::svg

@@ -76,8 +76,7 @@ std::string Base64(std::string_view bytes) {
 
 /// The unit square becomes these pixels' place on the page.
 void Place(SvgElement& element, const Matrix& m) {
-    constexpr double kNoise = 1e-7;
-    const bool upright = std::abs(m.M12) + std::abs(m.M21) <= kNoise * m.LengthFactor();
+    const bool upright = std::abs(m.M12) + std::abs(m.M21) <= kTurnNoise * m.LengthFactor();
     if (upright && m.M11 > 0.0 && m.M22 > 0.0) {
         element.Set("x", m.Dx).Set("y", m.Dy).Set("width", m.M11).Set("height", m.M22);
         return;
@@ -87,8 +86,10 @@ void Place(SvgElement& element, const Matrix& m) {
 
 } // namespace
 
-DrawnImage DrawImagePart(const PageMap& map, const Image& image, const RectF& destination,
-                         const RectF& source, const ImageAttributes* attributes) {
+DrawnImage ImageElement(const PageMap& map, const ImagePart& part) {
+    const Image& image = *part.Picture;
+    const RectF& source = part.Source;
+    const RectF& destination = part.Destination;
     const Interval across = Inside(source.X, source.Width, image.Width);
     const Interval down = Inside(source.Y, source.Height, image.Height);
     const Interval columns = across.Whole();
@@ -113,7 +114,7 @@ DrawnImage DrawImagePart(const PageMap& map, const Image& image, const RectF& de
     Place(element, Matrix::Scale(columns.Length(), rows.Length()) *
                        Matrix::Translation(columns.From, rows.From) * fromPixels);
     const std::string png =
-        StoredPng(Pixels(image, columns, rows, attributes), static_cast<std::size_t>(columns.Length()));
+        StoredPng(Pixels(image, columns, rows, part.Attributes), static_cast<std::size_t>(columns.Length()));
     element.Set("preserveAspectRatio", "none").Set("href", "data:image/png;base64," + Base64(png));
     return {element.Empty(), std::move(clipData)};
 }

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "penlode/Geometry.h"
-#include "penlode/GraphicsTypes.h"
-#include "penlode/Image.h"
+#include "penlode/engine/Drawings.h"
 #include "penlode/svg/SvgGeometry.h"
 
-#include <optional>
 #include <string>
 
 namespace penlode::svg {
@@ -18,7 +15,6 @@ struct DrawnImage {
 
 /// The source rectangle's corners land on the destination's; what the source leaves out is not written, but
 /// for the pixels that its edges cut.
-DrawnImage DrawImagePart(const PageMap& map, const Image& image, const RectF& destination,
-                         const RectF& source, const ImageAttributes* attributes);
+DrawnImage ImageElement(const PageMap& map, const ImagePart& part);
 
 } // namespace penlode::svg

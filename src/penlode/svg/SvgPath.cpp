@@ -1,6 +1,7 @@
 #include "penlode/svg/SvgPath.h"
 
-#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/EllipseAngle.h"
+#include "penlode/engine/Finite.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgWriter.h"
 
@@ -72,13 +73,6 @@ private:
     bool m_started = false;
 };
 
-/// The parameter t of (rx·cos t, ry·sin t) on the ray at `degrees`, in the same turn as the ray.
-double ParameterAt(double rx, double ry, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180.0;
-    const double parameter = std::atan2(std::sin(angle) / ry, std::cos(angle) / rx);
-    return parameter + 2.0 * std::numbers::pi * std::round((angle - parameter) / (2.0 * std::numbers::pi));
-}
-
 /// From which parameter an arc runs, and how far; nowhere on an ellipse without extent.
 struct ArcSpan {
     double Start = 0.0;
@@ -91,10 +85,11 @@ ArcSpan SpanOf(const GraphicsPath::Arc& arc) {
     if (rx == 0.0 || ry == 0.0) {
         return {};
     }
-    const double start = ParameterAt(rx, ry, arc.StartAngle);
-    return {start, std::abs(arc.SweepAngle) >= 360.0F
-                       ? std::copysign(2.0 * std::numbers::pi, arc.SweepAngle)
-                       : ParameterAt(rx, ry, static_cast<double>(arc.StartAngle) + arc.SweepAngle) - start};
+    const double start = EllipseParameter(rx, ry, arc.StartAngle);
+    return {start,
+            std::abs(arc.SweepAngle) >= 360.0F
+                ? std::copysign(2.0 * std::numbers::pi, arc.SweepAngle)
+                : EllipseParameter(rx, ry, static_cast<double>(arc.StartAngle) + arc.SweepAngle) - start};
 }
 
 /// Writes a figure's pieces one after the other.

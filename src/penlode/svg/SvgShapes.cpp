@@ -1,9 +1,9 @@
 #include "penlode/svg/SvgShapes.h"
 
+#include "penlode/PenDrawing.h"
 #include "penlode/Units.h"
 #include "penlode/engine/GuardBand.h"
 #include "penlode/engine/LineThinning.h"
-#include "penlode/engine/ShapePaths.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
 
@@ -38,23 +38,7 @@ std::string ColorAttributes(const std::string& name, Color color) {
     return text;
 }
 
-/// Dash and gap lengths in widths of the pen.
-std::vector<double> DashPattern(DashStyle style) {
-    switch (style) {
-    case DashStyle::Dash:
-        return {3, 1};
-    case DashStyle::Dot:
-        return {1, 1};
-    case DashStyle::DashDot:
-        return {3, 1, 1, 1};
-    case DashStyle::DashDotDot:
-        return {3, 1, 1, 1, 1, 1};
-    default:
-        return {};
-    }
-}
-
-std::string DashAttribute(const std::vector<double>& pattern, double width) {
+std::string DashAttribute(std::span<const double> pattern, double width) {
     std::string lengths;
     for (const double part : pattern) {
         lengths += (lengths.empty() ? "" : " ") + Number(part * width);
@@ -156,49 +140,8 @@ bool RoundsToNothing(double length) {
     return Number(length) == "0";
 }
 
-} // namespace
-
-std::string FillAttributes(Color color) {
-    return ColorAttributes("fill", color);
-}
-
-Paint StrokePaint(const Pen& pen, double lengthFactor) {
-    const double width =
-        std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kMinLineWidth);
-    const std::vector<double> pattern = DashPattern(pen.GetDashStyle());
-    return {ColorAttributes("stroke", pen.GetColor()) + " stroke-width=\"" + Number(width) + "\"" +
-                DashAttribute(pattern, width),
-            true, std::min(width * kMiterLimit, kMaxMargin),
-            std::accumulate(pattern.begin(), pattern.end(), 0.0) * width};
-}
-
-std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke) {
-    if (rect.Width < 0.0F || rect.Height < 0.0F) {
-        return "";
-    }
-    const PointF corner{rect.Right(), rect.Bottom()};
-    const PointD a = OnPage(map.ToPage, rect.TopLeft());
-    const PointD b = OnPage(map.ToPage, corner);
-    if (rect.Width == 0.0F || rect.Height == 0.0F) {
-        return LineElement(map, rect.TopLeft(), corner, stroke);
-    }
-    // A viewer shows no rectangle of width 0, not even its outline.
-    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b) || RoundsToNothing(a.X - b.X) ||
-        RoundsToNothing(a.Y - b.Y)) {
-        return PolygonElement(map, CornersOf(rect), stroke);
-    }
-    return BoxElement(a, b, stroke);
-}
-
-std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill) {
-    if (rect.Width <= 0.0F || rect.Height <= 0.0F) {
-        return "";
-    }
-    if (!KeepsAxesNearly(map.ToPage)) {
-        return PolygonElement(map, CornersOf(rect), fill);
-    }
-    return BoxElement(OnPage(map.ToPage, rect.TopLeft()),
-                      OnPage(map.ToPage, PointF{rect.Right(), rect.Bottom()}), fill);
+std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint) {
+    return PointsElement("polygon", map, MapAll(map.ToPage, points), paint);
 }
 
 std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke) {
@@ -219,15 +162,36 @@ std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint&
         .Empty();
 }
 
-std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke) {
-    return PointsElement("polyline", map,
-                         points.size() < kMinDataLinePoints ? MapAll(map.ToPage, points)
-                                                            : ThinnedOnPage(map, points, stroke.Margin),
-                         stroke);
+std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke) {
+    const PointF corner{rect.Right(), rect.Bottom()};
+    const PointD a = OnPage(map.ToPage, rect.TopLeft());
+    const PointD b = OnPage(map.ToPage, corner);
+    if (rect.Width == 0.0F || rect.Height == 0.0F) {
+        return LineElement(map, rect.TopLeft(), corner, stroke);
+    }
+    // A viewer shows no rectangle of width 0, not even its outline.
+    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b) || RoundsToNothing(a.X - b.X) ||
+        RoundsToNothing(a.Y - b.Y)) {
+        return PolygonElement(map, CornersOf(rect), stroke);
+    }
+    return BoxElement(a, b, stroke);
 }
 
-std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint) {
-    return PointsElement("polygon", map, MapAll(map.ToPage, points), paint);
+std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill) {
+    const PointD a = Mapped(map.ToPage, rect.TopLeft());
+    const PointD b = Mapped(map.ToPage, PointF{rect.Right(), rect.Bottom()});
+    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b)) {
+        return PolygonElement(map, CornersOf(rect), fill);
+    }
+    return BoxElement(a, b, fill);
+}
+
+std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint) {
+    if (paint.Strokes && ReachesFar(path, map.ToPage)) {
+        const BoxD box = map.Surroundings(paint.Margin);
+        return StrokedFigures(Flattened(path, map.ToPage, box), box, paint);
+    }
+    return PathOf(PathData(path, map), paint);
 }
 
 std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint) {
@@ -237,7 +201,7 @@ std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& p
     const PointD center = OnPage(map.ToPage, rect.Center());
     const bool circle = KeepsRightAngles(map.ToPage) && Number(rx) == Number(ry);
     if ((!circle && !KeepsAxesNearly(map.ToPage)) || AnyFar(MapAll(map.ToPage, CornersOf(rect)))) {
-        return PathElement(map, EllipseOf(rect), paint);
+        return PathElement(map, PathOf(Outline::Ellipse{rect}), paint);
     }
     SvgElement element(circle ? "circle" : "ellipse");
     element.Set("cx", center.X).Set("cy", center.Y);
@@ -251,12 +215,59 @@ std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& p
         .Empty();
 }
 
-std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint) {
-    if (paint.Strokes && ReachesFar(path, map.ToPage)) {
-        const BoxD box = map.Surroundings(paint.Margin);
-        return StrokedFigures(Flattened(path, map.ToPage, box), box, paint);
+/// Writes an outline as an element; nothing where a brush finds no area.
+struct ElementWriter {
+    const PageMap& Map;
+    const Paint& Look;
+
+    std::string operator()(const Outline::Nothing&) const { return ""; }
+
+    std::string operator()(const Outline::Line& line) const {
+        return Look.Strokes ? LineElement(Map, line.From, line.To, Look) : "";
     }
-    return PathOf(PathData(path, map), paint);
+
+    std::string operator()(const Outline::Rectangle& rectangle) const {
+        return Look.Strokes ? StrokedBox(Map, rectangle.Box, Look) : FilledBox(Map, rectangle.Box, Look);
+    }
+
+    std::string operator()(const Outline::Ellipse& ellipse) const {
+        return EllipseElement(Map, ellipse.Box, Look);
+    }
+
+    std::string operator()(const Outline::Polygon& polygon) const {
+        return PolygonElement(Map, polygon.Points, Look);
+    }
+
+    std::string operator()(const Outline::Polyline& line) const {
+        return Look.Strokes ? PointsElement("polyline", Map, MapAll(Map.ToPage, line.Points), Look) : "";
+    }
+
+    template <class Curved> std::string operator()(const Curved& shape) const {
+        return PathElement(Map, PathOf(shape), Look);
+    }
+};
+
+} // namespace
+
+std::string FillAttributes(Color color) {
+    return ColorAttributes("fill", color);
+}
+
+Paint StrokePaint(const Pen& pen, double lengthFactor) {
+    const double width = std::max(std::abs(static_cast<double>(pen.GetWidth())) * lengthFactor, kMinPageLine);
+    const std::span<const double> pattern = DashPattern(pen.GetDashStyle());
+    return {ColorAttributes("stroke", pen.GetColor()) + " stroke-width=\"" + Number(width) + "\"" +
+                DashAttribute(pattern, width),
+            true, std::min(width * kMiterLimit, kMaxMargin),
+            std::accumulate(pattern.begin(), pattern.end(), 0.0) * width};
+}
+
+std::string ShapeElement(const PageMap& map, const Outline& outline, const Paint& paint) {
+    return std::visit(ElementWriter{map, paint}, outline.Shape);
+}
+
+std::string DataLineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke) {
+    return PointsElement("polyline", map, ThinnedOnPage(map, points, stroke.Margin), stroke);
 }
 
 } // namespace penlode::svg

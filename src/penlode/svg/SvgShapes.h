@@ -1,9 +1,8 @@
 #pragma once
 
 #include "penlode/Color.h"
-#include "penlode/Geometry.h"
-#include "penlode/GraphicsPath.h"
 #include "penlode/Pen.h"
+#include "penlode/engine/Outline.h"
 #include "penlode/svg/SvgGeometry.h"
 
 #include <span>
@@ -12,11 +11,6 @@
 /// Elements for shapes given in world coordinates. A shape that shows nothing gives an empty text. Of a shape
 /// that reaches far, what lies near the page is written as a path of straight lines.
 namespace penlode::svg {
-
-/// The thinnest line of a page, in millimetres; a pen of width 0 draws it. A line that keeps one pixel at
-/// every zoom (vector-effect) would be as readable on screen, but printers, converters and office programs
-/// pass that over and draw nothing, or a line of a whole millimetre.
-inline constexpr double kMinLineWidth = 0.05;
 
 /// ` fill="#336699" fill-opacity="0.502"`
 std::string FillAttributes(Color color);
@@ -29,19 +23,14 @@ struct Paint {
     double DashPeriod = 0.0; ///< the length of a pen's pattern, in millimetres; 0 for a solid line
 };
 
-/// A pen under a transform that makes lengths grow by `lengthFactor`.
+/// A pen under a transform that makes lengths grow by `lengthFactor`. A thinnest line that keeps one pixel at
+/// every zoom (vector-effect) would be as readable on screen as one of a fixed width, but printers,
+/// converters and office programs pass that over and draw nothing, or a line of a whole millimetre.
 Paint StrokePaint(const Pen& pen, double lengthFactor);
 
-/// A box without extent is a line for a pen and nothing for a brush; a negative one is nothing.
-std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke);
-std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill);
-
-std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke);
-/// Nothing for fewer than two points. Points that fall together when rounded are written once; of data, what
-/// 600 dots per inch can show.
-std::string PolylineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
-std::string PolygonElement(const PageMap& map, std::span<const PointF> points, const Paint& paint);
-std::string EllipseElement(const PageMap& map, const RectF& rect, const Paint& paint);
-std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint);
+/// A box without extent is a line for a pen. Points that fall together when rounded are written once.
+std::string ShapeElement(const PageMap& map, const Outline& outline, const Paint& paint);
+/// What 600 dots per inch can show of a polyline.
+std::string DataLineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
 
 } // namespace penlode::svg

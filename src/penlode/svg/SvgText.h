@@ -5,7 +5,6 @@
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/text/TextPlacement.h"
 
-#include <cstddef>
 #include <map>
 #include <string>
 
@@ -20,9 +19,6 @@ public:
 private:
     std::map<std::wstring, std::string> m_lists;
 };
-
-/// Longer lines end there, and are measured so.
-inline constexpr std::size_t kMaxLineCharacters = 8192;
 
 /// A line of text as text, pinned to its measured width whatever face the reader has. Nothing for an empty
 /// line.

@@ -58,7 +58,7 @@ std::vector<PlacedLine> PlaceLines(std::wstring_view text, const Font& font, con
         const float width = CStringUtil::MeasureLine(line, font);
         const float left = Aligned(format.Alignment, box.X, box.Width, width);
         const float drop = static_cast<float>(placed.size()) * metrics.LineHeight;
-        placed.push_back({line, {left, firstBaseline + drop}, width});
+        placed.push_back({line.substr(0, kMaxLineCharacters), {left, firstBaseline + drop}, width});
     }
     return placed;
 }

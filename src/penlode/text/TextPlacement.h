@@ -5,11 +5,15 @@
 #include "penlode/Geometry.h"
 #include "penlode/StringFormat.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
 
 namespace penlode {
+
+/// A line of a text that is longer ends after so many characters.
+inline constexpr std::size_t kMaxLineCharacters = 8192;
 
 /// One line of a text and where it stands: the left end of its baseline, and its width.
 struct PlacedLine {

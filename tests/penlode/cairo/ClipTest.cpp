@@ -33,12 +33,6 @@ constexpr std::array<ModeCase, 6> kModes{{{CombineMode::Replace, 36},
                                           {CombineMode::Exclude, 27},
                                           {CombineMode::Complement, 27}}};
 
-GraphicsPath PathOf(const RectF& rect) {
-    GraphicsPath path;
-    path.AddRectangle(rect);
-    return path;
-}
-
 } // namespace
 
 TEST(Clip, EveryModeCombinesRectangles) {
@@ -46,17 +40,6 @@ TEST(Clip, EveryModeCombinesRectangles) {
         const auto g = PixelSurface(20, 10);
         g->SetClip(kA, CombineMode::Replace);
         g->SetClip(kB, c.Mode);
-        EXPECT_EQ(Clipped(*g), c.Pixels) << static_cast<int>(c.Mode);
-    }
-}
-
-TEST(Clip, EveryModeCombinesPathsAndRegions) {
-    for (const ModeCase& c : kModes) {
-        const auto g = PixelSurface(20, 10);
-        const GraphicsPath a = PathOf(kA);
-        g->SetClip(&a, CombineMode::Replace);
-        Region b(kB);
-        g->SetClip(&b, c.Mode);
         EXPECT_EQ(Clipped(*g), c.Pixels) << static_cast<int>(c.Mode);
     }
 }

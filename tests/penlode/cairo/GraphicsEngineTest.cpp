@@ -172,34 +172,6 @@ TEST(GraphicsEngine, AContainerRestoresTransformUnitsClipAndSmoothing) {
     EXPECT_EQ(InkOf(*g), 20);
 }
 
-TEST(GraphicsEngine, APieBeginsAndEndsAtTrueAngles) {
-    const auto g = PixelSurface(60, 30);
-    g->FillPie(&kBrush, {0, 0, 60, 30}, 0, 45);
-    EXPECT_EQ(PixelAt(g->Pixels(), 39, 22), kBlack);
-    EXPECT_EQ(PixelAt(g->Pixels(), 39, 26), kWhite);
-    EXPECT_EQ(PixelAt(g->Pixels(), 37, 23), kWhite);
-    EXPECT_EQ(PixelAt(g->Pixels(), 50, 16), kBlack);
-    EXPECT_EQ(PixelAt(g->Pixels(), 50, 13), kWhite);
-}
-
-TEST(GraphicsEngine, ACurvePassesThroughItsPointsSmoothly) {
-    const auto g = PixelSurface(40, 30);
-    const std::array<PointF, 3> points{{{2, 25}, {20, 5}, {38, 25}}};
-    g->DrawCurve(&kPen, points.data(), 3);
-    EXPECT_NE(PixelAt(g->Pixels(), 20, 4), kWhite);
-    EXPECT_NE(PixelAt(g->Pixels(), 22, 5), kWhite);
-    EXPECT_EQ(PixelAt(g->Pixels(), 22, 8), kWhite);
-}
-
-TEST(GraphicsEngine, APathIsFilledByTheEvenOddRule) {
-    const auto g = PixelSurface(20, 20);
-    GraphicsPath frame;
-    frame.AddRectangle({2, 2, 16, 16});
-    frame.AddRectangle({5, 5, 10, 10});
-    g->FillPath(&kBrush, &frame);
-    EXPECT_EQ(InkOf(*g), 16 * 16 - 10 * 10);
-}
-
 TEST(GraphicsEngine, UnequalScalesBendThePenToo) {
     const auto g = PixelSurface(40, 20);
     g->ScaleTransform(4, 1, MatrixOrder::Prepend);

@@ -112,35 +112,6 @@ TEST(Image, StretchesOfEveryStrengthAreDrawnOrLeftOut) {
     }
 }
 
-TEST(Gradient, RectanglesBlendAlongOneAxis) {
-    const auto g = PixelSurface(10, 6);
-    const std::array<GradientVertex, 2> ends{{{0, 0, 0, 0, 0, 0}, {10, 4, 0xFF00, 0xFF00, 0, 0}}};
-    const GradientRect rect{0, 1};
-    EXPECT_NE(g->GradientFill({0, 0, 10, 6}, {0, 1}, ends.data(), 2, &rect, 1, GradientMode::RectH), 0);
-    const Image drawn = g->Pixels();
-    EXPECT_EQ(PixelAt(drawn, 0, 0), kWhite);
-    EXPECT_EQ(CountOf(drawn, kWhite), 20);
-    EXPECT_NEAR(PixelAt(drawn, 0, 1).R(), 13U, 2);
-    EXPECT_NEAR(PixelAt(drawn, 9, 4).R(), 242U, 2);
-    EXPECT_EQ(PixelAt(drawn, 9, 1), PixelAt(drawn, 9, 4));
-    EXPECT_EQ(PixelAt(drawn, 5, 2).A(), 255U);
-}
-
-TEST(Gradient, TrianglesBlendBetweenThreeCornersInsideTheBounds) {
-    const auto g = PixelSurface(30, 30);
-    const std::array<GradientVertex, 3> corners{
-        {{0, 0, 0xFF00, 0, 0, 0}, {30, 0, 0, 0xFF00, 0, 0}, {0, 30, 0, 0, 0xFF00, 0}}};
-    const GradientTriangle triangle{0, 1, 2};
-    EXPECT_NE(
-        g->GradientFill({0, 0, 30, 12}, {0, 0}, corners.data(), 3, &triangle, 1, GradientMode::Triangle), 0);
-    const Color middle = PixelAt(g->Pixels(), 10, 10);
-    EXPECT_NEAR(middle.R(), 76U, 8);
-    EXPECT_NEAR(middle.G(), 89U, 8);
-    EXPECT_NEAR(middle.B(), 89U, 8);
-    EXPECT_EQ(PixelAt(g->Pixels(), 2, 13), kWhite);
-    EXPECT_EQ(PixelAt(g->Pixels(), 25, 10), kWhite);
-}
-
 TEST(Gradient, MissingVerticesAreRefused) {
     const auto g = PixelSurface(10, 10);
     const std::array<GradientVertex, 2> ends{{{0, 0, 0, 0, 0, 0}, {10, 4, 0xFF00, 0xFF00, 0, 0}}};

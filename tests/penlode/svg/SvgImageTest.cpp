@@ -187,26 +187,6 @@ TEST(SvgImage, RefusesAndAborts) {
     EXPECT_EQ(Body(engine), "");
 }
 
-TEST(SvgGradient, RectanglesBlendAlongAnAxis) {
-    const GradientVertex vertices[] = {{0, 0, 0xFF00, 0, 0, 0}, {20, 10, 0, 0, 0xFF00, 0}};
-    const GradientRect mesh{0, 1};
-    CSvgEngine engine({80, 60});
-    EXPECT_EQ(engine.GradientFill({0, 0, 100, 100}, {5, 5}, vertices, 2, &mesh, 1, GradientMode::RectH), 1);
-    EXPECT_EQ(engine.GradientFill({0, 0, 10, 100}, {5, 5}, vertices, 2, &mesh, 1, GradientMode::RectH), 1);
-    EXPECT_EQ(
-        Body(engine),
-        "<defs>\n"
-        "<linearGradient id=\"g1\" gradientUnits=\"userSpaceOnUse\" x1=\"5\" y1=\"5\" x2=\"25\" y2=\"5\">"
-        "<stop offset=\"0\" stop-color=\"#ff0000\"/><stop offset=\"1\" stop-color=\"#0000ff\"/>"
-        "</linearGradient>\n"
-        "<clipPath id=\"c1\"><path d=\"M0 0 L10 0 L10 100 L0 100 Z\"/></clipPath>\n"
-        "</defs>\n"
-        "<rect x=\"5\" y=\"5\" width=\"20\" height=\"10\" fill=\"url(#g1)\"/>\n"
-        "<g clip-path=\"url(#c1)\">\n"
-        "<rect x=\"5\" y=\"5\" width=\"20\" height=\"10\" fill=\"url(#g1)\"/>\n"
-        "</g>\n");
-}
-
 TEST(SvgGradient, TrianglesAreCutIntoFlatOnes) {
     const GradientVertex vertices[] = {{0, 0, 0, 0, 0, 0}, {8, 0, 0, 0, 0x0800, 0}, {0, 8, 0, 0, 0, 0}};
     const GradientTriangle mesh{0, 1, 2};

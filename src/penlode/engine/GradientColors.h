@@ -1,0 +1,35 @@
+#pragma once
+
+#include "penlode/engine/DeviceGeometry.h"
+#include "penlode/engine/Drawings.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+/// What every engine's gradients are made of. Colours are opaque whatever a vertex's alpha says, as on GDI,
+/// whose callers leave it 0.
+namespace penlode {
+
+/// Red, green and blue from 0 to 255.
+using Rgb = std::array<double, 3>;
+
+struct ColoredPoint {
+    PointD Place;
+    Rgb Colour;
+};
+
+/// A vertex in world coordinates.
+inline ColoredPoint Moved(const GradientMesh& mesh, std::uint32_t index) {
+    const GradientVertex& v = mesh.Vertices[index];
+    const auto channel = [](std::uint16_t value) { return std::min(value / 256.0, 255.0); };
+    return {{static_cast<double>(v.X) + mesh.Origin.X, static_cast<double>(v.Y) + mesh.Origin.Y},
+            {channel(v.Red), channel(v.Green), channel(v.Blue)}};
+}
+
+inline BoxD BoxOf(const RectL& r) {
+    return {static_cast<double>(r.Left), static_cast<double>(r.Top), static_cast<double>(r.Right),
+            static_cast<double>(r.Bottom)};
+}
+
+} // namespace penlode
