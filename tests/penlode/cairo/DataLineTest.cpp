@@ -172,6 +172,16 @@ TEST(DataLine, MarkersOnOnePlaceAreDrawnOnce) {
     EXPECT_EQ(InkOf(*often), 0);
 }
 
+TEST(DataLine, MarkersOfTheSameCornersButAnotherTurnAreDrawn) {
+    const auto g = PixelSurface(20, 20);
+    const SolidBrush brush{kBlack};
+    g->FillRectangle(&brush, 0, 0, 10, 10);
+    EXPECT_EQ(InkOf(*g), 100);
+    g->RotateTransform(30, MatrixOrder::Prepend);
+    g->FillRectangle(&brush, 0, 0, 13.66F, 3.66F); // from (0, 0) to (10, 10), across
+    EXPECT_GT(InkOf(*g), 100);
+}
+
 TEST(DataLine, OneBadPointAmongManyIsRefused) {
     const Pen pen(kBlack, 1.0F);
     for (const float bad :
