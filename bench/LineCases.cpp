@@ -3,6 +3,8 @@
 #include "Suite.h"
 #include "penlode/cairo/GraphicsEngine.h"
 
+#include <random>
+
 /// One curve of many values over a whole picture, its line 1.5 pixels wide: from a host's lists through the
 /// chart to the file.
 namespace bench {
@@ -74,9 +76,62 @@ void AddShape(Suite& suite, Shape shape, Memory memory, const std::vector<NamedS
                   "line 1e3 " + kind + ", PNG", 8.0);
 }
 
+/// Points anywhere on the picture.
+std::vector<penlode::PointF> Scribble(std::size_t count) {
+    std::mt19937 random(3);
+    std::vector<penlode::PointF> points;
+    for (std::size_t i = 0; i < count; ++i) {
+        points.push_back({static_cast<float>(random() % (kPictureWidth * 10U)) / 10.0F,
+                          static_cast<float>(random() % (kPictureHeight * 10U)) / 10.0F});
+    }
+    return points;
+}
+
+std::size_t ScribbleDrawn(const std::vector<penlode::PointF>& points) {
+    const penlode::Pen pen(penlode::kBlack, static_cast<float>(kLineWidth));
+    const auto engine = PictureEngine();
+    engine->DrawLines(&pen, points.data(), static_cast<std::int32_t>(points.size()));
+    return points.size();
+}
+
+/// Cairo's strokes of a few segments each.
+std::size_t ScribbleByHand(const std::vector<penlode::PointF>& points) {
+    constexpr std::size_t kPiece = 32;
+    cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, kPictureWidth, kPictureHeight);
+    cairo_t* context = cairo_create(surface);
+    cairo_set_line_width(context, kLineWidth);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        cairo_line_to(context, static_cast<double>(points[i].X), static_cast<double>(points[i].Y));
+        if (i % kPiece == kPiece - 1) {
+            cairo_stroke(context);
+            cairo_move_to(context, static_cast<double>(points[i].X), static_cast<double>(points[i].Y));
+        }
+    }
+    cairo_stroke(context);
+    cairo_destroy(context);
+    cairo_surface_destroy(surface);
+    return points.size();
+}
+
+void AddScribbles(Suite& suite) {
+    for (const auto& [name, count] :
+         {std::pair{"1e4", 10000U}, std::pair{"2e4", 20000U}, std::pair{"1e6", 1000000U}}) {
+        const std::string scribble = std::string("scribble ") + name;
+        const auto points = std::make_shared<const std::vector<penlode::PointF>>(Scribble(count));
+        suite.Add(scribble + ", drawn", [points] { return ScribbleDrawn(*points); });
+        if (count <= 20000U) {
+            suite.Add(scribble + ", strokes", [points] { return ScribbleByHand(*points); });
+            suite.Compare(scribble + ", drawn / strokes", scribble + ", drawn", scribble + ", strokes", 1.1);
+        }
+    }
+    // Strokes of ten thousand take about a second.
+    suite.Compare("scribble 1e6 / strokes of 1e4", "scribble 1e6, drawn", "scribble 1e4, strokes", 1.5);
+}
+
 } // namespace
 
 void AddLineCases(Suite& suite) {
+    AddScribbles(suite);
     for (const Shape shape : {Shape::Walk, Shape::Noise}) {
         const std::vector<NamedSeries> data{{"1e3", MakeSeries(1000, shape)},
                                             {"1e6", MakeSeries(1000000, shape)},

@@ -93,6 +93,8 @@ public:
                              const ImageAttributes* attributes, DrawImageAbort abort, void* callbackData) = 0;
     virtual Status DrawImage(const Image* image, const RectF& destination) = 0;
     virtual Status ResetClip() = 0;
+    /// The current container's clip in world coordinates. Under a transform that folds the plane it has none
+    /// there: the answer is InvalidParameter, and the region stays as it was.
     virtual Status GetClip(Region* region) = 0;
     virtual Status SetClip(const GraphicsPath* path, CombineMode mode) = 0;
     virtual Status SetClip(const Region* region, CombineMode mode) = 0;

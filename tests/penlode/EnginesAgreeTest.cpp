@@ -178,5 +178,43 @@ TEST_P(EnginesAgree, OnEveryOperation) {
     }
 }
 
+/// What a pen of that width draws round a box: the area between two boxes.
+GraphicsPath FrameOf(const RectF& box, float width) {
+    GraphicsPath frame;
+    for (const float reach : {width / 2, -width / 2}) {
+        frame.AddRectangle({box.X - reach, box.Y - reach, box.Width + 2 * reach, box.Height + 2 * reach});
+    }
+    return frame;
+}
+
+TEST(Pens, AreBentWithThePlane) {
+    const Pen pen(kBlack, 2.0F);
+    const Pen dash(kBlack, 2.0F, DashStyle::Dash);
+    const SolidBrush brush{kBlack};
+    for (const Matrix& map :
+         {Matrix{2, 0, 0, 1, 0, 0}, Matrix{0, 0.5, -2, 0, 40, 0}, Matrix{1, 0.25, -0.5, 0.75, 10, 0}}) {
+        const auto stroked = [&](IGraphicsEngine& g) {
+            g.SetTransform(&map);
+            g.DrawRectangle(&pen, 4, 4, 10, 10);
+            // Dashes of 6 mm and gaps of 2, as long as the plane makes them.
+            g.DrawLine(&dash, 2, 18, 12, 18.01F);
+        };
+        const auto filled = [&](IGraphicsEngine& g) {
+            g.SetTransform(&map);
+            const GraphicsPath frame = FrameOf({4, 4, 10, 10}, 2.0F);
+            g.FillPath(&brush, &frame);
+            const PointF first[] = {{2, 17}, {8, 17}, {8, 19}, {2, 19}};
+            const PointF second[] = {{10, 17}, {12, 17}, {12, 19}, {10, 19}};
+            g.FillPolygon(&brush, first, 4);
+            g.FillPolygon(&brush, second, 4);
+        };
+        for (const auto surface : {&Raster::OnPixels, &Raster::OnPage}) {
+            const PictureDifference difference =
+                CompareSmoothed((kRaster.*surface)(stroked), (kRaster.*surface)(filled), 100);
+            EXPECT_EQ(difference.Share, 0) << map.M11 << " " << map.M12 << ": " << difference;
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Placements, EnginesAgree, testing::ValuesIn(kPlacements),
                          [](const auto& test) { return test.param.Name; });

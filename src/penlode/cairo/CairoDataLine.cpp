@@ -17,7 +17,12 @@ constexpr double kColumnsPerPixel = 2.0;
 /// it is drawn in a second or so.
 constexpr double kSectionsPerPixel = 16.0;
 constexpr double kSectionsPerDensePixel = 6.0;
-constexpr double kMaxSections = 1e8;
+constexpr double kMaxSections = 1e7;
+
+/// A line that goes to and fro over the surface's width more often than this scribbles: what its parts cover
+/// seldom meets. Up to so many points, strokes of a few segments each are the faster way.
+constexpr double kMaxPasses = 8.0;
+constexpr std::size_t kMaxStrokedScribble = 10000;
 
 constexpr double kMaxTip = 0.75;
 
@@ -35,6 +40,16 @@ std::optional<std::vector<PointD>> Thinned(const Painter& painter, double margin
     const bool finite = ThinLine(points, painter.ToDevice(), GridOf(painter, margin),
                                  [&](PointD point) { thinned.push_back(point); });
     return finite ? std::optional(std::move(thinned)) : std::nullopt;
+}
+
+bool Scribbles(const Painter& painter, std::span<const PointD> points) {
+    const BoxD area = painter.Setting().Area;
+    const auto seen = [&](PointD p) { return std::clamp(p.X, area.Left, area.Right); };
+    double travelled = 0.0;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        travelled += std::abs(seen(points[i]) - seen(points[i - 1]));
+    }
+    return travelled > kMaxPasses * area.Width();
 }
 
 int SectionsFor(const std::vector<PolylineRun>& runs, double lineWidth, bool thinned) {
@@ -90,7 +105,8 @@ Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, co
         return Status::InvalidParameter;
     }
     const bool smooth = cairo_get_antialias(painter.Context()) != CAIRO_ANTIALIAS_NONE;
-    if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter)) {
+    const bool isStroked = line->size() <= kMaxStrokedScribble && Scribbles(painter, *line);
+    if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter) && !isStroked) {
         const bool thinned = line->size() < points.size();
         StrokeByCoverage(painter, drawn, std::move(*line), thinned);
     } else {

@@ -12,7 +12,7 @@ Mark::Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, co
       m_reach(setting.HasPixels ? kMinStepInPixels : kMinStepOnPages), m_smoothing(state.GetSmoothingMode()),
       m_clip(state.ClipGeneration()) {
     const Matrix toDevice = state.WorldToDevice() * setting.FromState;
-    m_scale = toDevice.LengthFactor();
+    m_turn = {toDevice.M11, toDevice.M12, toDevice.M21, toDevice.M22, 0.0, 0.0};
     for (std::size_t i = 0; i < m_count; ++i) {
         m_corners[i] = Mapped(toDevice, corners[i]);
     }
@@ -28,7 +28,7 @@ bool Mark::Hides(const Mark& next) const {
         return std::abs(a.X - b.X) <= m_reach && std::abs(a.Y - b.Y) <= m_reach;
     };
     return m_shape == next.m_shape && m_look == next.m_look && m_look.GetColor().A() == 0xFFU &&
-           m_count == next.m_count && m_scale == next.m_scale && m_smoothing == next.m_smoothing &&
+           m_count == next.m_count && m_turn == next.m_turn && m_smoothing == next.m_smoothing &&
            m_clip == next.m_clip &&
            std::equal(m_corners.begin(), m_corners.end(), next.m_corners.begin(), isSamePlace);
 }

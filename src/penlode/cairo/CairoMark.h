@@ -30,7 +30,7 @@ private:
     std::size_t m_count;
     std::array<PointD, kMaxCorners> m_corners{}; ///< device units
     double m_reach;                              ///< of one place, in device units
-    double m_scale;
+    Matrix m_turn;                               ///< the way to the device without its offset
     SmoothingMode m_smoothing;
     std::uint64_t m_clip;
 };

@@ -43,22 +43,38 @@ bool IsRound(const Matrix& m) {
     return std::abs(first - second) <= kNoise && std::abs(slant) <= kNoise;
 }
 
+/// A pen that is not round is drawn at this scale: a matrix without one, Cairo 1.16 takes for a turn when it
+/// looks how far the pen reaches, and cuts its lines off.
+constexpr double kPenScale = 2.0;
+
+/// A length in device units as the context counts it while it strokes.
+double PenLength(const Painter& painter, double length) {
+    return HasRoundPen(painter) ? length : length / kPenScale;
+}
+
+void SetDashes(const Painter& painter, std::vector<double> dashes, double offset) {
+    for (double& length : dashes) {
+        length = PenLength(painter, length);
+    }
+    cairo_set_dash(painter.Context(), dashes.data(), static_cast<int>(dashes.size()),
+                   PenLength(painter, offset));
+}
+
 void SetUpLine(const Painter& painter, const DevicePen& pen, const std::vector<double>& dashes) {
     cairo_t* context = painter.Context();
-    cairo_set_line_width(context, pen.Width());
+    cairo_set_line_width(context, PenLength(painter, pen.Width()));
     cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
     cairo_set_line_join(context, CAIRO_LINE_JOIN_MITER);
     cairo_set_miter_limit(context, kMiterLimit);
-    cairo_set_dash(context, dashes.data(), static_cast<int>(dashes.size()), 0.0);
+    SetDashes(painter, dashes, 0.0);
 }
 
 void StrokeInPenShape(const Painter& painter) {
-    const Matrix shape = PenShape(painter.ToDevice());
-    if (IsRound(shape)) {
+    if (HasRoundPen(painter)) {
         cairo_stroke(painter.Context());
         return;
     }
-    painter.SetMatrix(shape);
+    painter.SetMatrix(PenShape(painter.ToDevice()) * Matrix::Scale(kPenScale, kPenScale));
     cairo_stroke(painter.Context());
     painter.SetMatrix({});
 }
@@ -68,8 +84,7 @@ void StrokePart(const Painter& painter, std::span<const PointD> points, double b
                 const std::vector<double>& dashes) {
     cairo_t* context = painter.Context();
     if (!dashes.empty()) {
-        cairo_set_dash(context, dashes.data(), static_cast<int>(dashes.size()),
-                       std::fmod(before, Sum(dashes)));
+        SetDashes(painter, dashes, std::fmod(before, Sum(dashes)));
     }
     for (const PointD p : points) {
         cairo_line_to(context, p.X, p.Y);

@@ -146,8 +146,45 @@ void LineCoverage::Add(std::span<const PointD> points) {
 
 void LineCoverage::AddSegment(const Segment& s) {
     const PointD across = Across(s.Direction);
-    AddConvex(std::array{Plus(s.From, across, m_radius), Plus(s.To, across, m_radius),
-                         Plus(s.To, across, -m_radius), Plus(s.From, across, -m_radius)});
+    const std::array corners{Plus(s.From, across, m_radius), Plus(s.To, across, m_radius),
+                             Plus(s.To, across, -m_radius), Plus(s.From, across, -m_radius)};
+    if (!m_spans.KnowsCovered()) {
+        AddConvex(corners);
+        return;
+    }
+    // Of a scribble most lies on what is covered already.
+    const auto [left, right] = std::minmax({corners[0].X, corners[1].X, corners[2].X, corners[3].X});
+    constexpr auto kTile = static_cast<std::int32_t>(SectionSpans::kTileSections);
+    const std::int32_t first = CornerAt({left, m_area.Top}).Section / kTile * kTile;
+    const std::int32_t end = CornerAt({right, m_area.Top}).Section;
+    std::int32_t begin = first;
+    for (std::int32_t i = first; i < end; i += kTile) {
+        const auto tile = static_cast<std::size_t>(i / kTile);
+        const SectionSpans::Span reach = ReachInTile(s, tile);
+        if (reach.IsEmpty() || m_spans.IsCovered(tile, reach)) {
+            AddConvex(corners, begin, i);
+            begin = i + kTile;
+        }
+    }
+    AddConvex(corners, begin, end);
+}
+
+SectionSpans::Span LineCoverage::ReachInTile(const Segment& s, std::size_t tile) const {
+    const double width = static_cast<double>(SectionSpans::kTileSections) / m_sectionsPerPixel;
+    const double left = m_area.Left + static_cast<double>(tile) * width;
+    double top = std::min(s.From.Y, s.To.Y) - m_radius;
+    double bottom = std::max(s.From.Y, s.To.Y) + m_radius;
+    constexpr double kUpright = 1e-3;
+    if (std::abs(s.Direction.X) > kUpright) {
+        const double slope = s.Direction.Y / s.Direction.X;
+        const double a = s.From.Y + (left - s.From.X) * slope;
+        const double b = a + width * slope;
+        const double reach = m_radius / std::abs(s.Direction.X);
+        top = std::max(top, std::min(a, b) - reach);
+        bottom = std::min(bottom, std::max(a, b) + reach);
+    }
+    const auto height = [&](double y) { return std::clamp(y - m_area.Top, 0.0, m_area.Height()) * kPixel; };
+    return {static_cast<std::int32_t>(height(top)), Ceiling(height(bottom))};
 }
 
 /// The wedge on the outer side of a corner, up to the miter's tip or cut off.
@@ -182,7 +219,12 @@ LineCoverage::Corner LineCoverage::CornerAt(PointD point) const {
 
 /// The edges that lead to the right are the shape's bottom, and those that lead back its top: each section
 /// that it has a part in is crossed by one of both.
-void LineCoverage::AddConvex(std::span<const PointD> corners) {
+void LineCoverage::AddConvex(std::span<const PointD> corners, std::int32_t begin, std::int32_t stop) {
+    if (begin >= stop) {
+        return;
+    }
+    m_begin = begin;
+    m_end = stop;
     const Corner last = CornerAt(corners.back());
     Corner from = last;
     std::int32_t first = last.Section;
@@ -201,9 +243,13 @@ void LineCoverage::AddConvex(std::span<const PointD> corners) {
         lead(CornerAt(corner));
     }
     lead(last);
-    const auto begin = static_cast<std::size_t>(first);
-    const auto count = static_cast<std::size_t>(end - first);
-    m_spans.Add(begin, std::span(m_tops).subspan(begin, count), std::span(m_bottoms).subspan(begin, count));
+    first = std::max(first, begin);
+    if (first < std::min(end, stop)) {
+        const auto place = static_cast<std::size_t>(first);
+        const auto count = static_cast<std::size_t>(std::min(end, stop) - first);
+        m_spans.Add(place, std::span(m_tops).subspan(place, count),
+                    std::span(m_bottoms).subspan(place, count));
+    }
 }
 
 void LineCoverage::PutEdge(const Corner& left, const Corner& right,
@@ -211,7 +257,8 @@ void LineCoverage::PutEdge(const Corner& left, const Corner& right,
     const double slope = (right.Y - left.Y) / (right.X - left.X);
     const double lowest = m_area.Height();
     std::int32_t* const out = heights.data();
-    for (std::int32_t i = left.Section; i < right.Section; ++i) {
+    const std::int32_t end = std::min(right.Section, m_end);
+    for (std::int32_t i = std::max(left.Section, m_begin); i < end; ++i) {
         const double y = left.Y + (i - left.X) * slope;
         out[i] = static_cast<std::int32_t>(std::min(std::max(y, 0.0), lowest) * kPixel + 0.5);
     }

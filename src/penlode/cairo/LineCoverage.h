@@ -44,8 +44,16 @@ private:
 
     void AddSegment(const Segment& segment);
     void AddJoin(const Segment& before, const Segment& after);
-    /// A shape whose corners lead along its bottom to the right and along its top to the left.
-    void AddConvex(std::span<const PointD> corners);
+    /// What a segment may reach, edges included, in the sections of a tile.
+    SectionSpans::Span ReachInTile(const Segment& segment, std::size_t tile) const;
+    /// A shape whose corners lead along its bottom to the right and along its top to the left; of it, what
+    /// lies in the sections.
+    void AddConvex(std::span<const PointD> corners, std::int32_t begin, std::int32_t end);
+
+    void AddConvex(std::span<const PointD> corners) {
+        AddConvex(corners, 0, static_cast<std::int32_t>(m_spans.Size()));
+    }
+
     void PutEdge(const Corner& left, const Corner& right, std::vector<std::int32_t>& heights) const;
     Corner CornerAt(PointD point) const;
 
@@ -56,6 +64,8 @@ private:
     SectionSpans m_spans;
     std::vector<std::int32_t> m_tops; ///< of the shape at hand, by sections
     std::vector<std::int32_t> m_bottoms;
+    std::int32_t m_begin = 0; ///< the sections in which edges are put
+    std::int32_t m_end = 0;
 };
 
 } // namespace penlode

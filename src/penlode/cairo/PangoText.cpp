@@ -106,6 +106,18 @@ double SetWidth(PangoLayoutLine* line) {
     return static_cast<double>(logical.width) / PANGO_SCALE;
 }
 
+/// Cairo refuses to write a text into a document with code points that are no characters: U+FFFD stands for
+/// each of them.
+std::string Utf8Of(std::wstring_view text) {
+    std::wstring shown(text);
+    const auto isNoCharacter = [](wchar_t c) {
+        const auto code = static_cast<std::uint32_t>(c);
+        return (code & 0xFFFEU) == 0xFFFEU || (code >= 0xFDD0U && code <= 0xFDEFU);
+    };
+    std::replace_if(shown.begin(), shown.end(), isNoCharacter, L'\xFFFD');
+    return CStringUtil::WideToUtf8(shown);
+}
+
 /// One thread's fonts and the lines that it has set. Both caches begin anew when they are full.
 class Typesetter {
 public:
@@ -160,7 +172,7 @@ private:
     CachedLine Compose(std::wstring_view text, const Font& font) const {
         CachedLine line{Held<PangoLayout>(pango_layout_new(m_context.get())), {}};
         PangoLayout* layout = line.Layout.get();
-        const std::string utf8 = CStringUtil::WideToUtf8(text);
+        const std::string utf8 = Utf8Of(text);
         pango_layout_set_single_paragraph_mode(layout, TRUE);
         pango_layout_set_font_description(layout, Describe(font).get());
         pango_layout_set_text(layout, utf8.data(), static_cast<int>(utf8.size()));
@@ -217,7 +229,7 @@ ShapedLine ShapeLine(std::wstring_view text, const Font& font) {
 std::vector<std::wstring> UnknownCharacters(std::wstring_view line, const Font& font) {
     std::vector<std::wstring> unknown;
     const ShapedLine set = ShapeLine(line, font);
-    const std::string utf8 = CStringUtil::WideToUtf8(line.substr(0, kMaxLineCharacters));
+    const std::string utf8 = Utf8Of(line.substr(0, kMaxLineCharacters));
     for (const GSList* run = set.Line == nullptr ? nullptr : set.Line->runs; run != nullptr;
          run = run->next) {
         const auto* const glyphs = static_cast<const PangoLayoutRun*>(run->data)->glyphs;

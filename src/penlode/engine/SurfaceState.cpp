@@ -142,30 +142,24 @@ Region CSurfaceState::WorldClip() const {
 }
 
 std::vector<Region> CSurfaceState::DeviceClips() const {
-    std::vector<Region> clips;
-    const auto keep = [&clips](const Region& clip) {
-        if (!clip.IsInfinite()) {
-            clips.push_back(clip);
-        }
-    };
-    for (const Container& container : m_containers) {
-        keep(container.Saved.Clip);
+    std::vector<Region> clips = m_outerClips;
+    if (!m_now.Clip.IsInfinite()) {
+        clips.push_back(m_now.Clip);
     }
-    keep(m_now.Clip);
     return clips;
 }
 
 std::size_t CSurfaceState::ClipCount() const {
-    const auto outside =
-        std::count_if(m_containers.begin(), m_containers.end(),
-                      [](const Container& container) { return !container.Saved.Clip.IsInfinite(); });
-    return static_cast<std::size_t>(outside) + (m_now.Clip.IsInfinite() ? 0U : 1U);
+    return m_outerClips.size() + (m_now.Clip.IsInfinite() ? 0U : 1U);
 }
 
 std::uint32_t CSurfaceState::BeginContainer() {
     const std::uint32_t handle = ++m_lastHandle;
     ++m_clipGeneration;
-    m_containers.push_back({handle, m_now});
+    m_containers.push_back({handle, m_now, m_outerClips.size()});
+    if (!m_now.Clip.IsInfinite()) {
+        m_outerClips.push_back(m_now.Clip);
+    }
     // What stood outside becomes part of the way to the device, in pixels: once the caller has set the same
     // units again, a point lands where it would have landed before.
     const Matrix scaling = PageScaling();
@@ -178,14 +172,15 @@ std::uint32_t CSurfaceState::BeginContainer() {
 }
 
 Status CSurfaceState::EndContainer(std::uint32_t container) {
-    const auto found = std::find_if(m_containers.begin(), m_containers.end(),
-                                    [container](const Container& open) { return open.Handle == container; });
-    if (found == m_containers.end()) {
+    const auto last = std::find_if(m_containers.rbegin(), m_containers.rend(),
+                                   [container](const Container& open) { return open.Handle == container; });
+    if (last == m_containers.rend()) {
         return Status::InvalidParameter;
     }
     ++m_clipGeneration;
-    m_now = std::move(found->Saved);
-    m_containers.erase(found, m_containers.end());
+    m_now = std::move(last->Saved);
+    m_outerClips.resize(last->ClipsOutside);
+    m_containers.erase(last.base() - 1, m_containers.end());
     return Status::Ok;
 }
 

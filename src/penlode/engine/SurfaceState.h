@@ -86,6 +86,7 @@ private:
     struct Container {
         std::uint32_t Handle;
         State Saved;
+        std::size_t ClipsOutside; ///< of m_outerClips, its own not among them
     };
 
     Matrix PageScaling() const;
@@ -94,6 +95,7 @@ private:
     double m_dpiY;
     State m_now;
     std::vector<Container> m_containers;
+    std::vector<Region> m_outerClips; ///< of the open containers, but for those that clip nothing
     std::uint32_t m_lastHandle = 0;
     std::uint64_t m_clipGeneration = 0;
 };

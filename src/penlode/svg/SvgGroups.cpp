@@ -13,9 +13,10 @@ void SvgGroups::Begin(std::uint32_t container, std::size_t clipsOutside) {
 }
 
 void SvgGroups::End(std::uint32_t container) {
-    const auto found = std::find_if(m_containers.begin(), m_containers.end(),
-                                    [container](const Container& open) { return open.Handle == container; });
-    m_containers.erase(found, m_containers.end());
+    while (m_containers.back().Handle != container) {
+        m_containers.pop_back();
+    }
+    m_containers.pop_back();
     m_current = false;
 }
 

@@ -205,11 +205,14 @@ public:
                                   {ry * m_toPage.M21, ry * m_toPage.M22}};
         const ArcSpan span = SpanOf(arc);
         Reach(ellipse.At(span.Start));
-        Cut(ellipse, span.Start, span.Start + span.Sweep, 0);
+        int cuts = kMaxCuts;
+        Cut(ellipse, span.Start, span.Start + span.Sweep, cuts);
     }
 
 private:
-    static constexpr int kMaxCut = 40;
+    /// A far arc that passes the page takes some hundred cuts. Where its numbers are too large to tell its
+    /// points apart there would be no end of them.
+    static constexpr int kMaxCuts = 8192;
 
     void Reach(PointD point) {
         if (m_started) {
@@ -220,19 +223,20 @@ private:
         }
     }
 
-    void Cut(const PageEllipse& ellipse, double from, double to, int depth) {
+    void Cut(const PageEllipse& ellipse, double from, double to, int& cuts) {
         const PointD end = ellipse.At(to);
         const double bend = ellipse.Bend(to - from);
         const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
         const bool outside = around.Right < m_box.Left || around.Left > m_box.Right ||
                              around.Bottom < m_box.Top || around.Top > m_box.Bottom;
-        if (outside || !(bend > kFlatness) || depth == kMaxCut) {
+        if (outside || !(bend > kFlatness) || cuts == 0) {
             m_lines.LineTo(end);
             return;
         }
+        --cuts;
         const double middle = from + (to - from) / 2.0;
-        Cut(ellipse, from, middle, depth + 1);
-        Cut(ellipse, middle, to, depth + 1);
+        Cut(ellipse, from, middle, cuts);
+        Cut(ellipse, middle, to, cuts);
     }
 
     const Matrix& m_toPage;

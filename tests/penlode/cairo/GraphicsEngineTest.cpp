@@ -129,6 +129,19 @@ TEST(GraphicsEngine, AFlatteningTransformDrawsNothing) {
     EXPECT_EQ(InkOf(*g), 0);
 }
 
+TEST(GraphicsEngine, OnAFoldedPlaneAClipCannotBeRead) {
+    const auto g = PixelSurface(20, 20);
+    g->SetClip(RectF{1, 2, 3, 4}, CombineMode::Replace);
+    const Matrix folded{1, 1, 1, 1, 0, 0};
+    g->SetTransform(&folded);
+    Region region(RectF{5, 5, 5, 5});
+    EXPECT_EQ(g->GetClip(&region), Status::InvalidParameter);
+    EXPECT_EQ(region, Region(RectF{5, 5, 5, 5}));
+    g->ResetTransform();
+    EXPECT_EQ(g->GetClip(&region), Status::Ok);
+    EXPECT_EQ(region, Region(RectF{1, 2, 3, 4}));
+}
+
 TEST(CairoCanvas, AFailedContextIsReplacedOnItsSurface) {
     const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 8, 8));
     CairoCanvas canvas(CairoContext(cairo_create(surface.get())), {true, 25.4, {0, 0, 8, 8}, {}, {}, {8, 8}});
@@ -172,13 +185,23 @@ TEST(GraphicsEngine, AContainerRestoresTransformUnitsClipAndSmoothing) {
     EXPECT_EQ(InkOf(*g), 20);
 }
 
-TEST(GraphicsEngine, UnequalScalesBendThePenToo) {
-    const auto g = PixelSurface(40, 20);
-    g->ScaleTransform(4, 1, MatrixOrder::Prepend);
-    g->DrawEllipse(&kPen, 2, 2, 6, 16);
-    EXPECT_EQ(PixelAt(g->Pixels(), 8, 10), kBlack);
-    EXPECT_EQ(PixelAt(g->Pixels(), 7, 10), kBlack);
-    EXPECT_EQ(PixelAt(g->Pixels(), 20, 3), kWhite);
+TEST(GraphicsEngine, APdfWritesWhatIsNoCharacterAsUnknown) {
+    const auto file = [](const wchar_t* text) {
+        const auto g = CGraphicsEngine::ForPdf({80, 60});
+        EXPECT_EQ(g->DrawString(text, -1, &kFont, PointF{5, 5}, &kBrush), Status::Ok);
+        return g->FinishPdf();
+    };
+    EXPECT_EQ(file(L"a\xFFFE"
+                   L"b\xFFFF"
+                   L"c\xFDD0"
+                   L"d\x1FFFE"
+                   L"e"),
+              file(L"a\xFFFD"
+                   L"b\xFFFD"
+                   L"c\xFFFD"
+                   L"d\xFFFD"
+                   L"e"));
+    EXPECT_NE(file(L"a\xFDCF"), file(L"a\xFFFD"));
 }
 
 TEST(GraphicsEngine, PdfIsTheSameEveryTimeAndEndsThePage) {

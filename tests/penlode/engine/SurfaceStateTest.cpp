@@ -78,6 +78,22 @@ TEST(SurfaceState, EndingAContainerEndsThoseInsideIt) {
     EXPECT_NE(state.BeginContainer(), outer);
 }
 
+TEST(SurfaceState, AHundredThousandContainersAreCountedOnce) {
+    CSurfaceState state(96, 96);
+    state.CombineClip(Region(RectF{1, 2, 3, 4}), CombineMode::Replace);
+    std::vector<std::uint32_t> open;
+    for (int i = 0; i < 100000; ++i) {
+        open.push_back(state.BeginContainer());
+        ASSERT_EQ(state.ClipCount(), state.DeviceClips().size());
+    }
+    state.CombineClip(Region(RectF{5, 5, 5, 5}), CombineMode::Replace);
+    EXPECT_EQ(state.ClipCount(), 2U);
+    for (; !open.empty(); open.pop_back()) {
+        ASSERT_EQ(state.EndContainer(open.back()), Status::Ok);
+        ASSERT_EQ(state.DeviceClips().size(), 1U);
+    }
+}
+
 TEST(SurfaceState, PointsGoBetweenSpaces) {
     CSurfaceState state(254, 254);
     state.Transform(Matrix::Translation(1, 2), MatrixOrder::Prepend);

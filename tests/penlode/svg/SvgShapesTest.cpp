@@ -131,6 +131,18 @@ TEST(SvgShapes, RefusesWhatIsMissingOrNotFinite) {
     EXPECT_EQ(Body(engine), "");
 }
 
+TEST(SvgShapes, EllipsesBeyondAllNumbersAreCutToAnEnd) {
+    constexpr float kHuge = std::numeric_limits<float>::max();
+    for (const float height : {-1.95e10F, 77.0F, 1e6F}) {
+        CSvgEngine engine({80, 60});
+        engine.RotateTransform(30, MatrixOrder::Prepend);
+        GraphicsPath path;
+        path.AddArc({0, -height / 2, -kHuge, height}, 7, -kHuge);
+        EXPECT_EQ(engine.FillPath(&kBrush, &path), Status::Ok);
+        EXPECT_LT(Body(engine).size(), 50000U) << height;
+    }
+}
+
 TEST(SvgShapes, FoldedPlanesShowNothing) {
     CSvgEngine engine({80, 60});
     const Matrix folded{1, 1, 1, 1, 0, 0};
