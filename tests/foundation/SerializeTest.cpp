@@ -163,7 +163,7 @@ TEST(Serialize, WhatMeansNothingIsRefusedWithItsPlace) {
     EXPECT_EQ(legend, LegendProp{});
     std::string told;
     for (const auto& problem : stream.Problems()) {
-        if (problem.What == penlode::StreamProblem::Kind::Refused) {
+        if (problem.Kind == penlode::DiagnosticKind::Refused) {
             told += problem.Place + " | " + problem.Found + " | " + problem.Expected + "\n";
         }
     }

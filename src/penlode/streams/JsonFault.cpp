@@ -190,21 +190,22 @@ std::string FoundAt(std::string_view json, std::size_t offset) {
     return end == rest.begin() ? CharacterAt(json, offset) : Shortened(std::string(rest.begin(), end));
 }
 
-StreamProblem UnreadableAt(std::string_view json, std::size_t offset, std::string found,
-                           std::string expected) {
+Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string found, std::string expected) {
     const std::string_view before = json.substr(0, offset);
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     const std::size_t lastBreak = before.rfind('\n');
     const std::size_t mark = before.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
     const std::size_t begin = lastBreak == std::string_view::npos ? mark : lastBreak + 1;
     const std::size_t column = 1 + ColumnsBetween(json, begin, offset);
-    return {StreamProblem::Kind::Unreadable,
-            "line " + std::to_string(line) + ", column " + std::to_string(column), std::move(found),
-            std::move(expected)};
+    Diagnostic fault = StreamProblem(DiagnosticKind::Unreadable,
+                                     "line " + std::to_string(line) + ", column " + std::to_string(column),
+                                     std::move(found), std::move(expected));
+    fault.Line = static_cast<std::size_t>(line);
+    return fault;
 }
 
-StreamProblem ParserFault(std::string_view json, std::size_t bytesRead, std::string_view token,
-                          std::string_view message) {
+Diagnostic ParserFault(std::string_view json, std::size_t bytesRead, std::string_view token,
+                       std::string_view message) {
     const Message parts(message);
     const std::size_t offset = FaultOffset(json, bytesRead, token.size(), parts.Reason);
     return UnreadableAt(json, offset, Finding(json, offset, token, parts.Reason), Expectation(parts));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "penlode/Export.h"
-#include "penlode/streams/StreamProblem.h"
+#include "penlode/streams/Diagnostic.h"
 
 #include <cstddef>
 #include <string>
@@ -19,12 +19,11 @@ PENLODE_API std::string Shortened(std::string text);
 
 /// An Unreadable problem at a byte offset, given as line and column in characters, both from 1. A byte order
 /// mark takes no column.
-StreamProblem UnreadableAt(std::string_view json, std::size_t offset, std::string found,
-                           std::string expected);
+Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string found, std::string expected);
 
 /// Where and why the parser stopped: the bytes it had read, the token it had read last, and its own message.
-StreamProblem ParserFault(std::string_view json, std::size_t bytesRead, std::string_view token,
-                          std::string_view message);
+Diagnostic ParserFault(std::string_view json, std::size_t bytesRead, std::string_view token,
+                       std::string_view message);
 
 /// The word or character at a byte offset, for people.
 std::string FoundAt(std::string_view json, std::size_t offset);

@@ -15,7 +15,7 @@
 namespace penlode {
 namespace {
 
-using Kind = StreamProblem::Kind;
+using Kind = DiagnosticKind;
 
 std::string ListText(const std::vector<std::string>& texts) {
     if (texts.empty()) {
@@ -42,14 +42,14 @@ struct CJsonSerializeStream::Document {
     std::string FileName;
     bool Saving = true;
     bool Unreadable = false;
-    std::vector<StreamProblem> Problems;
+    std::vector<Diagnostic> Problems;
     std::unordered_set<const Json*> Asked;   ///< entries that a load asked for
     std::unordered_set<const Json*> Entered; ///< the groups among them, whose own entries count too
     /// What was told of places that hold no text, by place.
     std::unordered_map<std::string, std::size_t> WrongTypes;
     const Json* LastList = nullptr; ///< the list that was loaded last, for what is refused of it
     std::string LastListPlace;
-    std::vector<StreamProblem> UnknownBeforeSaving;
+    std::vector<Diagnostic> UnknownBeforeSaving;
 
     bool HasRoom() const { return !Unreadable && Problems.size() < kMaxProblems; }
 
@@ -70,7 +70,7 @@ struct CJsonSerializeStream::Document {
     std::string LoadItem(const std::string& tag, const Json::array_t& items, std::size_t index);
     Json* EnterGroup(const std::string& tag, int index, std::string& place);
     Json* MakeGroup(const std::string& tag, int index);
-    void AddUnknown(const Json& group, const std::string& place, std::vector<StreamProblem>& unknown) const;
+    void AddUnknown(const Json& group, const std::string& place, std::vector<Diagnostic>& unknown) const;
 };
 
 /// The entry of the current group, or null.
@@ -118,7 +118,7 @@ void CJsonSerializeStream::Document::Report(Kind what, std::string place, std::s
         if (what == Kind::WrongType) {
             WrongTypes.emplace(place, Problems.size());
         }
-        Problems.push_back({what, std::move(place), std::move(found), std::move(expected)});
+        Problems.push_back(StreamProblem(what, std::move(place), std::move(found), std::move(expected)));
     }
 }
 
@@ -128,7 +128,8 @@ bool CJsonSerializeStream::Document::NameWhatWasExpected(const std::string& plac
                                                          const std::string& expected) {
     const auto told = WrongTypes.find(place);
     if (told != WrongTypes.end()) {
-        Problems[told->second].Expected = expected;
+        Diagnostic& problem = Problems[told->second];
+        problem = StreamProblem(Kind::WrongType, problem.Place, problem.Found, expected);
     }
     return told != WrongTypes.end();
 }
@@ -252,11 +253,11 @@ Json* CJsonSerializeStream::Document::MakeGroup(const std::string& tag, int inde
 }
 
 void CJsonSerializeStream::Document::AddUnknown(const Json& group, const std::string& place,
-                                                std::vector<StreamProblem>& unknown) const {
+                                                std::vector<Diagnostic>& unknown) const {
     for (const auto& [key, entry] : group.items()) {
         const bool asked = Asked.contains(&entry);
         if (!asked) {
-            unknown.push_back({Kind::UnknownKey, JoinedPlace(place, key), Shown(entry), ""});
+            unknown.push_back(StreamProblem(Kind::UnknownKey, JoinedPlace(place, key), Shown(entry), ""));
         } else if (Entered.contains(&entry)) {
             AddUnknown(entry, JoinedPlace(place, key), unknown);
         }
@@ -271,7 +272,7 @@ CJsonSerializeStream::CJsonSerializeStream(std::string_view json, std::string fi
     m_document->Root = BuildJsonTree(json, problems);
     m_document->FileName = std::move(fileName);
     m_document->Saving = false;
-    m_document->Unreadable = !problems.empty() && problems.front().What == Kind::Unreadable;
+    m_document->Unreadable = !problems.empty() && problems.front().Kind == Kind::Unreadable;
 }
 
 CJsonSerializeStream::CJsonSerializeStream(CJsonSerializeStream&&) noexcept = default;
@@ -289,15 +290,15 @@ std::string CJsonSerializeStream::Text() const {
     return m_document->Root.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
-const std::vector<StreamProblem>& CJsonSerializeStream::Problems() const {
+const std::vector<Diagnostic>& CJsonSerializeStream::Problems() const {
     return m_document->Problems;
 }
 
-std::vector<StreamProblem> CJsonSerializeStream::UnknownKeys() const {
+std::vector<Diagnostic> CJsonSerializeStream::UnknownKeys() const {
     if (m_document->Saving) {
         return m_document->UnknownBeforeSaving;
     }
-    std::vector<StreamProblem> unknown;
+    std::vector<Diagnostic> unknown;
     m_document->AddUnknown(m_document->Root, "", unknown);
     return unknown;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "penlode/Export.h"
+#include "penlode/streams/Diagnostic.h"
 #include "penlode/streams/SerializeStream.h"
-#include "penlode/streams/StreamProblem.h"
 
 #include <memory>
 #include <string>
@@ -40,10 +40,10 @@ public:
     /// What the load met so far, in order: at most the first 10000. A group that is missing is one problem
     /// and each key missing in it another. A key that the document has twice is Refused; its last value
     /// counts.
-    const std::vector<StreamProblem>& Problems() const;
+    const std::vector<Diagnostic>& Problems() const;
     /// The keys of the document that no load asked for, in document order, as UnknownKey problems; a group
     /// among them is one. From BeginSaving on, what it was then.
-    std::vector<StreamProblem> UnknownKeys() const;
+    std::vector<Diagnostic> UnknownKeys() const;
     /// True when the document itself could not be read.
     bool IsUnreadable() const;
 

@@ -12,7 +12,7 @@
 namespace penlode {
 namespace {
 
-using Kind = StreamProblem::Kind;
+using Kind = DiagnosticKind;
 
 template <class Number, class... Format> std::string Digits(Number value, Format... format) {
     std::array<char, 32> digits;
@@ -33,7 +33,7 @@ public:
     explicit TreeBuilder(std::string_view text) : m_text(text) { m_levels.reserve(kMaxLevels); }
 
     /// The tree, or an empty one and one Unreadable problem; else each key that was not alone.
-    Json Build(std::vector<StreamProblem>& problems);
+    Json Build(std::vector<Diagnostic>& problems);
 
     bool null() override { return Put(nullptr); }
 
@@ -70,18 +70,18 @@ private:
 
     bool Put(Json value);
     bool Open(bool isObject);
-    bool Stop(StreamProblem problem);
+    bool Stop(Diagnostic problem);
     void Check();
     std::string PlaceOfKey() const;
 
     std::string_view m_text;
     Json m_root;
     std::vector<Level> m_levels;
-    std::vector<StreamProblem> m_problems;
+    std::vector<Diagnostic> m_problems;
     bool m_stopped = false;
 };
 
-Json TreeBuilder::Build(std::vector<StreamProblem>& problems) {
+Json TreeBuilder::Build(std::vector<Diagnostic>& problems) {
     Json::sax_parse(m_text.begin(), m_text.end(), this);
     if (!m_stopped) {
         Check();
@@ -128,7 +128,7 @@ bool TreeBuilder::key(string_t& name) {
     if (isNew) {
         level.Entries.emplace_back(std::move(name), nullptr);
     } else if (m_problems.size() < kMaxProblems) {
-        m_problems.push_back({Kind::Refused, PlaceOfKey(), "the key again", "each key once"});
+        m_problems.push_back(StreamProblem(Kind::Refused, PlaceOfKey(), "the key again", "each key once"));
     }
     return true;
 }
@@ -154,7 +154,7 @@ bool TreeBuilder::parse_error(std::size_t bytesRead, const std::string& token,
     return Stop(ParserFault(m_text, bytesRead, token, error.what()));
 }
 
-bool TreeBuilder::Stop(StreamProblem problem) {
+bool TreeBuilder::Stop(Diagnostic problem) {
     m_problems.clear();
     m_problems.push_back(std::move(problem));
     m_stopped = true;
@@ -173,7 +173,7 @@ std::string TreeBuilder::PlaceOfKey() const {
 
 } // namespace
 
-Json BuildJsonTree(std::string_view json, std::vector<StreamProblem>& problems) {
+Json BuildJsonTree(std::string_view json, std::vector<Diagnostic>& problems) {
     return TreeBuilder(json).Build(problems);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "penlode/streams/StreamProblem.h"
+#include "penlode/streams/Diagnostic.h"
 
 #include <cstddef>
 #include <nlohmann/json.hpp>
@@ -23,7 +23,7 @@ inline constexpr std::size_t kMaxProblems = 10000;
 
 /// The document's root group; an empty one, with one Unreadable problem, for a text that has none. Of a key
 /// that stands more than once the last value counts, and each one too many is a Refused problem.
-Json BuildJsonTree(std::string_view json, std::vector<StreamProblem>& problems);
+Json BuildJsonTree(std::string_view json, std::vector<Diagnostic>& problems);
 
 std::string JoinedPlace(const std::string& place, const std::string& key);
 

@@ -10,9 +10,28 @@ namespace penlode {
 namespace {
 
 using namespace std::string_literals;
-using Kind = StreamProblem::Kind;
+using Kind = DiagnosticKind;
 using Texts = std::vector<std::string>;
-using Problems = std::vector<StreamProblem>;
+
+/// What a stream told, but for lines and sentences.
+struct Problem {
+    DiagnosticKind Kind;
+    std::string Place;
+    std::string Found;
+    std::string Expected;
+
+    friend bool operator==(const Problem&, const Problem&) = default;
+};
+
+using Problems = std::vector<Problem>;
+
+Problems Bare(const std::vector<Diagnostic>& diagnostics) {
+    Problems problems;
+    for (const Diagnostic& told : diagnostics) {
+        problems.push_back({told.Kind, told.Place, told.Found, told.Expected});
+    }
+    return problems;
+}
 
 std::string LoadText(CSerializeStream& stream, const char* utf8Tag, const std::string& defaultValue = "-") {
     std::string value = "stale";
@@ -92,8 +111,8 @@ TEST(JsonSerializeStream, SavesADocumentAndLoadsItBack) {
     Sample loaded{kBlack, {}, {}, Owned<Pen>(Pen()), "old", {"old"}};
     Serialize(loading, loaded);
     EXPECT_EQ(loaded, sample);
-    EXPECT_EQ(loading.Problems(), Problems{});
-    EXPECT_EQ(loading.UnknownKeys(), Problems{});
+    EXPECT_EQ(Bare(loading.Problems()), Problems{});
+    EXPECT_EQ(Bare(loading.UnknownKeys()), Problems{});
     EXPECT_EQ(loading.Text(), kSampleJson);
     EXPECT_EQ(loading.GetFullFileName(), "sample.json");
     EXPECT_FALSE(loading.IsSaving());
@@ -118,13 +137,13 @@ TEST(JsonSerializeStream, NumbersAndBooleansAreAsGoodAsTheirTexts) {
                          "t"};
     EXPECT_EQ(LoadList(stream, "Values"), expected);
     EXPECT_EQ(LoadText(stream, "One"), "1.5");
-    EXPECT_EQ(stream.Problems(), Problems{});
+    EXPECT_EQ(Bare(stream.Problems()), Problems{});
 }
 
 TEST(JsonSerializeStream, TextsKeepTheirZeroBytesAndEscapes) {
     CJsonSerializeStream stream("\xEF\xBB\xBF{\"T\": \"a\\u0000b\\u5b8b\\ud83d\\ude00\"}");
     EXPECT_EQ(LoadText(stream, "T"), "a\0b宋😀"s);
-    EXPECT_EQ(stream.Problems(), Problems{});
+    EXPECT_EQ(Bare(stream.Problems()), Problems{});
 }
 
 TEST(JsonSerializeStream, MissingKeysYieldTheirDefaults) {
@@ -145,7 +164,7 @@ TEST(JsonSerializeStream, MissingKeysYieldTheirDefaults) {
                             {Kind::MissingKey, "Group", "", "a group"},
                             {Kind::MissingKey, "Group/Inner", "", "a group"},
                             {Kind::MissingKey, "Group/Inner/Key", "", "-"}};
-    EXPECT_EQ(stream.Problems(), expected);
+    EXPECT_EQ(Bare(stream.Problems()), expected);
 }
 
 TEST(JsonSerializeStream, WrongTypesYieldDefaultsAndKeepListPositions) {
@@ -169,7 +188,7 @@ TEST(JsonSerializeStream, WrongTypesYieldDefaultsAndKeepListPositions) {
                             {Kind::WrongType, "Group/Mixed/2", "{\"x\":1}", "a text"},
                             {Kind::WrongType, "Group/Mixed/3", "[]", "a text"},
                             {Kind::WrongType, "Flat", cut + "…", "a group"}};
-    EXPECT_EQ(stream.Problems(), expected);
+    EXPECT_EQ(Bare(stream.Problems()), expected);
 }
 
 TEST(JsonSerializeStream, TextsThatMeanNothingAreRefusedAsTheyAreWritten) {
@@ -195,7 +214,7 @@ TEST(JsonSerializeStream, TextsThatMeanNothingAreRefusedAsTheyAreWritten) {
         {Kind::Refused, "G/List/0", "-1", "0 or more"},
         {Kind::Refused, "G/List/2", "\"y\"", "nothing"},
         {Kind::Refused, "List", "\"x\"", "a number"}};
-    EXPECT_EQ(stream.Problems(), expected);
+    EXPECT_EQ(Bare(stream.Problems()), expected);
 }
 
 TEST(JsonSerializeStream, ADefaultIsTakenWholeWhereItsTextSaysLess) {
@@ -206,6 +225,31 @@ TEST(JsonSerializeStream, ADefaultIsTakenWholeWhereItsTextSaysLess) {
     Owned<Font> owned;
     owned.Adopt(font);
     EXPECT_EQ(owned, Owned<Font>(odd));
+}
+
+TEST(JsonSerializeStream, ProblemsAreSentencesThatCanBeShown) {
+    CJsonSerializeStream stream(R"({"Ink": "red", "Ikn": 1})");
+    Color ink;
+    stream.Ser("Ink", ink, kBlack);
+    LoadText(stream, "Title", "");
+    LoadText(stream, "Unit", "mm");
+    LoadList(stream, "Names", {});
+    stream.Push("Pie", -1);
+    std::string said;
+    for (const auto& told : {stream.Problems(), stream.UnknownKeys()}) {
+        for (const Diagnostic& problem : told) {
+            const char* const severity = problem.Severity == Severity::Error     ? "error "
+                                         : problem.Severity == Severity::Warning ? "warning "
+                                                                                 : "note ";
+            said += severity + problem.Place + ": " + problem.Text + "\n";
+        }
+    }
+    EXPECT_EQ(said, "error Ink: found \"red\", expected a colour such as #FF336699\n"
+                    "note Title: missing, taken as empty\n"
+                    "note Unit: missing, \"mm\" is taken\n"
+                    "note Names: missing, an empty list is taken\n"
+                    "note Pie: missing, every key in it takes its default\n"
+                    "warning Ikn: an unknown key, ignored\n");
 }
 
 struct Malformed {
@@ -265,8 +309,8 @@ TEST(JsonSerializeStream, MalformedDocumentsAreOneProblemWithItsPlace) {
         stream.Push("a", -1);
         EXPECT_EQ(LoadText(stream, "a"), "-") << bad.Json;
         ASSERT_EQ(stream.Problems().size(), 1U) << bad.Json;
-        const StreamProblem& problem = stream.Problems().front();
-        EXPECT_EQ(problem.What, Kind::Unreadable) << bad.Json;
+        const Diagnostic& problem = stream.Problems().front();
+        EXPECT_EQ(problem.Kind, Kind::Unreadable) << bad.Json;
         EXPECT_EQ(problem.Place, bad.Place) << bad.Json;
         EXPECT_EQ(problem.Found, bad.Found) << bad.Json;
         EXPECT_EQ(problem.Expected, bad.Expected) << bad.Json;
@@ -293,7 +337,7 @@ TEST(JsonSerializeStream, OfADoubledKeyTheLastValueCounts) {
     EXPECT_FALSE(stream.IsUnreadable());
     const Problems expected{{Kind::Refused, "a/l/0/k", "the key again", "each key once"},
                             {Kind::Refused, "a/k", "the key again", "each key once"}};
-    EXPECT_EQ(stream.Problems(), expected);
+    EXPECT_EQ(Bare(stream.Problems()), expected);
     stream.Push("a", -1);
     EXPECT_EQ(stream.GetSize(), 2);
     EXPECT_EQ(LoadText(stream, "k"), "2");
@@ -320,11 +364,11 @@ TEST(JsonSerializeStream, UnknownKeysAreReportedInDocumentOrder) {
                             {Kind::UnknownKey, "N/0", "{\"e\":6}", ""},
                             {Kind::UnknownKey, "N/1/f", "8", ""},
                             {Kind::UnknownKey, "y", "[]", ""}};
-    EXPECT_EQ(stream.UnknownKeys(), expected);
+    EXPECT_EQ(Bare(stream.UnknownKeys()), expected);
     stream.BeginSaving();
     std::string value;
     stream.Ser("new", value, "");
-    EXPECT_EQ(stream.UnknownKeys(), expected);
+    EXPECT_EQ(Bare(stream.UnknownKeys()), expected);
 }
 
 TEST(JsonSerializeStream, IndexesChooseGroupsOfOneName) {
@@ -343,7 +387,7 @@ TEST(JsonSerializeStream, IndexesChooseGroupsOfOneName) {
                             {Kind::WrongType, "Many/1", "3", "a group"},
                             {Kind::MissingKey, "Many/2", "", "a group"},
                             {Kind::WrongType, "Many", "[{\"k\":2},3]", "a group"}};
-    EXPECT_EQ(stream.Problems(), expected);
+    EXPECT_EQ(Bare(stream.Problems()), expected);
 }
 
 TEST(JsonSerializeStream, SavingIntoALoadedDocumentKeepsWhatOthersWrote) {
