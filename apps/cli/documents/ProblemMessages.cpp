@@ -1,11 +1,8 @@
 #include "documents/ProblemMessages.h"
 
-#include "documents/JsonPlaces.h"
 #include "documents/NearestName.h"
 
 #include <algorithm>
-#include <limits>
-#include <tuple>
 #include <utility>
 
 namespace cli {
@@ -94,24 +91,18 @@ std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, 
     return messages;
 }
 
-void PutInDocumentOrder(const std::string& text, const std::string& shownName,
-                        std::vector<Message>& messages) {
-    const JsonPlaces places(text);
-    std::vector<std::tuple<bool, std::size_t, std::size_t>> order;
-    for (std::size_t i = 0; i < messages.size(); ++i) {
-        Message& message = messages[i];
-        JsonPlaces::Spot spot;
-        if (message.File == shownName && !message.Place.empty()) {
-            spot = places.Find(message.Place);
-            message.Line = std::max(message.Line, spot.Line);
-        }
-        const std::size_t rank = spot.Order == 0 ? std::numeric_limits<std::size_t>::max() : spot.Order;
-        order.emplace_back(message.Weight == Severity::Note, rank, i);
+void PutInDocumentOrder(const penlode::CJsonSerializeStream& json, std::vector<Message>& messages) {
+    std::vector<Diagnostic> told;
+    for (const Message& message : messages) {
+        told.push_back({DiagnosticKind::Other,
+                        message.Weight == Severity::Note ? penlode::Severity::Note : penlode::Severity::Error,
+                        message.File, message.Line, message.Place, std::to_string(told.size())});
     }
-    std::sort(order.begin(), order.end());
+    json.PutInOrder(told);
     std::vector<Message> sorted;
-    for (const auto& entry : order) {
-        sorted.push_back(std::move(messages[std::get<2>(entry)]));
+    for (const Diagnostic& diagnostic : told) {
+        sorted.push_back(std::move(messages[std::stoul(diagnostic.Found)]));
+        sorted.back().Line = diagnostic.Line;
     }
     messages = std::move(sorted);
 }
