@@ -1,18 +1,15 @@
 #include "documents/ProblemMessages.h"
 
-#include "documents/JsonPlaces.h"
 #include "documents/NearestName.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
-#include <tuple>
 #include <utility>
 
 namespace cli {
 namespace {
 
-using penlode::StreamProblem;
+using penlode::Diagnostic;
+using penlode::DiagnosticKind;
 using AskedKeys = std::map<std::string, std::vector<std::string>>;
 
 std::pair<std::string, std::string> GroupAndKey(const std::string& place) {
@@ -47,7 +44,7 @@ std::string Guess(const std::string& place, const AskedKeys& asked) {
     return near.empty() ? PlaceElsewhere(key, asked) : near;
 }
 
-Message UnknownKey(const StreamProblem& problem, const AskedKeys& asked) {
+Message UnknownKey(const Diagnostic& problem, const AskedKeys& asked) {
     const std::string guess = Guess(problem.Place, asked);
     return {"",
             Severity::Warning,
@@ -58,47 +55,24 @@ Message UnknownKey(const StreamProblem& problem, const AskedKeys& asked) {
             "an unknown key, ignored" + (guess.empty() ? "" : "; is \"" + guess + "\" meant?")};
 }
 
-Message MissingKey(const StreamProblem& problem) {
-    const std::string& taken = problem.Expected;
-    std::string text = "missing, \"" + taken + "\" is taken";
-    if (taken.empty()) {
-        text = "missing, taken as empty";
-    } else if (taken == "a group") {
-        text = "missing, every key in it takes its default";
-    } else if (taken == "an empty list") {
-        text = "missing, an empty list is taken";
-    }
-    return {"", Severity::Note, 0, problem.Place, "", taken, text};
-}
-
-/// The line of a place such as "line 3, column 7".
-std::size_t LineOf(const std::string& place) {
-    std::size_t line = 0;
-    const std::size_t digits = std::min(place.find_first_of("0123456789"), place.size());
-    std::from_chars(place.data() + digits, place.data() + place.size(), line);
-    return line;
-}
-
-Message MessageOf(const StreamProblem& problem) {
-    if (problem.What == StreamProblem::Kind::MissingKey) {
-        return MissingKey(problem);
-    }
-    const bool isUnreadable = problem.What == StreamProblem::Kind::Unreadable;
+Message MessageOf(const Diagnostic& problem) {
+    const bool isMissing = problem.Kind == DiagnosticKind::MissingKey;
     return {"",
-            Severity::Error,
-            isUnreadable ? LineOf(problem.Place) : 0,
+            isMissing ? Severity::Note : Severity::Error,
+            problem.Line,
             problem.Place,
             problem.Found,
-            problem.Expected};
+            problem.Expected,
+            isMissing ? problem.Text : ""};
 }
 
 } // namespace
 
 std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, const ChartStream& stream) {
     std::vector<Message> messages;
-    for (const StreamProblem& problem : json.Problems()) {
+    for (const Diagnostic& problem : json.Problems()) {
         const bool missingKind =
-            problem.What == StreamProblem::Kind::MissingKey && problem.Place == "kind"; // told as an error
+            problem.Kind == DiagnosticKind::MissingKey && problem.Place == "kind"; // told as an error
         if (!missingKind) {
             messages.push_back(MessageOf(problem));
         }
@@ -111,30 +85,24 @@ std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, 
     if (!stream.AskedKeys().contains("property")) {
         return messages; // the record was not asked for, so that none of its keys is known
     }
-    for (const StreamProblem& problem : json.UnknownKeys()) {
+    for (const Diagnostic& problem : json.UnknownKeys()) {
         messages.push_back(UnknownKey(problem, stream.AskedKeys()));
     }
     return messages;
 }
 
-void PutInDocumentOrder(const std::string& text, const std::string& shownName,
-                        std::vector<Message>& messages) {
-    const JsonPlaces places(text);
-    std::vector<std::tuple<bool, std::size_t, std::size_t>> order;
-    for (std::size_t i = 0; i < messages.size(); ++i) {
-        Message& message = messages[i];
-        JsonPlaces::Spot spot;
-        if (message.File == shownName && !message.Place.empty()) {
-            spot = places.Find(message.Place);
-            message.Line = std::max(message.Line, spot.Line);
-        }
-        const std::size_t rank = spot.Order == 0 ? std::numeric_limits<std::size_t>::max() : spot.Order;
-        order.emplace_back(message.Weight == Severity::Note, rank, i);
+void PutInDocumentOrder(const penlode::CJsonSerializeStream& json, std::vector<Message>& messages) {
+    std::vector<Diagnostic> told;
+    for (const Message& message : messages) {
+        told.push_back({DiagnosticKind::Other,
+                        message.Weight == Severity::Note ? penlode::Severity::Note : penlode::Severity::Error,
+                        message.File, message.Line, message.Place, std::to_string(told.size())});
     }
-    std::sort(order.begin(), order.end());
+    json.PutInOrder(told);
     std::vector<Message> sorted;
-    for (const auto& entry : order) {
-        sorted.push_back(std::move(messages[std::get<2>(entry)]));
+    for (const Diagnostic& diagnostic : told) {
+        sorted.push_back(std::move(messages[std::stoul(diagnostic.Found)]));
+        sorted.back().Line = diagnostic.Line;
     }
     messages = std::move(sorted);
 }

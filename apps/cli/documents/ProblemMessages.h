@@ -12,9 +12,8 @@ namespace cli {
 /// line.
 std::vector<Message> ProblemMessages(const penlode::CJsonSerializeStream& json, const ChartStream& stream);
 
-/// Gives the messages about the document `shownName` the lines on which their places stand in its text, and
-/// sorts all: by place, those without one after them, notes last.
-void PutInDocumentOrder(const std::string& text, const std::string& shownName,
-                        std::vector<Message>& messages);
+/// Gives the messages about the document, which have no file yet, the lines on which their places stand in
+/// it, and sorts all: by place, those without one after them, notes last.
+void PutInDocumentOrder(const penlode::CJsonSerializeStream& json, std::vector<Message>& messages);
 
 } // namespace cli

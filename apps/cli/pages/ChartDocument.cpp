@@ -70,19 +70,8 @@ void Append(std::vector<Message>& messages, const std::vector<Message>& more) {
     messages.insert(messages.end(), more.begin(), more.end());
 }
 
-/// Messages without a file are about the document.
-void CompleteMessages(const std::string& shownName, const std::string& text, std::vector<Message>& messages) {
-    for (Message& message : messages) {
-        if (message.File.empty()) {
-            message.File = shownName;
-        }
-    }
-    PutInDocumentOrder(text, shownName, messages);
-}
-
-void Load(const std::string& text, const std::string& input, const std::optional<std::string>& data,
-          ChartDocument& document) {
-    penlode::CJsonSerializeStream json(text, input);
+void Load(const std::string& input, const std::optional<std::string>& data, ChartDocument& document) {
+    penlode::CJsonSerializeStream json(ReadInput(input), input);
     ChartStream stream(json);
     if (!json.IsUnreadable()) {
         const std::string folder = std::filesystem::path(input).parent_path().string();
@@ -93,6 +82,7 @@ void Load(const std::string& text, const std::string& input, const std::optional
     if (document.Content != nullptr && !HasErrors(document.Messages)) {
         Append(document.Messages, Findings(*document.Content));
     }
+    PutInDocumentOrder(json, document.Messages);
 }
 
 } // namespace
@@ -101,9 +91,10 @@ ChartDocument LoadChartDocument(const std::string& input, const std::optional<st
     ChartDocument document;
     const std::string shownName = ShownName(input);
     try {
-        const std::string text = ReadInput(input);
-        Load(text, input, data, document);
-        CompleteMessages(shownName, text, document.Messages);
+        Load(input, data, document);
+        for (Message& message : document.Messages) {
+            message.File = message.File.empty() ? shownName : message.File; // without one, it is the document
+        }
     } catch (const UserError& error) {
         document.Messages.push_back({shownName, Severity::Error, 0, "", "", "", error.Reason()});
     } catch (const std::bad_alloc&) {

@@ -216,8 +216,8 @@ void CBinarySerialize::Refuse(const std::string& found, const std::string& expec
 }
 
 void CBinarySerialize::Fail(std::size_t offset, std::string found, std::string expected) {
-    m_problem = StreamProblem{StreamProblem::Kind::Unreadable, "byte " + std::to_string(offset),
-                              std::move(found), std::move(expected)};
+    m_problem = StreamProblem(DiagnosticKind::Unreadable, "byte " + std::to_string(offset), std::move(found),
+                              std::move(expected));
 }
 
 bool CBinarySerialize::Take(std::size_t size, const char* what, std::string_view& bytes) {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "penlode/streams/Diagnostic.h"
 #include "penlode/streams/ISerialize.h"
-#include "penlode/streams/StreamProblem.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -34,7 +34,7 @@ public:
     const std::string& Bytes() const { return m_bytes; }
 
     /// What stopped a load, with the byte offset at which it stopped.
-    const std::optional<StreamProblem>& Problem() const { return m_problem; }
+    const std::optional<Diagnostic>& Problem() const { return m_problem; }
 
     /// Bytes not read yet.
     std::size_t Remaining() const { return m_bytes.size() - m_position; }
@@ -76,7 +76,7 @@ private:
     std::string m_bytes;
     std::size_t m_position = 0;
     bool m_saving;
-    std::optional<StreamProblem> m_problem;
+    std::optional<Diagnostic> m_problem;
 };
 
 } // namespace penlode

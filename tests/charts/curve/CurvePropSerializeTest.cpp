@@ -158,7 +158,7 @@ TEST(CurvePropSerialize, ItemsThatMeanNothingKeepTheirPlaces) {
     EXPECT_EQ(plot.NullValueStyle, (std::vector<std::int32_t>{0, 1}));
     std::string told;
     for (const auto& problem : stream.Problems()) {
-        if (problem.What == penlode::StreamProblem::Kind::Refused) {
+        if (problem.Kind == penlode::DiagnosticKind::Refused) {
             told += problem.Place + " " + problem.Found + " " + problem.Expected.substr(0, 14) + "\n";
         }
     }

@@ -197,7 +197,7 @@ TEST(PiePropSerialize, ForeignKeysSurviveALoadAndSave) {
     CPiePropSerialize::SerializePieProp(again, loaded, "P");
     EXPECT_EQ(loaded, prop);
     std::string foreign;
-    for (const penlode::StreamProblem& unknown : again.UnknownKeys()) {
+    for (const penlode::Diagnostic& unknown : again.UnknownKeys()) {
         foreign += unknown.Place + " " + unknown.Found + "\n";
     }
     EXPECT_EQ(foreign, "kind \"pie\"\ntheirs {\"deep\":[1,null]}\nP/PieBasicProp/Glow 0.5\nP/Note \"ours\"\n"

@@ -61,12 +61,12 @@ std::string Saved(Sample sample) {
     return stream.Bytes();
 }
 
-StreamProblem ProblemOf(const CBinarySerialize& stream) {
-    return stream.Problem().value_or(StreamProblem{});
+Diagnostic ProblemOf(const CBinarySerialize& stream) {
+    return stream.Problem().value_or(Diagnostic{});
 }
 
-StreamProblem Unreadable(const char* place, const char* found, const char* expected) {
-    return {StreamProblem::Kind::Unreadable, place, found, expected};
+Diagnostic Unreadable(const char* place, const char* found, const char* expected) {
+    return StreamProblem(DiagnosticKind::Unreadable, place, found, expected);
 }
 
 TEST(BinarySerialize, BytesAreAsDocumented) {
@@ -182,7 +182,7 @@ TEST(BinarySerialize, TheFirstProblemStays) {
     std::int32_t value = 7;
     CBinarySerialize stream(kHeader + "\x01");
     stream.Read(value);
-    const StreamProblem first = ProblemOf(stream);
+    const Diagnostic first = ProblemOf(stream);
     EXPECT_EQ(first, Unreadable("byte 8", "the end after 1 byte", "a whole number of 4 bytes"));
     Font* font = nullptr;
     stream.Read(&font);
