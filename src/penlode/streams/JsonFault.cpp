@@ -14,17 +14,8 @@ bool IsContinuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
-bool IsWordByte(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           c == '+' || c == '-' || c == '.';
-}
-
 std::string Hex(unsigned char byte) {
     return {kDigits[byte >> 4U], kDigits[byte & 0xFU]};
-}
-
-std::string ByteAt(std::string_view json, std::size_t offset) {
-    return "byte 0x" + Hex(static_cast<unsigned char>(json[offset]));
 }
 
 /// The character whose bytes begin at `offset`, or its first byte in hexadecimal if it is not UTF-8.
@@ -44,6 +35,11 @@ std::size_t ColumnsBetween(std::string_view json, std::size_t begin, std::size_t
 }
 
 } // namespace
+
+bool IsWordByte(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           c == '+' || c == '-' || c == '.';
+}
 
 std::string Shortened(std::string text) {
     std::size_t characters = 0;
@@ -79,8 +75,7 @@ Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string f
     const std::string_view before = json.substr(0, offset);
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     const std::size_t lastBreak = before.rfind('\n');
-    const std::size_t mark = before.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
-    const std::size_t begin = lastBreak == std::string_view::npos ? mark : lastBreak + 1;
+    const std::size_t begin = lastBreak == std::string_view::npos ? 0 : lastBreak + 1;
     const std::size_t column = 1 + ColumnsBetween(json, begin, offset);
     Diagnostic fault = StreamProblem(DiagnosticKind::Unreadable,
                                      "line " + std::to_string(line) + ", column " + std::to_string(column),
@@ -89,8 +84,8 @@ Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string f
     return fault;
 }
 
-std::string FoundByteAt(std::string_view json, std::size_t offset) {
-    return offset < json.size() ? ByteAt(json, offset) : FoundAt(json, offset);
+std::string ByteAt(std::string_view json, std::size_t offset) {
+    return "byte 0x" + Hex(static_cast<unsigned char>(json[offset]));
 }
 
 std::size_t WordStart(std::string_view json, std::size_t offset) {

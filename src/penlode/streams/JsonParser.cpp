@@ -2,474 +2,326 @@
 
 #include "penlode/streams/JsonFault.h"
 #include "penlode/streams/JsonText.h"
-#include "penlode/text/Utf8.h"
+
+// RapidJSON counts in 32 bits unless told otherwise; a text of 4 GB would overflow them.
+#define RAPIDJSON_NO_SIZETYPEDEFINE
+
+namespace rapidjson {
+using SizeType = std::size_t;
+}
 
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
+#include <new>
+#include <optional>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 #include <utility>
 
 namespace penlode {
 namespace {
 
-constexpr const char* kUtf8 = "UTF-8";
-constexpr const char* kValue = "a value";
-constexpr const char* kDigit = "a digit";
-constexpr const char* kKey = "a key in double quotes";
-constexpr const char* kDocumentEnd = "the end of the document";
+using rapidjson::SizeType;
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr const char* kLargestNumber = "a number of at most 1.79e308";
+/// Levels are kept off the machine's stack. RapidJSON's own numbers are neither exact nor safe from exponents
+/// of many digits.
+constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag |
+                            rapidjson::kParseNumbersAsStringsFlag;
 
-bool IsPlain(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte >= 0x20 && byte < 0x80 && c != '"' && c != '\\';
-}
+/// RapidJSON's own allocator does not look whether it got memory.
+struct Allocator {
+    static void* Realloc(void* memory, std::size_t, std::size_t size) {
+        void* const moved = std::realloc(memory, size);
+        return moved != nullptr ? moved : throw std::bad_alloc();
+    }
 
-int HexValue(char c) {
-    return IsDigit(c)               ? c - '0'
-           : (c >= 'a' && c <= 'f') ? c - 'a' + 10
-           : (c >= 'A' && c <= 'F') ? c - 'A' + 10
-                                    : -1;
-}
+    static void Free(void* memory) { std::free(memory); }
+};
 
-/// Of a number that no double can hold: is it too large, rather than too near to zero?
+using Reader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, Allocator>;
+
+/// Of a number that RapidJSON takes, but no double can hold: is it too large, rather than too near to zero?
 bool IsHuge(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
     const std::size_t digits = std::min(number.find_first_not_of("eE+", mark), number.size());
     std::int64_t exponent = 0;
     const auto parsed = std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
-    if (parsed.ec == std::errc::result_out_of_range) {
-        return number[digits] != '-';
-    }
     const std::size_t point = std::min(number.find('.'), mark);
     const std::size_t first = number.find_first_of("123456789");
-    return exponent + static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first) > 0;
+    return parsed.ec != std::errc::result_out_of_range &&
+           exponent + static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first) > 0;
 }
 
-/// Reads a text into a tree, value within value; kMaxLevels bounds how deep. Each member that reads gives
-/// false when it cannot go on, the fault then being the only problem.
-class Parser {
+/// Nothing where the number is too large for any type.
+std::optional<JsonNode> NumberNode(std::string_view number) {
+    const char* const end = number.data() + number.size();
+    const auto reads = [&](auto& value) {
+        const auto [stop, error] = std::from_chars(number.data(), end, value);
+        return error == std::errc() && stop == end;
+    };
+    if (std::int64_t integer = 0; reads(integer)) {
+        return JsonNode::Integer(integer);
+    }
+    if (std::uint64_t natural = 0; reads(natural)) {
+        return JsonNode::Natural(natural);
+    }
+    if (double real = 0.0; reads(real)) {
+        return JsonNode::Real(real);
+    }
+    return IsHuge(number) ? std::nullopt : std::optional(JsonNode::Real(number.front() == '-' ? -0.0 : 0.0));
+}
+
+/// Where the second half of a surrogate pair is escaped without the first, which RapidJSON lets pass.
+std::size_t FindLoneHalf(std::string_view token) {
+    constexpr std::size_t kPair = std::string_view("\\uD83D\\uDE00").size();
+    std::size_t at = token.find('\\');
+    while (at != std::string_view::npos) {
+        const bool isHalf =
+            token[at + 1] == 'u' && (token[at + 2] == 'd' || token[at + 2] == 'D') && token[at + 3] >= '8';
+        if (isHalf && (token[at + 3] | 0x20) >= 'c') {
+            return at;
+        }
+        at = token.find('\\', at + (isHalf ? kPair : 2));
+    }
+    return at;
+}
+
+Diagnostic FaultAt(std::string_view json, std::size_t offset, std::string expected) {
+    return UnreadableAt(json, offset, FoundAt(json, offset), std::move(expected));
+}
+
+/// What stands here is sound, but not here. A text is told whole, and so is the word that a number breaks
+/// into.
+Diagnostic Misplaced(std::string_view json, std::size_t offset, const char* expected) {
+    const std::string_view rest = json.substr(offset);
+    rapidjson::MemoryStream in(rest.data(), rest.size());
+    rapidjson::BaseReaderHandler<> ignore;
+    if (rest.starts_with('"') && Reader().Parse<kFlags | rapidjson::kParseStopWhenDoneFlag>(in, ignore)) {
+        return UnreadableAt(json, offset, Shortened(std::string(rest.substr(0, in.Tell()))), expected);
+    }
+    return FaultAt(json, !rest.empty() && IsWordByte(rest.front()) ? WordStart(json, offset) : offset,
+                   expected);
+}
+
+/// A number or bare word that breaks off here is told whole, but for one that the document cuts off.
+Diagnostic BrokenOff(std::string_view json, std::size_t offset) {
+    const std::size_t start = WordStart(json, offset);
+    const bool isNumber = json.substr(start).find_first_of("-0123456789") == 0;
+    return FaultAt(json, offset < json.size() ? start : offset, isNumber ? "a digit" : "a value");
+}
+
+Diagnostic LoneHalf(std::string_view json, std::size_t offset) {
+    constexpr std::size_t kEscape = std::string_view("\\uD83D").size();
+    return UnreadableAt(json, offset, std::string(json.substr(offset, kEscape)),
+                        "both halves of a surrogate pair");
+}
+
+/// `stop` is how far RapidJSON read.
+Diagnostic FaultOf(std::string_view json, const rapidjson::ParseResult& result, std::size_t stop) {
+    const std::size_t offset = result.Offset();
+    switch (result.Code()) {
+    case rapidjson::kParseErrorDocumentRootNotSingular:
+        return Misplaced(json, offset, "the end of the document");
+    case rapidjson::kParseErrorObjectMissName:
+        return Misplaced(json, offset, "a key in double quotes");
+    case rapidjson::kParseErrorObjectMissColon:
+        return Misplaced(json, offset, "a colon after the key");
+    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
+        return Misplaced(json, offset, "a comma or }");
+    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
+        return Misplaced(json, offset, "a comma or ]");
+    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
+        return FaultAt(json, stop, "four hexadecimal digits after \\u");
+    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
+        return LoneHalf(json, offset);
+    case rapidjson::kParseErrorStringInvalidEncoding:
+        return UnreadableAt(json, offset, ByteAt(json, offset), "UTF-8");
+    case rapidjson::kParseErrorStringEscapeInvalid:
+    case rapidjson::kParseErrorStringMissQuotationMark:
+        if (offset == json.size()) {
+            return FaultAt(json, offset, "a closing quote");
+        }
+        return json[offset] == '\\'
+                   ? FaultAt(json, offset + 1, "one of \" \\ / b f n r t u after the backslash")
+                   : FaultAt(json, offset, "control characters written as escapes");
+    case rapidjson::kParseErrorNumberTooBig:
+        return FaultAt(json, offset, kLargestNumber);
+    default:
+        return BrokenOff(json, offset);
+    }
+}
+
+/// Makes the tree of what RapidJSON reads. Events give false where it is to stop, the fault then being the
+/// only problem.
+class TreeBuilder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, TreeBuilder> {
 public:
-    Parser(std::string_view json, std::vector<Diagnostic>& problems) : m_json(json), m_problems(problems) {}
+    TreeBuilder(std::string_view json, const rapidjson::MemoryStream& in, std::vector<Diagnostic>& problems)
+        : m_json(json), m_in(in), m_problems(problems) {
+        m_tree.CountLines(json);
+    }
 
-    bool Document();
+    bool Null() {
+        TakeToken();
+        return Add({});
+    }
 
-    JsonTree Tree() { return std::move(m_tree); }
+    bool Bool(bool value) {
+        TakeToken();
+        return Add(JsonNode::Boolean(value));
+    }
+
+    bool RawNumber(const char* /*text*/, SizeType /*length*/, bool /*copy*/) {
+        const auto number = NumberNode(TakeToken());
+        return number ? Add(*number) : Fail(FaultAt(m_json, m_start, kLargestNumber));
+    }
+
+    bool String(const char* text, SizeType length, bool /*copy*/) {
+        JsonNode node;
+        m_tree.AsText(node).assign(text, length);
+        return HasWholePairs(TakeToken()) && Add(node);
+    }
+
+    bool Key(const char* text, SizeType length, bool /*copy*/) {
+        if (!HasWholePairs(TakeToken())) {
+            return false;
+        }
+        Level& level = m_levels.back();
+        const auto [entry, isNew] = level.Group->FindOrAdd({text, length});
+        level.Entry = entry;
+        entry->Value = {0, Offset()};
+        if (!isNew) {
+            RefuseDouble(entry->Value);
+        }
+        return true;
+    }
+
+    bool StartObject() {
+        JsonNode node;
+        return Open(node, {&m_tree.AsGroup(node), nullptr, nullptr});
+    }
+
+    bool EndObject(SizeType /*count*/) { return Close(); }
+
+    bool StartArray() {
+        JsonNode node;
+        return Open(node, {nullptr, nullptr, &m_tree.AsList(node)});
+    }
+
+    bool EndArray(SizeType /*count*/) { return Close(); }
+
+    JsonTree Tree() {
+        if (!m_root.Is(JsonType::Group)) {
+            Fail(UnreadableAt(m_json, m_root.Offset, Shown(m_tree, m_root), "a group in braces"));
+            return {};
+        }
+        m_tree.SetRoot(m_root);
+        return std::move(m_tree);
+    }
 
 private:
-    /// What stands round the value that is read: a list, or a group and the key in it.
+    /// A group and the entry in it that is read, or a list.
     struct Level {
-        const JsonList* List;
-        const std::string* Key;
+        JsonGroup* Group;
+        JsonGroup::Entry* Entry;
+        JsonList* List;
     };
 
-    bool Value(JsonNode& value);
-    bool Group(JsonNode& value);
-    bool Entry(JsonGroup& group);
-    bool List(JsonNode& value);
-    bool Text(JsonNode& value);
-    bool Literal(JsonNode& value);
-    bool Number(JsonNode& value);
-    bool NumberToken();
-    bool Digits();
-    bool Real(std::size_t start, JsonNode& value);
-    bool Mark();
-    bool String(std::string& text);
-    bool Escape(std::string& text);
-    bool UnicodeEscape(std::string& text);
-    bool HexDigits(char32_t& unit);
-    bool Character(std::string& text);
-    bool OpenLevel();
-    bool Next(char c, const char* expected);
-    bool Unexpected(const char* expected);
-    bool Fail(std::size_t offset, const char* expected);
-    bool Fail(std::size_t offset, std::string found, std::string expected);
-    void RefuseDouble(const JsonNode& entry);
+    /// What was just read: since the last of its kind, there was nothing but what may stand between tokens.
+    std::string_view TakeToken() {
+        m_start = m_json.find_first_not_of(" \n\r\t,:[]{}", m_end);
+        m_end = m_in.Tell();
+        return m_json.substr(m_start, m_end - m_start);
+    }
 
     std::uint32_t Offset() const {
-        return static_cast<std::uint32_t>(std::min<std::size_t>(m_at, JsonNode::kNowhere));
+        return static_cast<std::uint32_t>(std::min<std::size_t>(m_start, JsonNode::kNowhere));
     }
 
-    bool Ended() const { return m_at == m_json.size(); }
-
-    /// A zero byte also at the end; whoever does not expect one then looks at Ended.
-    char Peek() const { return Ended() ? '\0' : m_json[m_at]; }
-
-    char PeekValue() {
-        while (!Ended() && (m_json[m_at] == ' ' || m_json[m_at] == '\n' || m_json[m_at] == '\r' ||
-                            m_json[m_at] == '\t')) {
-            ++m_at;
+    bool Add(JsonNode node) {
+        node.Offset = Offset();
+        if (m_levels.empty()) {
+            m_root = node;
+        } else if (const Level& level = m_levels.back(); level.List != nullptr) {
+            level.List->push_back(node);
+        } else {
+            node.Offset = level.Entry->Value.Offset;
+            level.Entry->Value = node;
         }
-        return Peek();
+        return true;
     }
 
-    bool Take(char c) {
-        const bool taken = !Ended() && m_json[m_at] == c;
-        m_at += taken ? 1 : 0;
-        return taken;
+    bool Open(const JsonNode& node, const Level& level) {
+        m_start = m_in.Tell();
+        if (m_levels.size() == kMaxLevels) {
+            static const std::string expected =
+                "at most " + std::to_string(kMaxLevels) + " levels of nesting";
+            return Fail(FaultAt(m_json, m_start, expected.c_str()));
+        }
+        Add(node);
+        m_levels.push_back(level);
+        return true;
+    }
+
+    bool Close() {
+        m_levels.pop_back();
+        return true;
+    }
+
+    bool HasWholePairs(std::string_view token) {
+        const std::size_t half = FindLoneHalf(token);
+        return half == std::string_view::npos || Fail(LoneHalf(m_json, m_start + half));
+    }
+
+    bool Fail(Diagnostic fault) {
+        m_problems = {std::move(fault)};
+        return false;
+    }
+
+    /// Keys are cut, since a place is made for each of any number of doubled keys.
+    void RefuseDouble(const JsonNode& entry) {
+        if (m_problems.size() >= kMaxProblems) {
+            return;
+        }
+        std::string place;
+        for (const Level& level : m_levels) {
+            place = JoinedPlace(place, level.List != nullptr ? std::to_string(level.List->size() - 1)
+                                                             : Shortened(*level.Entry->Key));
+        }
+        m_problems.push_back(
+            StreamProblem(DiagnosticKind::Refused, std::move(place), "the key again", "each key once"));
+        m_problems.back().Line = m_tree.LineOf(entry);
     }
 
     std::string_view m_json;
-    std::size_t m_at = 0;
+    const rapidjson::MemoryStream& m_in;
+    std::size_t m_start = 0; ///< of the token
+    std::size_t m_end = 0;   ///< of the last token that is no bracket
     JsonTree m_tree;
-    std::vector<Diagnostic>& m_problems;
+    JsonNode m_root;
     std::vector<Level> m_levels;
+    std::vector<Diagnostic>& m_problems;
 };
-
-bool Parser::Document() {
-    m_tree.CountLines(m_json);
-    JsonNode root;
-    if (!Mark()) {
-        return false;
-    }
-    PeekValue();
-    const std::size_t start = m_at;
-    if (!Value(root)) {
-        return false;
-    }
-    PeekValue();
-    if (!Ended()) {
-        return Unexpected(kDocumentEnd);
-    }
-    if (!root.Is(JsonType::Group)) {
-        return Fail(start, Shown(m_tree, root), "a group in braces");
-    }
-    m_tree.SetRoot(root);
-    return true;
-}
-
-/// A byte order mark that is begun is to be whole.
-bool Parser::Mark() {
-    if (Peek() == kByteOrderMark.front()) {
-        for (const char c : kByteOrderMark) {
-            if (!Take(c)) {
-                return Fail(m_at, kUtf8);
-            }
-        }
-    }
-    return true;
-}
-
-bool Parser::Value(JsonNode& value) {
-    const char c = PeekValue();
-    const std::uint32_t offset = Offset();
-    const bool read = c == '{'                 ? Group(value)
-                      : c == '['               ? List(value)
-                      : c == '"'               ? Text(value)
-                      : c == '-' || IsDigit(c) ? Number(value)
-                                               : Literal(value);
-    value.Offset = offset;
-    return read;
-}
-
-bool Parser::OpenLevel() {
-    if (m_levels.size() == kMaxLevels) {
-        return Fail(m_at, FoundAt(m_json, m_at),
-                    "at most " + std::to_string(kMaxLevels) + " levels of nesting");
-    }
-    ++m_at;
-    return true;
-}
-
-bool Parser::Group(JsonNode& value) {
-    if (!OpenLevel()) {
-        return false;
-    }
-    JsonGroup& group = m_tree.AsGroup(value);
-    m_levels.push_back({nullptr, nullptr});
-    if (PeekValue() == '}') {
-        ++m_at;
-    } else {
-        do {
-            if (!Entry(group)) {
-                return false;
-            }
-        } while (Take(','));
-        if (!Next('}', "a comma or }")) {
-            return false;
-        }
-    }
-    m_levels.pop_back();
-    return true;
-}
-
-/// Stands before the next comma or brace afterwards.
-bool Parser::Entry(JsonGroup& group) {
-    if (PeekValue() != '"') {
-        return Unexpected(kKey);
-    }
-    const std::uint32_t offset = Offset();
-    std::string key;
-    if (!String(key) || !Next(':', "a colon after the key")) {
-        return false;
-    }
-    const auto [entry, isNew] = group.FindOrAdd(std::move(key));
-    m_levels.back().Key = entry->Key;
-    entry->Value = {0, offset};
-    if (!isNew) {
-        RefuseDouble(entry->Value);
-    }
-    const bool read = Value(entry->Value);
-    entry->Value.Offset = offset;
-    PeekValue();
-    return read;
-}
-
-bool Parser::List(JsonNode& value) {
-    if (!OpenLevel()) {
-        return false;
-    }
-    JsonList& items = m_tree.AsList(value);
-    m_levels.push_back({&items, nullptr});
-    if (PeekValue() == ']') {
-        ++m_at;
-    } else {
-        do {
-            JsonNode item;
-            if (!Value(item)) {
-                return false;
-            }
-            items.push_back(item);
-            PeekValue();
-        } while (Take(','));
-        if (!Next(']', "a comma or ]")) {
-            return false;
-        }
-    }
-    m_levels.pop_back();
-    return true;
-}
-
-bool Parser::Text(JsonNode& value) {
-    return String(m_tree.AsText(value));
-}
-
-bool Parser::Literal(JsonNode& value) {
-    const std::string_view rest = m_json.substr(m_at);
-    for (const auto& [name, node] : {std::pair<std::string_view, JsonNode>("null", {}),
-                                     {"true", JsonNode::Boolean(true)},
-                                     {"false", JsonNode::Boolean(false)}}) {
-        if (rest.starts_with(name)) {
-            value = node;
-            m_at += name.size();
-            return true;
-        }
-        if (name.starts_with(rest)) {
-            return Fail(m_json.size(), kValue);
-        }
-    }
-    return Fail(m_at, kValue);
-}
-
-bool Parser::Number(JsonNode& value) {
-    const std::size_t start = m_at;
-    if (!NumberToken()) {
-        return false;
-    }
-    const char* const begin = m_json.data() + start;
-    const char* const end = m_json.data() + m_at;
-    const bool isWhole =
-        std::find_if(begin, end, [](char c) { return c == '.' || c == 'e' || c == 'E'; }) == end;
-    std::int64_t integer = 0;
-    if (isWhole && std::from_chars(begin, end, integer).ec == std::errc()) {
-        value = JsonNode::Integer(integer);
-        return true;
-    }
-    std::uint64_t natural = 0;
-    if (isWhole && std::from_chars(begin, end, natural).ec == std::errc()) {
-        value = JsonNode::Natural(natural);
-        return true;
-    }
-    return Real(start, value);
-}
-
-bool Parser::Real(std::size_t start, JsonNode& value) {
-    const std::string_view token = m_json.substr(start, m_at - start);
-    double number = 0.0;
-    const auto parsed = std::from_chars(token.data(), token.data() + token.size(), number);
-    if (parsed.ec == std::errc::result_out_of_range) {
-        if (IsHuge(token)) {
-            return Fail(start, "a number of at most 1.79e308");
-        }
-        number = token.front() == '-' ? -0.0 : 0.0;
-    }
-    value = JsonNode::Real(number);
-    return true;
-}
-
-/// Moves behind a number. One that breaks off is told whole, but for one that the document cuts off.
-bool Parser::NumberToken() {
-    const std::size_t start = m_at;
-    Take('-');
-    bool isNumber = Take('0') || Digits();
-    if (isNumber && Take('.')) {
-        isNumber = Digits();
-    }
-    if (isNumber && (Take('e') || Take('E'))) {
-        if (!Take('+')) {
-            Take('-');
-        }
-        isNumber = Digits();
-    }
-    return isNumber || Fail(Ended() ? m_at : WordStart(m_json, start), kDigit);
-}
-
-bool Parser::Digits() {
-    const std::size_t start = m_at;
-    while (IsDigit(Peek())) {
-        ++m_at;
-    }
-    return m_at > start;
-}
-
-bool Parser::String(std::string& text) {
-    ++m_at;
-    for (;;) {
-        const std::size_t start = m_at;
-        while (!Ended() && IsPlain(m_json[m_at])) {
-            ++m_at;
-        }
-        text.append(m_json, start, m_at - start);
-        if (Ended()) {
-            return Fail(m_at, "a closing quote");
-        }
-        if (Take('"')) {
-            return true;
-        }
-        if (!(Take('\\') ? Escape(text) : Character(text))) {
-            return false;
-        }
-    }
-}
-
-/// What follows a backslash.
-bool Parser::Escape(std::string& text) {
-    constexpr std::string_view kEscapes = "\"\\/bfnrt";
-    constexpr std::string_view kCharacters = "\"\\/\b\f\n\r\t";
-    if (Take('u')) {
-        return UnicodeEscape(text);
-    }
-    const std::size_t which = Ended() ? std::string_view::npos : kEscapes.find(Peek());
-    if (which == std::string_view::npos) {
-        return Fail(m_at, "one of \" \\ / b f n r t u after the backslash");
-    }
-    text += kCharacters[which];
-    ++m_at;
-    return true;
-}
-
-/// What follows \u: a character, or a half of one beyond U+FFFF and \u with the other half.
-bool Parser::UnicodeEscape(std::string& text) {
-    constexpr const char* kBothHalves = "both halves of a surrogate pair";
-    char32_t unit = 0;
-    if (!HexDigits(unit)) {
-        return false;
-    }
-    if (unit >= 0xDC00 && unit < 0xE000) {
-        return Fail(m_at - 1, kBothHalves);
-    }
-    if (unit >= 0xD800 && unit < 0xDC00) {
-        char32_t low = 0;
-        if (!Take('\\') || !Take('u')) {
-            return Fail(m_at, kBothHalves);
-        }
-        if (!HexDigits(low)) {
-            return false;
-        }
-        if (low < 0xDC00 || low >= 0xE000) {
-            return Fail(m_at - 1, kBothHalves);
-        }
-        unit = 0x10000 + ((unit - 0xD800) << 10U) + (low - 0xDC00);
-    }
-    AppendUtf8(text, unit);
-    return true;
-}
-
-bool Parser::HexDigits(char32_t& unit) {
-    for (int i = 0; i < 4; ++i) {
-        const int digit = HexValue(Peek());
-        if (digit < 0) {
-            return Fail(m_at, "four hexadecimal digits after \\u");
-        }
-        unit = unit << 4U | static_cast<char32_t>(digit);
-        ++m_at;
-    }
-    return true;
-}
-
-/// One beyond ASCII, byte by byte.
-bool Parser::Character(std::string& text) {
-    const auto lead = static_cast<std::uint8_t>(Peek());
-    if (lead < 0x20) {
-        return Fail(m_at, "control characters written as escapes");
-    }
-    const std::size_t start = m_at;
-    Utf8Form form = Utf8FormOf(lead);
-    bool isGood = form.Continuations > 0;
-    for (std::size_t i = 0; isGood && i < form.Continuations; ++i) {
-        ++m_at;
-        const auto byte = static_cast<std::uint8_t>(Peek());
-        isGood = byte >= form.Low && byte <= form.High;
-        form = {form.Continuations};
-    }
-    if (!isGood) {
-        return Fail(m_at, FoundByteAt(m_json, m_at), kUtf8);
-    }
-    ++m_at;
-    text.append(m_json, start, m_at - start);
-    return true;
-}
-
-/// Takes the character that must follow, blanks aside.
-bool Parser::Next(char c, const char* expected) {
-    return PeekValue() == c ? Take(c) : Unexpected(expected);
-}
-
-/// What stands here is sound by itself, but not here; what is not even sound is told as that.
-bool Parser::Unexpected(const char* expected) {
-    const std::size_t start = m_at;
-    const char c = Peek();
-    if (c == '"') {
-        std::string text;
-        return String(text) &&
-               Fail(start, Shortened(std::string(m_json.substr(start, m_at - start))), expected);
-    }
-    if (c == '-' || IsDigit(c)) {
-        return NumberToken() && Fail(WordStart(m_json, start), expected);
-    }
-    return Fail(start, expected);
-}
-
-bool Parser::Fail(std::size_t offset, const char* expected) {
-    return Fail(offset, FoundAt(m_json, offset), expected);
-}
-
-bool Parser::Fail(std::size_t offset, std::string found, std::string expected) {
-    m_problems = {UnreadableAt(m_json, offset, std::move(found), std::move(expected))};
-    return false;
-}
-
-/// Keys are cut, since a place is made for each of any number of doubled keys.
-void Parser::RefuseDouble(const JsonNode& entry) {
-    if (m_problems.size() >= kMaxProblems) {
-        return;
-    }
-    std::string place;
-    for (const Level& level : m_levels) {
-        place = JoinedPlace(place, level.List != nullptr ? std::to_string(level.List->size())
-                                                         : Shortened(*level.Key));
-    }
-    m_problems.push_back(
-        StreamProblem(DiagnosticKind::Refused, std::move(place), "the key again", "each key once"));
-    m_problems.back().Line = m_tree.LineOf(entry);
-}
 
 } // namespace
 
 JsonTree ParseJson(std::string_view json, std::vector<Diagnostic>& problems) {
-    Parser parser(json, problems);
-    return parser.Document() ? parser.Tree() : JsonTree();
+    json.remove_prefix(json.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
+    rapidjson::MemoryStream in(json.data(), json.size());
+    TreeBuilder builder(json, in, problems);
+    rapidjson::ParseResult result = Reader().Parse<kFlags>(in, builder);
+    if (!result.IsError() && in.Tell() < json.size()) { // RapidJSON ends at a zero byte
+        result.Set(rapidjson::kParseErrorDocumentRootNotSingular, in.Tell());
+    }
+    if (!result.IsError()) {
+        return builder.Tree();
+    }
+    if (result.Code() != rapidjson::kParseErrorTermination) {
+        problems = {FaultOf(json, result, in.Tell())};
+    }
+    return {};
 }
 
 } // namespace penlode
