@@ -47,7 +47,7 @@ template <class Chart> std::vector<HeardText> TextsHeard(const Chart& chart) {
             next = {};
         } else if (call.Operation == "DrawString") {
             next.Text = Argument<std::wstring>(call, 0);
-            next.HasFont = std::holds_alternative<penlode::Font>(call.Arguments.at(1));
+            next.HasFont = std::holds_alternative<penlode::Font>(call.Arguments.at(1).Held);
             next.Layout = Argument<RectF>(call, 2);
             heard.push_back(next);
         }

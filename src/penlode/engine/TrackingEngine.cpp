@@ -226,7 +226,7 @@ Status CTrackingEngine::ResetClip() {
 }
 
 Status CTrackingEngine::GetClip(Region* region) {
-    if (region == nullptr || !m_state.WorldToDevice().IsInvertible()) {
+    if (region == nullptr || !m_state->WorldToDevice().IsInvertible()) {
         return Status::InvalidParameter;
     }
     *region = m_state->WorldClip();
