@@ -10,8 +10,8 @@
 namespace cli {
 
 /// Loads a chart document for the command: the keyed stream, and the short forms that people write, which
-/// the records' own serializers do not know. It refuses numbers that are not finite, and remembers which keys
-/// were asked for, to guess what an unknown key was meant to be.
+/// the records' own serializers do not know. It remembers which keys were asked for, to guess what an unknown
+/// key was meant to be.
 class ChartStream final : public penlode::CSerializeStream {
 public:
     explicit ChartStream(penlode::CJsonSerializeStream& json) : m_json(json) {}
@@ -76,7 +76,6 @@ public:
 private:
     std::string Ask(const std::string& tag);
     std::string JoinedList(const std::string& tag);
-    void RefuseUnsoundNumber(const std::string& tag, std::string& value, const std::string& defaultValue);
 
     penlode::CJsonSerializeStream& m_json;
     std::set<std::string> m_joinedTags;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <sstream>
 #include <string_view>
@@ -59,6 +60,12 @@ template <class Number, class... Form> std::optional<Number> NumberOf(std::strin
     return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
 }
 
+/// A pen's width or a font's size.
+std::optional<float> SizeOf(std::string_view text) {
+    const auto size = NumberOf<float>(text);
+    return size && std::isfinite(*size) ? size : std::nullopt;
+}
+
 std::string ColorText(Color color) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text = "#";
@@ -93,7 +100,7 @@ std::optional<DashStyle> DashOf(std::string_view word) {
 
 std::optional<Pen> PenOf(std::string_view text) {
     const auto color = ColorOf(CutFirstWord(text));
-    const auto width = NumberOf<float>(CutFirstWord(text));
+    const auto width = SizeOf(CutFirstWord(text));
     const auto dash = DashOf(text);
     return color && width && dash ? std::optional(Pen(*color, *width, *dash)) : std::nullopt;
 }
@@ -130,7 +137,7 @@ std::optional<Font> FontOf(std::string_view text) {
         style |= bit;
         word = CutLastWord(text);
     }
-    const auto size = NumberOf<float>(word);
+    const auto size = SizeOf(word);
     if (!size || text.empty()) {
         return std::nullopt;
     }
