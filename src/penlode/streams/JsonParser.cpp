@@ -47,7 +47,7 @@ using Reader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, Al
 bool IsHuge(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
     const std::size_t digits = std::min(number.find_first_not_of("eE+", mark), number.size());
-    std::int64_t exponent = 0;
+    int exponent = 0; // out of range if negative only
     const auto parsed = std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
     const std::size_t point = std::min(number.find('.'), mark);
     const std::size_t first = number.find_first_of("123456789");
