@@ -160,7 +160,7 @@ TEST(Serialize, NumbersThatAreNotFiniteKeepTheDefault) {
     CLegendPropSerialize::SerializeLegendProp(stream, legend, "L");
     EXPECT_EQ(legend, LegendProp{});
     std::vector<float> widths;
-    KeyedRecord(stream, "R").FloatList("Widths", widths, 0.5F);
+    KeyedRecord(stream, "R").Field("Widths", widths, 0.5F);
     EXPECT_EQ(widths, (std::vector{1.0F, 0.5F, 2.0F}));
     std::string refused;
     for (const auto& problem : stream.Problems()) {
