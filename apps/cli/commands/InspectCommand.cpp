@@ -1,11 +1,11 @@
 #include "commands/InspectCommand.h"
 
 #include "commands/CallsToJson.h"
+#include "commands/LayoutToJson.h"
 #include "files/Console.h"
-#include "files/InputFile.h"
-#include "files/OutputFile.h"
-#include "pages/ChartDocument.h"
+#include "files/Streams.h"
 #include "pages/ChartExtent.h"
+#include "pages/LoadedChart.h"
 
 namespace cli {
 namespace {
@@ -16,17 +16,17 @@ constexpr int kLevels = 2;
 } // namespace
 
 bool Inspect(const InspectOptions& options) {
-    const ChartDocument document = LoadChartDocument(options.Input, options.Data);
-    TellProblems(document.Messages);
-    if (document.Content == nullptr) {
+    const LoadedChart loaded = LoadChart(options.Input, options.Data);
+    TellProblems(loaded.Diagnostics);
+    if (!loaded.Chart) {
         return false;
     }
     penlode::CRecordingEngine recorder;
-    document.Content->Draw(recorder);
+    loaded.Chart->Draw(recorder);
     const Json inspected{{"file", ShownName(options.Input)},
-                         {"kind", document.Kind},
-                         {"extent", ToJson(ExtentWithTexts(*document.Content))},
-                         {"layout", document.Content->Layout()},
+                         {"kind", millichart::KindOf(loaded.Document.Content)->Name},
+                         {"extent", ToJson(ExtentWithTexts(*loaded.Chart))},
+                         {"layout", LayoutToJson(*loaded.Chart)},
                          {"calls", CallsToJson(recorder.Calls())}};
     WriteOutput(kStandardStream, Printed(inspected, kLevels));
     return true;

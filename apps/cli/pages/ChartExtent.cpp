@@ -24,7 +24,7 @@ bool ReachesOut(const RectF& box, const RectF& whole) {
 
 } // namespace
 
-RectF ExtentWithTexts(const Chart& chart) {
+RectF ExtentWithTexts(const millichart::LaidOutChart& chart) {
     const RectF whole = chart.Extent();
     RectF extent = whole;
     TextListener listener([&](const std::wstring& text, const penlode::Font&, const RectF& box) {

@@ -29,7 +29,7 @@ std::string FaceMessage(const std::wstring& family) {
 
 } // namespace
 
-FontReport ReportFonts(const Chart& chart) {
+FontReport ReportFonts(const millichart::LaidOutChart& chart) {
     std::map<std::wstring, std::wstring> missingByFamily;
     TextListener listener([&](const std::wstring& text, const penlode::Font& font, const penlode::RectF&) {
         AddNew(missingByFamily[font.Family], penlode::MissingCharacters(text, font));

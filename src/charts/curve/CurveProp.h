@@ -55,6 +55,9 @@ inline constexpr std::int32_t AsZero = 1; ///< runs through the value 0
 /// A value below this is null: not measured, not there.
 inline constexpr double kCurveNullThreshold = -9999998.0;
 
+/// A null value.
+inline constexpr double kCurveNull = kCurveNullThreshold - 1.0;
+
 /// The plot and its curves. Lengths in mm; flags are on when not zero. The lists have one entry a curve; one
 /// that is missing counts as what its comment says.
 struct CurvePlotProp {

@@ -12,20 +12,19 @@ using penlode::RectF;
 
 namespace {
 
-// No label stands so far off the page.
-constexpr float kSeparator = -99999.0F;
+constexpr PointF kSeparator = CBasicHalfPieHalfPie::kLabelSeparator;
 // A host may have turned the separator into other units and back.
 constexpr double kSeparatorTolerance = 0.1;
 
-bool IsSeparator(float coordinate) {
-    return std::fabs(static_cast<double>(coordinate) - kSeparator) < kSeparatorTolerance;
+bool IsNear(float a, float b) {
+    return std::fabs(static_cast<double>(a) - static_cast<double>(b)) < kSeparatorTolerance;
 }
 
 /// Entries are points or rectangles.
 template <class Entry>
 std::vector<Entry> Joined(const std::vector<Entry>& first, const std::vector<Entry>& second) {
     std::vector<Entry> all = first;
-    all.push_back({kSeparator, kSeparator});
+    all.push_back({kSeparator.X, kSeparator.Y});
     all.insert(all.end(), second.begin(), second.end());
     return all;
 }
@@ -38,7 +37,7 @@ template <class Entry> struct Halves {
 /// The entries before and after the first separator; nothing if there is none.
 template <class Entry> std::optional<Halves<Entry>> Split(const std::vector<Entry>& all) {
     const auto separator = std::find_if(all.begin(), all.end(), [](const Entry& entry) {
-        return IsSeparator(entry.X) && IsSeparator(entry.Y);
+        return IsNear(entry.X, kSeparator.X) && IsNear(entry.Y, kSeparator.Y);
     });
     if (separator == all.end()) {
         return std::nullopt;

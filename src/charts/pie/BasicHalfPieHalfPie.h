@@ -17,10 +17,12 @@ namespace millichart {
 /// Setters only store; Layout hands everything to the two halves and lays them out; Draw and the getters read
 /// the last layout. A plain value: copies share nothing.
 ///
-/// The labels of both halves are exchanged as one list: the first half's, a separator at
-/// (-99999, -99999), the second half's.
+/// The labels of both halves are exchanged as one list: the first half's, a separator, the second half's.
 class MILLICHART_API CBasicHalfPieHalfPie {
 public:
+    /// Between the halves' labels, a rectangle's corner or an offset: no label stands so far off the page.
+    static constexpr penlode::PointF kLabelSeparator{-99999.0F, -99999.0F};
+
     /// Copies the record. At the next Layout each half's label offsets become as many as its names.
     void SetHalfPieHalfPieProp(const HalfPieHalfPieProp& prop) { m_prop = prop; }
 

@@ -242,10 +242,14 @@ Json* CJsonSerializeStream::Document::EnterGroup(const std::string& tag, int ind
 /// One level is left for a list in the innermost group.
 Json* CJsonSerializeStream::Document::MakeGroup(const std::string& tag, int index) {
     Json* const group = Current();
-    if (group == nullptr || index > 0 || OpenGroups.size() + 2 >= kMaxLevels) {
+    if (group == nullptr || OpenGroups.size() + 2 >= kMaxLevels) {
         return nullptr;
     }
-    Json& entry = (*group)[CStringUtil::AnsiToUtf8(tag)];
+    Json& held = (*group)[CStringUtil::AnsiToUtf8(tag)];
+    if (index >= 0 && !held.is_array()) {
+        held = Json::array();
+    }
+    Json& entry = index >= 0 ? held[static_cast<std::size_t>(index)] : held;
     if (!entry.is_object()) {
         entry = Json::object();
     }
@@ -409,6 +413,21 @@ std::vector<double> CJsonSerializeStream::LoadNumbersAndGaps(const std::string& 
         numbers.push_back(m_document->LoadNumberOrGap(tag, (*items)[i], i));
     }
     return numbers;
+}
+
+void CJsonSerializeStream::SaveNumbers(const std::string& tag, std::span<const double> numbers) {
+    Json::array_t items;
+    for (const double number : numbers) {
+        const bool isWhole = number == std::trunc(number) && std::abs(number) < 1e15;
+        items.push_back(isWhole ? Json(static_cast<std::int64_t>(number)) : Json(number));
+    }
+    m_document->Save(tag, std::move(items));
+}
+
+void CJsonSerializeStream::Remove(const std::string& tag) {
+    if (Json* const group = m_document->Current()) {
+        group->erase(CStringUtil::AnsiToUtf8(tag));
+    }
 }
 
 bool CJsonSerializeStream::IsList(const std::string& tag) const {

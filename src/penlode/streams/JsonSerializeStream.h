@@ -5,6 +5,7 @@
 #include "penlode/streams/SerializeStream.h"
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -71,6 +72,12 @@ public:
     /// Loads a list of numbers or booleans, or of numbers' texts. A null or an empty text is a gap, NaN; what
     /// is no finite number is a gap too, and refused. Nothing where there is no list.
     std::vector<double> LoadNumbersAndGaps(const std::string& tag);
+
+    /// Saves a list of numbers; NaN is null.
+    void SaveNumbers(const std::string& tag, std::span<const double> numbers);
+
+    /// Takes an entry of the current group out of the document.
+    void Remove(const std::string& tag);
 
 private:
     struct Document;
