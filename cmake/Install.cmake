@@ -2,7 +2,7 @@
 # CMake and one for pkg-config.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS penlode millichart millichart-core EXPORT millichartTargets)
+install(TARGETS penlode millichart millichart-core millichart-documents EXPORT millichartTargets)
 install(
   EXPORT millichartTargets
   NAMESPACE millichart::
@@ -14,8 +14,10 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake
 
 # The file finds its prefix from where it lies, so that an installed tree may be moved.
 file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(packaging/millichart.pc.in millichart.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichart.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(package millichart millichart-documents)
+  configure_file(packaging/${package}.pc.in ${package}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 set(headers ${CMAKE_INSTALL_INCLUDEDIR}/millichart)
 install(FILES src/millichart.h DESTINATION ${headers})
@@ -30,5 +32,8 @@ install(
   PATTERN JsonTree.h EXCLUDE
   PATTERN cairo EXCLUDE
   PATTERN svg EXCLUDE)
+foreach(header ChartContent ChartData ChartDocument Files)
+  install(FILES src/documents/${header}.h DESTINATION ${headers}/documents)
+endforeach()
 install(FILES src/penlode/cairo/GraphicsEngine.h DESTINATION ${headers}/penlode/cairo)
 install(FILES src/penlode/svg/SvgEngine.h src/penlode/svg/SvgOptions.h DESTINATION ${headers}/penlode/svg)
