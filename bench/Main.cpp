@@ -72,6 +72,12 @@ int PrintLine(const std::string& name, double measured, double reference, double
     return isAbove ? 1 : 0;
 }
 
+int PrintMemory(const char* name, double ratio, double bound) {
+    std::printf("%-52s %11s %11s %7.2f %7.2f%s\n", name, "", "", ratio, bound,
+                ratio > bound ? "  above" : "");
+    return ratio > bound ? 1 : 0;
+}
+
 /// The command beside a process that reads and parses alone. What the picture takes comes on top of that, so
 /// it is taken off first.
 int PrintProcess(const bench::ProcessCosts& costs, double picture) {
@@ -79,7 +85,8 @@ int PrintProcess(const bench::ProcessCosts& costs, double picture) {
     if (picture == 0.0) {
         return 0;
     }
-    if (costs.Million.Bytes == 0.0 || costs.Thousand.Bytes == 0.0 || costs.Parsing.Bytes == 0.0) {
+    if (costs.Million.Bytes == 0.0 || costs.Thousand.Bytes == 0.0 || costs.Parsing.Bytes == 0.0 ||
+        costs.Json.Bytes == 0.0) {
         std::printf("a process failed\n");
         return 1;
     }
@@ -89,6 +96,10 @@ int PrintProcess(const bench::ProcessCosts& costs, double picture) {
                 "", kMaxBytes, isAbove ? "  above" : "");
     return PrintLine("command, CSV of 1e6 rows, less the picture / parsed",
                      costs.Million.Milliseconds - picture, costs.Parsing.Milliseconds, 3.0) +
+           PrintLine("command, JSON of 1e6 rows, time / CSV", costs.Json.Milliseconds,
+                     costs.Million.Milliseconds, 2.0) +
+           PrintMemory("command, JSON of 1e6 rows, memory / CSV", costs.Json.Bytes / costs.Million.Bytes,
+                       2.0) +
            (isAbove ? 1 : 0);
 }
 

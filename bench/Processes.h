@@ -14,6 +14,7 @@ struct ProcessCosts {
     ProcessCost Million; ///< the command, on so many rows
     ProcessCost Thousand;
     ProcessCost Parsing; ///< of a million rows by hand, without a picture
+    ProcessCost Json;    ///< the command, on a document that holds a million rows
 };
 
 /// To be called before this process takes much memory itself: the system counts it as the new process's.

@@ -28,8 +28,14 @@ install(
   FILES_MATCHING
   PATTERN *.h
   PATTERN Gb18030.h EXCLUDE
+  PATTERN Utf8.h EXCLUDE
+  PATTERN Digits.h EXCLUDE
   PATTERN JsonFault.h EXCLUDE
+  PATTERN JsonParser.h EXCLUDE
+  PATTERN JsonReader.h EXCLUDE
+  PATTERN JsonText.h EXCLUDE
   PATTERN JsonTree.h EXCLUDE
+  PATTERN JsonWriter.h EXCLUDE
   PATTERN cairo EXCLUDE
   PATTERN svg EXCLUDE)
 foreach(header ChartContent ChartData ChartDocument Files)

@@ -143,6 +143,17 @@ struct ChartDocument::Loaded {
         }
         return changed;
     }
+
+    /// What has no file is about the document.
+    void PutInOrder(const penlode::CJsonSerializeStream& json, std::vector<Diagnostic>& diagnostics) const {
+        for (Diagnostic& diagnostic : diagnostics) {
+            diagnostic.File = diagnostic.File == Name ? "" : diagnostic.File;
+        }
+        json.PutInOrder(diagnostics);
+        for (Diagnostic& diagnostic : diagnostics) {
+            diagnostic.File = diagnostic.File.empty() ? Name : diagnostic.File;
+        }
+    }
 };
 
 ChartDocument ChartDocument::Load(const std::string& file) {
@@ -189,8 +200,8 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
         document.m_hasOtherData = true;
         TakeNamesOfTable(document.Content, true);
     }
-    document.m_loaded = loaded;
-    document.PutInOrder(loaded->Diagnostics);
+    loaded->PutInOrder(json, loaded->Diagnostics);
+    document.m_loaded = std::move(loaded);
     return document;
 }
 
@@ -209,13 +220,8 @@ const std::vector<std::string>& ChartDocument::DataFiles() const {
 }
 
 void ChartDocument::PutInOrder(std::vector<Diagnostic>& diagnostics) const {
-    for (Diagnostic& diagnostic : diagnostics) {
-        if (diagnostic.File.empty() && m_loaded) {
-            diagnostic.File = m_loaded->Name;
-        }
-    }
     if (m_loaded) {
-        PutInDocumentOrder(m_loaded->Text, m_loaded->Name, diagnostics);
+        m_loaded->PutInOrder(penlode::CJsonSerializeStream(m_loaded->Text), diagnostics);
     }
 }
 
@@ -265,7 +271,7 @@ std::string ChartDocument::Text() const {
         }
     }
     json.BeginSaving();
-    SavingStream stream(changed, json);
+    SavingStream stream(loaded.Hashes, changed, json);
     SaveDocument(stream, copy);
     return json.Text();
 }

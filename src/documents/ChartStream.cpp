@@ -1,42 +1,14 @@
 #include "documents/ChartStream.h"
 
 #include "foundation/SerializeFrame.h"
-#include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace millichart::documents {
 namespace {
 
 constexpr const char* kSeparator = "||";
-
-template <class T> bool Parse(std::string text, T& value) {
-    return penlode::ser_evaluate(value, text, false);
-}
-
-/// What the text of a number, a pen or a font is a form of, and the number in it.
-struct NumberForm {
-    const char* Form = nullptr; ///< null for other texts
-    double Number = 0.0;
-};
-
-NumberForm NumberIn(const std::string& text) {
-    double number = 0.0;
-    penlode::Owned<penlode::Pen> pen;
-    penlode::Owned<penlode::Font> font;
-    if (Parse(text, number)) {
-        return {penlode::kFloatForm, number};
-    }
-    if (Parse(text, pen)) {
-        return {penlode::kPenForm, pen ? static_cast<double>(pen->GetWidth()) : 0.0};
-    }
-    if (Parse(text, font)) {
-        return {penlode::kFontForm, font ? static_cast<double>(font->Size) : 0.0};
-    }
-    return {};
-}
 
 } // namespace
 
@@ -78,17 +50,6 @@ void ChartStream::Ser(const std::string& tag, std::string& value, const std::str
         value = JoinedList(tag);
     } else {
         m_json.Ser(tag, value, defaultValue);
-        RefuseUnsoundNumber(tag, value, defaultValue);
-    }
-}
-
-/// What is stored under a tag can be told from its default.
-void ChartStream::RefuseUnsoundNumber(const std::string& tag, std::string& value,
-                                      const std::string& defaultValue) {
-    const NumberForm wanted = NumberIn(defaultValue);
-    if (wanted.Form != nullptr && !std::isfinite(NumberIn(value).Number)) {
-        Refuse(tag, value, wanted.Form);
-        value = defaultValue;
     }
 }
 

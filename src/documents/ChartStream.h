@@ -10,7 +10,7 @@
 namespace millichart::documents {
 
 /// Loads a chart document: the keyed stream, and the short forms that people write, which
-/// the records' own serializers do not know. It refuses numbers that are not finite, and remembers which keys
+/// the records' own serializers do not know. It remembers which keys
 /// were asked for, to guess what an unknown key was meant to be.
 class ChartStream final : public penlode::CSerializeStream {
 public:
@@ -79,7 +79,6 @@ public:
 private:
     std::string Ask(const std::string& tag);
     std::string JoinedList(const std::string& tag);
-    void RefuseUnsoundNumber(const std::string& tag, std::string& value, const std::string& defaultValue);
 
     penlode::CJsonSerializeStream& m_json;
     std::set<std::string> m_joinedTags;

@@ -1,12 +1,9 @@
 #include "documents/LoadDiagnostics.h"
 
-#include "documents/JsonPlaces.h"
 #include "documents/NearestName.h"
 #include "documents/Table.h"
 
 #include <algorithm>
-#include <limits>
-#include <tuple>
 #include <utility>
 
 namespace millichart::documents {
@@ -71,28 +68,6 @@ std::vector<Diagnostic> LoadDiagnostics(const penlode::CJsonSerializeStream& jso
                                                      Guess(unknown.Place, stream.AskedKeys())));
     }
     return diagnostics;
-}
-
-void PutInDocumentOrder(const std::string& text, const std::string& shownName,
-                        std::vector<Diagnostic>& diagnostics) {
-    const JsonPlaces places(text);
-    std::vector<std::tuple<bool, std::size_t, std::size_t>> order;
-    for (std::size_t i = 0; i < diagnostics.size(); ++i) {
-        Diagnostic& diagnostic = diagnostics[i];
-        JsonPlaces::Spot spot;
-        if (diagnostic.File == shownName && !diagnostic.Place.empty()) {
-            spot = places.Find(diagnostic.Place);
-            diagnostic.Line = std::max(diagnostic.Line, spot.Line);
-        }
-        const std::size_t rank = spot.Order == 0 ? std::numeric_limits<std::size_t>::max() : spot.Order;
-        order.emplace_back(diagnostic.Severity == penlode::Severity::Note, rank, i);
-    }
-    std::sort(order.begin(), order.end());
-    std::vector<Diagnostic> sorted;
-    for (const auto& entry : order) {
-        sorted.push_back(std::move(diagnostics[std::get<2>(entry)]));
-    }
-    diagnostics = std::move(sorted);
 }
 
 } // namespace millichart::documents

@@ -13,9 +13,4 @@ namespace millichart::documents {
 std::vector<penlode::Diagnostic> LoadDiagnostics(const penlode::CJsonSerializeStream& json,
                                                  const ChartStream& stream);
 
-/// Gives the diagnostics about the document `shownName` the lines on which their places stand in its text,
-/// and sorts all: by place, those without one after them, notes last.
-void PutInDocumentOrder(const std::string& text, const std::string& shownName,
-                        std::vector<penlode::Diagnostic>& diagnostics);
-
 } // namespace millichart::documents

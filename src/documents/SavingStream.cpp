@@ -77,10 +77,12 @@ void SavingStream::Points(const std::string& tag, const std::vector<penlode::Poi
     Ser(tag, texts, {});
 }
 
-/// Groups beyond the count would stay; without them each keeps what else it has.
+/// Groups beyond the count would stay, so that the list is written anew; a longer one keeps what it has. The
+/// hash is the count.
 void SavingStream::Groups(const std::string& tag, std::size_t count) {
     Take(tag, count, [&] {
-        if (m_json->CountGroups(tag) > count || count == 0) {
+        const auto loaded = m_loaded->find(PlaceOf(tag));
+        if (loaded != m_loaded->end() && loaded->second > count) {
             m_json->Remove(tag);
             m_rewritten.push_back(PlaceOf(tag));
         }

@@ -20,8 +20,10 @@ class SavingStream final : public penlode::CSerializeStream {
 public:
     explicit SavingStream(PlaceHashes& hashes) : m_hashes(&hashes) {}
 
-    SavingStream(const std::set<std::string>& changed, penlode::CJsonSerializeStream& json)
-        : m_changed(&changed), m_json(&json) {}
+    /// `loaded` was noted of the document when it was loaded.
+    SavingStream(const PlaceHashes& loaded, const std::set<std::string>& changed,
+                 penlode::CJsonSerializeStream& json)
+        : m_loaded(&loaded), m_changed(&changed), m_json(&json) {}
 
     using CSerializeStream::Ser;
     void Ser(const std::string& tag, std::vector<std::string>& values,
@@ -75,6 +77,7 @@ private:
     template <class Write> void Take(const std::string& tag, std::size_t hash, const Write& write);
 
     PlaceHashes* m_hashes = nullptr;
+    const PlaceHashes* m_loaded = nullptr;
     const std::set<std::string>* m_changed = nullptr;
     penlode::CJsonSerializeStream* m_json = nullptr;
     std::vector<Group> m_groups;

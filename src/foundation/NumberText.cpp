@@ -1,18 +1,14 @@
 #include "foundation/NumberText.h"
 
+#include "penlode/text/Digits.h"
+
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 namespace millichart {
 
 std::string FixedText(double value, int decimals) {
     constexpr int kMaxDecimals = 400;
-    // The largest double has 309 digits before the point.
-    std::array<char, 320 + kMaxDecimals> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::fixed, std::clamp(decimals, 0, kMaxDecimals));
-    return {buffer.data(), result.ptr};
+    return penlode::Digits(value, std::chars_format::fixed, std::clamp(decimals, 0, kMaxDecimals));
 }
 
 std::string WithoutTrailingZeros(std::string number) {

@@ -4,6 +4,8 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <cmath>
+#include <type_traits>
 
 namespace millichart {
 
@@ -19,8 +21,15 @@ template <class T> std::string TextOf(T value) {
     return text;
 }
 
+/// A number that is not finite means nothing in a record, though it has a text form.
 template <class T> bool Evaluate(T& value, std::string& text, bool toText) {
-    return ser_evaluate(value, text, toText);
+    T read = value;
+    bool isGood = ser_evaluate(read, text, toText);
+    if constexpr (std::is_floating_point_v<T>) {
+        isGood = isGood && (toText || std::isfinite(read));
+    }
+    value = isGood ? read : value;
+    return isGood;
 }
 
 /// A stray byte at a text's end would take the separator behind it for its second half.
@@ -68,7 +77,7 @@ template <class T> void KeyedRecord::Number(const char* key, T& value, T default
     m_stream.Ser(key, text, TextOf(defaultValue));
     if (!m_stream.IsSaving()) {
         value = defaultValue;
-        if (!ser_evaluate(value, text, false)) {
+        if (!Evaluate(value, text, false)) {
             m_stream.Refuse(key, text, form);
         }
     }

@@ -36,7 +36,8 @@ inline constexpr EnumName kPieStyleNames[] = {{0, "2D"}, {1, "3D"}};
 inline constexpr penlode::Pen kDefaultPen{penlode::kBlack, 0.1F};
 
 /// One group of a keyed stream, open from construction to destruction. Each member saves the field under its
-/// key, or loads it: a missing key, or a text that means nothing, gives the default.
+/// key, or loads it: a missing key, or a text that means nothing, gives the default. A number that is not
+/// finite means nothing.
 class MILLICHART_API KeyedRecord {
 public:
     KeyedRecord(penlode::CSerializeStream& stream, const char* tag);

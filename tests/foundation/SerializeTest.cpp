@@ -155,6 +155,22 @@ TEST(Serialize, ACountThatNothingFollowsTakesNoMemory) {
     }
 }
 
+TEST(Serialize, NumbersThatAreNotFiniteKeepTheDefault) {
+    CJsonSerializeStream stream(R"({"L": {"ItemDist": "nan", "PenEdge": "#FF000000 inf", "Font": "Arial nan"},
+        "R": {"Widths": ["1", "-inf", "2"]}})");
+    LegendProp legend = SomeLegend();
+    CLegendPropSerialize::SerializeLegendProp(stream, legend, "L");
+    EXPECT_EQ(legend, LegendProp{});
+    std::vector<float> widths;
+    KeyedRecord(stream, "R").FloatList("Widths", widths, 0.5F);
+    EXPECT_EQ(widths, (std::vector{1.0F, 0.5F, 2.0F}));
+    std::string refused;
+    for (const auto& problem : stream.Problems()) {
+        refused += problem.Kind == penlode::DiagnosticKind::Refused ? problem.Place + " " : "";
+    }
+    EXPECT_EQ(refused, "L/ItemDist L/PenEdge L/Font R/Widths/1 ");
+}
+
 TEST(Serialize, WhatMeansNothingIsRefusedWithItsPlace) {
     CJsonSerializeStream stream(R"({"L": {"ShowLegend": "yes", "LegendPos": "rightcenter", "ItemDist": "1,5",
         "BackgroundColor": "blue", "PenEdge": "#000000 thick", "Font": "4", "ShowEdge": true}})");

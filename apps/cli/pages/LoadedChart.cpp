@@ -19,16 +19,18 @@ penlode::Diagnostic Fault(const std::string& file, const std::string& text) {
 /// What the layout found, in the order of what the load found.
 void LayOut(LoadedChart& loaded) {
     loaded.Chart = std::move(loaded.Document).LayOut();
-    std::vector<penlode::Diagnostic>& found = loaded.Chart->Diagnostics;
-    loaded.Diagnostics.insert(loaded.Diagnostics.end(), found.begin(), found.end());
+    std::vector<penlode::Diagnostic> found = loaded.Chart->Diagnostics;
     if (millichart::HasErrors(found)) {
         loaded.Chart.reset();
     } else {
         for (const std::string& warning : ReportFonts(*loaded.Chart).Warnings) {
-            loaded.Diagnostics.push_back(penlode::Warning("", warning));
+            found.push_back(penlode::Warning("", warning));
         }
     }
-    loaded.Document.PutInOrder(loaded.Diagnostics);
+    if (!found.empty()) {
+        loaded.Diagnostics.insert(loaded.Diagnostics.end(), found.begin(), found.end());
+        loaded.Document.PutInOrder(loaded.Diagnostics);
+    }
 }
 
 LoadedChart Load(const std::string& input, const std::optional<std::string>& data) {

@@ -7,12 +7,13 @@
 #include <string>
 #include <string_view>
 
-/// Places in a JSON text, and plain words for what a parser cannot read there. Internal to the keyed stream,
-/// but for Shortened.
+/// Places in a JSON text that cannot be read, for people. Internal to the keyed stream, but for Shortened.
 namespace penlode {
 
 /// Texts of a document that appear in problems are no longer than this, in characters.
 inline constexpr std::size_t kMaxShown = 60;
+
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// At most kMaxShown characters of a UTF-8 text; a cut is marked by "…".
 PENLODE_API std::string Shortened(std::string text);
@@ -21,18 +22,12 @@ PENLODE_API std::string Shortened(std::string text);
 /// mark takes no column.
 Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string found, std::string expected);
 
-/// Where and why the parser stopped: the bytes it had read, the token it had read last, and its own message.
-Diagnostic ParserFault(std::string_view json, std::size_t bytesRead, std::string_view token,
-                       std::string_view message);
-
-/// The word or character at a byte offset, for people.
+/// The word or character at a byte offset.
 std::string FoundAt(std::string_view json, std::size_t offset);
+/// The byte there, or that the document ends.
+std::string FoundByteAt(std::string_view json, std::size_t offset);
 
-/// Where the first group or list stands that is nested deeper than `levels`; the text up to there must be
-/// well-formed.
-std::size_t OffsetOfLevelBeyond(std::string_view json, std::size_t levels);
-
-/// Where the document's value begins.
-std::size_t OffsetOfRoot(std::string_view json);
+/// Where the number or bare word begins that goes on at `offset`.
+std::size_t WordStart(std::string_view json, std::size_t offset);
 
 } // namespace penlode

@@ -18,9 +18,9 @@ namespace penlode {
 /// A stream loads from a document or saves into one. Saving into a loaded document keeps what it held under
 /// other keys, so that nothing that a newer version or another program wrote is lost.
 ///
-/// Groups of one name are a list of objects, and an index from 0 chooses one of them on load; 0 is also a
-/// lone object. Only the lone group is saved: a save into an index above 0, or deeper than 63 levels, has a
-/// Push that gives false and keeps nothing until its Pop.
+/// Groups of one name are a list of objects, and an index from 0 chooses one of them; 0 is also a lone object
+/// that is there. A save begins such a list, or adds to it, at the index that is its length; a save into a
+/// higher index, or deeper than 63 levels, has a Push that gives false and keeps nothing until its Pop.
 class PENLODE_API CJsonSerializeStream final : public CSerializeStream {
 public:
     /// An empty document, saving.
@@ -47,6 +47,9 @@ public:
     std::vector<Diagnostic> UnknownKeys() const;
     /// True when the document itself could not be read.
     bool IsUnreadable() const;
+    /// Sorts what was told of this document and of other files into the order of the document, and gives each
+    /// place in it its line: first what has a place there, then the rest, notes last.
+    void PutInOrder(std::vector<Diagnostic>& diagnostics) const;
 
     using CSerializeStream::Ser;
     void Ser(const std::string& tag, std::vector<std::string>& values,
@@ -66,17 +69,15 @@ public:
     bool Has(const std::string& tag) const;
     /// Is that entry a list? Asking does not count as loading it.
     bool IsList(const std::string& tag) const;
-    /// How many groups there are to push in a list of them; 0 for what is no list.
+    /// How many groups there are to load from a list of them; 0 for what is no list.
     std::size_t CountGroups(const std::string& tag);
 
     /// Loads a list of numbers or booleans, or of numbers' texts. A null or an empty text is a gap, NaN; what
     /// is no finite number is a gap too, and refused. Nothing where there is no list.
     std::vector<double> LoadNumbersAndGaps(const std::string& tag);
-
-    /// Saves a list of numbers; NaN is null.
+    /// Saves a list of numbers as JSON numbers, each the shortest that reads back the same; a NaN is null.
     void SaveNumbers(const std::string& tag, std::span<const double> numbers);
-
-    /// Takes an entry of the current group out of the document.
+    /// Removes an entry of the current group while saving; nothing if there is none.
     void Remove(const std::string& tag);
 
 private:

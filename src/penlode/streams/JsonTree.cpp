@@ -1,24 +1,15 @@
 #include "penlode/streams/JsonTree.h"
 
-#include "penlode/streams/JsonFault.h"
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
-#include <array>
+#include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
-#include <unordered_map>
-#include <utility>
 
 namespace penlode {
 namespace {
-
-using Kind = DiagnosticKind;
-
-template <class Number, class... Format> std::string Digits(Number value, Format... format) {
-    std::array<char, 32> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, format...).ptr;
-    return {digits.data(), end};
-}
 
 /// A whole number is written out, so that it is an integer's text as well: 1e5 as 100000.
 std::string NumberText(double value) {
@@ -26,180 +17,121 @@ std::string NumberText(double value) {
     return whole ? Digits(value, std::chars_format::fixed) : Digits(value);
 }
 
-/// Builds the document's tree. An ordered object searches all its keys for each new one and copies all its
-/// values whenever it grows; collecting them here first keeps the work linear in the text.
-class TreeBuilder final : public nlohmann::json_sax<Json> {
-public:
-    explicit TreeBuilder(std::string_view text) : m_text(text) { m_levels.reserve(kMaxLevels); }
-
-    /// The tree, or an empty one and one Unreadable problem; else each key that was not alone.
-    Json Build(std::vector<Diagnostic>& problems);
-
-    bool null() override { return Put(nullptr); }
-
-    bool boolean(bool value) override { return Put(value); }
-
-    bool number_integer(number_integer_t value) override { return Put(value); }
-
-    bool number_unsigned(number_unsigned_t value) override { return Put(value); }
-
-    bool number_float(number_float_t value, const string_t&) override { return Put(value); }
-
-    bool string(string_t& value) override { return Put(std::move(value)); }
-
-    bool binary(binary_t&) override { return false; }
-
-    bool start_object(std::size_t) override { return Open(true); }
-
-    bool start_array(std::size_t) override { return Open(false); }
-
-    bool key(string_t& name) override;
-    bool end_object() override;
-    bool end_array() override;
-    bool parse_error(std::size_t bytesRead, const std::string& token,
-                     const nlohmann::detail::exception& error) override;
-
-private:
-    struct Level {
-        bool IsObject;
-        Json::array_t Items;
-        std::vector<std::pair<std::string, Json>> Entries;
-        std::unordered_map<std::string, std::size_t> Places;
-        std::size_t Current = 0;
-    };
-
-    bool Put(Json value);
-    bool Open(bool isObject);
-    bool Stop(Diagnostic problem);
-    void Check();
-    std::string PlaceOfKey() const;
-
-    std::string_view m_text;
-    Json m_root;
-    std::vector<Level> m_levels;
-    std::vector<Diagnostic> m_problems;
-    bool m_stopped = false;
-};
-
-Json TreeBuilder::Build(std::vector<Diagnostic>& problems) {
-    Json::sax_parse(m_text.begin(), m_text.end(), this);
-    if (!m_stopped) {
-        Check();
-    }
-    problems = std::move(m_problems);
-    return m_stopped ? Json::object() : std::move(m_root);
-}
-
-/// What the parser lets pass: it takes a zero byte for the end of the text, and any value for a document.
-void TreeBuilder::Check() {
-    const std::size_t zero = m_text.find('\0');
-    if (zero != std::string_view::npos) {
-        Stop(UnreadableAt(m_text, zero, FoundAt(m_text, zero), "the end of the document"));
-    } else if (!m_root.is_object()) {
-        Stop(UnreadableAt(m_text, OffsetOfRoot(m_text), Shown(m_root), "a group in braces"));
-    }
-}
-
-bool TreeBuilder::Put(Json value) {
-    if (m_levels.empty()) {
-        m_root = std::move(value);
-    } else if (Level& level = m_levels.back(); level.IsObject) {
-        level.Entries[level.Current].second = std::move(value);
-    } else {
-        level.Items.push_back(std::move(value));
-    }
-    return true;
-}
-
-bool TreeBuilder::Open(bool isObject) {
-    if (m_levels.size() == kMaxLevels) {
-        const std::size_t offset = OffsetOfLevelBeyond(m_text, kMaxLevels);
-        return Stop(UnreadableAt(m_text, offset, FoundAt(m_text, offset),
-                                 "at most " + std::to_string(kMaxLevels) + " levels of nesting"));
-    }
-    m_levels.push_back({isObject, {}, {}, {}, 0});
-    return true;
-}
-
-bool TreeBuilder::key(string_t& name) {
-    Level& level = m_levels.back();
-    const auto [place, isNew] = level.Places.try_emplace(name, level.Entries.size());
-    level.Current = place->second;
-    if (isNew) {
-        level.Entries.emplace_back(std::move(name), nullptr);
-    } else if (m_problems.size() < kMaxProblems) {
-        m_problems.push_back(StreamProblem(Kind::Refused, PlaceOfKey(), "the key again", "each key once"));
-    }
-    return true;
-}
-
-bool TreeBuilder::end_object() {
-    Json::object_t object;
-    object.reserve(m_levels.back().Entries.size());
-    for (auto& [name, value] : m_levels.back().Entries) {
-        object.emplace_back(std::move(name), std::move(value));
-    }
-    m_levels.pop_back();
-    return Put(std::move(object));
-}
-
-bool TreeBuilder::end_array() {
-    Json::array_t items = std::move(m_levels.back().Items);
-    m_levels.pop_back();
-    return Put(std::move(items));
-}
-
-bool TreeBuilder::parse_error(std::size_t bytesRead, const std::string& token,
-                              const nlohmann::detail::exception& error) {
-    return Stop(ParserFault(m_text, bytesRead, token, error.what()));
-}
-
-bool TreeBuilder::Stop(Diagnostic problem) {
-    m_problems.clear();
-    m_problems.push_back(std::move(problem));
-    m_stopped = true;
-    return false;
-}
-
-/// Keys are cut here, since a place is made for each of any number of doubled keys.
-std::string TreeBuilder::PlaceOfKey() const {
-    std::string place;
-    for (const Level& level : m_levels) {
-        place = JoinedPlace(place, level.IsObject ? Shortened(level.Entries[level.Current].first)
-                                                  : std::to_string(level.Items.size()));
-    }
-    return place;
+std::optional<std::size_t> IndexOf(std::string_view digits) {
+    std::size_t index = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, index);
+    return error == std::errc() && stop == end ? std::optional(index) : std::nullopt;
 }
 
 } // namespace
 
-Json BuildJsonTree(std::string_view json, std::vector<Diagnostic>& problems) {
-    return TreeBuilder(json).Build(problems);
+JsonNode JsonNode::Integer(std::int64_t value) {
+    return {std::bit_cast<std::uint64_t>(value), kNowhere, JsonType::Integer};
+}
+
+JsonNode JsonNode::Real(double value) {
+    return {std::bit_cast<std::uint64_t>(value), kNowhere, JsonType::Real};
+}
+
+std::optional<double> JsonNode::Number() const {
+    switch (Type) {
+    case JsonType::Boolean:
+    case JsonType::Natural:
+        return static_cast<double>(Bits);
+    case JsonType::Integer:
+        return static_cast<double>(std::bit_cast<std::int64_t>(Bits));
+    case JsonType::Real:
+        return std::bit_cast<double>(Bits);
+    default:
+        return std::nullopt;
+    }
+}
+
+const JsonNode* JsonGroup::Find(const std::string& key) const {
+    const auto place = m_places.find(key);
+    return place == m_places.end() ? nullptr : &m_entries[place->second].Value;
+}
+
+JsonNode* JsonGroup::Find(const std::string& key) {
+    const auto place = m_places.find(key);
+    return place == m_places.end() ? nullptr : &m_entries[place->second].Value;
+}
+
+std::pair<JsonGroup::Entry*, bool> JsonGroup::FindOrAdd(std::string key) {
+    const auto [place, isNew] = m_places.try_emplace(std::move(key), m_entries.size());
+    if (isNew) {
+        m_entries.push_back({&place->first, {}});
+    }
+    return {&m_entries[place->second], isNew};
+}
+
+void JsonGroup::Remove(const std::string& key) {
+    const auto place = m_places.find(key);
+    if (place == m_places.end()) {
+        return;
+    }
+    const auto index = static_cast<std::ptrdiff_t>(place->second);
+    const auto later = m_entries.erase(m_entries.begin() + index);
+    m_places.erase(place);
+    std::for_each(later, m_entries.end(), [this](const Entry& entry) { --m_places.at(*entry.Key); });
+}
+
+void JsonTree::CountLines(std::string_view json) {
+    for (std::size_t at = json.find('\n'); at != std::string_view::npos; at = json.find('\n', at + 1)) {
+        m_lineEnds.push_back(at);
+    }
+}
+
+std::size_t JsonTree::LineOf(const JsonNode& node) const {
+    if (node.Offset == JsonNode::kNowhere) {
+        return 0;
+    }
+    const auto end = std::lower_bound(m_lineEnds.begin(), m_lineEnds.end(), node.Offset);
+    return static_cast<std::size_t>(end - m_lineEnds.begin()) + 1;
+}
+
+/// A key may hold "/" itself, so that each beginning of the place may be one.
+const JsonNode* JsonTree::Find(const JsonNode& node, std::string_view place) const {
+    constexpr int kMaxCuts = 16;
+    std::size_t cut = 0;
+    for (int i = 0; i < kMaxCuts && cut != std::string_view::npos; ++i) {
+        cut = place.find('/', i == 0 ? 0 : cut + 1);
+        const std::string_view key = place.substr(0, cut);
+        const JsonNode* child = nullptr;
+        if (node.Is(JsonType::Group)) {
+            child = Group(node).Find(std::string(key));
+        } else if (const auto index = IndexOf(key); node.Is(JsonType::List) && index) {
+            child = *index < List(node).size() ? &List(node)[*index] : nullptr;
+        }
+        if (child != nullptr && cut != std::string_view::npos) {
+            child = Find(*child, place.substr(cut + 1));
+        }
+        if (child != nullptr) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+std::optional<std::string> JsonTree::ScalarText(const JsonNode& node) const {
+    switch (node.Type) {
+    case JsonType::Text:
+        return CStringUtil::Utf8ToAnsi(Text(node));
+    case JsonType::Boolean:
+    case JsonType::Natural:
+        return Digits(node.Bits);
+    case JsonType::Integer:
+        return Digits(std::bit_cast<std::int64_t>(node.Bits));
+    case JsonType::Real:
+        return NumberText(std::bit_cast<double>(node.Bits));
+    default:
+        return std::nullopt;
+    }
 }
 
 std::string JoinedPlace(const std::string& place, const std::string& key) {
     return place.empty() ? key : place + '/' + key;
-}
-
-std::string Shown(const Json& value) {
-    return Shortened(value.dump(-1, ' ', false, Json::error_handler_t::replace));
-}
-
-std::optional<std::string> ScalarText(const Json& value) {
-    switch (value.type()) {
-    case Json::value_t::string:
-        return CStringUtil::Utf8ToAnsi(value.get_ref<const std::string&>());
-    case Json::value_t::boolean:
-        return value.get<bool>() ? "1" : "0";
-    case Json::value_t::number_integer:
-        return Digits(value.get<std::int64_t>());
-    case Json::value_t::number_unsigned:
-        return Digits(value.get<std::uint64_t>());
-    case Json::value_t::number_float:
-        return NumberText(value.get<double>());
-    default:
-        return std::nullopt;
-    }
 }
 
 } // namespace penlode

@@ -1,9 +1,11 @@
 #include "penlode/streams/TextForms.h"
 
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <sstream>
 #include <string_view>
@@ -50,18 +52,18 @@ std::string_view CutLastWord(std::string_view& text) {
     return word;
 }
 
-template <class Number> std::string NumberText(Number value) {
-    std::array<char, 32> digits; // the longest shortest-form double takes 24 of it
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    return {digits.data(), end};
-}
-
 /// The whole text as a number; `form` is the base of an integer.
 template <class Number, class... Form> std::optional<Number> NumberOf(std::string_view text, Form... form) {
     Number value{};
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, value, form...);
     return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
+}
+
+/// A pen's width or a font's size.
+std::optional<float> SizeOf(std::string_view text) {
+    const auto size = NumberOf<float>(text);
+    return size && std::isfinite(*size) ? size : std::nullopt;
 }
 
 std::string ColorText(Color color) {
@@ -84,7 +86,7 @@ std::optional<Color> ColorOf(std::string_view text) {
 
 std::string PenText(const Pen& pen) {
     const auto dash = static_cast<std::size_t>(pen.GetDashStyle());
-    return ColorText(pen.GetColor()) + ' ' + NumberText(pen.GetWidth()) + ' ' + std::string(kDashNames[dash]);
+    return ColorText(pen.GetColor()) + ' ' + Digits(pen.GetWidth()) + ' ' + std::string(kDashNames[dash]);
 }
 
 std::optional<DashStyle> DashOf(std::string_view word) {
@@ -98,7 +100,7 @@ std::optional<DashStyle> DashOf(std::string_view word) {
 
 std::optional<Pen> PenOf(std::string_view text) {
     const auto color = ColorOf(CutFirstWord(text));
-    const auto width = NumberOf<float>(CutFirstWord(text));
+    const auto width = SizeOf(CutFirstWord(text));
     const auto dash = DashOf(text);
     return color && width && dash ? std::optional(Pen(*color, *width, *dash)) : std::nullopt;
 }
@@ -109,7 +111,7 @@ std::string FontText(const Font& font) {
     if (text.empty()) {
         text = kGenericFamily;
     }
-    text += ' ' + NumberText(font.Size);
+    text += ' ' + Digits(font.Size);
     for (const auto& [bit, word] : kStyleWords) {
         if (font.Has(bit)) {
             text.append(1, ' ').append(word);
@@ -135,7 +137,7 @@ std::optional<Font> FontOf(std::string_view text) {
         style |= bit;
         word = CutLastWord(text);
     }
-    const auto size = NumberOf<float>(word);
+    const auto size = SizeOf(word);
     if (!size || text.empty()) {
         return std::nullopt;
     }
@@ -151,7 +153,7 @@ template <class Value> bool Take(Value& value, std::optional<Value> parsed) {
 
 template <class Number> bool EvaluateNumber(Number& value, std::string& text, bool toText) {
     if (toText) {
-        text = NumberText(value);
+        text = Digits(value);
         return true;
     }
     return Take(value, NumberOf<Number>(Trimmed(text)));
@@ -211,7 +213,7 @@ bool ser_evaluate(Owned<Font>& value, std::string& text, bool toText) {
 
 bool ser_evaluate_vector(float& value, std::stringstream& stream, bool toText) {
     if (toText) {
-        const std::string text = NumberText(value) + ' ';
+        const std::string text = Digits(value) + ' ';
         stream.write(text.data(), static_cast<std::streamsize>(text.size()));
         return true;
     }

@@ -26,7 +26,8 @@
 ///     nothing    none           no pen, no font
 ///
 /// Every function turns the value into its text when `toText` is true, else the text into the value. A text
-/// that does not parse as a whole, blanks at its ends aside, leaves the value as it was and gives false.
+/// that does not parse as a whole, blanks at its ends aside, leaves the value as it was and gives false; so
+/// does a pen or a font whose size is not finite.
 namespace penlode {
 
 PENLODE_API bool ser_evaluate(std::int32_t& value, std::string& text, bool toText);

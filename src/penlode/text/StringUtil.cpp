@@ -2,6 +2,7 @@
 
 #include "penlode/text/Gb18030.h"
 #include "penlode/text/TextPlacement.h"
+#include "penlode/text/Utf8.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -19,34 +20,13 @@ constexpr bool IsSurrogate(char32_t codePoint) {
     return codePoint >= 0xD800 && codePoint <= 0xDFFF;
 }
 
-/// Bytes that a UTF-8 lead asks for, and what the first of them may be: the limits shut out overlong forms,
-/// surrogates and what lies beyond U+10FFFF. The others are 80-BF.
-struct Utf8Form {
-    std::size_t Continuations = 0;
-    std::uint8_t Low = 0x80;
-    std::uint8_t High = 0xBF;
-};
-
-Utf8Form FormOf(std::uint8_t lead) {
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        return {1};
-    }
-    if (lead >= 0xE0 && lead <= 0xEF) {
-        return {2, std::uint8_t(lead == 0xE0 ? 0xA0 : 0x80), std::uint8_t(lead == 0xED ? 0x9F : 0xBF)};
-    }
-    if (lead >= 0xF0 && lead <= 0xF4) {
-        return {3, std::uint8_t(lead == 0xF0 ? 0x90 : 0x80), std::uint8_t(lead == 0xF4 ? 0x8F : 0xBF)};
-    }
-    return {0};
-}
-
 /// A broken character is replaced as far as it could have been the beginning of a good one.
 DecodedCharacter DecodeUtf8(std::string_view text, std::size_t position) {
     const auto lead = static_cast<std::uint8_t>(text[position]);
     if (IsAscii(lead)) {
         return {lead, 1};
     }
-    Utf8Form form = FormOf(lead);
+    Utf8Form form = Utf8FormOf(lead);
     if (form.Continuations == 0) {
         return {};
     }
@@ -62,28 +42,6 @@ DecodedCharacter DecodeUtf8(std::string_view text, std::size_t position) {
         form.High = 0xBF;
     }
     return {codePoint, form.Continuations + 1};
-}
-
-void AppendUtf8(std::string& text, char32_t codePoint) {
-    const auto add = [&text](char32_t byte) {
-        text.push_back(static_cast<char>(static_cast<std::uint8_t>(byte)));
-    };
-    if (codePoint < 0x80) {
-        add(codePoint);
-        return;
-    }
-    if (codePoint < 0x800) {
-        add(0xC0 | codePoint >> 6);
-    } else {
-        if (codePoint < 0x10000) {
-            add(0xE0 | codePoint >> 12);
-        } else {
-            add(0xF0 | codePoint >> 18);
-            add(0x80 | (codePoint >> 12 & 0x3F));
-        }
-        add(0x80 | (codePoint >> 6 & 0x3F));
-    }
-    add(0x80 | (codePoint & 0x3F));
 }
 
 /// UTF-16 or UTF-32, whichever the platform's wide texts are. Surrogates without their partner are replaced.

@@ -4,7 +4,9 @@
 #include "penlode/text/StringUtil.h"
 #include "support/Texts.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <span>
 
 namespace penlode {
 namespace {
@@ -298,6 +300,10 @@ TEST(JsonSerializeStream, MalformedDocumentsAreOneProblemWithItsPlace) {
         {"{\"a\": -}", "line 1, column 7", "-", "a digit"},
         {"{\"a\": 1.}", "line 1, column 7", "1.", "a digit"},
         {"{\"a\": 01}", "line 1, column 7", "01", "a comma or }"},
+        {"{\"a\": 0.00000001e400000000000000000000}", "line 1, column 7", "0.00000001e400000000000000000000",
+         "a number of at most 1.79e308"},
+        {"{\"a\": [1e-999, -]}", "line 1, column 16", "-", "a digit"},
+        {std::string(20000000, '['), "line 1, column 65", "[", "at most 64 levels of nesting"},
         {"{\"a\": 1e999}", "line 1, column 7", "1e999", "a number of at most 1.79e308"},
         {Nested(65), "line 1, column 321", "{", "at most 64 levels of nesting"},
         {"{\"a\": \"[[\\\"[\", \"b\": " + std::string(64, '['), "line 1, column 84", "[",
@@ -305,15 +311,16 @@ TEST(JsonSerializeStream, MalformedDocumentsAreOneProblemWithItsPlace) {
     };
     for (const Malformed& bad : cases) {
         CJsonSerializeStream stream(bad.Json);
-        EXPECT_TRUE(stream.IsUnreadable()) << bad.Json;
+        EXPECT_TRUE(stream.IsUnreadable()) << bad.Json.substr(0, 100);
         stream.Push("a", -1);
         EXPECT_EQ(LoadText(stream, "a"), "-") << bad.Json;
-        ASSERT_EQ(stream.Problems().size(), 1U) << bad.Json;
+        const std::string shown = bad.Json.substr(0, 100);
+        ASSERT_EQ(stream.Problems().size(), 1U) << shown;
         const Diagnostic& problem = stream.Problems().front();
-        EXPECT_EQ(problem.Kind, Kind::Unreadable) << bad.Json;
-        EXPECT_EQ(problem.Place, bad.Place) << bad.Json;
-        EXPECT_EQ(problem.Found, bad.Found) << bad.Json;
-        EXPECT_EQ(problem.Expected, bad.Expected) << bad.Json;
+        EXPECT_EQ(problem.Kind, Kind::Unreadable) << shown;
+        EXPECT_EQ(problem.Place, bad.Place) << shown;
+        EXPECT_EQ(problem.Found, bad.Found) << shown;
+        EXPECT_EQ(problem.Expected, bad.Expected) << shown;
         EXPECT_EQ(stream.Text(), "{}\n");
     }
 }
@@ -435,6 +442,72 @@ TEST(JsonSerializeStream, GroupsThatCannotBeSavedKeepNothing) {
     value = "kept";
     stream.Ser("b", value, "");
     EXPECT_EQ(stream.Text(), "{\n  \"b\": \"kept\"\n}\n");
+}
+
+TEST(JsonSerializeStream, SavesNumbersAndListsOfGroups) {
+    CJsonSerializeStream stream(R"({"curves": [{"name": "A", "theirs": 1e2, "values": ["1"]}], "csv": "d.csv",
+        "last": true, "lone": {}})");
+    stream.BeginSaving();
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(stream.Push("curves", i));
+        const std::vector<double> values{5.0, -0.1, 1e20, std::nan(""), -0.0, 1e5};
+        stream.SaveNumbers("values", std::span(values).first(i == 0 ? 6 : 1));
+        stream.Pop();
+    }
+    EXPECT_FALSE(stream.Push("curves", 3));
+    stream.Remove("name");
+    stream.Pop();
+    EXPECT_FALSE(stream.Push("lone", 1));
+    stream.Pop();
+    EXPECT_TRUE(stream.Push("lone", 0));
+    stream.Pop();
+    stream.Remove("csv");
+    stream.Remove("csv");
+    std::string text = "x";
+    stream.Ser("last", text, "");
+    EXPECT_EQ(stream.Text(), R"({
+  "curves": [
+    {
+      "name": "A",
+      "theirs": 100.0,
+      "values": [
+        5,
+        -0.1,
+        1e+20,
+        null,
+        -0.0,
+        100000
+      ]
+    },
+    {
+      "values": [
+        5
+      ]
+    }
+  ],
+  "last": "x",
+  "lone": {}
+}
+)");
+}
+
+TEST(JsonSerializeStream, ProblemsStandInTheOrderOfTheDocumentWithTheirLines) {
+    CJsonSerializeStream stream("{\"b\": {},\n\"a/c\": [1,\n{\"d\": \"x\"}],\n\"e\": 2, \"e\": 3}");
+    LoadText(stream, "b");
+    stream.Push("b", -1);
+    LoadText(stream, "missing");
+    stream.Pop();
+    std::vector<Diagnostic> told{Note("b", "a note"), Warning("nowhere", "lost"), Error("a/c/1/d", "x", "y"),
+                                 Error("", "of all")};
+    for (const auto& problems : {stream.Problems(), stream.UnknownKeys()}) {
+        told.insert(told.end(), problems.begin(), problems.end());
+    }
+    stream.PutInOrder(told);
+    std::string order;
+    for (const Diagnostic& diagnostic : told) {
+        order += diagnostic.Place + ":" + std::to_string(diagnostic.Line) + " ";
+    }
+    EXPECT_EQ(order, "b:1 a/c:2 a/c/1/d:3 e:4 e:4 nowhere:0 :0 b:1 b/missing:0 ");
 }
 
 /// Time enough for work that grows with the document, not with its square.

@@ -1,0 +1,98 @@
+#include "penlode/streams/JsonWriter.h"
+
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace penlode {
+namespace {
+
+/// 5 rather than 5.0; null for what JSON has no number for.
+JsonNode NumberNode(double number) {
+    if (!std::isfinite(number)) {
+        return {};
+    }
+    constexpr double kMaxWhole = 1e15;
+    const bool isWhole = number == std::trunc(number) && std::abs(number) < kMaxWhole;
+    const bool isMinusZero = number == 0.0 && std::signbit(number);
+    return isWhole && !isMinusZero ? JsonNode::Integer(static_cast<std::int64_t>(number))
+                                   : JsonNode::Real(number);
+}
+
+} // namespace
+
+bool JsonWriter::Push(const std::string& tag, int index) {
+    const std::size_t levels = (m_open.empty() ? 1 : m_open.back().Levels) + (index < 0 ? 1 : 2);
+    JsonGroup* group = nullptr;
+    // One level is left for a list in the innermost group.
+    if (levels < kMaxLevels && HasPlaceFor(tag, index)) {
+        JsonNode* const entry = Entry(tag);
+        const bool isLone = index < 0 || (index == 0 && entry->Is(JsonType::Group));
+        group = &m_tree.AsGroup(isLone ? *entry : Item(*entry, static_cast<std::size_t>(index)));
+    }
+    m_open.push_back({group, tag, levels});
+    return group != nullptr;
+}
+
+/// A list becomes longer by one group at a time.
+bool JsonWriter::HasPlaceFor(const std::string& tag, int index) const {
+    const JsonGroup* const group = CurrentGroup();
+    if (group == nullptr || index <= 0) {
+        return group != nullptr;
+    }
+    const JsonNode* const entry = group->Find(CStringUtil::AnsiToUtf8(tag));
+    return entry != nullptr && entry->Is(JsonType::List) &&
+           static_cast<std::size_t>(index) <= m_tree.List(*entry).size();
+}
+
+JsonNode& JsonWriter::Item(JsonNode& entry, std::size_t index) {
+    JsonList& items = m_tree.AsList(entry);
+    items.resize(std::max(items.size(), index + 1));
+    return items[index];
+}
+
+void JsonWriter::Pop() {
+    if (!m_open.empty()) {
+        m_open.pop_back();
+    }
+}
+
+void JsonWriter::Save(const std::string& tag, const std::string& text) {
+    if (JsonNode* const entry = Entry(tag)) {
+        m_tree.AsText(*entry) = CStringUtil::AnsiToUtf8(text);
+    }
+}
+
+void JsonWriter::Save(const std::string& tag, const std::vector<std::string>& texts) {
+    if (JsonNode* const entry = Entry(tag)) {
+        JsonList& items = m_tree.AsList(*entry);
+        items.resize(texts.size());
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            m_tree.AsText(items[i]) = CStringUtil::AnsiToUtf8(texts[i]);
+        }
+    }
+}
+
+void JsonWriter::Save(const std::string& tag, std::span<const double> numbers) {
+    if (JsonNode* const entry = Entry(tag)) {
+        JsonList& items = m_tree.AsList(*entry);
+        items.resize(numbers.size());
+        std::transform(numbers.begin(), numbers.end(), items.begin(), NumberNode);
+    }
+}
+
+void JsonWriter::Remove(const std::string& tag) {
+    if (JsonGroup* const group = CurrentGroup()) {
+        group->Remove(CStringUtil::AnsiToUtf8(tag));
+    }
+}
+
+/// The entry of the open group, made if need be; null where nothing is kept.
+JsonNode* JsonWriter::Entry(const std::string& tag) {
+    JsonGroup* const group = CurrentGroup();
+    return group == nullptr ? nullptr : &group->FindOrAdd(CStringUtil::AnsiToUtf8(tag)).first->Value;
+}
+
+} // namespace penlode
