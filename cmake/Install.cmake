@@ -3,7 +3,7 @@
 include(CMakePackageConfigHelpers)
 include(cmake/PublicHeaders.cmake)
 
-install(TARGETS penlode millichart millichart-core EXPORT millichartTargets)
+install(TARGETS penlode millichart millichart-core millichart-documents EXPORT millichartTargets)
 install(
   EXPORT millichartTargets
   NAMESPACE millichart::
@@ -15,8 +15,10 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake
 
 # The file finds its prefix from where it lies, so that an installed tree may be moved.
 file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(packaging/millichart.pc.in millichart.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichart.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(package millichart millichart-documents)
+  configure_file(packaging/${package}.pc.in ${package}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 public_headers(millichart_headers)
 foreach(header IN LISTS millichart_headers)

@@ -1,7 +1,7 @@
 # The headers that a host gets, as paths below src/: each that declares something a library exports, the one that
-# includes them all, and every header that one of these includes.
+# includes them all, that of the documents, and every header that one of these includes.
 function(public_headers result)
-  set(waiting millichart.h)
+  set(waiting millichart.h documents/ChartDocument.h)
   file(GLOB_RECURSE all RELATIVE ${PROJECT_SOURCE_DIR}/src CONFIGURE_DEPENDS src/*.h)
   foreach(header IN LISTS all)
     file(STRINGS src/${header} exported REGEX "^[^/#]*(PENLODE|MILLICHART)_API ")

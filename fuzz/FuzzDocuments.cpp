@@ -1,28 +1,18 @@
-#include "files/UserError.h"
-#include "pages/ChartDocument.h"
+#include "documents/ChartDocument.h"
 #include "pages/Picture.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <new>
+#include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 
-/// A document, and behind a byte 0 a CSV file that replaces its data: loaded as `millichart draw` does, and
-/// drawn as SVG and, if it is small, as PNG.
+/// A document, and behind a byte 0 a CSV file that replaces its data: loaded, drawn as SVG and,
+/// if it is small, as PNG, and saved.
 namespace {
 
-std::string Kept(const char* ending, std::string_view bytes) {
-    const auto name =
-        std::filesystem::temp_directory_path() / ("millichart-fuzz-" + std::to_string(getpid()) + ending);
-    std::ofstream(name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return name.string();
-}
-
-void Draw(const cli::Chart& chart) {
+void Draw(const millichart::LaidOutChart& chart) {
     const penlode::RectF extent = chart.Extent();
     cli::PictureSettings settings;
     settings.Page = {extent.Width + 10.0F, extent.Height + 10.0F};
@@ -42,13 +32,19 @@ void Draw(const cli::Chart& chart) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string_view input(reinterpret_cast<const char*>(bytes), size);
     const std::size_t end = input.find('\0');
-    std::optional<std::string> table;
+    std::optional<millichart::InputText> table;
     if (end != std::string_view::npos) {
-        table = Kept(".csv", input.substr(end + 1));
+        table = millichart::InputText{"table.csv", std::string(input.substr(end + 1))};
     }
-    const cli::ChartDocument document = cli::LoadChartDocument(Kept(".json", input.substr(0, end)), table);
-    if (document.Content != nullptr) {
-        Draw(*document.Content);
+    const auto document =
+        millichart::ChartDocument::FromText(std::string(input.substr(0, end)), "document.json", table);
+    const millichart::LaidOutChart chart = document.LayOut();
+    if (document.IsSound() && !millichart::HasErrors(chart.Diagnostics)) {
+        Draw(chart);
+    }
+    const auto saved = millichart::ChartDocument::FromText(document.Text(), "document.json");
+    if (document.IsSound() && !saved.IsSound()) {
+        std::abort(); // what was saved can be loaded
     }
     return 0;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/Json.h"
+#include "commands/Json.h"
 #include "penlode/recording/RecordingEngine.h"
 
 #include <vector>

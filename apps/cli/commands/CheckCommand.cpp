@@ -1,31 +1,31 @@
 #include "commands/CheckCommand.h"
 
-#include "files/InputFile.h"
-#include "files/OutputFile.h"
+#include "files/Diagnostics.h"
+#include "files/Streams.h"
 #include "files/UserError.h"
-#include "pages/ChartDocument.h"
+#include "pages/LoadedChart.h"
 
 #include <array>
 
 namespace cli {
 namespace {
 
-constexpr std::array kWeights{Severity::Error, Severity::Warning, Severity::Note};
+constexpr std::array kSeverities{Severity::Error, Severity::Warning, Severity::Note};
 
 /// sales.json: 2 errors, 0 warnings, 1 note
-std::string Summary(const std::string& input, const std::vector<Message>& messages) {
+std::string Summary(const std::string& input, const std::vector<Diagnostic>& diagnostics) {
     std::string line = Printable(ShownName(input));
     const char* separator = ": ";
-    for (const Severity weight : kWeights) {
-        line += separator + CountedMessages(messages, weight);
+    for (const Severity severity : kSeverities) {
+        line += separator + CountedDiagnostics(diagnostics, severity);
         separator = ", ";
     }
     return line + "\n";
 }
 
-std::string Lines(const std::vector<Message>& messages) {
+std::string Lines(const std::vector<Diagnostic>& diagnostics) {
     std::string lines;
-    for (const std::string& line : ToLines(messages, true)) {
+    for (const std::string& line : ToLines(diagnostics, true)) {
         lines += line + "\n";
     }
     return lines;
@@ -37,15 +37,15 @@ bool Check(const CheckOptions& options) {
     if (options.Data && options.Inputs.size() > 1) {
         throw UsageError("--data: expected one FILE with it");
     }
-    std::vector<Message> all;
+    std::vector<Diagnostic> all;
     std::string text;
     for (const std::string& input : options.Inputs) {
-        const std::vector<Message> messages = LoadChartDocument(input, options.Data).Messages;
-        text += Lines(messages) + Summary(input, messages);
-        all.insert(all.end(), messages.begin(), messages.end());
+        const std::vector<Diagnostic> found = LoadChart(input, options.Data).Diagnostics;
+        text += Lines(found) + Summary(input, found);
+        all.insert(all.end(), found.begin(), found.end());
     }
     WriteOutput(kStandardStream, options.AsJson ? ToJson(all) : text);
-    return !HasErrors(all);
+    return !millichart::HasErrors(all);
 }
 
 } // namespace cli

@@ -1,7 +1,7 @@
 #include "commands/CommandLine.h"
 
+#include "documents/ChartContent.h"
 #include "files/Console.h"
-#include "kinds/Chart.h"
 #include "penlode/streams/TextForms.h"
 
 #include <CLI/CLI.hpp>
@@ -85,7 +85,8 @@ void AddDraw(CLI::App& app, DrawOptions& options) {
 
 void AddNew(CLI::App& app, NewOptions& options) {
     CLI::App& command = *app.add_subcommand("new", "Write a complete document to start from");
-    command.add_option("KIND", options.Kind, "the kind of chart: " + ChartKindNames())->required();
+    command.add_option("KIND", options.Kind, "the kind of chart: " + millichart::ChartKindNames())
+        ->required();
     command.add_option("-o,--output", options.Output, "the file to write; without it the standard output");
     command.add_flag("--force", options.Force, "write over a file that is there already");
 }

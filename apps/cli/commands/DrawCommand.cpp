@@ -1,13 +1,13 @@
 #include "commands/DrawCommand.h"
 
+#include "commands/Json.h"
 #include "commands/OutputNames.h"
 #include "commands/Progress.h"
 #include "files/Console.h"
-#include "files/InputFile.h"
-#include "files/OutputFile.h"
+#include "files/Streams.h"
 #include "files/UserError.h"
-#include "pages/ChartDocument.h"
 #include "pages/FontReport.h"
+#include "pages/LoadedChart.h"
 
 #include <filesystem>
 #include <new>
@@ -33,10 +33,10 @@ std::string Millimetres(SizeF size) {
            ToJson(static_cast<double>(size.Height)).dump() + " mm";
 }
 
-void TellDocument(const DrawOptions& options, const ChartDocument& document, const std::string& shownName) {
-    TellProblems(document.Messages);
-    if (options.Verbose && document.Content != nullptr) {
-        for (const std::string& face : ReportFonts(*document.Content).Faces) {
+void TellDocument(const DrawOptions& options, const LoadedChart& loaded, const std::string& shownName) {
+    TellProblems(loaded.Diagnostics);
+    if (options.Verbose && loaded.Chart) {
+        for (const std::string& face : ReportFonts(*loaded.Chart).Faces) {
             Tell(shownName + ": " + face);
         }
     }
@@ -48,21 +48,28 @@ SizeF PageOf(const DrawOptions& options, const RectF& extent, const std::string&
         return {extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin};
     }
     if (extent.Width > options.Page->Width || extent.Height > options.Page->Height) {
-        Tell(ToLine({shownName, Severity::Warning, 0, "", "", "",
-                     "the chart of " + Millimetres({extent.Width, extent.Height}) +
-                         " is cut off by the page of " + Millimetres(*options.Page)}));
+        Diagnostic cut = penlode::Warning("", "the chart of " + Millimetres({extent.Width, extent.Height}) +
+                                                  " is cut off by the page of " + Millimetres(*options.Page));
+        cut.File = shownName;
+        Tell(ToLine(cut));
     }
     return *options.Page;
 }
 
+/// With its source.
+std::string DescriptionOf(const millichart::ChartDocument& document) {
+    const bool hasBoth = !document.Description.empty() && !document.Source.empty();
+    return document.Description + (hasBoth ? "\n" : "") + document.Source;
+}
+
 /// The file's bytes.
-std::string Render(const DrawOptions& options, const ChartDocument& document, const std::string& shownName,
+std::string Render(const DrawOptions& options, const LoadedChart& loaded, const std::string& shownName,
                    const OutputName& output) {
-    const RectF extent = document.Content->InkExtent();
+    const RectF extent = loaded.Chart->InkExtent();
     const SizeF page = PageOf(options, extent, shownName);
     const std::unique_ptr<Picture> picture =
-        MakePicture({output.Format, page, options.Dpi, options.Background, document.Title,
-                     document.Description, options.TextAsOutlines});
+        MakePicture({output.Format, page, options.Dpi, options.Background, loaded.Document.Title,
+                     DescriptionOf(loaded.Document), options.TextAsOutlines});
     if (picture == nullptr) {
         throw UserError(ShownOutput(output.Name),
                         "the picture would be too large, expected fewer dots per inch or a smaller page");
@@ -70,7 +77,7 @@ std::string Render(const DrawOptions& options, const ChartDocument& document, co
     const penlode::PointF corner{(page.Width - extent.Width) / 2.0F, (page.Height - extent.Height) / 2.0F};
     picture->Engine().TranslateTransform(corner.X - extent.X, corner.Y - extent.Y,
                                          penlode::MatrixOrder::Prepend);
-    document.Content->Draw(picture->Engine());
+    loaded.Chart->Draw(picture->Engine());
     std::string bytes = picture->Finish();
     if (bytes.empty()) {
         throw UserError(ShownOutput(output.Name), "the picture was lost, there may be too little memory");
@@ -81,17 +88,17 @@ std::string Render(const DrawOptions& options, const ChartDocument& document, co
 /// False when the document cannot be drawn, which has been told then.
 bool DrawOne(const DrawOptions& options, const std::string& input, std::set<std::string>& drawn) {
     const std::string shownName = ShownName(input);
-    const ChartDocument document = LoadChartDocument(input, options.Data);
-    TellDocument(options, document, shownName);
-    if (document.Content == nullptr) {
+    const LoadedChart loaded = LoadChart(input, options.Data);
+    TellDocument(options, loaded, shownName);
+    if (!loaded.Chart) {
         return false;
     }
     const OutputName output = OutputOf(options, input);
-    RefuseToOverwrite(output.Name, shownName, options, document.DataFiles);
+    RefuseToOverwrite(output.Name, shownName, options, loaded.Document.DataFiles());
     if (output.Name != kStandardStream && !drawn.insert(CanonicalName(output.Name)).second) {
         throw UserError(shownName, output.Name + " is already the picture of another input");
     }
-    WriteOutput(output.Name, Render(options, document, shownName, output));
+    WriteOutput(output.Name, Render(options, loaded, shownName, output));
     return true;
 }
 

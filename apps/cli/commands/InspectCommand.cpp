@@ -1,10 +1,10 @@
 #include "commands/InspectCommand.h"
 
 #include "commands/CallsToJson.h"
+#include "commands/LayoutToJson.h"
 #include "files/Console.h"
-#include "files/InputFile.h"
-#include "files/OutputFile.h"
-#include "pages/ChartDocument.h"
+#include "files/Streams.h"
+#include "pages/LoadedChart.h"
 
 namespace cli {
 namespace {
@@ -15,17 +15,17 @@ constexpr int kLevels = 2;
 } // namespace
 
 bool Inspect(const InspectOptions& options) {
-    const ChartDocument document = LoadChartDocument(options.Input, options.Data);
-    TellProblems(document.Messages);
-    if (document.Content == nullptr) {
+    const LoadedChart loaded = LoadChart(options.Input, options.Data);
+    TellProblems(loaded.Diagnostics);
+    if (!loaded.Chart) {
         return false;
     }
     penlode::CRecordingEngine recorder;
-    document.Content->Draw(recorder);
+    loaded.Chart->Draw(recorder);
     const Json inspected{{"file", ShownName(options.Input)},
-                         {"kind", document.Kind},
-                         {"extent", ToJson(document.Content->InkExtent())},
-                         {"layout", document.Content->Layout()},
+                         {"kind", millichart::KindOf(loaded.Document.Content)->Name},
+                         {"extent", ToJson(loaded.Chart->InkExtent())},
+                         {"layout", LayoutToJson(*loaded.Chart)},
                          {"calls", CallsToJson(recorder.Calls())}};
     WriteOutput(kStandardStream, Printed(inspected, kLevels));
     return true;

@@ -1,7 +1,6 @@
 #include "commands/OutputNames.h"
 
-#include "files/InputFile.h"
-#include "files/OutputFile.h"
+#include "files/Streams.h"
 #include "files/System.h"
 #include "files/UserError.h"
 
@@ -96,6 +95,9 @@ void RefuseToOverwrite(const std::string& output, const std::string& shownInput,
     }
     std::vector<std::string> read = options.Inputs;
     read.insert(read.end(), dataFiles.begin(), dataFiles.end());
+    if (options.Data) {
+        read.push_back(*options.Data);
+    }
     for (const std::string& file : read) {
         if (file != kStandardStream && fs::equivalent(file, output, error)) {
             throw UserError(shownInput, "its picture would take the place of " + file);

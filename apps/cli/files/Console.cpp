@@ -16,8 +16,8 @@ void Tell(const std::string& message) {
     std::cerr << "millichart: " << Printable(message) << '\n';
 }
 
-void TellProblems(const std::vector<Message>& messages) {
-    for (const std::string& line : ToLines(messages, false)) {
+void TellProblems(const std::vector<Diagnostic>& diagnostics) {
+    for (const std::string& line : ToLines(diagnostics, false)) {
         Tell(line);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/Message.h"
+#include "files/Diagnostics.h"
 
 #include <string>
 #include <vector>
@@ -11,7 +11,7 @@ namespace cli {
 void Tell(const std::string& message);
 
 /// Errors and warnings, not too many; notes are left out.
-void TellProblems(const std::vector<Message>& messages);
+void TellProblems(const std::vector<Diagnostic>& diagnostics);
 
 /// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
 void ShowPassingLine(const std::string& line);

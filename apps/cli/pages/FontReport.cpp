@@ -28,7 +28,7 @@ std::string FaceMessage(const std::wstring& family) {
 
 } // namespace
 
-FontReport ReportFonts(const Chart& chart) {
+FontReport ReportFonts(const millichart::LaidOutChart& chart) {
     std::map<std::wstring, std::wstring> missingByFamily;
     chart.VisitTexts([&](const millichart::ChartText& text) {
         if (text.Font != nullptr) {

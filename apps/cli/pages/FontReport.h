@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kinds/Chart.h"
+#include "documents/ChartDocument.h"
 
 #include <string>
 #include <vector>
@@ -13,6 +13,6 @@ struct FontReport {
     std::vector<std::string> Warnings; ///< characters that no installed face has
 };
 
-FontReport ReportFonts(const Chart& chart);
+FontReport ReportFonts(const millichart::LaidOutChart& chart);
 
 } // namespace cli

@@ -1,6 +1,4 @@
 #include "penlode/cairo/PangoText.h"
-
-#include "penlode/cairo/PangoText.h"
 #include "penlode/text/FontFace.h"
 #include "penlode/text/TextPlacement.h"
 

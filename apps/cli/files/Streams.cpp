@@ -1,0 +1,43 @@
+#include "files/Streams.h"
+
+#include "files/System.h"
+#include "files/UserError.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <optional>
+
+namespace cli {
+
+std::string ShownName(const std::string& name) {
+    return name == kStandardStream ? "standard input" : name;
+}
+
+std::string ShownOutput(const std::string& name) {
+    return name == kStandardStream ? "standard output" : name;
+}
+
+millichart::InputText ReadInput(const std::string& name) {
+    return name == kStandardStream ? millichart::ReadStream(std::cin, ShownName(name))
+                                   : millichart::ReadFile(name);
+}
+
+void WriteOutput(const std::string& name, std::string_view bytes) {
+    std::string fault;
+    if (name == kStandardStream) {
+        const bool written =
+            std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
+        fault = written ? "" : std::string("cannot be written: ") + std::strerror(errno);
+    } else {
+        std::optional<UnfinishedFile> unfinished;
+        fault = millichart::WriteFile(name, bytes,
+                                      [&unfinished](const std::string& part) { unfinished.emplace(part); });
+    }
+    if (!fault.empty()) {
+        throw UserError(ShownOutput(name), fault);
+    }
+}
+
+} // namespace cli

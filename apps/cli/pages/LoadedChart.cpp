@@ -1,0 +1,65 @@
+#include "pages/LoadedChart.h"
+
+#include "files/Streams.h"
+#include "files/UserError.h"
+#include "pages/FontReport.h"
+
+#include <new>
+#include <utility>
+
+namespace cli {
+namespace {
+
+penlode::Diagnostic Fault(const std::string& file, const std::string& text) {
+    penlode::Diagnostic fault = penlode::Error("", text);
+    fault.File = file;
+    return fault;
+}
+
+/// What the layout found, in the order of what the load found.
+void LayOut(LoadedChart& loaded) {
+    loaded.Chart = std::move(loaded.Document).LayOut();
+    std::vector<penlode::Diagnostic> found = loaded.Chart->Diagnostics;
+    if (millichart::HasErrors(found)) {
+        loaded.Chart.reset();
+    } else {
+        for (const std::string& warning : ReportFonts(*loaded.Chart).Warnings) {
+            found.push_back(penlode::Warning("", warning));
+        }
+    }
+    if (!found.empty()) {
+        loaded.Diagnostics.insert(loaded.Diagnostics.end(), found.begin(), found.end());
+        loaded.Document.PutInOrder(loaded.Diagnostics);
+    }
+}
+
+LoadedChart Load(const std::string& input, const std::optional<std::string>& data) {
+    millichart::InputText text = ReadInput(input);
+    LoadedChart loaded;
+    if (!text.Fault.empty()) {
+        loaded.Diagnostics = {Fault(text.Name, text.Fault)};
+        return loaded;
+    }
+    loaded.Document = millichart::ChartDocument::FromText(std::move(text.Text), text.Name,
+                                                          data ? std::optional(ReadInput(*data))
+                                                               : std::optional<millichart::InputText>());
+    loaded.Diagnostics = loaded.Document.Diagnostics();
+    if (loaded.Document.IsSound()) {
+        LayOut(loaded);
+    }
+    return loaded;
+}
+
+} // namespace
+
+LoadedChart LoadChart(const std::string& input, const std::optional<std::string>& data) {
+    try {
+        return Load(input, data);
+    } catch (const std::bad_alloc&) {
+        LoadedChart none;
+        none.Diagnostics = {Fault(ShownName(input), kTooLittleMemory)};
+        return none;
+    }
+}
+
+} // namespace cli

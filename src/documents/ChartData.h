@@ -1,0 +1,52 @@
+#pragma once
+
+#include "charts/curve/CurveProp.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// The data of chart documents. Texts are narrow.
+namespace millichart {
+
+/// Where data that were read from a table stand in it, which diagnostics of their values tell.
+struct TableOrigin {
+    std::string File;                 ///< as diagnostics call it; empty for data that stand in the document
+    std::vector<std::uint32_t> Lines; ///< a row each, from 1
+
+    friend bool operator==(const TableOrigin&, const TableOrigin&) = default;
+};
+
+/// The slices of a pie or half pie: a number each, 0 or more.
+struct SliceData {
+    std::vector<std::string> Names; ///< those of a table; they show where the record has none
+    std::vector<double> Values;
+
+    friend bool operator==(const SliceData&, const SliceData&) = default;
+};
+
+/// The bars of a chart: a list a group, a number a component. NaN is a gap, and equals one here.
+struct BarData {
+    std::vector<std::string> GroupNames;     ///< one a group, or none
+    std::vector<std::string> ComponentNames; ///< of a table's heading; they show where the record has none
+    std::vector<std::vector<double>> Values;
+    TableOrigin Origin; ///< a line a group
+
+    /// Bars of the largest group, or names if there are more.
+    std::size_t Components() const;
+
+    friend bool operator==(const BarData& a, const BarData& b);
+};
+
+/// The curves of a chart: a list a curve of values and of the times at which they are. kCurveNull is a gap.
+struct CurveData {
+    std::vector<std::string> CurveNames; ///< one a curve, or none; they show where the record has none
+    std::vector<std::vector<double>> Values;
+    std::vector<std::vector<std::int32_t>> Times;
+    std::vector<std::string> Labels; ///< of the horizontal axis; without any there are numbers of times
+    TableOrigin Origin;              ///< a line a time
+
+    friend bool operator==(const CurveData&, const CurveData&) = default;
+};
+
+} // namespace millichart

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "charts/curve/BasicCurve.h"
+#include "charts/histogram/BasicHistogram.h"
+#include "charts/pie/BasicHalfPie.h"
+#include "charts/pie/BasicHalfPieHalfPie.h"
+#include "charts/pie/BasicHalfPieHistogram.h"
+#include "charts/pie/BasicPie.h"
+#include "documents/ChartContent.h"
+#include "documents/Files.h"
+#include "penlode/streams/Diagnostic.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace millichart {
+
+/// A chart as its document has it laid out.
+struct LaidOutChart {
+    std::variant<std::monostate, CBasicPie, CBasicHalfPie, CBasicHalfPieHalfPie, CBasicHalfPieHistogram,
+                 CBasicHistogram, CBasicCurve>
+        Chart;
+    /// Why it cannot be drawn, or what was hardly meant.
+    std::vector<penlode::Diagnostic> Diagnostics;
+
+    /// In mm, where the document's location puts it; empty when there is no chart.
+    penlode::RectF Extent() const;
+    /// The same with the texts that reach out of it.
+    penlode::RectF InkExtent() const;
+    /// The texts as they would be drawn now, in their order.
+    void VisitTexts(const TextVisitor& visit) const;
+    void Draw(penlode::IGraphicsEngine& engine) const;
+};
+
+/// A chart document in the format of docs/document-format.md: a value that is loaded, changed at will, laid
+/// out and saved.
+///
+///     ChartDocument document = ChartDocument::Load("sales.chart.json");
+///     if (auto* pie = std::get_if<PieDocument>(&document.Content)) {
+///         pie->Data.Values.front() = 50.0;
+///     }
+///     document.LayOut().Draw(engine);
+///     document.Save("sales.chart.json");
+///
+/// A document that is saved holds what it held when it was loaded, unknown keys and the order of keys
+/// included, but for what was changed since. Data of a table stay there, and the document goes on naming it,
+/// until they are changed.
+class ChartDocument {
+public:
+    /// An empty one, of no kind. A new one of a kind: ChartDocument::FromText(FindChartKind("pie")->Template)
+    ChartDocument() = default;
+
+    /// Whatever is wrong with it is among the diagnostics, a file that cannot be read too.
+    static ChartDocument Load(const std::string& file);
+
+    /// `text` is UTF-8. A table that the document names is looked for beside `file`; without one, in the
+    /// current folder. `table` takes the place of the document's own data, names included.
+    static ChartDocument FromText(std::string text, const std::string& file = {},
+                                  std::optional<InputText> table = std::nullopt);
+
+    std::string Title; ///< UTF-8, like the description and the source
+    std::string Description;
+    std::string Source;
+    penlode::PointF Location; ///< mm
+    ChartContent Content;     ///< none when the kind was not told
+
+    /// Of the load, in the document's order, notes last: there is a note for each key that is missing.
+    const std::vector<penlode::Diagnostic>& Diagnostics() const;
+    /// Was there no error in the load? A document with errors has defaults in the place of what is wrong.
+    bool IsSound() const;
+    /// The tables that were read.
+    const std::vector<std::string>& DataFiles() const;
+    /// Gives diagnostics about the document its name and the lines of their places, and sorts all into its
+    /// order.
+    void PutInOrder(std::vector<penlode::Diagnostic>& diagnostics) const;
+
+    /// The second one leaves no data in the document, which spares a large one's copy.
+    LaidOutChart LayOut() const&;
+    LaidOutChart LayOut() &&;
+
+    /// The document's text.
+    std::string Text() const;
+    /// Writes it aside and then gives it the file's name, so that a failure leaves what was there before.
+    /// Gives the reason of one, as in "cannot be written: No space left on device", or an empty text.
+    std::string Save(const std::string& file) const;
+
+private:
+    struct Loaded;
+
+    LaidOutChart LayOutAndSpend();
+
+    std::shared_ptr<const Loaded> m_loaded;
+    bool m_hasOtherData = false; ///< than those that it was loaded with
+};
+
+bool HasErrors(const std::vector<penlode::Diagnostic>& diagnostics);
+
+} // namespace millichart

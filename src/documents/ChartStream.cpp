@@ -1,0 +1,81 @@
+#include "documents/ChartStream.h"
+
+#include "foundation/SerializeFrame.h"
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+
+namespace millichart::documents {
+namespace {
+
+constexpr const char* kSeparator = "||";
+
+} // namespace
+
+/// Gives the place of the key.
+std::string ChartStream::Ask(const std::string& tag) {
+    const std::string key = penlode::CStringUtil::AnsiToUtf8(tag);
+    std::vector<std::string>& keys = m_asked[m_places.back()];
+    if (std::find(keys.begin(), keys.end(), key) == keys.end()) {
+        keys.push_back(key);
+    }
+    return PlaceOf(tag);
+}
+
+std::string ChartStream::PlaceOf(const std::string& tag) const {
+    const std::string key = penlode::CStringUtil::AnsiToUtf8(tag);
+    return m_places.back().empty() ? key : m_places.back() + "/" + key;
+}
+
+void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
+                      const std::vector<std::string>& defaults) {
+    const std::string place = Ask(tag);
+    if (!m_json.Has(tag)) {
+        m_missing.insert(place);
+    }
+    const auto replaced = m_defaultLists.find(tag);
+    m_json.Ser(tag, values, replaced == m_defaultLists.end() ? defaults : replaced->second);
+}
+
+std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
+    Ask(tag);
+    return m_json.LoadNumbersAndGaps(tag);
+}
+
+void ChartStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
+    if (const std::string place = Ask(tag); !m_json.Has(tag)) {
+        m_missing.insert(place);
+    }
+    if (m_joinedTags.contains(tag) && m_json.IsList(tag)) {
+        value = JoinedList(tag);
+    } else {
+        m_json.Ser(tag, value, defaultValue);
+    }
+}
+
+std::string ChartStream::JoinedList(const std::string& tag) {
+    std::vector<std::string> texts;
+    m_json.Ser(tag, texts, {});
+    std::string joined;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (millichart::SplitJoinedTexts(texts[i] + kSeparator) != std::vector{texts[i]}) {
+            Refuse(tag + "/" + std::to_string(i), texts[i], "a text without || and without | at its end");
+        }
+        joined += texts[i] + kSeparator;
+    }
+    return joined;
+}
+
+bool ChartStream::Push(const std::string& tag, int index) {
+    m_places.push_back(Ask(tag));
+    return m_json.Push(tag, index);
+}
+
+void ChartStream::Pop() {
+    if (m_places.size() > 1) {
+        m_places.pop_back();
+    }
+    m_json.Pop();
+}
+
+} // namespace millichart::documents

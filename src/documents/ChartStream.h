@@ -1,0 +1,91 @@
+#pragma once
+
+#include "penlode/streams/JsonSerializeStream.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace millichart::documents {
+
+/// Loads a chart document: the keyed stream, and the short forms that people write, which
+/// the records' own serializers do not know. It remembers which keys
+/// were asked for, to guess what an unknown key was meant to be.
+class ChartStream final : public penlode::CSerializeStream {
+public:
+    explicit ChartStream(penlode::CJsonSerializeStream& json) : m_json(json) {}
+
+    /// From here on the text under this tag may be a list of texts, which are joined as the record expects.
+    void AllowList(const std::string& tag) { m_joinedTags.insert(tag); }
+
+    /// The list that is loaded where this tag is missing.
+    void SetDefaultList(const std::string& tag, std::vector<std::string> texts) {
+        m_defaultLists[tag] = std::move(texts);
+    }
+
+    /// The places of the texts and lists that were asked for and not there, as in
+    /// "property/PieBasicProp/ComponentColor".
+    const std::set<std::string>& Missing() const { return m_missing; }
+
+    /// Is there an entry of this tag? Either way it is a key that may stand here.
+    bool Has(const std::string& tag) {
+        Ask(tag);
+        return m_json.Has(tag);
+    }
+
+    /// Keys joined by "/".
+    std::string PlaceOf(const std::string& tag) const;
+
+    bool IsList(const std::string& tag) const { return m_json.IsList(tag); }
+
+    /// How many groups there are to push in a list of them; 0 for what is no list.
+    std::size_t CountGroups(const std::string& tag) {
+        Ask(tag);
+        return m_json.CountGroups(tag);
+    }
+
+    /// Numbers, and NaN for each null or empty text.
+    std::vector<double> LoadNumbersAndGaps(const std::string& tag);
+
+    /// The keys that were asked for, UTF-8, by the place of their group.
+    const std::map<std::string, std::vector<std::string>>& AskedKeys() const { return m_asked; }
+
+    using CSerializeStream::Ser;
+    void Ser(const std::string& tag, std::vector<std::string>& values,
+             const std::vector<std::string>& defaults) override;
+    void Ser(const std::string& tag, std::string& value, const std::string& defaultValue) override;
+
+    int GetSize() override { return m_json.GetSize(); }
+
+    bool Push(const std::string& tag, int index) override;
+
+    bool Push(const char* tag, int index) override { return Push(std::string(tag), index); }
+
+    void Pop() override;
+
+    bool IsSaving() const override { return false; }
+
+    std::string GetTag() override { return m_json.GetTag(); }
+
+    void* GetObjectCreator() override { return nullptr; }
+
+    std::string GetFullFileName() override { return m_json.GetFullFileName(); }
+
+    void Refuse(const std::string& tag, const std::string& found, const std::string& expected) override {
+        m_json.Refuse(tag, found, expected);
+    }
+
+private:
+    std::string Ask(const std::string& tag);
+    std::string JoinedList(const std::string& tag);
+
+    penlode::CJsonSerializeStream& m_json;
+    std::set<std::string> m_joinedTags;
+    std::map<std::string, std::vector<std::string>> m_defaultLists;
+    std::set<std::string> m_missing; ///< places
+    std::map<std::string, std::vector<std::string>> m_asked;
+    std::vector<std::string> m_places{""};
+};
+
+} // namespace millichart::documents

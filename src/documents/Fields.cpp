@@ -1,0 +1,129 @@
+#include "documents/Fields.h"
+
+#include "penlode/streams/TextForms.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace millichart::documents {
+namespace {
+
+using penlode::CSerializeStream;
+using penlode::PointF;
+
+constexpr const char* kPointForm = "a point such as \"12.5 40\"";
+
+template <class T> std::string TextOf(T value) {
+    std::string text;
+    penlode::ser_evaluate(value, text, true);
+    return text;
+}
+
+std::string ItemKey(const std::string& key, std::size_t index) {
+    return key + "/" + std::to_string(index);
+}
+
+template <class T> bool Parse(const std::string& text, T& value) {
+    std::string form = text;
+    return penlode::ser_evaluate(value, form, false) && std::isfinite(value);
+}
+
+bool IsFar(PointF point) {
+    return std::abs(point.X) > kMaxPoint || std::abs(point.Y) > kMaxPoint;
+}
+
+bool ParsePoint(const std::string& text, PointF& point) {
+    const std::size_t blank = text.find(' ');
+    PointF read;
+    if (blank == std::string::npos || !Parse(text.substr(0, blank), read.X) ||
+        !Parse(text.substr(blank + 1), read.Y)) {
+        return false;
+    }
+    point = read;
+    return true;
+}
+
+void RefuseFarPoint(CSerializeStream& stream, const std::string& key, PointF point) {
+    if (IsFar(point)) {
+        stream.Refuse(key, "a point far away", "a point at most 1000000 mm away");
+    }
+}
+
+template <class T>
+std::vector<T> LoadList(CSerializeStream& stream, const std::string& key,
+                        bool (*parse)(const std::string&, T&), const char* form, T unread) {
+    std::vector<std::string> texts;
+    stream.Ser(key, texts, {});
+    std::vector<T> values(texts.size(), unread);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (!parse(texts[i], values[i])) {
+            stream.Refuse(ItemKey(key, i), texts[i], form);
+        }
+    }
+    return values;
+}
+
+} // namespace
+
+std::string LoadText(CSerializeStream& stream, const char* key, const std::string& defaultText) {
+    std::string text;
+    stream.Ser(key, text, defaultText);
+    return text;
+}
+
+double LoadNumber(CSerializeStream& stream, const char* key, double defaultNumber) {
+    const std::string text = LoadText(stream, key, TextOf(defaultNumber));
+    double number = defaultNumber;
+    if (!ParseNumber(text, number)) {
+        stream.Refuse(key, text, penlode::kFloatForm);
+    }
+    return number;
+}
+
+PointF LoadPoint(CSerializeStream& stream, const char* key) {
+    const std::string text = LoadText(stream, key, "0 0");
+    PointF point;
+    if (!ParsePoint(text, point)) {
+        stream.Refuse(key, text, kPointForm);
+    }
+    RefuseFarPoint(stream, key, point);
+    return point;
+}
+
+std::vector<PointF> LoadPoints(CSerializeStream& stream, const char* key) {
+    const std::vector<PointF> points = LoadList<PointF>(stream, key, ParsePoint, kPointForm, {});
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        RefuseFarPoint(stream, ItemKey(key, i), points[i]);
+    }
+    return points;
+}
+
+std::vector<double> LoadNumbers(CSerializeStream& stream, const char* key, double unread) {
+    return LoadList<double>(stream, key, ParseNumber, penlode::kFloatForm, unread);
+}
+
+std::string NumberText(double number) {
+    constexpr double kMaxWhole = 1e15;
+    if (number == std::trunc(number) && std::abs(number) < kMaxWhole) {
+        return std::to_string(static_cast<std::int64_t>(number));
+    }
+    return TextOf(number);
+}
+
+std::string NumberText(float number) {
+    return TextOf(number);
+}
+
+bool ParseNumber(const std::string& text, double& number) {
+    return Parse(text, number);
+}
+
+std::string PointText(PointF point) {
+    return TextOf(point.X) + " " + TextOf(point.Y);
+}
+
+std::string Counted(std::size_t count, const std::string& noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+} // namespace millichart::documents

@@ -1,0 +1,51 @@
+#include "documents/Palette.h"
+
+#include "penlode/streams/TextForms.h"
+
+#include <array>
+
+namespace millichart::documents {
+namespace {
+
+using penlode::Color;
+
+constexpr std::array<Color, 10> kHues{{{0xFF3B6FB6U},
+                                       {0xFFE58A3CU},
+                                       {0xFF57A168U},
+                                       {0xFFC9504EU},
+                                       {0xFF8568B3U},
+                                       {0xFF8F6E5AU},
+                                       {0xFFD47FB0U},
+                                       {0xFF8A8F98U},
+                                       {0xFFBDB23FU},
+                                       {0xFF3FA9BCU}}};
+
+constexpr std::uint32_t kPalerRounds = 3;
+
+/// A quarter nearer to white each round.
+Color Paler(Color color, std::uint32_t round) {
+    const auto raised = [round](std::uint32_t channel) { return channel + (255U - channel) * round / 4U; };
+    return Color::FromArgb(color.A(), raised(color.R()), raised(color.G()), raised(color.B()));
+}
+
+} // namespace
+
+std::vector<Color> PaletteColors(std::size_t count) {
+    std::vector<Color> colors;
+    colors.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto round = static_cast<std::uint32_t>(i / kHues.size()) % kPalerRounds;
+        colors.push_back(Paler(kHues[i % kHues.size()], round));
+    }
+    return colors;
+}
+
+std::vector<std::string> PaletteTexts() {
+    std::vector<std::string> texts;
+    for (Color hue : kHues) {
+        penlode::ser_evaluate(hue, texts.emplace_back(), true);
+    }
+    return texts;
+}
+
+} // namespace millichart::documents

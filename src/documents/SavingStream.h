@@ -1,0 +1,87 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+#include "penlode/streams/JsonSerializeStream.h"
+
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace millichart::documents {
+
+/// A hash of what each place of a document holds.
+using PlaceHashes = std::map<std::string, std::size_t>;
+
+/// Takes what a document would save: either notes a hash of each place, or writes the places that changed,
+/// and nothing else, into the document as it was loaded.
+class SavingStream final : public penlode::CSerializeStream {
+public:
+    explicit SavingStream(PlaceHashes& hashes) : m_hashes(&hashes) {}
+
+    /// `loaded` was noted of the document when it was loaded.
+    SavingStream(const PlaceHashes& loaded, const std::set<std::string>& changed,
+                 penlode::CJsonSerializeStream& json)
+        : m_loaded(&loaded), m_changed(&changed), m_json(&json) {}
+
+    using CSerializeStream::Ser;
+    void Ser(const std::string& tag, std::vector<std::string>& values,
+             const std::vector<std::string>& defaults) override;
+    void Ser(const std::string& tag, std::string& value, const std::string& defaultValue) override;
+
+    void Text(const std::string& tag, std::string text) { Ser(tag, text, {}); }
+
+    /// NaN is null.
+    void Numbers(const std::string& tag, const std::vector<double>& numbers);
+
+    void Points(const std::string& tag, const std::vector<penlode::PointF>& points);
+
+    /// Announces a list of groups, to be pushed by their index.
+    void Groups(const std::string& tag, std::size_t count);
+
+    /// There is nothing under this tag.
+    void Remove(const std::string& tag);
+
+    /// In the place of a table that the document names under `csv` come what it gave, under these tags of the
+    /// current group, once any of it has changed.
+    void ReplaceTable(const std::string& csv, const std::vector<std::string>& tags);
+
+    int GetSize() override { return 0; }
+
+    bool Push(const std::string& tag, int index) override;
+
+    bool Push(const char* tag, int index) override { return Push(std::string(tag), index); }
+
+    void Pop() override { m_groups.pop_back(); }
+
+    bool IsSaving() const override { return true; }
+
+    std::string GetTag() override { return m_groups.empty() ? std::string() : m_groups.back().Tag; }
+
+    void* GetObjectCreator() override { return nullptr; }
+
+    std::string GetFullFileName() override { return {}; }
+
+private:
+    struct Group {
+        std::string Tag;
+        int Index;
+        std::string Place;
+    };
+
+    std::string PlaceOf(const std::string& tag) const;
+    bool IsChanged(const std::string& place) const;
+    /// Calls `write` in the current group of the document.
+    template <class Write> void InGroup(const Write& write);
+    template <class Write> void Take(const std::string& tag, std::size_t hash, const Write& write);
+
+    PlaceHashes* m_hashes = nullptr;
+    const PlaceHashes* m_loaded = nullptr;
+    const std::set<std::string>* m_changed = nullptr;
+    penlode::CJsonSerializeStream* m_json = nullptr;
+    std::vector<Group> m_groups;
+    std::vector<std::string> m_rewritten; ///< places that are written with all that is in them
+};
+
+} // namespace millichart::documents

@@ -1,0 +1,282 @@
+#include "documents/Table.h"
+
+#include "documents/Csv.h"
+#include "documents/Fields.h"
+#include "penlode/streams/JsonFault.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <utility>
+
+namespace millichart::documents {
+namespace {
+
+using penlode::CStringUtil;
+using penlode::Diagnostic;
+using Heading = TableForm::Heading;
+
+/// As spreadsheet programs of many languages write numbers.
+bool HasDecimalComma(std::string cell) {
+    std::replace(cell.begin(), cell.end(), ',', '.');
+    double number = 0.0;
+    return ParseNumber(cell, number);
+}
+
+bool IsNumber(const std::string& cell) {
+    double number = 0.0;
+    return ParseNumber(cell, number);
+}
+
+/// A word over a column, and no malformed or missing number? "nan" and "inf" are numbers too, if not ones to
+/// draw.
+bool IsWord(const std::string& cell) {
+    double number = 0.0;
+    std::string text = cell;
+    return !cell.empty() && cell.find_first_of("0123456789") == std::string::npos &&
+           !penlode::ser_evaluate(number, text, false);
+}
+
+/// The whole cell, without any blanks: most are plain numbers, for which this is enough.
+template <class Number> bool ParsePlain(const std::string& cell, Number& number) {
+    const char* const end = cell.data() + cell.size();
+    const auto [parsed, error] = std::from_chars(cell.data(), end, number);
+    return error == std::errc() && parsed == end;
+}
+
+class TableReader {
+public:
+    TableReader(const InputText& input, const TableForm& form) : m_input(input), m_form(form) {}
+
+    void Read() {
+        if (!m_input.Fault.empty()) {
+            Tell(penlode::Error("", m_input.Fault));
+            return;
+        }
+        if (!IsUtf8(m_input.Text)) {
+            Tell(penlode::Error("", "another encoding",
+                                "UTF-8; a spreadsheet program calls it \"CSV UTF-8\""));
+            return;
+        }
+        CsvReader reader(m_input.Text);
+        for (CsvRow row; reader.Next(row) && !m_isOver;) {
+            ReadRow(row);
+        }
+        CheckQuotes(reader);
+        CheckRows();
+        if (m_table.Heading.empty() && m_width > 0) {
+            m_table.EmptyColumns = m_width - std::max(m_filled, std::size_t{1});
+        }
+    }
+
+    Table& Result() { return m_table; }
+
+    std::vector<Diagnostic>& Diagnostics() { return m_diagnostics; }
+
+private:
+    void ReadRow(const CsvRow& row) {
+        const bool isFirst = std::exchange(m_isFirst, false);
+        std::int32_t time = 0;
+        const bool isTime = m_form.HasTimes && ParsePlain(row.Cells.front(), time);
+        const bool isHeading = isFirst && IsHeading(row, isTime);
+        if (m_width == 0) {
+            // In a heading nothing stands over columns that a spreadsheet program added.
+            m_width = m_form.Width != 0 ? m_form.Width : isHeading ? FilledCells(row) : row.Cells.size();
+            m_table.Columns.resize(m_width - 1);
+            MakeRoom();
+        }
+        const bool mayBeShort = m_form.Gap && row.Cells.size() <= m_width;
+        if (isHeading && m_form.Width == 0) {
+            TakeHeading(row);
+        } else if ((mayBeShort || HasWidth(row, m_width, m_form.WidthForm)) && !isHeading) {
+            m_filled = std::max(m_filled, FilledCells(row));
+            TakeFirstCell(row, isTime, time);
+            TakeNumbers(row, isFirst && m_form.HeadedBy == Heading::OverNumber);
+        }
+    }
+
+    bool IsHeading(const CsvRow& row, bool isTime) const {
+        switch (m_form.HeadedBy) {
+        case Heading::OverNumber:
+            return row.Cells.size() > 1 && IsWord(row.Cells[1]);
+        case Heading::OverTime:
+            return !isTime;
+        default:
+            return true;
+        }
+    }
+
+    /// With a separator or a line break behind each cell, a row takes as many bytes at least; and lines may
+    /// be blank. Not so many that room for them is a waste.
+    void MakeRoom() {
+        constexpr std::size_t kMax = std::size_t{1} << 22U;
+        const std::string& text = m_input.Text;
+        const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+        const std::size_t rows = std::min({lines, text.size() / m_width + 1, kMax});
+        m_table.Times.reserve(m_form.HasTimes ? rows : 0);
+        m_table.Lines.reserve(rows);
+        for (std::vector<double>& numbers : m_table.Columns) {
+            numbers.reserve(rows);
+        }
+    }
+
+    void TakeHeading(const CsvRow& row) {
+        for (std::size_t column = 1; column < m_width; ++column) {
+            m_table.Heading.push_back(CStringUtil::Utf8ToAnsi(row.Cells[column]));
+        }
+        if (m_form.HeadingForm != nullptr && m_width < 2) {
+            HasWidth(row, 2, m_form.HeadingForm);
+            m_isOver = true;
+        } else if (m_form.HeadingNames != nullptr) {
+            DoubtHeading(row);
+        }
+    }
+
+    /// A heading whose cells are numbers alone may have been meant for data, unless nothing stands over the
+    /// first column.
+    void DoubtHeading(const CsvRow& row) {
+        const auto end = row.Cells.begin() + static_cast<std::ptrdiff_t>(FilledCells(row));
+        if (!row.Cells.front().empty() && std::all_of(row.Cells.begin() + 1, end, IsNumber)) {
+            Diagnostic doubt =
+                penlode::Warning("", std::string("taken as the heading with ") + m_form.HeadingNames +
+                                         ", though they are numbers; with an empty first cell it is no doubt "
+                                         "one");
+            doubt.Line = row.Line;
+            doubt.File = m_input.Name;
+            m_diagnostics.push_back(std::move(doubt));
+        }
+    }
+
+    /// Empty cells beyond the width, as spreadsheet programs write them, do not count.
+    bool HasWidth(const CsvRow& row, std::size_t width, const std::string& expected) {
+        const std::size_t cells = std::max(FilledCells(row), std::min(row.Cells.size(), width));
+        if (cells != width) {
+            TellAt(row, penlode::Error("", Counted(cells, "cell"), expected));
+        }
+        return cells == width;
+    }
+
+    void TakeFirstCell(const CsvRow& row, bool isTime, std::int32_t time) {
+        const std::string& cell = row.Cells.front();
+        const bool isFirst = m_table.Lines.empty();
+        m_hasTimes = isFirst ? isTime : m_hasTimes;
+        if (m_form.HasTimes && !isTime && (IsNumber(cell) || (isFirst && cell.empty()))) {
+            RefuseCell(row, 0, "a time, which is a whole number within 32 bits, or a text as a label");
+        } else if (m_hasTimes && !isTime) {
+            RefuseCell(row, 0, "a whole number, as in the rows above");
+        }
+        if (!m_hasTimes) {
+            m_table.Names.push_back(CStringUtil::Utf8ToAnsi(cell));
+            time = static_cast<std::int32_t>(m_table.Lines.size());
+        }
+        if (m_form.HasTimes) {
+            m_table.Times.push_back(time);
+        }
+        m_table.Lines.push_back(static_cast<std::uint32_t>(row.Line));
+    }
+
+    void TakeNumbers(const CsvRow& row, bool mayBeHeading) {
+        for (std::size_t column = 1; column < m_width; ++column) {
+            const bool isEmpty = column >= row.Cells.size() || row.Cells[column].empty();
+            const bool isGap = m_form.Gap && isEmpty;
+            m_table.Columns[column - 1].push_back(isGap ? *m_form.Gap : NumberIn(row, column, mayBeHeading));
+        }
+    }
+
+    double NumberIn(const CsvRow& row, std::size_t column, bool mayBeHeading) {
+        const std::string& cell = row.Cells[column];
+        double number = 0.0;
+        if (!(ParsePlain(cell, number) && std::isfinite(number)) && !ParseNumber(cell, number)) {
+            const std::string expected =
+                mayBeHeading ? "a number, or a heading without digits" : penlode::kFloatForm;
+            RefuseCell(row, column, expected + (HasDecimalComma(cell) ? ", with a decimal point" : ""));
+        } else if (m_form.IsPositive && number < 0.0) {
+            RefuseCell(row, column, "0 or more");
+        }
+        return number;
+    }
+
+    /// An open quote swallows the rest, so that what was read is not what was meant.
+    void CheckQuotes(const CsvReader& reader) {
+        if (reader.OpenQuote() != 0) {
+            m_diagnostics.clear();
+            m_told = 0;
+            Tell(penlode::Error("", "a quote that never closes", "a closing quote"));
+            m_diagnostics.back().Line = reader.OpenQuote();
+        }
+    }
+
+    void CheckRows() {
+        const std::size_t rows = m_table.Lines.size();
+        const bool isEmpty = rows == 0 || m_table.Columns.empty();
+        const bool mayBeEmpty = m_form.HeadingForm != nullptr && !m_isFirst;
+        if (isEmpty && !mayBeEmpty && m_told == 0) {
+            Tell(penlode::Error("", m_form.NoRows, m_form.RowsForm));
+        }
+        if (rows > m_form.MaxRows && m_told == 0) {
+            Tell(penlode::Error("", Counted(rows, "row"), m_form.MaxRowsForm));
+        }
+        if (rows > m_form.MaxRows) {
+            m_table = {};
+        }
+    }
+
+    void RefuseCell(const CsvRow& row, std::size_t column, const std::string& expected) {
+        const std::string& cell = row.Cells[column];
+        const std::string shown = IsNumber(cell) ? cell
+                                  : cell.empty() ? "nothing"
+                                                 : '"' + penlode::Shortened(cell) + '"';
+        TellAt(row, penlode::Error(ColumnPlace(column), shown, expected));
+    }
+
+    void TellAt(const CsvRow& row, Diagnostic fault) {
+        fault.Line = row.Line;
+        Tell(std::move(fault));
+    }
+
+    /// One stands for all those that are not kept.
+    void Tell(Diagnostic fault) {
+        fault.File = m_input.Name;
+        if (++m_told <= kMaxKept) {
+            m_diagnostics.push_back(std::move(fault));
+            return;
+        }
+        if (m_told > kMaxKept + 1) {
+            m_diagnostics.pop_back();
+        }
+        fault = penlode::Error("", "and " + std::to_string(m_told - kMaxKept) + " more, which are not told");
+        fault.File = m_input.Name;
+        fault.IsRest = true;
+        m_diagnostics.push_back(std::move(fault));
+    }
+
+    const InputText& m_input;
+    const TableForm& m_form;
+    Table m_table;
+    std::vector<Diagnostic> m_diagnostics;
+    std::size_t m_told = 0; ///< errors
+    std::size_t m_width = 0;
+    std::size_t m_filled = 0; ///< cells of the row with most, up to its last text
+    bool m_isFirst = true;
+    bool m_isOver = false;
+    bool m_hasTimes = false;
+};
+
+} // namespace
+
+Table ReadTable(const InputText& input, const TableForm& form,
+                std::vector<penlode::Diagnostic>& diagnostics) {
+    TableReader reader(input, form);
+    reader.Read();
+    diagnostics.insert(diagnostics.end(), reader.Diagnostics().begin(), reader.Diagnostics().end());
+    reader.Result().File = input.Name;
+    return std::move(reader.Result());
+}
+
+std::string ColumnPlace(std::size_t column) {
+    return "column " + std::to_string(column + 1);
+}
+
+} // namespace millichart::documents

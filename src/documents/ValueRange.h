@@ -1,0 +1,91 @@
+#pragma once
+
+#include "documents/ChartContent.h"
+#include "documents/ChartStream.h"
+#include "documents/SavingStream.h"
+#include "penlode/streams/Diagnostic.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The range of a value axis as a document gives it in its group "range", by the library's own words:
+///
+///     "range": {"InitializeValueRange": 37}
+///     "range": {"NaturalValueRange": [0, 40, 10, 2]}
+///     "range": {"LogarithmValueRange": [1, 1000]}
+namespace millichart::documents {
+
+/// Beyond it in either direction an axis cannot tell values apart, nor place them.
+inline constexpr double kMaxValue = 1e300;
+
+/// Refuses what is not one sound range of the chart's scale.
+ValueRange LoadValueRange(ChartStream& stream, bool isLogarithmic,
+                          std::vector<penlode::Diagnostic>& diagnostics);
+
+/// The range of a chart that always finds its axis's range from a largest value.
+std::optional<double> LoadLargestValue(ChartStream& stream, std::vector<penlode::Diagnostic>& diagnostics);
+
+void SaveValueRange(SavingStream& stream, const ValueRange& range);
+
+template <class Chart> void SetValueRange(Chart& chart, const ValueRange& range, double largest) {
+    if (const auto& natural = range.Natural) {
+        chart.SetNaturalValueRange((*natural)[0], (*natural)[1], (*natural)[2], (*natural)[3]);
+    } else if (const auto& logarithm = range.Logarithm) {
+        chart.SetLogarithmValueRange((*logarithm)[0], (*logarithm)[1]);
+    } else {
+        chart.InitializeValueRange(range.Largest.value_or(largest));
+    }
+}
+
+/// An error for each extent of the plot of a bar or line chart that is not above 0. `place` is its record's.
+std::vector<penlode::Diagnostic> PlotSizeFaults(const std::string& place, float width, float height);
+
+/// Looks for values that a value axis does not hold, one after the other.
+class RangeDoubts {
+public:
+    template <class Chart> RangeDoubts(const Chart& chart, bool isLogarithmic) {
+        double step = 0.0;
+        if (isLogarithmic) {
+            chart.GetLogarithmValueRange(m_min, m_max);
+        } else {
+            chart.GetNaturalValueRange(m_min, m_max, step, step);
+        }
+    }
+
+    /// `locate` gives a diagnostic of the value's file, line and place; it is called for the first one that
+    /// does not fit, and for the first one that no axis could hold.
+    template <class Locate> void Look(double value, const Locate& locate) {
+        if (value < m_min || value > m_max) {
+            m_first = m_outside == 0 ? locate() : m_first;
+            ++m_outside;
+        }
+        if (value < -kMaxValue || value > kMaxValue) {
+            m_firstHuge = m_huge == 0 ? locate() : m_firstHuge;
+            ++m_huge;
+        }
+    }
+
+    /// Adds nothing, a warning, or an error.
+    void AddTo(std::vector<penlode::Diagnostic>& diagnostics) const;
+
+    /// Where in the range a value stands, 0 being its minimum and 1 its maximum.
+    double PartOf(double value) const { return (value - m_min) / (m_max - m_min); }
+
+    /// "the value axis, which goes from 0 to 50"
+    std::string Axis() const;
+
+private:
+    double m_min = 0.0;
+    double m_max = 0.0;
+    std::size_t m_outside = 0;
+    penlode::Diagnostic m_first;
+    std::size_t m_huge = 0;
+    penlode::Diagnostic m_firstHuge;
+};
+
+/// Of the value in a column of a row of the table, or else at that place in the document.
+penlode::Diagnostic AtValue(const TableOrigin& origin, std::size_t row, std::size_t column,
+                            const std::string& place);
+
+} // namespace millichart::documents

@@ -1,0 +1,219 @@
+#include "documents/ChartDocument.h"
+
+#include "penlode/svg/SvgEngine.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace millichart;
+
+std::string Drawn(const ChartDocument& document) {
+    penlode::CSvgEngine engine({200.0F, 200.0F}, {});
+    document.LayOut().Draw(engine);
+    return engine.Text();
+}
+
+/// Documents of all kinds.
+std::vector<ChartDocument> AllDocuments() {
+    std::vector<ChartDocument> documents;
+    for (const ChartKind& kind : ChartKinds()) {
+        documents.push_back(ChartDocument::FromText(std::string(kind.Template)));
+    }
+    for (const auto& entry : std::filesystem::directory_iterator(MILLICHART_EXAMPLES)) {
+        if (entry.path().extension() == ".json") {
+            documents.push_back(ChartDocument::Load(entry.path().string()));
+        }
+    }
+    return documents;
+}
+
+ChartDocument Loaded(const std::string& text) {
+    return ChartDocument::FromText(text, "t.json");
+}
+
+std::string Told(const std::vector<penlode::Diagnostic>& diagnostics) {
+    std::string told;
+    for (const penlode::Diagnostic& diagnostic : diagnostics) {
+        if (diagnostic.Severity != penlode::Severity::Note) {
+            told += diagnostic.Place + ": " + diagnostic.Text + "\n";
+        }
+    }
+    return told;
+}
+
+std::string Told(const ChartDocument& document) {
+    return Told(document.Diagnostics());
+}
+
+bool Holds(const ChartDocument& document, const std::string& text) {
+    return document.Text().find(text) != std::string::npos;
+}
+
+/// A folder that goes with the test.
+class InFolder : public testing::Test {
+protected:
+    InFolder() : m_folder(testing::TempDir() + "millichart-documents") {
+        std::filesystem::create_directories(m_folder);
+    }
+
+    ~InFolder() override { std::filesystem::remove_all(m_folder); }
+
+    std::string Name(const std::string& file) const { return m_folder + "/" + file; }
+
+    void Write(const std::string& file, const std::string& text) const {
+        std::ofstream(Name(file), std::ios::binary) << text;
+    }
+
+private:
+    std::string m_folder;
+};
+
+} // namespace
+
+TEST(ChartDocument, SavedAgainIsTheSameModelAndPicture) {
+    const std::vector<ChartDocument> documents = AllDocuments();
+    ASSERT_GT(documents.size(), 30U);
+    for (const ChartDocument& document : documents) {
+        ASSERT_TRUE(document.IsSound()) << document.Title;
+        const ChartDocument again =
+            ChartDocument::FromText(document.Text(), MILLICHART_EXAMPLES "/saved.chart.json");
+        EXPECT_TRUE(again.Content == document.Content) << document.Title;
+        EXPECT_EQ(again.Title, document.Title);
+        EXPECT_EQ(again.Location, document.Location);
+        EXPECT_EQ(again.Text(), document.Text());
+        EXPECT_EQ(Drawn(again), Drawn(document)) << document.Title;
+    }
+}
+
+TEST(ChartDocument, OfEveryKindIsWrittenInFullWhenItIsNew) {
+    for (const ChartKind& kind : ChartKinds()) {
+        const ChartDocument loaded = ChartDocument::FromText(std::string(kind.Template));
+        ChartDocument fresh;
+        fresh.Title = loaded.Title;
+        fresh.Location = {3.0F, -4.5F};
+        fresh.Content = loaded.Content;
+        const ChartDocument again = ChartDocument::FromText(fresh.Text());
+        EXPECT_EQ(Told(again), "") << kind.Name;
+        EXPECT_EQ(again.Location, fresh.Location);
+        EXPECT_TRUE(again.Content == fresh.Content) << kind.Name;
+    }
+}
+
+TEST(ChartDocument, SavesWhatWasChangedAndKeepsTheRest) {
+    ChartDocument document = Loaded(R"({"mine": [1], "kind": "pie", "data": {"values": [1, 2], "note": "n"},
+        "property": {"PieBasicProp": {"FixedWidth": "4e1", "ComponentName": ["A", "B"], "x": {"y": 1}}}})");
+    auto& pie = std::get<PieDocument>(document.Content);
+    const PieDocument was = pie;
+    const std::string before = document.Text();
+    pie.Data.Values[1] = 2.5;
+    pie.Prop.Basic.ComponentColor[1] = penlode::kBlack;
+    pie.Prop.Basic.StartAngle = 90.0F;
+    for (const char* kept : {"\"mine\": [", "\"note\"", "\"4e1\"", "\"ComponentName\": [", "\"x\": {"}) {
+        EXPECT_TRUE(Holds(document, kept)) << kept;
+    }
+    EXPECT_TRUE(Holds(document, "\"StartAngle\": \"90\""));
+    EXPECT_FALSE(Holds(document, "PieStyle")) << "it was not there";
+    EXPECT_TRUE(Loaded(document.Text()).Content == document.Content);
+    EXPECT_LT(document.Text().find("\"mine\""), document.Text().find("\"kind\""));
+    pie = was;
+    EXPECT_EQ(document.Text(), before) << "changed back is not changed";
+}
+
+TEST(ChartDocument, WhatItLeavesOpenFollowsTheData) {
+    ChartDocument document = Loaded(R"({"kind": "pie", "data": {"values": [1]},
+        "property": {"PieBasicProp": {"FixedSize": 1}}})");
+    auto& pie = std::get<PieDocument>(document.Content);
+    pie.Data.Values.assign(12, 1.0);
+    const LaidOutChart chart = document.LayOut();
+    EXPECT_EQ(std::get<CBasicPie>(chart.Chart).GetPieProp().Basic.ComponentColor.size(), 12U);
+    EXPECT_EQ(Told(chart.Diagnostics), "");
+    pie.Prop.Basic.ComponentColor = {penlode::kBlack};
+    EXPECT_EQ(Told(document.LayOut().Diagnostics),
+              "property/PieBasicProp/ComponentColor: found 1 colour, expected 12, one a value\n");
+}
+
+TEST(ChartDocument, GroupsComeAndGo) {
+    ChartDocument document = Loaded(R"({"kind": "histogram", "range": {"InitializeValueRange": 9}, "data":
+        {"groups": [{"name": "a", "values": [1, null, 3], "mine": 1}, {"name": "b", "values": [4]}]}})");
+    auto& bars = std::get<HistogramDocument>(document.Content);
+    bars.Data.Values.push_back({5.0, 6.0});
+    bars.Data.GroupNames.push_back("c");
+    bars.Range.Largest = 20.0;
+    EXPECT_TRUE(Loaded(document.Text()).Content == document.Content);
+    EXPECT_TRUE(Holds(document, "\"mine\""));
+    bars.Data.Values.resize(1);
+    bars.Data.GroupNames.clear();
+    bars.Range = {};
+    EXPECT_TRUE(Loaded(document.Text()).Content == document.Content) << document.Text();
+}
+
+TEST_F(InFolder, DataOfATableStayThereUntilTheyAreChanged) {
+    Write("d.csv", "name,value\nNorth,1\nSouth,2\n");
+    Write("t.json", R"({"kind": "pie", "data": {"csv": "d.csv"}})");
+    ChartDocument document = ChartDocument::Load(Name("t.json"));
+    ASSERT_EQ(Told(document), "");
+    document.Title = "T";
+    EXPECT_EQ(document.Save(Name("t.json")), "");
+    EXPECT_EQ(ChartDocument::Load(Name("t.json")).DataFiles(), std::vector<std::string>{Name("d.csv")});
+    std::get<PieDocument>(document.Content).Data.Values[0] = 7.0;
+    EXPECT_EQ(document.Save(Name("t.json")), "");
+    const ChartDocument again = ChartDocument::Load(Name("t.json"));
+    EXPECT_EQ(again.Title, "T");
+    EXPECT_TRUE(again.DataFiles().empty());
+    const auto& pie = std::get<PieDocument>(again.Content);
+    EXPECT_EQ(pie.Data.Values, (std::vector{7.0, 2.0}));
+    EXPECT_EQ(pie.Prop.Basic.ComponentName, (std::vector<std::string>{"North", "South"}));
+}
+
+TEST_F(InFolder, ChangedCurvesTakeThePlaceOfTheirTable) {
+    Write("d.csv", "year,a,b\n2001,1,\n2002,3,4\n2003,200,6\n");
+    Write("t.json",
+          R"({"kind": "curve", "data": {"csv": "d.csv"}, "range": {"NaturalValueRange": [0, 10, 5, 1]}})");
+    ChartDocument document = ChartDocument::Load(Name("t.json"));
+    ASSERT_EQ(Told(document), "");
+    std::vector<penlode::Diagnostic> doubts = document.LayOut().Diagnostics;
+    ASSERT_EQ(doubts.size(), 1U);
+    EXPECT_EQ(doubts[0].File + ", " + doubts[0].Place, Name("d.csv") + ", column 2");
+    EXPECT_EQ(doubts[0].Line, 4U);
+    auto& curves = std::get<CurveDocument>(document.Content);
+    curves.Data.Values[1][2] = kCurveNull;
+    doubts = document.LayOut().Diagnostics;
+    ASSERT_EQ(doubts.size(), 1U);
+    EXPECT_EQ(doubts[0].File + doubts[0].Place, "data/curves/0/values/2") << "it is in no table any more";
+    const ChartDocument again = Loaded(document.Text());
+    const auto& data = std::get<CurveDocument>(again.Content).Data;
+    EXPECT_EQ(data.Values, curves.Data.Values);
+    EXPECT_EQ(data.Times, curves.Data.Times);
+    EXPECT_EQ(data.CurveNames, curves.Data.CurveNames);
+    EXPECT_EQ(Drawn(again), Drawn(document));
+}
+
+TEST(ChartDocument, ATableInThePlaceOfItsDataIsSavedWithIt) {
+    const ChartDocument document =
+        ChartDocument::FromText(R"({"kind": "pie", "data": {"values": [1]},
+        "property": {"PieBasicProp": {"ComponentName": ["mine"]}}})",
+                                "t.json", InputText{"d.csv", "theirs,1\nothers,2\n"});
+    const ChartDocument again = Loaded(document.Text());
+    const auto& pie = std::get<PieDocument>(again.Content);
+    EXPECT_EQ(pie.Data.Values, (std::vector{1.0, 2.0}));
+    EXPECT_EQ(pie.Prop.Basic.ComponentName, (std::vector<std::string>{"theirs", "others"}));
+}
+
+TEST_F(InFolder, WhatIsWrongIsToldAndNothingThrown) {
+    const ChartDocument none = ChartDocument::Load(Name("none.json"));
+    EXPECT_FALSE(none.IsSound());
+    EXPECT_EQ(Told(none), ": cannot be read: No such file or directory\n");
+    EXPECT_EQ(none.LayOut().Extent(), penlode::RectF());
+    const ChartDocument broken = Loaded("{\"kind\": ");
+    EXPECT_FALSE(broken.IsSound());
+    EXPECT_EQ(broken.Text(), "{\"kind\": ") << "what could not be read is not lost";
+    EXPECT_EQ(Loaded("{}").Save(Name("no/such/folder")), "cannot be written: No such file or directory");
+    const ChartDocument wrong =
+        Loaded(R"({"kind": "pie", "property": {"PieBasicProp": {"FixedWidth": "wide"}},
+        "data": {"values": [1]}})");
+    EXPECT_EQ(Told(wrong), "property/PieBasicProp/FixedWidth: found \"wide\", expected a number\n");
+    EXPECT_TRUE(Holds(wrong, "\"wide\""));
+}
