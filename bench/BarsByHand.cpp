@@ -26,7 +26,7 @@ struct Rect {
     unsigned Color;
 };
 
-struct Figure {
+struct Drawing {
     std::vector<Line> Lines;
     std::vector<Rect> Rects;
     std::vector<Text> Texts;
@@ -43,7 +43,7 @@ double HeightOf(const Bars& bars, double value) {
     return bars.Top + bars.Height * (1.0 - value / bars.Largest);
 }
 
-void PlaceValueAxis(const Bars& bars, const Typesetter& set, Figure& figure) {
+void PlaceValueAxis(const Bars& bars, const Typesetter& set, Drawing& figure) {
     const double x = bars.Left;
     for (double value = 0.0; value <= bars.Largest; value += bars.Step) {
         const double y = HeightOf(bars, value);
@@ -59,7 +59,7 @@ void PlaceValueAxis(const Bars& bars, const Typesetter& set, Figure& figure) {
     }
 }
 
-void PlaceGroupAxis(const Bars& bars, const Typesetter& set, Figure& figure) {
+void PlaceGroupAxis(const Bars& bars, const Typesetter& set, Drawing& figure) {
     const double bottom = bars.Top + bars.Height;
     const double slot = bars.Width / static_cast<double>(bars.Values.size());
     for (std::size_t i = 0; i < bars.GroupNames.size(); ++i) {
@@ -73,7 +73,7 @@ void PlaceGroupAxis(const Bars& bars, const Typesetter& set, Figure& figure) {
     }
 }
 
-void PlaceBars(const Bars& bars, const Typesetter& set, Figure& figure) {
+void PlaceBars(const Bars& bars, const Typesetter& set, Drawing& figure) {
     const double slot = bars.Width / static_cast<double>(bars.Values.size());
     const double width = (slot - bars.Gap) / static_cast<double>(bars.Names.size());
     for (std::size_t group = 0; group < bars.Values.size(); ++group) {
@@ -89,7 +89,7 @@ void PlaceBars(const Bars& bars, const Typesetter& set, Figure& figure) {
     }
 }
 
-void PlaceEdge(const Bars& bars, Figure& figure) {
+void PlaceEdge(const Bars& bars, Drawing& figure) {
     const double right = bars.Left + bars.Width;
     const double bottom = bars.Top + bars.Height;
     figure.Lines.push_back({bars.Left, bars.Top, right, bars.Top});
@@ -98,8 +98,8 @@ void PlaceEdge(const Bars& bars, Figure& figure) {
     figure.Lines.push_back({bars.Left, bottom, bars.Left, bars.Top});
 }
 
-Figure LaidOut(const Bars& bars, const Typesetter& set) {
-    Figure figure;
+Drawing LaidOut(const Bars& bars, const Typesetter& set) {
+    Drawing figure;
     PlaceEdge(bars, figure);
     PlaceValueAxis(bars, set, figure);
     PlaceGroupAxis(bars, set, figure);
@@ -117,7 +117,7 @@ std::string BarsPng(const Bars& bars, double dpi) {
                           static_cast<int>(bars.PageHeight * scale));
     cairo_t* c = picture.Context.get();
     cairo_scale(c, scale, scale);
-    const Figure figure = LaidOut(bars, Typesetter(bars.Family, bars.FontSize));
+    const Drawing figure = LaidOut(bars, Typesetter(bars.Family, bars.FontSize));
     SetColor(c, 0);
     cairo_set_line_width(c, kLineWidth);
     for (const Line& line : figure.Lines) {
@@ -140,7 +140,7 @@ std::string BarsPng(const Bars& bars, double dpi) {
 
 std::string BarsSvg(const Bars& bars) {
     const Typesetter set(bars.Family, bars.FontSize);
-    const Figure figure = LaidOut(bars, set);
+    const Drawing figure = LaidOut(bars, set);
     std::string out;
     PrintHead(out, bars.PageWidth, bars.PageHeight);
     Print(out, "<path stroke=\"#000\" stroke-width=\"%.3f\" d=\"", kLineWidth);

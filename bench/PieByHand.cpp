@@ -17,7 +17,7 @@ struct Slice {
     Text Label;
 };
 
-struct Figure {
+struct Drawing {
     std::vector<Slice> Slices;
     Legend Names;
 };
@@ -36,8 +36,8 @@ Text PlacedLabel(const Pie& pie, std::string content, double angle, const Typese
     return label;
 }
 
-Figure LaidOut(const Pie& pie, const Typesetter& set) {
-    Figure figure;
+Drawing LaidOut(const Pie& pie, const Typesetter& set) {
+    Drawing figure;
     const double total = std::accumulate(pie.Values.begin(), pie.Values.end(), 0.0);
     double angle = std::numbers::pi;
     for (std::size_t i = 0; i < pie.Values.size(); ++i) {
@@ -80,7 +80,7 @@ std::string PiePng(const Pie& pie, double dpi) {
     cairo_t* c = picture.Context.get();
     cairo_scale(c, scale, scale);
     cairo_set_line_width(c, 0.2);
-    const Figure figure = LaidOut(pie, Typesetter(pie.Family, pie.FontSize));
+    const Drawing figure = LaidOut(pie, Typesetter(pie.Family, pie.FontSize));
     for (const Slice& slice : figure.Slices) {
         DrawSlice(c, pie, slice);
     }
@@ -93,7 +93,7 @@ std::string PiePng(const Pie& pie, double dpi) {
 
 std::string PieSvg(const Pie& pie) {
     const Typesetter set(pie.Family, pie.FontSize);
-    const Figure figure = LaidOut(pie, set);
+    const Drawing figure = LaidOut(pie, set);
     std::string out;
     PrintHead(out, pie.PageWidth, pie.PageHeight);
     for (const Slice& slice : figure.Slices) {

@@ -35,8 +35,8 @@ struct TextOwner {
     friend bool operator==(const TextOwner&, const TextOwner&) = default;
 };
 
-/// A text as a chart draws it now, in mm of the page. Its pointers lead into the chart's record and are good
-/// until the chart changes.
+/// A text as a chart draws it now, in mm of the page. Its pointers lead into the chart and are good until
+/// that changes or moves.
 struct ChartText {
     TextOwner Owner;
     std::wstring Text;                      ///< may be empty

@@ -21,7 +21,7 @@ inline constexpr EnumName kLegendPosNames[] = {
 template <> inline constexpr bool kIsStoredLast<TextProperty> = true;
 
 template <class Fields> void Describe(Fields& record, TextProperty& prop) {
-    // The font's key has always been this word; documents depend on it.
+    // Documents hold the font under this word.
     record.Field(penlode::CStringUtil::WideToAnsiString(L"字体"), prop.Font);
     record.Field("TextColor", prop.TextColor, penlode::kBlack);
     record.Field("EdgeColor", prop.EdgeColor, penlode::kBlack);

@@ -1,6 +1,6 @@
 #include "foundation/TextPropertyOperation.h"
 
-#include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/Finite.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -90,6 +90,27 @@ void DrawHeld(IGraphicsEngine* engine, const std::string& text, const TextProper
     }
 }
 
+/// A container in the units outside. The surface comes back as it was found, even when memory runs out.
+class Container {
+public:
+    explicit Container(IGraphicsEngine& engine) : m_engine(engine) {
+        const float scale = engine.GetPageScale();
+        const penlode::Unit unit = engine.GetPageUnit();
+        m_handle = engine.BeginContainer();
+        engine.SetPageScale(scale);
+        engine.SetPageUnit(unit);
+    }
+
+    ~Container() { m_engine.EndContainer(m_handle); }
+
+    Container(const Container&) = delete;
+    Container& operator=(const Container&) = delete;
+
+private:
+    IGraphicsEngine& m_engine;
+    std::uint32_t m_handle;
+};
+
 void Write(IGraphicsEngine& engine, const ChartText& text, penlode::Color color) {
     const penlode::SolidBrush brush{color};
     engine.DrawString(text.Text.c_str(), -1, text.Font, text.Layout, &kCenteredFormat, &brush);
@@ -125,16 +146,11 @@ void CTextPropertyOperation::Draw(IGraphicsEngine& engine, const ChartText& text
         Write(engine, text, penlode::kBlack);
         return;
     }
-    const float scale = engine.GetPageScale();
-    const penlode::Unit unit = engine.GetPageUnit();
-    const std::uint32_t container = engine.BeginContainer();
-    engine.SetPageScale(scale);
-    engine.SetPageUnit(unit);
+    const Container container(engine);
     engine.TranslateTransform(text.Origin.X, text.Origin.Y, penlode::MatrixOrder::Prepend);
     engine.RotateTransform(-static_cast<float>(text.Property->Angle), penlode::MatrixOrder::Prepend);
     DrawBox(engine, *text.Property, {text.Layout.X, text.Layout.Y, text.Size.Width, text.Size.Height});
     Write(engine, text, text.Property->TextColor);
-    engine.EndContainer(container);
 }
 
 TextVisitor CTextPropertyOperation::DrawingOn(IGraphicsEngine& engine) {

@@ -35,10 +35,10 @@ struct CurveLayout : CartesianLayout {
 ///     chart.Layout();
 ///     chart.Draw(&engine);
 ///
-/// Setters only store; Layout computes every point from what is stored; Draw, the shapes and
-/// the texts show the last layout with the record's present looks and the present labels. Copies share the
-/// value axis and nothing else. Lists may be shorter than they should be: what is missing is not drawn, or
-/// looks as CurvePlotProp says.
+/// Setters only store; Layout computes every point from what is stored; Draw, the shapes and the texts show
+/// the last layout with the record's present looks and the present labels. Copies share the value axis and
+/// nothing else. Lists may be shorter than they should be: what is missing is not drawn, or looks as
+/// CurvePlotProp says.
 class MILLICHART_API CBasicCurve : public CCartesianChart {
 public:
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`

@@ -75,7 +75,11 @@ void CBasicPie::Draw(IGraphicsEngine* engine) const {
     if (engine == nullptr) {
         return;
     }
-    DrawSlices(*engine, GetShapes());
+    if (m_prop.Basic.PieStyle == PieStyle::Flat) {
+        DrawPie2D(engine);
+    } else if (m_prop.Basic.PieStyle == PieStyle::WithDepth) {
+        DrawPie3D(engine);
+    }
     VisitLabels(m_prop.Label, CTextPropertyOperation::DrawingOn(*engine));
     CLegendOperation::Draw(engine, m_prop.Legend, m_prop.Basic.ComponentName, m_prop.Basic.ComponentColor,
                            m_layout.LegendItemRects);

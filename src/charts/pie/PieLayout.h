@@ -50,10 +50,11 @@ struct PieSlice {
 
 /// The slices of a pie as they are drawn, in mm of the page.
 struct PieShapes {
-    penlode::RectF Face;                   ///< the ellipse that the slices are parts of
-    float Depth = 0.0F;                    ///< how far the walls reach down; 0 for a flat pie
-    const penlode::Pen* Outline = nullptr; ///< in the chart's record; null: no slice is outlined
-    std::vector<PieSlice> Slices;          ///< one a value; none when there is nothing to draw
+    penlode::RectF Face; ///< the ellipse that the slices are parts of
+    float Depth = 0.0F;  ///< how far the walls reach down; 0 for a flat pie
+    const penlode::Pen* Outline =
+        nullptr;                  ///< in the chart, until that changes or moves; null: no slice is outlined
+    std::vector<PieSlice> Slices; ///< one a value; none when there is nothing to draw
 };
 
 } // namespace millichart
