@@ -43,37 +43,37 @@ double HeightOf(const Bars& bars, double value) {
     return bars.Top + bars.Height * (1.0 - value / bars.Largest);
 }
 
-void PlaceValueAxis(const Bars& bars, const Typesetter& set, Drawing& figure) {
+void PlaceValueAxis(const Bars& bars, const Typesetter& set, Drawing& drawing) {
     const double x = bars.Left;
     for (double value = 0.0; value <= bars.Largest; value += bars.Step) {
         const double y = HeightOf(bars, value);
-        figure.Lines.push_back({x - kMajorTick, y, x, y});
-        figure.Lines.push_back({x, y, x + bars.Width, y});
+        drawing.Lines.push_back({x - kMajorTick, y, x, y});
+        drawing.Lines.push_back({x, y, x + bars.Width, y});
         Text label = set.Set(WholeNumber(value));
         label.CenterAt(x - kTextGap - label.Width / 2.0, y);
-        figure.Texts.push_back(std::move(label));
+        drawing.Texts.push_back(std::move(label));
     }
     for (double value = 0.0; value < bars.Largest; value += bars.MinorStep) {
         const double y = HeightOf(bars, value);
-        figure.Lines.push_back({x - kMinorTick, y, x, y});
+        drawing.Lines.push_back({x - kMinorTick, y, x, y});
     }
 }
 
-void PlaceGroupAxis(const Bars& bars, const Typesetter& set, Drawing& figure) {
+void PlaceGroupAxis(const Bars& bars, const Typesetter& set, Drawing& drawing) {
     const double bottom = bars.Top + bars.Height;
     const double slot = bars.Width / static_cast<double>(bars.Values.size());
     for (std::size_t i = 0; i < bars.GroupNames.size(); ++i) {
         const double x = bars.Left + static_cast<double>(i) * slot;
         if (i > 0) {
-            figure.Lines.push_back({x, bars.Top, x, bottom + kMajorTick});
+            drawing.Lines.push_back({x, bars.Top, x, bottom + kMajorTick});
         }
         Text name = set.Set(bars.GroupNames[i]);
         name.CenterAt(x + slot / 2.0, bottom + kTextGap + name.Height / 2.0);
-        figure.Texts.push_back(std::move(name));
+        drawing.Texts.push_back(std::move(name));
     }
 }
 
-void PlaceBars(const Bars& bars, const Typesetter& set, Drawing& figure) {
+void PlaceBars(const Bars& bars, const Typesetter& set, Drawing& drawing) {
     const double slot = bars.Width / static_cast<double>(bars.Values.size());
     const double width = (slot - bars.Gap) / static_cast<double>(bars.Names.size());
     for (std::size_t group = 0; group < bars.Values.size(); ++group) {
@@ -81,32 +81,32 @@ void PlaceBars(const Bars& bars, const Typesetter& set, Drawing& figure) {
         for (std::size_t i = 0; i < bars.Names.size(); ++i, x += width) {
             const double value = bars.Values[group][i];
             const double top = HeightOf(bars, value);
-            figure.Rects.push_back({x, top, width, bars.Top + bars.Height - top, bars.Colors[i]});
+            drawing.Rects.push_back({x, top, width, bars.Top + bars.Height - top, bars.Colors[i]});
             Text label = set.Set(WholeNumber(value));
             label.CenterAt(x + width / 2.0, top - label.Height / 2.0);
-            figure.Texts.push_back(std::move(label));
+            drawing.Texts.push_back(std::move(label));
         }
     }
 }
 
-void PlaceEdge(const Bars& bars, Drawing& figure) {
+void PlaceEdge(const Bars& bars, Drawing& drawing) {
     const double right = bars.Left + bars.Width;
     const double bottom = bars.Top + bars.Height;
-    figure.Lines.push_back({bars.Left, bars.Top, right, bars.Top});
-    figure.Lines.push_back({right, bars.Top, right, bottom});
-    figure.Lines.push_back({right, bottom, bars.Left, bottom});
-    figure.Lines.push_back({bars.Left, bottom, bars.Left, bars.Top});
+    drawing.Lines.push_back({bars.Left, bars.Top, right, bars.Top});
+    drawing.Lines.push_back({right, bars.Top, right, bottom});
+    drawing.Lines.push_back({right, bottom, bars.Left, bottom});
+    drawing.Lines.push_back({bars.Left, bottom, bars.Left, bars.Top});
 }
 
 Drawing LaidOut(const Bars& bars, const Typesetter& set) {
-    Drawing figure;
-    PlaceEdge(bars, figure);
-    PlaceValueAxis(bars, set, figure);
-    PlaceGroupAxis(bars, set, figure);
-    PlaceBars(bars, set, figure);
+    Drawing drawing;
+    PlaceEdge(bars, drawing);
+    PlaceValueAxis(bars, set, drawing);
+    PlaceGroupAxis(bars, set, drawing);
+    PlaceBars(bars, set, drawing);
     const double middle = bars.Top + bars.Height / 2.0;
-    figure.Names = PlacedLegend(bars.Names, bars.Colors, bars.Left + bars.Width + 2.0, middle, set);
-    return figure;
+    drawing.Names = PlacedLegend(bars.Names, bars.Colors, bars.Left + bars.Width + 2.0, middle, set);
+    return drawing;
 }
 
 } // namespace
@@ -117,44 +117,44 @@ std::string BarsPng(const Bars& bars, double dpi) {
                           static_cast<int>(bars.PageHeight * scale));
     cairo_t* c = picture.Context.get();
     cairo_scale(c, scale, scale);
-    const Drawing figure = LaidOut(bars, Typesetter(bars.Family, bars.FontSize));
+    const Drawing drawing = LaidOut(bars, Typesetter(bars.Family, bars.FontSize));
     SetColor(c, 0);
     cairo_set_line_width(c, kLineWidth);
-    for (const Line& line : figure.Lines) {
+    for (const Line& line : drawing.Lines) {
         cairo_move_to(c, line.X1, line.Y1);
         cairo_line_to(c, line.X2, line.Y2);
     }
     cairo_stroke(c);
-    for (const Rect& rect : figure.Rects) {
+    for (const Rect& rect : drawing.Rects) {
         SetColor(c, rect.Color);
         cairo_rectangle(c, rect.X, rect.Y, rect.Width, rect.Height);
         cairo_fill(c);
     }
     SetColor(c, 0);
-    for (const Text& text : figure.Texts) {
+    for (const Text& text : drawing.Texts) {
         Show(c, text);
     }
-    DrawLegend(c, figure.Names);
+    DrawLegend(c, drawing.Names);
     return EncodePng(picture);
 }
 
 std::string BarsSvg(const Bars& bars) {
     const Typesetter set(bars.Family, bars.FontSize);
-    const Drawing figure = LaidOut(bars, set);
+    const Drawing drawing = LaidOut(bars, set);
     std::string out;
     PrintHead(out, bars.PageWidth, bars.PageHeight);
     Print(out, "<path stroke=\"#000\" stroke-width=\"%.3f\" d=\"", kLineWidth);
-    for (const Line& line : figure.Lines) {
+    for (const Line& line : drawing.Lines) {
         Print(out, "M%.3f %.3fL%.3f %.3f", line.X1, line.Y1, line.X2, line.Y2);
     }
     out += "\"/>\n";
-    for (const Rect& rect : figure.Rects) {
+    for (const Rect& rect : drawing.Rects) {
         PrintRect(out, rect.X, rect.Y, rect.Width, rect.Height, rect.Color);
     }
-    for (const Text& text : figure.Texts) {
+    for (const Text& text : drawing.Texts) {
         PrintText(out, text, set);
     }
-    PrintLegend(out, figure.Names, set);
+    PrintLegend(out, drawing.Names, set);
     return out + "</svg>\n";
 }
 

@@ -37,19 +37,19 @@ Text PlacedLabel(const Pie& pie, std::string content, double angle, const Typese
 }
 
 Drawing LaidOut(const Pie& pie, const Typesetter& set) {
-    Drawing figure;
+    Drawing drawing;
     const double total = std::accumulate(pie.Values.begin(), pie.Values.end(), 0.0);
     double angle = std::numbers::pi;
     for (std::size_t i = 0; i < pie.Values.size(); ++i) {
         const double share = pie.Values[i] / total;
         const double end = angle + share * 2.0 * std::numbers::pi;
-        figure.Slices.push_back({angle, end, pie.Colors[i],
+        drawing.Slices.push_back({angle, end, pie.Colors[i],
                                  PlacedLabel(pie, LabelOf(pie.Names[i], share), (angle + end) / 2.0, set)});
         angle = end;
     }
     const double right = pie.CenterX + pie.Diameter / 2.0;
-    figure.Names = PlacedLegend(pie.Names, pie.Colors, right + 25.0, pie.CenterY, set);
-    return figure;
+    drawing.Names = PlacedLegend(pie.Names, pie.Colors, right + 25.0, pie.CenterY, set);
+    return drawing;
 }
 
 void DrawSlice(cairo_t* c, const Pie& pie, const Slice& slice) {
@@ -80,29 +80,29 @@ std::string PiePng(const Pie& pie, double dpi) {
     cairo_t* c = picture.Context.get();
     cairo_scale(c, scale, scale);
     cairo_set_line_width(c, 0.2);
-    const Drawing figure = LaidOut(pie, Typesetter(pie.Family, pie.FontSize));
-    for (const Slice& slice : figure.Slices) {
+    const Drawing drawing = LaidOut(pie, Typesetter(pie.Family, pie.FontSize));
+    for (const Slice& slice : drawing.Slices) {
         DrawSlice(c, pie, slice);
     }
-    for (const Slice& slice : figure.Slices) {
+    for (const Slice& slice : drawing.Slices) {
         Show(c, slice.Label);
     }
-    DrawLegend(c, figure.Names);
+    DrawLegend(c, drawing.Names);
     return EncodePng(picture);
 }
 
 std::string PieSvg(const Pie& pie) {
     const Typesetter set(pie.Family, pie.FontSize);
-    const Drawing figure = LaidOut(pie, set);
+    const Drawing drawing = LaidOut(pie, set);
     std::string out;
     PrintHead(out, pie.PageWidth, pie.PageHeight);
-    for (const Slice& slice : figure.Slices) {
+    for (const Slice& slice : drawing.Slices) {
         PrintSlice(out, pie, slice);
     }
-    for (const Slice& slice : figure.Slices) {
+    for (const Slice& slice : drawing.Slices) {
         PrintText(out, slice.Label, set);
     }
-    PrintLegend(out, figure.Names, set);
+    PrintLegend(out, drawing.Names, set);
     return out + "</svg>\n";
 }
 
