@@ -1,4 +1,5 @@
-#include "penlode/recording/RecordingEngine.h"
+#include "penlode/RecordedCall.h"
+
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"
 
