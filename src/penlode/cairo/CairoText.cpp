@@ -47,10 +47,8 @@ BoxD Surroundings(const Matrix& toDevice, double width) {
 }
 
 bool IsInSight(const Painter& painter, const BoxD& line) {
-    const BoxD surface = painter.GuardBand();
     const BoxD countable{-kMaxDistance, -kMaxDistance, kMaxDistance, kMaxDistance};
-    return line.Left <= surface.Right && line.Right >= surface.Left && line.Top <= surface.Bottom &&
-           line.Bottom >= surface.Top && Common(line, countable) == line;
+    return line.Meets(painter.GuardBand()) && Common(line, countable) == line;
 }
 
 bool CanBeDrawn(const Matrix& toDevice) {

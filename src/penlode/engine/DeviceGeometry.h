@@ -22,6 +22,14 @@ struct BoxD {
 
     bool Contains(PointD p) const { return p.X >= Left && p.X <= Right && p.Y >= Top && p.Y <= Bottom; }
 
+    /// Whether they share a point, an edge's among them.
+    bool Meets(const BoxD& other) const {
+        return Left <= other.Right && Right >= other.Left && Top <= other.Bottom && Bottom >= other.Top;
+    }
+
+    /// The point of the box that is next to this one.
+    PointD Nearest(PointD p) const { return {std::clamp(p.X, Left, Right), std::clamp(p.Y, Top, Bottom)}; }
+
     BoxD Grown(double margin) const { return {Left - margin, Top - margin, Right + margin, Bottom + margin}; }
 
     friend bool operator==(const BoxD&, const BoxD&) = default;

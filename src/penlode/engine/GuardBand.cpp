@@ -46,8 +46,7 @@ std::optional<Span> InsidePart(PointD a, PointD b, const BoxD& box) {
 /// A point of a far segment is only as exact as the segment is short; the clamp keeps it in the box all the
 /// same.
 PointD PointInBox(PointD a, PointD b, double t, const BoxD& box) {
-    const PointD p = t == 0.0 ? a : t == 1.0 ? b : Between(a, b, t);
-    return {std::clamp(p.X, box.Left, box.Right), std::clamp(p.Y, box.Top, box.Bottom)};
+    return box.Nearest(t == 0.0 ? a : t == 1.0 ? b : Between(a, b, t));
 }
 
 /// A side of the box: signed distance inwards from one of its edges.
@@ -127,7 +126,7 @@ std::vector<PointD> ClippedPolygon(std::vector<PointD> points, const BoxD& box) 
         points = CutBy(side, points);
     }
     for (PointD& p : points) {
-        p = {std::clamp(p.X, box.Left, box.Right), std::clamp(p.Y, box.Top, box.Bottom)};
+        p = box.Nearest(p);
     }
     return points;
 }

@@ -1,5 +1,6 @@
 #include "penlode/engine/TrackingEngine.h"
 
+#include "penlode/engine/CallArguments.h"
 #include "penlode/engine/Drawings.h"
 #include "penlode/engine/EngineArguments.h"
 #include "penlode/engine/LineThinning.h"
@@ -73,10 +74,17 @@ Outline WhatShows(const Outline& outline, bool fills) {
 
 } // namespace
 
-CTrackingEngine::CTrackingEngine(double dpiX, double dpiY)
-    : m_state(std::make_unique<CSurfaceState>(dpiX, dpiY)) {}
+CTrackingEngine::CTrackingEngine(double dpiX, double dpiY, std::vector<RecordedCall>* calls)
+    : m_state(std::make_unique<CSurfaceState>(dpiX, dpiY)), m_calls(calls) {}
 
 CTrackingEngine::~CTrackingEngine() = default;
+
+template <class... Arguments>
+void CTrackingEngine::Record(const char* operation, const Arguments&... arguments) {
+    if (m_calls != nullptr) {
+        m_calls->push_back({operation, {ArgumentOf(arguments)...}});
+    }
+}
 
 Status CTrackingEngine::Stroke(const Pen* pen, const Outline& outline) {
     return IsUsable(pen) && IsFinite(outline) ? StrokeOutline(WhatShows(outline, false), *pen)
@@ -89,10 +97,13 @@ Status CTrackingEngine::Fill(const SolidBrush* brush, const Outline& outline) {
 }
 
 Status CTrackingEngine::DrawRectangle(const Pen* pen, float x, float y, float width, float height) {
-    return Stroke(pen, {Outline::Rectangle{{x, y, width, height}}});
+    const RectF rect{x, y, width, height};
+    Record("DrawRectangle", pen, rect);
+    return Stroke(pen, {Outline::Rectangle{rect}});
 }
 
 Status CTrackingEngine::DrawLines(const Pen* pen, const PointF* points, std::int32_t count) {
+    Record("DrawLines", pen, PointList{points, count});
     if (!IsUsable(pen) || !AreThere(points, count)) {
         return Status::InvalidParameter;
     }
@@ -102,51 +113,68 @@ Status CTrackingEngine::DrawLines(const Pen* pen, const PointF* points, std::int
 }
 
 Status CTrackingEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {
-    return Stroke(pen, {Outline::Line{{x1, y1}, {x2, y2}}});
+    const PointF from{x1, y1};
+    const PointF to{x2, y2};
+    Record("DrawLine", pen, std::pair("from", from), std::pair("to", to));
+    return Stroke(pen, {Outline::Line{from, to}});
 }
 
 Status CTrackingEngine::DrawArc(const Pen* pen, float x, float y, float width, float height, float startAngle,
                                 float sweepAngle) {
-    return Stroke(pen, {Outline::Arc{{x, y, width, height}, startAngle, sweepAngle}});
+    const RectF rect{x, y, width, height};
+    Record("DrawArc", pen, rect, std::pair("start", startAngle), std::pair("sweep", sweepAngle));
+    return Stroke(pen, {Outline::Arc{rect, startAngle, sweepAngle}});
 }
 
 Status CTrackingEngine::DrawEllipse(const Pen* pen, float x, float y, float width, float height) {
-    return Stroke(pen, {Outline::Ellipse{{x, y, width, height}}});
+    const RectF rect{x, y, width, height};
+    Record("DrawEllipse", pen, rect);
+    return Stroke(pen, {Outline::Ellipse{rect}});
 }
 
 Status CTrackingEngine::DrawPie(const Pen* pen, const RectF& rect, float startAngle, float sweepAngle) {
+    Record("DrawPie", pen, rect, std::pair("start", startAngle), std::pair("sweep", sweepAngle));
     return Stroke(pen, {Outline::Pie{rect, startAngle, sweepAngle}});
 }
 
 Status CTrackingEngine::DrawPolygon(const Pen* pen, const PointF* points, std::int32_t count) {
+    Record("DrawPolygon", pen, PointList{points, count});
     return AreThere(points, count) ? Stroke(pen, {Outline::Polygon{SpanOf(points, count)}})
                                    : Status::InvalidParameter;
 }
 
 Status CTrackingEngine::DrawCurve(const Pen* pen, const PointF* points, std::int32_t count) {
+    Record("DrawCurve", pen, PointList{points, count});
     return AreThere(points, count) ? Stroke(pen, {Outline::Curve{SpanOf(points, count)}})
                                    : Status::InvalidParameter;
 }
 
 Status CTrackingEngine::FillRectangle(const SolidBrush* brush, float x, float y, float width, float height) {
-    return Fill(brush, {Outline::Rectangle{{x, y, width, height}}});
+    const RectF rect{x, y, width, height};
+    Record("FillRectangle", brush, rect);
+    return Fill(brush, {Outline::Rectangle{rect}});
 }
 
 Status CTrackingEngine::FillEllipse(const SolidBrush* brush, float x, float y, float width, float height) {
-    return Fill(brush, {Outline::Ellipse{{x, y, width, height}}});
+    const RectF rect{x, y, width, height};
+    Record("FillEllipse", brush, rect);
+    return Fill(brush, {Outline::Ellipse{rect}});
 }
 
 Status CTrackingEngine::FillPie(const SolidBrush* brush, const RectF& rect, float startAngle,
                                 float sweepAngle) {
+    Record("FillPie", brush, rect, std::pair("start", startAngle), std::pair("sweep", sweepAngle));
     return Fill(brush, {Outline::Pie{rect, startAngle, sweepAngle}});
 }
 
 Status CTrackingEngine::FillPolygon(const SolidBrush* brush, const PointF* points, std::int32_t count) {
+    Record("FillPolygon", brush, PointList{points, count});
     return AreThere(points, count) ? Fill(brush, {Outline::Polygon{SpanOf(points, count)}})
                                    : Status::InvalidParameter;
 }
 
 Status CTrackingEngine::FillPath(const SolidBrush* brush, const GraphicsPath* path) {
+    Record("FillPath", brush, path);
     return path != nullptr ? Fill(brush, {Outline::Path{path}}) : Status::InvalidParameter;
 }
 
@@ -162,22 +190,26 @@ Status CTrackingEngine::PaintString(const wchar_t* text, std::int32_t length, co
 
 Status CTrackingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                    const RectF& layout, const StringFormat* format, const SolidBrush* brush) {
+    Record("DrawString", TextOf(text, length), font, layout, format, brush);
     return PaintString(text, length, font, layout, format, brush);
 }
 
 Status CTrackingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                    const PointF& origin, const StringFormat* format,
                                    const SolidBrush* brush) {
+    Record("DrawString", TextOf(text, length), font, origin, format, brush);
     return PaintString(text, length, font, {origin.X, origin.Y, 0.0F, 0.0F}, format, brush);
 }
 
 Status CTrackingEngine::DrawString(const wchar_t* text, std::int32_t length, const Font* font,
                                    const PointF& origin, const SolidBrush* brush) {
+    Record("DrawString", TextOf(text, length), font, origin, brush);
     return PaintString(text, length, font, {origin.X, origin.Y, 0.0F, 0.0F}, nullptr, brush);
 }
 
 void CTrackingEngine::DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
                                      const SolidBrush* brush) {
+    Record("DrawScriptText", TextOf(text, -1), font, PointF{x, y}, brush);
     PaintString(text, -1, font, {x, y, 0.0F, 0.0F}, nullptr, brush);
 }
 
@@ -198,12 +230,13 @@ Status CTrackingEngine::DrawImage(const Image* image, const RectF& destination, 
                                   float sourceWidth, float sourceHeight, Unit sourceUnit,
                                   const ImageAttributes* attributes, DrawImageAbort abort,
                                   void* callbackData) {
-    return PaintPart(
-        {image, {sourceX, sourceY, sourceWidth, sourceHeight}, destination, attributes, abort, callbackData},
-        sourceUnit);
+    const RectF source{sourceX, sourceY, sourceWidth, sourceHeight};
+    Record("DrawImage", image, destination, std::pair("source", source), sourceUnit, attributes);
+    return PaintPart({image, source, destination, attributes, abort, callbackData}, sourceUnit);
 }
 
 Status CTrackingEngine::DrawImage(const Image* image, const RectF& destination) {
+    Record("DrawImage", image, destination);
     if (image == nullptr) {
         return Status::InvalidParameter;
     }
@@ -215,12 +248,17 @@ std::int32_t CTrackingEngine::GradientFill(const RectL& bounds, const PointF& or
                                            const GradientVertex* vertices, std::uint32_t vertexCount,
                                            const void* mesh, std::uint32_t meshCount, GradientMode mode) {
     const GradientMesh whole = MeshOf(bounds, origin, vertices, vertexCount, mesh, meshCount, mode);
+    if (m_calls != nullptr) {
+        Record("GradientFill", RectOf(bounds), PointsOf(whole), ColorsOf(whole), IndicesOf(whole),
+               std::pair("mode", static_cast<std::uint32_t>(mode)));
+    }
     const bool sound = vertices != nullptr && mesh != nullptr && mode <= GradientMode::Triangle &&
                        IsFinite(origin) && AreVerticesThere(whole);
     return sound && PaintGradient(whole) == Status::Ok ? 1 : 0;
 }
 
 Status CTrackingEngine::ResetClip() {
+    Record("ResetClip");
     m_state->ResetClip();
     return Status::Ok;
 }
@@ -234,6 +272,7 @@ Status CTrackingEngine::GetClip(Region* region) {
 }
 
 Status CTrackingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
+    Record("SetClip", path, mode);
     if (path == nullptr || !IsFinite(*path) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
@@ -241,6 +280,7 @@ Status CTrackingEngine::SetClip(const GraphicsPath* path, CombineMode mode) {
 }
 
 Status CTrackingEngine::SetClip(const Region* region, CombineMode mode) {
+    Record("SetClip", region, mode);
     if (region == nullptr || !IsFinite(*region) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
@@ -248,6 +288,7 @@ Status CTrackingEngine::SetClip(const Region* region, CombineMode mode) {
 }
 
 Status CTrackingEngine::SetClip(const RectF& rect, CombineMode mode) {
+    Record("SetClip", rect, mode);
     if (!IsFinite(rect) || !IsKnown(mode)) {
         return Status::InvalidParameter;
     }
@@ -292,6 +333,7 @@ Status CTrackingEngine::MeasureString(const wchar_t* text, std::int32_t length, 
 }
 
 Status CTrackingEngine::SetTransform(const Matrix* matrix) {
+    Record("SetTransform", matrix);
     return m_state->SetTransform(matrix);
 }
 
@@ -305,18 +347,22 @@ Status CTrackingEngine::TransformPoints(CoordinateSpace destination, CoordinateS
 }
 
 Status CTrackingEngine::TranslateTransform(float dx, float dy, MatrixOrder order) {
+    Record("TranslateTransform", std::pair("dx", dx), std::pair("dy", dy), order);
     return m_state->Transform(Matrix::Translation(dx, dy), order);
 }
 
 Status CTrackingEngine::RotateTransform(float degrees, MatrixOrder order) {
+    Record("RotateTransform", std::pair("degrees", degrees), order);
     return m_state->Transform(Matrix::Rotation(degrees), order);
 }
 
 Status CTrackingEngine::ScaleTransform(float sx, float sy, MatrixOrder order) {
+    Record("ScaleTransform", std::pair("sx", sx), std::pair("sy", sy), order);
     return m_state->Transform(Matrix::Scale(sx, sy), order);
 }
 
 Status CTrackingEngine::ResetTransform() {
+    Record("ResetTransform");
     m_state->ResetTransform();
     return Status::Ok;
 }
@@ -330,22 +376,28 @@ Unit CTrackingEngine::GetPageUnit() {
 }
 
 Status CTrackingEngine::SetPageScale(float scale) {
+    Record("SetPageScale", std::pair("scale", scale));
     return m_state->SetPageScale(scale);
 }
 
 Status CTrackingEngine::SetPageUnit(Unit unit) {
+    Record("SetPageUnit", unit);
     return m_state->SetPageUnit(unit);
 }
 
 std::uint32_t CTrackingEngine::BeginContainer() {
-    return m_state->BeginContainer();
+    const std::uint32_t container = m_state->BeginContainer();
+    Record("BeginContainer", std::pair("container", container));
+    return container;
 }
 
 Status CTrackingEngine::EndContainer(std::uint32_t container) {
+    Record("EndContainer", std::pair("container", container));
     return m_state->EndContainer(container);
 }
 
 Status CTrackingEngine::SetSmoothingMode(SmoothingMode mode) {
+    Record("SetSmoothingMode", mode);
     if (!IsKnown(mode)) {
         return Status::InvalidParameter;
     }

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <span>
+#include <vector>
 
 namespace penlode {
 
@@ -11,6 +12,7 @@ class CSurfaceState;
 struct GradientMesh;
 struct ImagePart;
 struct Outline;
+struct RecordedCall;
 struct TextRun;
 
 /// The whole interface for the library's own engines: it keeps transform, units, clips, containers and
@@ -85,7 +87,8 @@ public:
     Status SetClip(Region* region, CombineMode mode) override;
 
 protected:
-    CTrackingEngine(double dpiX, double dpiY);
+    /// Each call that changes or draws something is added to `calls` as it came, if there are any.
+    CTrackingEngine(double dpiX, double dpiY, std::vector<RecordedCall>* calls = nullptr);
 
     const CSurfaceState& State() const { return *m_state; }
 
@@ -99,7 +102,8 @@ private:
     virtual Status PaintImage(const ImagePart& part) = 0;
     virtual Status PaintGradient(const GradientMesh& mesh) = 0;
 
-    // An engine may override what draws, to write it down, say: no such operation calls another.
+    template <class... Arguments> void Record(const char* operation, const Arguments&... arguments);
+
     Status Stroke(const Pen* pen, const Outline& outline);
     Status Fill(const SolidBrush* brush, const Outline& outline);
     Status PaintString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
@@ -108,6 +112,7 @@ private:
     Status PaintPart(const ImagePart& part, Unit sourceUnit);
 
     std::unique_ptr<CSurfaceState> m_state;
+    std::vector<RecordedCall>* m_calls;
 };
 
 } // namespace penlode

@@ -1,5 +1,6 @@
 #include "penlode/streams/BinarySerialize.h"
 
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -45,11 +46,9 @@ std::string ByteCount(std::size_t count) {
 }
 
 std::string HexBytes(std::string_view bytes) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text = "bytes";
     for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        text += {' ', kDigits[byte >> 4U], kDigits[byte & 0xFU]};
+        text += ' ' + HexDigits(static_cast<unsigned char>(c), 2);
     }
     return text;
 }
@@ -61,17 +60,13 @@ CBinarySerialize::CBinarySerialize() : m_bytes(kMagic), m_saving(true) {
 }
 
 CBinarySerialize::CBinarySerialize(std::string_view bytes) : m_bytes(bytes), m_saving(false) {
-    std::string_view magic;
-    if (!Take(kMagic.size(), "\"MCPS\"", magic)) {
-        return;
+    const auto magic = Take(kMagic.size(), "\"MCPS\"");
+    if (magic && *magic != kMagic) {
+        Fail(0, HexBytes(*magic), "\"MCPS\"");
     }
-    if (magic != kMagic) {
-        Fail(0, HexBytes(magic), "\"MCPS\"");
-        return;
-    }
-    std::uint32_t version = 0;
-    if (TakeWord("a version", version) && version != kVersion) {
-        Fail(kMagic.size(), "version " + std::to_string(version), "version " + std::to_string(kVersion));
+    const auto version = TakeWord("a version");
+    if (version && *version != kVersion) {
+        Fail(kMagic.size(), "version " + std::to_string(*version), "version " + std::to_string(kVersion));
     }
 }
 
@@ -118,38 +113,34 @@ void CBinarySerialize::Write(const Pen* pen) {
 }
 
 void CBinarySerialize::Read(Color& value) {
-    TakeWord("a colour", value.Argb);
+    value.Argb = TakeWord("a colour").value_or(value.Argb);
 }
 
 void CBinarySerialize::Read(std::string& value) {
-    std::uint32_t length = 0;
-    std::string_view text;
-    if (TakeLength("a text", 1, length) && Take(length, "a text", text)) {
-        value = text;
+    if (const auto length = TakeLength("a text", 1)) {
+        value = Take(*length, "a text").value();
     }
 }
 
 void CBinarySerialize::Read(float& value) {
-    std::uint32_t word = 0;
-    if (TakeWord("a number", word)) {
-        value = std::bit_cast<float>(word);
+    if (const auto word = TakeWord("a number")) {
+        value = std::bit_cast<float>(*word);
     }
 }
 
 void CBinarySerialize::Read(std::int32_t& value) {
-    std::uint32_t word = 0;
-    if (TakeWord("a whole number", word)) {
-        value = std::bit_cast<std::int32_t>(word);
+    if (const auto word = TakeWord("a whole number")) {
+        value = std::bit_cast<std::int32_t>(*word);
     }
 }
 
 void CBinarySerialize::Read(std::vector<std::string>& values) {
-    std::uint32_t count = 0;
-    if (!TakeLength("a list", kWordSize, count)) {
+    const auto count = TakeLength("a list", kWordSize);
+    if (!count) {
         return;
     }
     std::vector<std::string> texts;
-    for (std::uint32_t i = 0; i < count; ++i) {
+    for (std::uint32_t i = 0; i < *count; ++i) {
         Read(texts.emplace_back());
         if (Failed()) {
             return;
@@ -220,52 +211,45 @@ void CBinarySerialize::Fail(std::size_t offset, std::string found, std::string e
                               std::move(expected));
 }
 
-bool CBinarySerialize::Take(std::size_t size, const char* what, std::string_view& bytes) {
+std::optional<std::string_view> CBinarySerialize::Take(std::size_t size, const char* what) {
     if (Failed()) {
-        return false;
+        return std::nullopt;
     }
     if (m_saving) {
         Fail(m_bytes.size(), "a stream that is saving", "a stream that is loading");
-        return false;
+        return std::nullopt;
     }
     if (size > Remaining()) {
         Fail(m_position, "the end after " + ByteCount(Remaining()), what + (" of " + ByteCount(size)));
-        return false;
+        return std::nullopt;
     }
-    bytes = std::string_view(m_bytes).substr(m_position, size);
     m_position += size;
-    return true;
+    return std::string_view(m_bytes).substr(m_position - size, size);
 }
 
-bool CBinarySerialize::TakeWord(const char* what, std::uint32_t& word) {
-    std::string_view bytes;
-    const bool taken = Take(kWordSize, what, bytes);
-    if (taken) {
-        word = WordOf(bytes);
-    }
-    return taken;
+std::optional<std::uint32_t> CBinarySerialize::TakeWord(const char* what) {
+    const auto bytes = Take(kWordSize, what);
+    return bytes ? std::optional(WordOf(*bytes)) : std::nullopt;
 }
 
-bool CBinarySerialize::TakeLength(const char* what, std::size_t itemSize, std::uint32_t& length) {
-    if (!TakeWord(what, length)) {
-        return false;
-    }
+std::optional<std::uint32_t> CBinarySerialize::TakeLength(const char* what, std::size_t itemSize) {
+    const auto length = TakeWord(what);
     const std::size_t most = Remaining() / itemSize;
-    if (length > most) {
+    if (length && *length > most) {
         m_position -= kWordSize;
-        Fail(m_position, "a length of " + std::to_string(length),
+        Fail(m_position, "a length of " + std::to_string(*length),
              what + (" whose length is at most " + std::to_string(most)));
-        return false;
+        return std::nullopt;
     }
-    return true;
+    return length;
 }
 
 std::optional<bool> CBinarySerialize::TakePresence() {
-    std::string_view byte;
-    if (!Take(1, "a presence flag", byte)) {
+    const auto byte = Take(1, "a presence flag");
+    if (!byte) {
         return std::nullopt;
     }
-    const auto flag = static_cast<unsigned char>(byte.front());
+    const auto flag = static_cast<unsigned char>(byte->front());
     if (flag > 1) {
         Fail(--m_position, std::to_string(flag), "0 for nothing or 1 for an object");
         return std::nullopt;

@@ -65,11 +65,11 @@ private:
     bool WritePresence(bool present);
 
     void Fail(std::size_t offset, std::string found, std::string expected);
-    /// The next `size` bytes, or false and a problem. `what` names the value for the problem's text.
-    bool Take(std::size_t size, const char* what, std::string_view& bytes);
-    bool TakeWord(const char* what, std::uint32_t& word);
+    /// The next `size` bytes, or nothing and a problem. `what` names the value for the problem's text.
+    std::optional<std::string_view> Take(std::size_t size, const char* what);
+    std::optional<std::uint32_t> TakeWord(const char* what);
     /// A count of items that take at least `itemSize` bytes each.
-    bool TakeLength(const char* what, std::size_t itemSize, std::uint32_t& length);
+    std::optional<std::uint32_t> TakeLength(const char* what, std::size_t itemSize);
     std::optional<bool> TakePresence();
     void ReadDashStyle(Pen& pen);
 

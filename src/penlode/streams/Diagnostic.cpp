@@ -5,10 +5,6 @@
 namespace penlode {
 namespace {
 
-std::string Comparison(const std::string& found, const std::string& expected) {
-    return "found " + found + ", expected " + expected;
-}
-
 std::string MissingText(const std::string& taken) {
     if (taken.empty()) {
         return "missing, taken as empty";
@@ -25,7 +21,7 @@ std::string UnknownText(const std::string& guess) {
 }
 
 Diagnostic Compared(Severity severity, std::string place, std::string found, std::string expected) {
-    std::string text = Comparison(found, expected);
+    std::string text = "found " + found + ", expected " + expected;
     return {DiagnosticKind::Other, severity,       "", 0, std::move(place), std::move(found),
             std::move(expected),   std::move(text)};
 }

@@ -1,5 +1,6 @@
 #include "penlode/streams/JsonFault.h"
 
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -8,14 +9,8 @@
 namespace penlode {
 namespace {
 
-constexpr std::string_view kDigits = "0123456789ABCDEF";
-
 bool IsContinuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-}
-
-std::string Hex(unsigned char byte) {
-    return {kDigits[byte >> 4U], kDigits[byte & 0xFU]};
 }
 
 /// The character whose bytes begin at `offset`, or its first byte in hexadecimal if it is not UTF-8.
@@ -64,7 +59,7 @@ std::string FoundAt(std::string_view json, std::size_t offset) {
         return "a line break";
     }
     if (byte < ' ') {
-        return "U+00" + Hex(byte);
+        return "U+00" + HexDigits(byte, 2);
     }
     const std::string_view rest = json.substr(offset);
     const auto end = std::find_if_not(rest.begin(), rest.end(), IsWordByte);
@@ -85,7 +80,7 @@ Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string f
 }
 
 std::string ByteAt(std::string_view json, std::size_t offset) {
-    return "byte 0x" + Hex(static_cast<unsigned char>(json[offset]));
+    return "byte 0x" + HexDigits(static_cast<unsigned char>(json[offset]), 2);
 }
 
 std::size_t WordStart(std::string_view json, std::size_t offset) {

@@ -2,6 +2,7 @@
 
 #include "penlode/streams/JsonFault.h"
 #include "penlode/streams/JsonText.h"
+#include "penlode/text/Digits.h"
 
 // RapidJSON counts in 32 bits unless told otherwise; a text of 4 GB would overflow them.
 #define RAPIDJSON_NO_SIZETYPEDEFINE
@@ -57,19 +58,14 @@ bool IsHuge(std::string_view number) {
 
 /// Nothing where the number is too large for any type.
 std::optional<JsonNode> NumberNode(std::string_view number) {
-    const char* const end = number.data() + number.size();
-    const auto reads = [&](auto& value) {
-        const auto [stop, error] = std::from_chars(number.data(), end, value);
-        return error == std::errc() && stop == end;
-    };
-    if (std::int64_t integer = 0; reads(integer)) {
-        return JsonNode::Integer(integer);
+    if (const auto integer = NumberOf<std::int64_t>(number)) {
+        return JsonNode::Integer(*integer);
     }
-    if (std::uint64_t natural = 0; reads(natural)) {
-        return JsonNode::Natural(natural);
+    if (const auto natural = NumberOf<std::uint64_t>(number)) {
+        return JsonNode::Natural(*natural);
     }
-    if (double real = 0.0; reads(real)) {
-        return JsonNode::Real(real);
+    if (const auto real = NumberOf<double>(number)) {
+        return JsonNode::Real(*real);
     }
     return IsHuge(number) ? std::nullopt : std::optional(JsonNode::Real(number.front() == '-' ? -0.0 : 0.0));
 }

@@ -26,14 +26,13 @@ char ShortEscape(char c) {
 }
 
 std::string Quoted(const std::string& text) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
     std::string quoted = "\"";
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
         if (const char escape = ShortEscape(c)) {
             quoted += {'\\', escape};
         } else if (byte < 0x20) {
-            quoted += {'\\', 'u', '0', '0', kDigits[byte >> 4U], kDigits[byte & 15U]};
+            quoted += "\\u" + HexDigits(byte, 4, kLowerDigits);
         } else {
             quoted += c;
         }

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <charconv>
 #include <cmath>
 
 namespace penlode {
@@ -15,13 +14,6 @@ namespace {
 std::string NumberText(double value) {
     const bool whole = std::trunc(value) == value && std::abs(value) < 1e15;
     return whole ? Digits(value, std::chars_format::fixed) : Digits(value);
-}
-
-std::optional<std::size_t> IndexOf(std::string_view digits) {
-    std::size_t index = 0;
-    const char* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, index);
-    return error == std::errc() && stop == end ? std::optional(index) : std::nullopt;
 }
 
 } // namespace
@@ -101,7 +93,7 @@ const JsonNode* JsonTree::Find(const JsonNode& node, std::string_view place) con
         const JsonNode* child = nullptr;
         if (node.Is(JsonType::Group)) {
             child = Group(node).Find(std::string(key));
-        } else if (const auto index = IndexOf(key); node.Is(JsonType::List) && index) {
+        } else if (const auto index = NumberOf<std::size_t>(key); node.Is(JsonType::List) && index) {
             child = *index < List(node).size() ? &List(node)[*index] : nullptr;
         }
         if (child != nullptr && cut != std::string_view::npos) {

@@ -4,12 +4,10 @@
 #include "penlode/text/StringUtil.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <optional>
 #include <sstream>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace penlode {
@@ -52,14 +50,6 @@ std::string_view CutLastWord(std::string_view& text) {
     return word;
 }
 
-/// The whole text as a number; `form` is the base of an integer.
-template <class Number, class... Form> std::optional<Number> NumberOf(std::string_view text, Form... form) {
-    Number value{};
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value, form...);
-    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
-}
-
 /// A pen's width or a font's size.
 std::optional<float> SizeOf(std::string_view text) {
     const auto size = NumberOf<float>(text);
@@ -67,12 +57,7 @@ std::optional<float> SizeOf(std::string_view text) {
 }
 
 std::string ColorText(Color color) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    std::string text = "#";
-    for (std::uint32_t shift = 32; shift > 0; shift -= 4) {
-        text += kDigits[(color.Argb >> (shift - 4)) & 0xFU];
-    }
-    return text;
+    return "#" + HexDigits(color.Argb, 8);
 }
 
 std::optional<Color> ColorOf(std::string_view text) {

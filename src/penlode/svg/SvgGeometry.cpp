@@ -24,9 +24,7 @@ PointD Placed(const Matrix& m, PointD p) {
 }
 
 PointD OnPage(const Matrix& m, PointD p) {
-    const PointD placed = Placed(m, p);
-    return {std::clamp(placed.X, -kMaxDistance, kMaxDistance),
-            std::clamp(placed.Y, -kMaxDistance, kMaxDistance)};
+    return BoxD{-kMaxDistance, -kMaxDistance, kMaxDistance, kMaxDistance}.Nearest(Placed(m, p));
 }
 
 PointD OnPage(const Matrix& transform, PointF point) {

@@ -6,6 +6,7 @@
 #include "penlode/engine/LineThinning.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,18 +21,9 @@ namespace {
 /// No wider pen is looked for beyond the page, in millimetres.
 constexpr double kMaxMargin = 1e5;
 
-std::string Hex(Color color) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string text = "#";
-    for (std::uint32_t shift = 24; shift > 0; shift -= 4) {
-        text += kDigits[(color.Argb >> (shift - 4)) & 0xFU];
-    }
-    return text;
-}
-
 /// ` fill="#336699"`, and ` fill-opacity` where the colour is translucent.
 std::string ColorAttributes(const std::string& name, Color color) {
-    std::string text = " " + name + "=\"" + Hex(color) + "\"";
+    std::string text = " " + name + "=\"#" + HexDigits(color.Argb, 6, kLowerDigits) + "\"";
     if (color.A() != 0xFFU) {
         text += " " + name + "-opacity=\"" + Number(color.A() / 255.0) + "\"";
     }

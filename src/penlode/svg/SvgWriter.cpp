@@ -1,14 +1,14 @@
 #include "penlode/svg/SvgWriter.h"
 
+#include "penlode/text/Digits.h"
+
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 
 namespace penlode::svg {
 namespace {
 
-/// No page is so large; it keeps a number within its buffer.
+/// No page is so large.
 constexpr double kMaxNumber = 1e9;
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
@@ -48,22 +48,7 @@ Substitute SubstituteFor(std::string_view text) {
 } // namespace
 
 std::string Number(double value, int decimals) {
-    if (std::isnan(value)) {
-        return "0";
-    }
-    std::array<char, 32> digits;
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(),
-                      std::clamp(value, -kMaxNumber, kMaxNumber), std::chars_format::fixed, decimals)
-            .ptr;
-    std::string text(digits.data(), end);
-    if (decimals > 0) {
-        text.erase(text.find_last_not_of('0') + 1);
-        if (text.back() == '.') {
-            text.pop_back();
-        }
-    }
-    return text == "-0" ? "0" : text;
+    return std::isnan(value) ? "0" : RoundedDigits(std::clamp(value, -kMaxNumber, kMaxNumber), decimals);
 }
 
 std::string Pair(PointD point) {

@@ -1,10 +1,11 @@
-#include "penlode/recording/RecordingEngine.h"
+#include "penlode/RecordedCall.h"
+
 #include "penlode/streams/TextForms.h"
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 namespace penlode {
 namespace {
@@ -34,24 +35,12 @@ public:
         Word("(" + Number(r.X) + " " + Number(r.Y) + " " + Number(r.Width) + " " + Number(r.Height) + ")");
     }
 
-    void operator()(const std::vector<PointF>& points) {
-        Word("[" + std::to_string(points.size()) + "]");
-        for (const PointF& point : points) {
-            Word(Point(point));
-        }
-    }
+    void operator()(Color color) { Word(Hex(color)); }
 
-    void operator()(const std::vector<Color>& colors) {
-        Word("[" + std::to_string(colors.size()) + "]");
-        for (const Color color : colors) {
-            Word(Hex(color));
-        }
-    }
-
-    void operator()(const std::vector<std::uint32_t>& indices) {
-        Word("[" + std::to_string(indices.size()) + "]");
-        for (const std::uint32_t index : indices) {
-            (*this)(index);
+    template <class Item> void operator()(const std::vector<Item>& items) {
+        Word("[" + std::to_string(items.size()) + "]");
+        for (const Item& item : items) {
+            (*this)(item);
         }
     }
 
@@ -152,11 +141,7 @@ private:
 
     void Word(const std::string& word) { m_text += " " + word; }
 
-    static std::string Hex(Color color) {
-        std::string text;
-        ser_evaluate(color, text, true);
-        return text;
-    }
+    static std::string Hex(Color color) { return "#" + HexDigits(color.Argb, 8); }
 
     static std::string Escaped(const std::wstring& text) {
         std::string escaped;
@@ -171,19 +156,7 @@ private:
 
     std::string Point(const PointF& p) const { return "(" + Number(p.X) + " " + Number(p.Y) + ")"; }
 
-    /// Rounded, without trailing zeros and without a negative zero.
-    std::string Number(double value) const {
-        std::array<char, 400> buffer{};
-        const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                       std::chars_format::fixed, m_decimals)
-                             .ptr;
-        std::string text(buffer.data(), end);
-        if (text.find('.') != std::string::npos) {
-            text.erase(text.find_last_not_of('0') + 1);
-            text.erase(text.find_last_not_of('.') + 1);
-        }
-        return text == "-0" ? "0" : text;
-    }
+    std::string Number(double value) const { return RoundedDigits(value, m_decimals); }
 
     std::string m_text;
     int m_decimals;
