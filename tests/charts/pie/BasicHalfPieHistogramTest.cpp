@@ -1,6 +1,6 @@
 #include "charts/pie/BasicHalfPieHistogram.h"
 
-#include "penlode/recording/RecordingEngine.h"
+#include "support/Drawings.h"
 #include "support/Rects.h"
 
 #include <gtest/gtest.h>
@@ -51,13 +51,7 @@ TEST(BasicHalfPieHistogram, NothingButBarsStandsOnTheHalfPie) {
     const CBasicHalfPieHistogram chart = LaidOut(HalfUnderBars());
     EXPECT_EQ(chart.GetPositionAll(), (RectF{80, 70, 40, 40}));
     EXPECT_EQ(chart.GetHistogram().GetPositionAll(), (RectF{80, 70, 40, 30}));
-    penlode::CRecordingEngine engine;
-    chart.Draw(&engine);
-    EXPECT_EQ(engine.Text(), "FillPie #FFFFFFFF (90 90 20 20) 0 180\n"
-                             "DrawPie #FF000000/0.1 (90 90 20 20) 0 180\n"
-                             "FillRectangle #FFFFFFFF (80 70 40 30)\n"
-                             "FillRectangle #FF0000FF (85 85 10 15)\n"
-                             "FillRectangle #FF0000FF (105 70 10 30)\n");
+    ExpectDrawing("bars-on-a-half-pie", Drawn(chart));
 
     HalfPieHistogramProp bare = HalfUnderBars();
     bare.Histogram.Caption.ShowCaption = 0;
