@@ -158,7 +158,7 @@ TEST(BasicCurveDraw, Markers) {
     std::string all;
     for (std::int32_t style = -1; style <= 11; ++style) {
         const std::string marker = Marker(style);
-        all += std::to_string(style) + ": " + (marker.empty() ? "\n" : marker);
+        all += std::to_string(style) + ": " + (marker.empty() ? "nothing\n" : marker);
     }
     ExpectDrawing("markers", all);
 }
