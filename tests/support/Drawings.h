@@ -1,9 +1,16 @@
 #pragma once
 
 #include "penlode/recording/RecordingEngine.h"
+#include "support/KeptFiles.h"
 
 #include <sstream>
 #include <string>
+
+template <class Chart> std::string Drawn(const Chart& chart) {
+    penlode::CRecordingEngine engine;
+    chart.Draw(&engine);
+    return engine.Text();
+}
 
 /// The rest of each line of a drawing that begins with `operation`.
 inline std::string Only(const std::string& drawing, const std::string& operation) {
@@ -34,4 +41,11 @@ inline std::string Brief(const std::string& drawing) {
         }
     }
     return brief;
+}
+
+/// Holds a whole drawing, in brief, against data/drawings. A file that is deleted is written anew by
+/// MILLICHART_KEEP=1.
+inline void ExpectDrawing(const std::string& name, const std::string& drawing) {
+    const std::string brief = Brief(drawing);
+    EXPECT_EQ(brief, Kept("drawings/" + name + ".txt", brief));
 }

@@ -1,5 +1,7 @@
 #include "charts/curve/BasicCurve.h"
 
+#include "support/Drawings.h"
+
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -140,30 +142,22 @@ TEST(BasicCurve, NoCurvesAreABarePoint) {
 TEST(BasicCurve, TheLegendPushesTheChartFromItsLocation) {
     CurveProp prop = WithAllTexts();
     prop.Plot.CurveName = {"A", "B"};
-    const Values values{{10, 20}};
-    const Times times{{0, 1}};
-    const CurveLayout without = LaidOut(prop, values, times, {"a", "b"}).GetLayout();
+    CBasicCurve moved = LaidOut(prop, {{10, 20}}, {{0, 1}}, {"a", "b"});
     prop.Legend.ShowLegend = 1;
-    const CurveLayout right = LaidOut(prop, values, times, {"a", "b"}).GetLayout();
-    EXPECT_EQ(right.Whole, (RectF{100, 200, 101, 46}));
-    EXPECT_EQ(right.Curves[0].Points, without.Curves[0].Points);
-
-    prop.Legend.LegendPos = LegendPosition::LeftTop;
-    const CurveLayout left = LaidOut(prop, values, times, {"a", "b"}).GetLayout();
-    // An item: a sample of 10, a name of 2; 2 off the chart.
-    EXPECT_EQ(left.LegendItemRects, (std::vector<RectF>{{100, 200, 12, 5}, {100, 205, 12, 5}}));
-    EXPECT_EQ(left.Whole, (RectF{100, 200, 101, 46}));
-    const PointF shift{14, 0};
-    EXPECT_EQ(left.Plot, penlode::Translated(without.Plot, shift));
-    EXPECT_EQ(left.HorLabelRects[1], penlode::Translated(without.HorLabelRects[1], shift));
-    EXPECT_EQ(left.Curves[0].Points[1], without.Curves[0].Points[1] + shift);
-
-    prop.Legend.LegendPos = LegendPosition::TopCenter;
-    const CurveLayout top = LaidOut(prop, values, times, {"a", "b"}).GetLayout();
-    const PointF down{0, top.Plot.Y - without.Plot.Y};
-    EXPECT_EQ(down.Y, 7); // an item, and 2 off the chart
-    EXPECT_EQ(top.HorLabelRects[1], penlode::Translated(without.HorLabelRects[1], down));
-    EXPECT_EQ(top.Curves[0].Points[1], without.Curves[0].Points[1] + down);
+    const auto expectPushed = [&](std::int32_t position, PointF by, const RectF& whole) {
+        prop.Legend.LegendPos = position;
+        const CBasicCurve chart = LaidOut(prop, {{10, 20}}, {{0, 1}}, {"a", "b"});
+        moved.SetLocation(PointF{100, 200} + by);
+        moved.Layout();
+        EXPECT_EQ(chart.GetPositionAll(), whole);
+        EXPECT_EQ(Drawn(chart).substr(0, Drawn(moved).size()), Drawn(moved));
+        return chart.GetLayout().LegendItemRects;
+    };
+    // An item: a sample of 10, a name of 2, 5 high; 2 off the chart.
+    expectPushed(LegendPosition::RightCenter, {0, 0}, {100, 200, 101, 46});
+    EXPECT_EQ(expectPushed(LegendPosition::LeftTop, {14, 0}, {100, 200, 101, 46}),
+              (std::vector<RectF>{{100, 200, 12, 5}, {100, 205, 12, 5}}));
+    expectPushed(LegendPosition::TopCenter, {0, 7}, {100, 200, 87, 53});
 }
 
 TEST(BasicCurve, TimesSpanThePlot) {

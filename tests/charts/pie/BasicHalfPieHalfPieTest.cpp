@@ -1,8 +1,8 @@
 #include "charts/pie/BasicHalfPieHalfPie.h"
 
 #include "charts/pie/HalfPiePropSerialize.h"
-#include "penlode/recording/RecordingEngine.h"
 #include "penlode/streams/BinarySerialize.h"
+#include "support/Drawings.h"
 #include "support/Rects.h"
 
 #include <cmath>
@@ -75,20 +75,7 @@ TEST(BasicHalfPieHalfPie, TheWholeFigureOnOneCentre) {
     EXPECT_EQ(chart.GetSecondHalf().GetLayout().Pie, (RectF{48, 48, 4, 4}));
     ExpectNear(chart.GetPositionAll(), {45, 45, 10, 12});
 
-    penlode::CRecordingEngine engine;
-    chart.Draw(&engine);
-    EXPECT_EQ(engine.Text(), "FillPie #FFFFFFFF (45 45 10 10) 180 90\n"
-                             "DrawPie #FF000000/0.1 (45 45 10 10) 180 90\n"
-                             "FillPie #FF000000 (45 45 10 10) 270 90\n"
-                             "DrawPie #FF000000/0.1 (45 45 10 10) 270 90\n"
-                             "FillPie #FF0000FF (48 48 4 4) 0 180\n"
-                             "BeginContainer 1\n"
-                             "SetPageScale 1\n"
-                             "SetPageUnit millimeter\n"
-                             "TranslateTransform 51 54.5 prepend\n"
-                             "RotateTransform 0 prepend\n"
-                             "DrawString \"C\" 宋体/4 (-1 -2.5 2 5.5) center-center #FF000000\n"
-                             "EndContainer 1\n");
+    ExpectDrawing("half-pies", Drawn(chart));
     chart.Draw(nullptr);
 }
 

@@ -1,10 +1,6 @@
 #include "charts/pie/BasicHalfPieHistogram.h"
 
-#include "charts/pie/HalfPiePropSerialize.h"
-#include "penlode/recording/RecordingEngine.h"
-#include "penlode/streams/BinarySerialize.h"
-#include "penlode/streams/JsonSerializeStream.h"
-#include "support/ListingStream.h"
+#include "support/Drawings.h"
 #include "support/Rects.h"
 
 #include <gtest/gtest.h>
@@ -55,13 +51,7 @@ TEST(BasicHalfPieHistogram, NothingButBarsStandsOnTheHalfPie) {
     const CBasicHalfPieHistogram chart = LaidOut(HalfUnderBars());
     EXPECT_EQ(chart.GetPositionAll(), (RectF{80, 70, 40, 40}));
     EXPECT_EQ(chart.GetHistogram().GetPositionAll(), (RectF{80, 70, 40, 30}));
-    penlode::CRecordingEngine engine;
-    chart.Draw(&engine);
-    EXPECT_EQ(engine.Text(), "FillPie #FFFFFFFF (90 90 20 20) 0 180\n"
-                             "DrawPie #FF000000/0.1 (90 90 20 20) 0 180\n"
-                             "FillRectangle #FFFFFFFF (80 70 40 30)\n"
-                             "FillRectangle #FF0000FF (85 85 10 15)\n"
-                             "FillRectangle #FF0000FF (105 70 10 30)\n");
+    ExpectDrawing("bars-on-a-half-pie", Drawn(chart));
 
     HalfPieHistogramProp bare = HalfUnderBars();
     bare.Histogram.Caption.ShowCaption = 0;
@@ -133,30 +123,4 @@ TEST(BasicHalfPieHistogram, WithoutDataItIsABarePoint) {
     chart.Layout();
     EXPECT_EQ(chart.GetPositionAll(), (RectF{100, 100, 0, 0}));
     CBasicHalfPieHistogram().Draw(nullptr);
-}
-
-TEST(HalfPieHistogramPropSerialize, TheHalfPieComesFirstOnBothPaths) {
-    HalfPieHistogramProp prop = HalfUnderBars();
-    ListingStream half;
-    CHalfPiePropSerialize::SerializeHalfPieProp(half, prop.HalfPie);
-    ListingStream both;
-    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(both, prop);
-    EXPECT_EQ(both.Text().find(half.Text() + "int 1\ntext caption\n"), 0U);
-    penlode::CBinarySerialize out;
-    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(out, prop);
-    penlode::CBinarySerialize in(out.Bytes());
-    HalfPieHistogramProp loaded;
-    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(in, loaded);
-    EXPECT_EQ(loaded, prop);
-    EXPECT_EQ(in.Remaining(), 0U);
-
-    penlode::CJsonSerializeStream stream;
-    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(stream, prop, "P");
-    const std::string text = stream.Text();
-    EXPECT_EQ(text.find("{\n  \"P\": {\n    \"HalfPie\": {\n      \"HalfPieBasicProp\": {\n"), 0U);
-    EXPECT_NE(text.find("\n    },\n    \"Histogram\": {\n      \"CaptionProp\": {\n"), std::string::npos);
-    penlode::CJsonSerializeStream back(text);
-    HalfPieHistogramProp fromText;
-    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(back, fromText, "P");
-    EXPECT_EQ(fromText, prop);
 }

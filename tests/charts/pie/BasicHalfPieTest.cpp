@@ -1,6 +1,6 @@
 #include "charts/pie/BasicHalfPie.h"
 
-#include "penlode/recording/RecordingEngine.h"
+#include "support/Drawings.h"
 #include "support/Rects.h"
 
 #include <cmath>
@@ -29,12 +29,6 @@ CBasicHalfPie LaidOut(const HalfPieProp& prop, const std::vector<double>& values
     pie.SetLocation({50, 50});
     pie.Layout();
     return pie;
-}
-
-std::string Drawn(const CBasicHalfPie& pie) {
-    penlode::CRecordingEngine engine;
-    pie.Draw(&engine);
-    return engine.Text();
 }
 
 } // namespace

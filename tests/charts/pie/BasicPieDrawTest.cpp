@@ -1,5 +1,5 @@
 #include "charts/pie/BasicPie.h"
-#include "penlode/recording/RecordingEngine.h"
+#include "support/Drawings.h"
 #include "support/Texts.h"
 
 #include <cmath>
@@ -25,9 +25,7 @@ std::string Drawn(const PieProp& prop, const std::vector<double>& values) {
     pie.SetComponentValue(values);
     pie.SetLocation({50, 50});
     pie.Layout();
-    penlode::CRecordingEngine engine;
-    pie.Draw(&engine);
-    return engine.Text();
+    return ::Drawn(pie);
 }
 
 /// The walls that a single slice shows among others, as "from sweep" of the top arcs.
@@ -53,31 +51,7 @@ TEST(BasicPieDraw, AFlatPieWithLabelsAndLegend) {
     prop.Label.PieLabelTextProperty.Angle = 90;
     prop.Legend.ShowLegend = 1;
     prop.Legend.LegendPos = LegendPosition::BottomLeft;
-    EXPECT_EQ(Drawn(prop, {1, 3}), "FillPie #FF404040 (40 40 20 20) 180 90\n"
-                                   "DrawPie #FFFFFFFF/0.4 (40 40 20 20) 180 90\n"
-                                   "FillPie #80C08040 (40 40 20 20) 270 270\n"
-                                   "DrawPie #FFFFFFFF/0.4 (40 40 20 20) 270 270\n"
-                                   "BeginContainer 1\n"
-                                   "SetPageScale 1\n"
-                                   "SetPageUnit millimeter\n"
-                                   "TranslateTransform 40.43 40.93 prepend\n"
-                                   "RotateTransform -90 prepend\n"
-                                   "DrawString \"煤\" 宋体/4 (-2 -2.5 4 5.5) center-center #FF000000\n"
-                                   "EndContainer 1\n"
-                                   "BeginContainer 2\n"
-                                   "SetPageScale 1\n"
-                                   "SetPageUnit millimeter\n"
-                                   "TranslateTransform 59.57 60.07 prepend\n"
-                                   "RotateTransform -90 prepend\n"
-                                   "DrawString \"Oil\" 宋体/4 (-3 -2.5 6 5.5) center-center #FF000000\n"
-                                   "EndContainer 2\n"
-                                   "DrawRectangle #FF000000/0.1 (37.93 65.07 20 5)\n"
-                                   "FillRectangle #FF404040 (38.93 66.07 3 3)\n"
-                                   "DrawRectangle #FF000000/0.1 (38.93 66.07 3 3)\n"
-                                   "DrawString \"煤\" 宋体/4 (42.93 65.07 4 5) center-center #FF000000\n"
-                                   "FillRectangle #80C08040 (47.93 66.07 3 3)\n"
-                                   "DrawRectangle #FF000000/0.1 (47.93 66.07 3 3)\n"
-                                   "DrawString \"Oil\" 宋体/4 (51.93 65.07 6 5) center-center #FF000000\n");
+    ExpectDrawing("flat-pie", Drawn(prop, {1, 3}));
 }
 
 TEST(BasicPieDraw, APieWithDepth) {
@@ -151,9 +125,7 @@ TEST(BasicPieDraw, DrawsTheLastLayout) {
     pie.SetComponentValue({1});
     pie.Layout();
     pie.SetLocation({500, 500});
-    penlode::CRecordingEngine engine;
-    pie.Draw(&engine);
-    EXPECT_EQ(engine.Text().substr(0, 42), "FillPie #FF000000 (-10 -10 20 20) 180 360\n");
+    EXPECT_EQ(Drawn(pie).substr(0, 42), "FillPie #FF000000 (-10 -10 20 20) 180 360\n");
 }
 
 TEST(PieEllipse, FacesOfBothStyles) {
