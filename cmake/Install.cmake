@@ -3,7 +3,10 @@
 include(CMakePackageConfigHelpers)
 include(cmake/PublicHeaders.cmake)
 
-install(TARGETS penlode millichart millichart-core millichart-documents EXPORT millichartTargets)
+if(MILLICHART_DOCUMENTS)
+  set(documents millichart-documents)
+endif()
+install(TARGETS penlode millichart millichart-core ${documents} EXPORT millichartTargets)
 install(
   EXPORT millichartTargets
   NAMESPACE millichart::
@@ -15,7 +18,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake
 
 # The file finds its prefix from where it lies, so that an installed tree may be moved.
 file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-foreach(package millichart millichart-documents)
+foreach(package millichart ${documents})
   configure_file(packaging/${package}.pc.in ${package}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()

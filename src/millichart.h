@@ -29,5 +29,7 @@
 #include "penlode/IGraphicsEngine.h"
 #include "penlode/Units.h"
 #include "penlode/streams/BinarySerialize.h"
-#include "penlode/streams/JsonSerializeStream.h"
 #include "penlode/text/StringUtil.h"
+#if __has_include("penlode/streams/JsonSerializeStream.h") // a library without documents lacks it
+#include "penlode/streams/JsonSerializeStream.h"
+#endif
