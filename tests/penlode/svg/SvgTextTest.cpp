@@ -24,6 +24,7 @@ std::string Drawn(const wchar_t* text, const Font& font, const SvgOptions& optio
 TEST(SvgText, WritesEachLineAlignedInItsBox) {
     CSvgEngine engine({80, 60});
     const StringFormat centered{0, 0, StringAlignment::Center, StringAlignment::Center};
+    EXPECT_EQ(engine.DrawString(L"", -1, &kArial, PointF{}, &kBrush), Status::Ok);
     engine.DrawString(L"ab\r\n\ncdef", -1, &kArial, RectF{10, 20, 20, 15}, &centered, &kBrush);
     EXPECT_EQ(Body(engine), "<text x=\"18\" y=\"24\" textLength=\"4\"" + kArialText +
                                 "font-size=\"4\" fill=\"#000000\">ab</text>\n"
