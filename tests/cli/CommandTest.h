@@ -43,12 +43,6 @@ protected:
         return outcome.Output;
     }
 
-    /// What `check` says of a document, which becomes h.json, but for notes.
-    std::string Warnings(const std::string& document) const {
-        Write("h.json", document);
-        return Run("millichart check h.json | grep -v note").Output;
-    }
-
 private:
     TemporaryFolder m_folder;
 };

@@ -60,11 +60,6 @@ TEST_F(Curve, TextsInTheFirstColumnAreLabels) {
     Write("d.csv", months);
     EXPECT_EQ(Labels(Lines(R"({"csv": "d.csv"})")), "m1 m6 m11 m16 m21 ");
     EXPECT_EQ(Labels(Lines(R"({"csv": "d.csv", "labels": ["a", "b"]})")), "a b ");
-    Write("d.csv", "2020,1\n2021,2\nnext,3\n");
-    Write("c.json", Lines(R"({"csv": "d.csv"})"));
-    EXPECT_EQ(
-        Run("millichart draw c.json").Errors,
-        "millichart: d.csv:3: column 1: found \"next\", expected a whole number, as in the rows above\n");
 }
 
 TEST_F(Curve, TheUsersTableBringsItsOwnNamesAndLabels) {
@@ -76,11 +71,6 @@ TEST_F(Curve, TheUsersTableBringsItsOwnNamesAndLabels) {
     const std::string shown = Run("millichart inspect c.json --data d.csv").Output;
     EXPECT_NE(shown.find("\"text\":\"Mon\""), std::string::npos);
     EXPECT_EQ(shown.find("\"text\":\"a\""), std::string::npos);
-    EXPECT_EQ(Run("millichart check c.json --data d.csv | grep ' warning: '").Output, "")
-        << "two names for two curves";
-    Write("c.json", Lines(R"({"csv": "d.csv"})", R"(, "CurveName": ["East", "West"])"));
-    EXPECT_NE(Run("millichart check c.json").Output.find("CurveName"), std::string::npos)
-        << "the document's own names stand, and that is told";
 }
 
 TEST_F(Curve, EmptyColumnsAtTheEndAreNoCurves) {
@@ -104,30 +94,6 @@ TEST_F(Curve, LabelsOfThousandsOfRowsKeepTheirPlaces) {
     }
     Write("d.csv", rows);
     EXPECT_EQ(Labels(Lines(R"({"csv": "d.csv"})")), "row 0 row 500 row 1000 row 1500 row 2000 row 2500 ");
-}
-
-TEST_F(Curve, AGapThatIsDrawnAsZeroMayLieOutsideTheAxis) {
-    const auto warnings = [&](const std::string& nullStyle) {
-        Write("c.json", R"({"kind": "curve", "property": {"CurvePlotProp": {"NullValueStyle": [")" +
-                            nullStyle +
-                            R"("]}}, "range": {"NaturalValueRange": [300, 440, 20, 10]},
-                           "data": {"curves": [{"values": [310, null, 320]}]}})");
-        return Run("millichart check c.json | grep ' warning: '").Output;
-    };
-    EXPECT_EQ(warnings("as_zero"),
-              "c.json:2: warning: data/curves/0/values/1: lies outside the value axis, which "
-              "goes from 300 to 440\n");
-    EXPECT_EQ(warnings("break"), "");
-}
-
-TEST_F(Curve, TellsWhatItCannotPlace) {
-    Write("c.json", Lines("{\"curves\": [{\"times\": [1, 2.5],\n\"values\": [1, 2, \"x\"]}]}"));
-    EXPECT_EQ(Run("millichart check c.json | grep -v note").Output,
-              "c.json:3: data/curves/0/times: found \"2\", expected 3, one a value\n"
-              "c.json:3: data/curves/0/times/1: found 2.5, expected a whole number within 32 bits\n"
-              "c.json:4: data/curves/0/values/2: found \"x\", expected a number\n");
-    Write("c.json", Lines("{}"));
-    EXPECT_NE(Run("millichart draw c.json").Errors.find("data/curves: found no such key"), std::string::npos);
 }
 
 TEST_F(Curve, AMillionRowsAreDrawnInNoTime) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -48,6 +49,46 @@ std::string Told(const ChartDocument& document) {
     return Told(document.Diagnostics());
 }
 
+/// A document's files by their names, and what is said of it.
+using Parts = std::map<std::string, std::string>;
+
+/// The cases of a list: each begins with "===" and its document, and "--- NAME" begins any other part of it.
+std::vector<Parts> Cases(const std::filesystem::path& list) {
+    std::vector<Parts> cases;
+    std::string* part = nullptr;
+    std::ifstream lines(list);
+    for (std::string line; std::getline(lines, line);) {
+        if (line == "===") {
+            part = &cases.emplace_back()["b.json"];
+        } else if (line.starts_with("--- ")) {
+            part = &cases.back()[line.substr(4)];
+        } else {
+            *part += line + "\n";
+        }
+    }
+    return cases;
+}
+
+/// What a load and a layout say of a document, a line each, but for notes.
+std::string Said(const ChartDocument& document) {
+    std::vector<penlode::Diagnostic> found = document.Diagnostics();
+    if (document.IsSound()) {
+        const LaidOutChart chart = document.LayOut();
+        found.insert(found.end(), chart.Diagnostics.begin(), chart.Diagnostics.end());
+        document.PutInOrder(found);
+    }
+    std::string said;
+    for (const penlode::Diagnostic& d : found) {
+        if (d.Severity != penlode::Severity::Note) {
+            said += std::filesystem::path(d.File).filename().string() +
+                    (d.Line == 0 ? "" : ":" + std::to_string(d.Line)) +
+                    (d.Severity == penlode::Severity::Warning ? ": warning: " : ": ") + d.Place +
+                    (d.Place.empty() ? "" : ": ") + d.Text + "\n";
+        }
+    }
+    return said;
+}
+
 bool Holds(const ChartDocument& document, const std::string& text) {
     return document.Text().find(text) != std::string::npos;
 }
@@ -72,6 +113,22 @@ private:
 };
 
 } // namespace
+
+TEST_F(InFolder, WhatIsSaidOfDocumentsIsAsListed) {
+    for (const auto& list : std::filesystem::directory_iterator(MILLICHART_DIAGNOSTICS)) {
+        for (const Parts& parts : Cases(list.path())) {
+            for (const auto& [name, text] : parts) {
+                Write(name, text);
+            }
+            const auto table = parts.find("table");
+            const ChartDocument document = ChartDocument::FromText(
+                parts.at("b.json"), Name("b.json"),
+                table == parts.end() ? std::nullopt : std::optional(InputText{"table", table->second}));
+            EXPECT_EQ(Said(document), parts.at("said")) << list.path() << "\n" << parts.at("b.json");
+            std::filesystem::remove(Name("d.csv"));
+        }
+    }
+}
 
 TEST(ChartDocument, SavedAgainIsTheSameModelAndPicture) {
     const std::vector<ChartDocument> documents = AllDocuments();

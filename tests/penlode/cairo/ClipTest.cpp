@@ -26,23 +26,7 @@ struct ModeCase {
     std::ptrdiff_t Pixels;
 };
 
-constexpr std::array<ModeCase, 6> kModes{{{CombineMode::Replace, 36},
-                                          {CombineMode::Intersect, 9},
-                                          {CombineMode::Union, 63},
-                                          {CombineMode::Xor, 54},
-                                          {CombineMode::Exclude, 27},
-                                          {CombineMode::Complement, 27}}};
-
 } // namespace
-
-TEST(Clip, EveryModeCombinesRectangles) {
-    for (const ModeCase& c : kModes) {
-        const auto g = PixelSurface(20, 10);
-        g->SetClip(kA, CombineMode::Replace);
-        g->SetClip(kB, c.Mode);
-        EXPECT_EQ(Clipped(*g), c.Pixels) << static_cast<int>(c.Mode);
-    }
-}
 
 /// A union is no intersection of even-odd areas, so all of these go through masks.
 TEST(Clip, EveryModeCombinesWithAUnion) {

@@ -77,6 +77,9 @@ TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
     const Font wildFont{L"宋体", kNan, FontStyle::Regular};
     GraphicsPath wildPath;
     wildPath.AddBezier({0, 0}, {kNan, 1}, {1, 1}, {9, 9});
+    GraphicsPath wildArc;
+    wildArc.AddArc({0, 0, 1, 1}, kNan, 90);
+    const Font flatFont{L"宋体", 0.0F, FontStyle::Regular};
     Region wildRegion;
     wildRegion.Combine(Region(wildPath), CombineMode::Intersect);
     for (const Status status : {g->DrawLine(nullptr, 0, 0, 9, 9),
@@ -90,6 +93,8 @@ TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
                                 g->DrawEllipse(&kPen, 0, 0, INFINITY, 9),
                                 g->DrawPie(nullptr, {0, 0, 9, 9}, 0, 90),
                                 g->DrawPolygon(&kPen, nullptr, 0),
+                                g->DrawPolygon(&kPen, bad.data(), -1),
+                                g->DrawCurve(&kPen, nullptr, 3),
                                 g->DrawCurve(&kPen, bad.data(), 3),
                                 g->FillRectangle(nullptr, 0, 0, 9, 9),
                                 g->FillEllipse(&kBrush, kNan, 0, 9, 9),
@@ -97,11 +102,13 @@ TEST(GraphicsEngine, MissingOrInfiniteArgumentsAreRefusedAndDrawNothing) {
                                 g->FillPolygon(nullptr, bad.data(), 3),
                                 g->FillPath(&kBrush, nullptr),
                                 g->FillPath(&kBrush, &wildPath),
+                                g->FillPath(&kBrush, &wildArc),
                                 g->SetClip(&wildPath, CombineMode::Replace),
                                 g->SetClip(&wildRegion, CombineMode::Replace),
                                 g->DrawString(nullptr, -1, &kFont, PointF{}, &kBrush),
                                 g->DrawString(L"x", -1, nullptr, PointF{}, &kBrush),
                                 g->DrawString(L"x", -1, &wildFont, PointF{}, &kBrush),
+                                g->DrawString(L"x", -1, &flatFont, PointF{}, &kBrush),
                                 g->DrawString(L"x", -1, &kFont, PointF{}, nullptr),
                                 g->DrawImage(nullptr, RectF{0, 0, 9, 9}),
                                 g->SetClip(RectF{0, 0, kNan, 0}, CombineMode::Replace),

@@ -13,12 +13,6 @@ namespace {
 const Pen kPen(kBlack, 2.0F);
 const SolidBrush kBrush{kBlack};
 
-template <class Drawing> std::vector<Color> Picture(Drawing&& draw) {
-    const auto g = PixelSurface(40, 30);
-    draw(*g);
-    return g->Pixels().Pixels;
-}
-
 } // namespace
 
 TEST(GuardBand, ExtremeNumbersAreHarmless) {
@@ -49,22 +43,4 @@ TEST(GuardBand, ExtremeNumbersAreHarmless) {
     const SolidBrush red{Color{0xFFFF0000}};
     g->FillRectangle(&red, 0, 0, 40, 30);
     EXPECT_EQ(CountOf(g->Pixels(), Color{0xFFFF0000}), 1200);
-}
-
-TEST(GuardBand, DenseLinesLookLikeSparseOnes) {
-    std::vector<PointF> dense;
-    for (int i = 0; i <= 3000; ++i) {
-        dense.push_back({static_cast<float>(i) * 0.01F + 5, static_cast<float>(i) * 0.005F + 5});
-    }
-    for (const Color color : {kBlack, Color{0x80000000}}) {
-        const Pen pen(color, 3);
-        const auto many = Picture(
-            [&](CGraphicsEngine& g) { g.DrawLines(&pen, dense.data(), static_cast<int>(dense.size())); });
-        const auto few = Picture([&](CGraphicsEngine& g) { g.DrawLine(&pen, 5, 5, 35, 20); });
-        EXPECT_EQ(many[40 * 12 + 20], few[40 * 12 + 20]);
-        const auto inked = [](const std::vector<Color>& pixels) {
-            return std::count_if(pixels.begin(), pixels.end(), [](Color c) { return c.R() < 0xA0; });
-        };
-        EXPECT_NEAR(static_cast<double>(inked(many)), static_cast<double>(inked(few)), 12.0);
-    }
 }

@@ -47,15 +47,6 @@ std::string DotIn(const std::string& definitions, const std::vector<std::string>
     return text;
 }
 
-/// A dot in a square that another one is combined with.
-std::string Combined(CombineMode mode) {
-    CSvgEngine engine({80, 60});
-    engine.SetClip(RectF{0, 0, 10, 10}, CombineMode::Replace);
-    engine.SetClip(RectF{5, 5, 10, 10}, mode);
-    Dot(engine);
-    return Body(engine);
-}
-
 /// How many elements stand in one another at most.
 int DeepestLevel(const std::string& text) {
     int level = 0;
@@ -138,21 +129,6 @@ TEST(SvgGroups, ManyClipsStayReadableAndInForce) {
                              "<g mask=\"url(#m3)\">\n"}) {
         EXPECT_NE(text.find(mask), std::string::npos) << mask;
     }
-}
-
-TEST(SvgClip, SixWaysToCombine) {
-    const std::string inC1 = "clip-path=\"url(#c1)\"";
-    const std::string inC2 = "clip-path=\"url(#c2)\"";
-    const std::string square = Path("c1", kSquareData);
-    EXPECT_EQ(Combined(CombineMode::Replace), DotIn(Path("c1", kOtherData), {inC1}));
-    EXPECT_EQ(Combined(CombineMode::Intersect), DotIn(Path("c1", "M5 5 L10 5 L10 10 L5 10 Z"), {inC1}));
-    EXPECT_EQ(Combined(CombineMode::Union),
-              DotIn(Mask("m1", White(kSquareData) + White(kOtherData)), {"mask=\"url(#m1)\""}));
-    EXPECT_EQ(Combined(CombineMode::Xor), DotIn(Path("c1", kSquareData + " " + kOtherData), {inC1}));
-    EXPECT_EQ(Combined(CombineMode::Exclude),
-              DotIn(square + Path("c2", kPage + " " + kOtherData), {inC1, inC2}));
-    EXPECT_EQ(Combined(CombineMode::Complement),
-              DotIn(Path("c1", kOtherData) + Path("c2", kPage + " " + kSquareData), {inC1, inC2}));
 }
 
 TEST(SvgClip, CombinedRegionsCombineExactly) {

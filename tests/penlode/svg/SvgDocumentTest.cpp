@@ -1,4 +1,5 @@
-#include "penlode/svg/Body.h"
+#include "penlode/svg/SvgEngine.h"
+#include "support/EverySlot.h"
 
 #include <clocale>
 #include <cstdlib>
@@ -10,52 +11,9 @@ using namespace penlode;
 
 namespace {
 
-/// Draws with every operation that leaves something in a document.
-void DrawAll(IGraphicsEngine& engine) {
-    const Pen pen(Color{0x80336699}, 0.25F, DashStyle::DashDotDot);
-    const SolidBrush brush{Color{0xFFCC6600}};
-    const Font font{L"宋体", 3.5F, FontStyle::Bold | FontStyle::Underline};
-    const StringFormat far{0, 0, StringAlignment::Far, StringAlignment::Near};
-    const PointF points[] = {{1.5F, 1}, {20.25F, 7}, {40, 3}};
-    const Image image{2, 1, 96.0F, 96.0F, {kBlack, kWhite}};
-    const GradientVertex vertices[] = {{0, 0, 0xFF00, 0, 0, 0}, {9, 9, 0, 0xFF00, 0, 0}, {0, 9, 0, 0, 0, 0}};
-    const GradientRect rect{0, 1};
-    const GradientTriangle triangle{0, 1, 2};
-    GraphicsPath path;
-    path.AddPie({5, 5, 30, 20}, 10, 200);
-
-    engine.DrawRectangle(&pen, 1.5F, 1.5F, 2.25F, 3);
-    engine.DrawLines(&pen, points, 3);
-    engine.DrawLine(&pen, 0.125F, 0, 10, 10);
-    engine.DrawArc(&pen, 1, 2, 10, 5, 10, 100);
-    engine.DrawEllipse(&pen, 1, 2, 10, 5);
-    engine.DrawPie(&pen, {1, 2, 10, 5}, 10, 359.9F);
-    engine.DrawPolygon(&pen, points, 3);
-    engine.DrawCurve(&pen, points, 3);
-    const auto container = engine.BeginContainer();
-    engine.TranslateTransform(20.5F, 30, MatrixOrder::Prepend);
-    engine.RotateTransform(-33.3F, MatrixOrder::Prepend);
-    engine.SetClip(&path, CombineMode::Intersect);
-    engine.SetClip(RectF{0, 0, 9, 9}, CombineMode::Exclude);
-    engine.DrawString(L"<深度>\n\"m\" & ]]>\x02", -1, &font, PointF{1, 1}, &far, &brush);
-    engine.DrawString(L" two  blanks ", -1, &font, PointF{1, 1}, &brush);
-    engine.DrawString(L"boxed", 3, &font, RectF{1, 1, 20, 10}, &far, &brush);
-    engine.DrawScriptText(L"x\t²", &font, 3, 4, &brush);
-    engine.DrawImage(&image, {5, 5, 10, 5}, 0.25F, 0, 1, 1, Unit::Pixel, nullptr, nullptr, nullptr);
-    engine.DrawImage(&image, {5, 5, 10, 5});
-    engine.EndContainer(container);
-    engine.FillRectangle(&brush, 1, 2, 3, 4);
-    engine.FillEllipse(&brush, 1, 2, 3, 4);
-    engine.FillPie(&brush, {1, 2, 10, 5}, 10, -250);
-    engine.FillPolygon(&brush, points, 3);
-    engine.FillPath(&brush, &path);
-    engine.GradientFill({0, 0, 80, 60}, {1.5F, 1}, vertices, 3, &rect, 1, GradientMode::RectV);
-    engine.GradientFill({0, 0, 5, 60}, {1.5F, 1}, vertices, 3, &triangle, 1, GradientMode::Triangle);
-}
-
 std::string Document(bool outlines) {
-    CSvgEngine engine({80, 60}, {"Title", "Description", kWhite, outlines});
-    DrawAll(engine);
+    CSvgEngine engine(kEverySlotPage, {"Title", "Description", kWhite, outlines});
+    DrawEverySlot(engine);
     return engine.Text();
 }
 
