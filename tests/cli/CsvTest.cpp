@@ -42,14 +42,9 @@ TEST_F(CsvFile, IsReadHoweverItWasWritten) {
 
 TEST_F(CsvFile, NamesThatARecordCannotHoldAreRefused) {
     EXPECT_EQ(
-        Complaint("A|B,1
-A||B,1
-C|,2
-"),
-        "millichart: d.csv:2: column 1: found \"A||B\", expected a text without || and without | at its end
-"
-        "millichart: d.csv:3: column 1: found \"C|\", expected a text without || and without | at its end
-");
+        Complaint("A|B,1\nA||B,1\nC|,2\n"),
+        "millichart: d.csv:2: column 1: found \"A||B\", expected a text without || and without | at its end\n"
+        "millichart: d.csv:3: column 1: found \"C|\", expected a text without || and without | at its end\n");
 }
 
 TEST_F(CsvFile, MayNotBeOfAnotherEncoding) {
