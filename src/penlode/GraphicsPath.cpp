@@ -13,26 +13,6 @@ namespace {
 
 constexpr double kMaxArc = std::numbers::pi / 4.0;
 
-struct EllipseArc {
-    PointD Center;
-    double Rx;
-    double Ry;
-    double Start;
-    double End;
-
-    explicit EllipseArc(const GraphicsPath::Arc& arc)
-        : Center{arc.Ellipse.X + arc.Ellipse.Width * 0.5, arc.Ellipse.Y + arc.Ellipse.Height * 0.5},
-          Rx(arc.Ellipse.Width * 0.5), Ry(arc.Ellipse.Height * 0.5),
-          Start(EllipseParameter(Rx, Ry, arc.StartAngle)),
-          End(std::abs(arc.SweepAngle) >= 360.0F
-                  ? Start + std::copysign(2.0 * std::numbers::pi, arc.SweepAngle)
-                  : EllipseParameter(Rx, Ry, static_cast<double>(arc.StartAngle) + arc.SweepAngle)) {}
-
-    PointD At(double t) const { return {Center.X + Rx * std::cos(t), Center.Y + Ry * std::sin(t)}; }
-
-    PointD Tangent(double t) const { return {-Rx * std::sin(t), Ry * std::cos(t)}; }
-};
-
 /// Alike but for the rounding of a point that was computed in two ways. A line between such points would have
 /// no direction, and its joins would stick out.
 bool IsSamePlace(PointD a, PointD b) {

@@ -31,10 +31,7 @@ Rgb RgbAt(std::span<const ColoredPoint, 3> t, PointD p) {
 }
 
 void ClipToBounds(const Painter& painter, const RectL& bounds) {
-    std::vector<PointD> corners;
-    for (const PointD p : CornersOf(BoxOf(bounds))) {
-        corners.push_back(Mapped(painter.ToDevice(), p));
-    }
+    std::vector<PointD> corners = MappedAll(painter.ToDevice(), CornersOf(BoxOf(bounds)));
     if (painter.Snaps()) {
         corners = PixelGrid::Face(corners);
     }
@@ -73,15 +70,12 @@ CairoPattern AxisBlend(const ColoredPoint& from, const ColoredPoint& to, bool ve
 
 void FillRect(const Painter& painter, const ColoredPoint& from, const ColoredPoint& to, bool vertical) {
     const BoxD seen = SeenWorld(painter);
-    const BoxD area = BoxBetween(from.Place, to.Place);
-    const RectF rect{static_cast<float>(area.Left), static_cast<float>(area.Top),
-                     static_cast<float>(area.Width()), static_cast<float>(area.Height())};
-    GraphicsPath path;
-    path.AddRectangle(rect);
-    const std::optional<BoxD> box = DeviceBox(painter, rect);
-    if (box) {
+    const RectF rect = Narrowed(BoxBetween(from.Place, to.Place));
+    if (const std::optional<BoxD> box = DeviceBox(painter, rect)) {
         AddBox(painter.Context(), *box, painter.GuardBand());
     } else {
+        GraphicsPath path;
+        path.AddRectangle(rect);
         AddArea(painter.Context(), path, painter.ToDevice(), painter.GuardBand());
     }
     const CairoPattern pattern = AxisBlend(from, to, vertical, seen);

@@ -106,8 +106,7 @@ CairoPattern PatternOf(cairo_surface_t* copy, const PixelRect& part, const Matri
 void PaintPart(const Painter& painter, cairo_surface_t* copy, const PixelRect& part, const BoxD& visible,
                const Matrix& pixelsToDevice) {
     GraphicsPath area;
-    area.AddRectangle({static_cast<float>(visible.Left), static_cast<float>(visible.Top),
-                       static_cast<float>(visible.Width()), static_cast<float>(visible.Height())});
+    area.AddRectangle(Narrowed(visible));
     if (!AddArea(painter.Context(), area, pixelsToDevice, painter.GuardBand())) {
         return;
     }

@@ -12,15 +12,6 @@ namespace {
 /// Curve pieces in one stroke; longer outlines are flattened and stroked piece by piece.
 constexpr std::size_t kMaxPieces = 64;
 
-std::vector<PointD> MapAll(const Painter& painter, std::span<const PointF> points) {
-    std::vector<PointD> mapped;
-    mapped.reserve(points.size());
-    for (const PointF p : points) {
-        mapped.push_back(painter.Map(p));
-    }
-    return mapped;
-}
-
 BoxD BoundsOf(std::span<const PointD> box) {
     return BoxBetween(box[0], box[2]);
 }
@@ -105,7 +96,7 @@ Status StrokePath(const Painter& painter, const GraphicsPath& path, const Pen& p
 }
 
 Status StrokeLine(const Painter& painter, std::span<const PointF> points, const Pen& pen) {
-    std::vector<PointD> line = MapAll(painter, points);
+    std::vector<PointD> line = MappedAll(painter.ToDevice(), points);
     const bool snapped = painter.Snaps() && AreFinite(line) && PixelGrid::IsAxisParallel(line);
     const DevicePen drawn(pen, painter, snapped);
     if (snapped) {
@@ -127,11 +118,11 @@ struct Stroker {
     Status operator()(const Outline::Polyline& line) const { return StrokeLine(Surface, line.Points, Look); }
 
     Status operator()(const Outline::Rectangle& rectangle) const {
-        return StrokeCorners(Surface, Look, MapAll(Surface, CornersOf(rectangle.Box)));
+        return StrokeCorners(Surface, Look, MappedAll(Surface.ToDevice(), CornersOf(rectangle.Box)));
     }
 
     Status operator()(const Outline::Polygon& polygon) const {
-        return StrokeCorners(Surface, Look, MapAll(Surface, polygon.Points));
+        return StrokeCorners(Surface, Look, MappedAll(Surface.ToDevice(), polygon.Points));
     }
 
     template <class Curved> Status operator()(const Curved& shape) const {
@@ -146,11 +137,11 @@ struct Filler {
     Status operator()(const Outline::Rectangle& rectangle) const {
         const std::optional<BoxD> box = DeviceBox(Surface, rectangle.Box);
         return box ? FillCorners(Surface, Ink, CornersOf(*box))
-                   : FillCorners(Surface, Ink, MapAll(Surface, CornersOf(rectangle.Box)));
+                   : FillCorners(Surface, Ink, MappedAll(Surface.ToDevice(), CornersOf(rectangle.Box)));
     }
 
     Status operator()(const Outline::Polygon& polygon) const {
-        std::vector<PointD> corners = MapAll(Surface, polygon.Points);
+        std::vector<PointD> corners = MappedAll(Surface.ToDevice(), polygon.Points);
         if (Surface.Snaps() && IsBox(corners)) {
             return FillCorners(Surface, Ink, CornersOf(PixelGrid::Box(BoundsOf(corners))));
         }

@@ -128,12 +128,8 @@ std::vector<PointD> WithoutCreeping(std::vector<PointD> points, double shortestS
 std::vector<PolylineRun> RunsOf(const Painter& painter, std::vector<PointD> points, bool closed,
                                 const DevicePen& pen) {
     points = WithoutCreeping(std::move(points), painter.HasPixels() ? kMinStepInPixels : kMinStepOnPages);
-    if (closed && points.size() > 1) {
-        const PointD second = points[1];
-        points.push_back(points.front());
-        if (pen.IsSolid()) {
-            points.push_back(second);
-        }
+    if (closed) {
+        points = ClosedPolyline(std::move(points), pen.IsSolid());
     }
     return ClippedPolyline(std::move(points), painter.GuardBand(pen.Margin()));
 }

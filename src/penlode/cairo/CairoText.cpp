@@ -124,10 +124,7 @@ BoxD WholePixelStroke(const BoxD& stroke) {
 void Decorate(const Painter& painter, const ShapedLine& line, const Matrix& toDevice, double height) {
     const double top = -(height + kDecorationThickness / 2.0) * kShapingEm;
     const double bottom = top + kDecorationThickness * kShapingEm;
-    std::vector<PointD> corners;
-    for (const PointD p : {PointD{0.0, top}, {line.Width, top}, {line.Width, bottom}, {0.0, bottom}}) {
-        corners.push_back(Mapped(toDevice, p));
-    }
+    const std::vector<PointD> corners = MappedAll(toDevice, CornersOf(BoxD{0.0, top, line.Width, bottom}));
     if (painter.Snaps()) {
         AddBox(painter.Context(), WholePixelStroke(BoxBetween(corners[0], corners[2])), painter.GuardBand());
     } else {

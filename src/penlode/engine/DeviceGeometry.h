@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 /// Points and boxes in device units, in double precision.
 namespace penlode {
@@ -57,6 +58,21 @@ inline BoxD Union(const BoxD& a, const BoxD& b) {
 inline BoxD Mapped(const Matrix& m, const BoxD& box) {
     return Union(BoxBetween(Mapped(m, PointD{box.Left, box.Top}), Mapped(m, PointD{box.Right, box.Bottom})),
                  BoxBetween(Mapped(m, PointD{box.Right, box.Top}), Mapped(m, PointD{box.Left, box.Bottom})));
+}
+
+template <class Points> std::vector<PointD> MappedAll(const Matrix& m, const Points& points) {
+    std::vector<PointD> mapped;
+    mapped.reserve(points.size());
+    for (const auto& point : points) {
+        mapped.push_back(Mapped(m, point));
+    }
+    return mapped;
+}
+
+/// In single precision.
+inline RectF Narrowed(const BoxD& box) {
+    return {static_cast<float>(box.Left), static_cast<float>(box.Top), static_cast<float>(box.Width()),
+            static_cast<float>(box.Height())};
 }
 
 /// Corners in order, from the top left one clockwise.

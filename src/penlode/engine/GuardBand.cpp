@@ -116,6 +116,17 @@ std::vector<PolylineRun> ClippedPolyline(std::vector<PointD> points, const BoxD&
     return runs;
 }
 
+std::vector<PointD> ClosedPolyline(std::vector<PointD> points, bool withCorner) {
+    if (points.size() > 1) {
+        const PointD second = points[1];
+        points.push_back(points.front());
+        if (withCorner) {
+            points.push_back(second);
+        }
+    }
+    return points;
+}
+
 std::vector<PointD> ClippedPolygon(std::vector<PointD> points, const BoxD& box) {
     if (AllInside(points, box)) {
         return points;

@@ -18,6 +18,10 @@ struct PolylineRun {
 
 std::vector<PolylineRun> ClippedPolyline(std::vector<PointD> points, const BoxD& box);
 
+/// A closed figure as a polyline whose end reaches its beginning and, if its corner there is to be drawn,
+/// goes a step beyond.
+std::vector<PointD> ClosedPolyline(std::vector<PointD> points, bool withCorner);
+
 /// The polygon's area within the box. Parts that touch may be joined along the box's edges.
 std::vector<PointD> ClippedPolygon(std::vector<PointD> points, const BoxD& box);
 

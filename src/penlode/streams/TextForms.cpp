@@ -129,9 +129,9 @@ std::optional<Font> FontOf(std::string_view text) {
     return Font{CStringUtil::AnsiToWideString(std::string(text)), *size, style};
 }
 
-template <class Value> bool Take(Value& value, std::optional<Value> parsed) {
+template <class Value, class Parsed> bool Take(Value& value, std::optional<Parsed> parsed) {
     if (parsed) {
-        value = *parsed;
+        value = std::move(*parsed);
     }
     return parsed.has_value();
 }
@@ -151,11 +151,7 @@ bool TakeObject(Owned<Object>& object, std::string_view text,
         object = nullptr;
         return true;
     }
-    auto parsed = parse(text);
-    if (parsed) {
-        object = std::move(*parsed);
-    }
-    return parsed.has_value();
+    return Take(object, parse(text));
 }
 
 } // namespace

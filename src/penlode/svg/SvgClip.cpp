@@ -251,7 +251,7 @@ std::string MaskAttribute(std::span<const std::string> groups, SizeF page, SvgDe
 }
 
 std::string ClipAttribute(const std::string& data, SvgDefinitions& definitions) {
-    const std::string id = definitions.ClipPath("", SvgElement("path").Set("d", data).Empty());
+    const std::string id = definitions.ClipPath(SvgElement("path").Set("d", data).Empty());
     return " clip-path=\"" + Reference(id) + "\"";
 }
 

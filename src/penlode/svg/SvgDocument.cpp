@@ -46,18 +46,6 @@ std::string TextLine(const char* element, const std::string& utf8) {
 
 } // namespace
 
-std::string SvgDefinitions::ClipPath(const std::string& attributes, const std::string& content) {
-    return Define(m_clips, attributes, content);
-}
-
-std::string SvgDefinitions::Mask(const std::string& attributes, const std::string& content) {
-    return Define(m_masks, attributes, content);
-}
-
-std::string SvgDefinitions::LinearGradient(const std::string& attributes, const std::string& content) {
-    return Define(m_gradients, attributes, content);
-}
-
 std::string SvgDefinitions::Define(Kind& kind, const std::string& attributes, const std::string& content) {
     const auto [place, isNew] = kind.Ids.try_emplace(attributes + ">" + content);
     if (isNew) {

@@ -16,9 +16,15 @@ namespace penlode::svg {
 class SvgDefinitions {
 public:
     /// The id of such an element with that content. The id is the element's first attribute.
-    std::string ClipPath(const std::string& attributes, const std::string& content);
-    std::string Mask(const std::string& attributes, const std::string& content);
-    std::string LinearGradient(const std::string& attributes, const std::string& content);
+    std::string ClipPath(const std::string& content) { return Define(m_clips, "", content); }
+
+    std::string Mask(const std::string& attributes, const std::string& content) {
+        return Define(m_masks, attributes, content);
+    }
+
+    std::string LinearGradient(const std::string& attributes, const std::string& content) {
+        return Define(m_gradients, attributes, content);
+    }
 
     /// All elements, one a line; empty if there are none.
     const std::string& Text() const { return m_text; }

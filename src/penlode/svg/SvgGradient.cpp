@@ -204,10 +204,7 @@ void AddWhole(Triangle t, GradientParts& parts) {
 
 void AddRect(const ColoredPoint& from, const ColoredPoint& to, bool vertical, SvgDefinitions& definitions,
              GradientParts& parts) {
-    const auto left = static_cast<float>(std::min(from.Place.X, to.Place.X));
-    const auto top = static_cast<float>(std::min(from.Place.Y, to.Place.Y));
-    const RectF box{left, top, static_cast<float>(std::abs(from.Place.X - to.Place.X)),
-                    static_cast<float>(std::abs(from.Place.Y - to.Place.Y))};
+    const RectF box = Narrowed(BoxBetween(from.Place, to.Place));
     if (box.Width > 0.0F && box.Height > 0.0F) {
         parts.Include(from.Place);
         parts.Include(to.Place);

@@ -73,25 +73,6 @@ private:
     bool m_started = false;
 };
 
-/// From which parameter an arc runs, and how far; nowhere on an ellipse without extent.
-struct ArcSpan {
-    double Start = 0.0;
-    double Sweep = 0.0;
-};
-
-ArcSpan SpanOf(const GraphicsPath::Arc& arc) {
-    const double rx = arc.Ellipse.Width * 0.5;
-    const double ry = arc.Ellipse.Height * 0.5;
-    if (rx == 0.0 || ry == 0.0) {
-        return {};
-    }
-    const double start = EllipseParameter(rx, ry, arc.StartAngle);
-    return {start,
-            std::abs(arc.SweepAngle) >= 360.0F
-                ? std::copysign(2.0 * std::numbers::pi, arc.SweepAngle)
-                : EllipseParameter(rx, ry, static_cast<double>(arc.StartAngle) + arc.SweepAngle) - start};
-}
-
 /// Writes a figure's pieces one after the other.
 class PieceWriter {
 public:
@@ -111,7 +92,7 @@ public:
 
     void operator()(const GraphicsPath::Arc& arc) const {
         if (m_arcsStay && arc.Ellipse.Width > 0.0F && arc.Ellipse.Height > 0.0F) {
-            WriteArc(arc);
+            WriteArc(EllipseArc(arc));
             return;
         }
         GraphicsPath alone;
@@ -120,19 +101,14 @@ public:
     }
 
 private:
-    void WriteArc(const GraphicsPath::Arc& arc) const {
-        const double rx = arc.Ellipse.Width * 0.5;
-        const double ry = arc.Ellipse.Height * 0.5;
-        const auto [start, sweep] = SpanOf(arc);
-        const auto at = [&](double t) {
-            return OnPage(m_toPage, PointD{arc.Ellipse.X + rx + rx * std::cos(t),
-                                           arc.Ellipse.Y + ry + ry * std::sin(t)});
-        };
-        m_data.MoveTo(at(start));
+    void WriteArc(const EllipseArc& arc) const {
+        const auto at = [&](double t) { return OnPage(m_toPage, arc.At(t)); };
+        const double sweep = arc.End - arc.Start;
+        m_data.MoveTo(at(arc.Start));
         const int steps = static_cast<int>(std::ceil(std::abs(sweep) / kMaxArc - 1e-6));
         for (int i = 1; i <= steps; ++i) {
-            m_data.ArcTo({rx * m_axes.X, ry * m_axes.Y, m_axes.Degrees, m_axes.Mirrored},
-                         (sweep > 0.0) != m_axes.Mirrored, at(start + sweep * i / steps));
+            m_data.ArcTo({arc.Rx * m_axes.X, arc.Ry * m_axes.Y, m_axes.Degrees, m_axes.Mirrored},
+                         (sweep > 0.0) != m_axes.Mirrored, at(arc.Start + sweep * i / steps));
         }
     }
 
@@ -198,15 +174,15 @@ public:
     }
 
     void operator()(const GraphicsPath::Arc& arc) {
-        const double rx = arc.Ellipse.Width * 0.5;
-        const double ry = arc.Ellipse.Height * 0.5;
-        const PageEllipse ellipse{Mapped(m_toPage, PointD{arc.Ellipse.X + rx, arc.Ellipse.Y + ry}),
-                                  {rx * m_toPage.M11, rx * m_toPage.M12},
-                                  {ry * m_toPage.M21, ry * m_toPage.M22}};
-        const ArcSpan span = SpanOf(arc);
-        Reach(ellipse.At(span.Start));
+        const EllipseArc whole(arc);
+        const PageEllipse ellipse{Mapped(m_toPage, whole.Center),
+                                  {whole.Rx * m_toPage.M11, whole.Rx * m_toPage.M12},
+                                  {whole.Ry * m_toPage.M21, whole.Ry * m_toPage.M22}};
+        const bool isFlat = whole.Rx == 0.0 || whole.Ry == 0.0;
+        const double start = isFlat ? 0.0 : whole.Start;
+        Reach(ellipse.At(start));
         int cuts = kMaxCuts;
-        Cut(ellipse, span.Start, span.Start + span.Sweep, cuts);
+        Cut(ellipse, start, isFlat ? 0.0 : whole.End, cuts);
     }
 
 private:

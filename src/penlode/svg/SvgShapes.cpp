@@ -62,19 +62,6 @@ std::string PathOf(const std::string& data, const Paint& paint) {
     return data.empty() ? "" : SvgElement("path").Set("d", data).Raw(paint.Attributes).Empty();
 }
 
-/// The figure's end reaches its beginning and, for the corner there, a step beyond.
-std::vector<PointD> AsPolyline(FlatFigure figure, bool solid) {
-    std::vector<PointD> points = std::move(figure.Points);
-    if (figure.Closed && points.size() > 1) {
-        const PointD second = points[1];
-        points.push_back(points.front());
-        if (solid) {
-            points.push_back(second);
-        }
-    }
-    return points;
-}
-
 /// The figures' lines near the page. A solid pen draws them in one stroke, so that a translucent one does not
 /// show where they meet; dashes go on where the cut-off part of the line left them.
 std::string StrokedFigures(std::vector<FlatFigure> figures, const BoxD& box, const Paint& pen) {
@@ -82,7 +69,10 @@ std::string StrokedFigures(std::vector<FlatFigure> figures, const BoxD& box, con
     std::string data;
     std::string elements;
     for (FlatFigure& figure : figures) {
-        for (const PolylineRun& run : ClippedPolyline(AsPolyline(std::move(figure), solid), box)) {
+        if (figure.Closed) {
+            figure.Points = ClosedPolyline(std::move(figure.Points), solid);
+        }
+        for (const PolylineRun& run : ClippedPolyline(std::move(figure.Points), box)) {
             if (run.Points.size() < 2) {
                 continue;
             }
