@@ -1,7 +1,7 @@
 #include "commands/CommandLine.h"
 #include "files/Console.h"
+#include "files/Streams.h"
 #include "files/System.h"
-#include "files/UserError.h"
 
 #include <new>
 

@@ -30,7 +30,6 @@ DataSource WithoutTable(const DataSource& source) {
 } // namespace
 
 void LoadContent(ChartStream& stream, const DataSource& source, HistogramDocument& document) {
-    AllowBarShortForms(stream);
     CHistogramPropSerialize::SerializeHistogramProp(stream, document.Prop, "property");
     document.Data = LoadBars(stream, source);
     document.Range = LoadValueRange(stream, document.Prop.Plot.LogarithmScale != 0, *source.Diagnostics);
@@ -38,8 +37,6 @@ void LoadContent(ChartStream& stream, const DataSource& source, HistogramDocumen
 
 void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHistogramDocument& document) {
     const DataSource two = WithoutTable(source);
-    AllowSliceShortForms(stream);
-    AllowBarShortForms(stream);
     CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(stream, document.Prop, "property");
     document.Slices = LoadSlices(stream, two);
     CheckSliceNames(kSlices, document.Prop.HalfPie.Basic.ComponentName, *source.Diagnostics);
@@ -47,12 +44,8 @@ void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHistogram
     document.Largest = LoadLargestValue(stream, *source.Diagnostics);
 }
 
-void LoadOffsets(ChartStream& stream, HalfPieHistogramDocument& document) {
-    document.LabelOffsets = LoadPoints(stream, kLabelOffsets);
-}
-
-void SaveOffsets(SavingStream& stream, const HalfPieHistogramDocument& document) {
-    stream.Points(kLabelOffsets, document.LabelOffsets);
+void SerOffsets(penlode::CSerializeStream& stream, HalfPieHistogramDocument& document) {
+    SerPoints(stream, kLabelOffsets, document.LabelOffsets);
 }
 
 void SaveContent(SavingStream& stream, HistogramDocument& document) {
@@ -98,10 +91,9 @@ CBasicHistogram LayOutContent(HistogramDocument& document, LayoutTask& task) {
 CBasicHalfPieHistogram LayOutContent(HalfPieHistogramDocument& document, LayoutTask& task) {
     ForgetOrigin(document.Bars.Origin, task);
     HalfPieProp& halfPie = document.Prop.HalfPie;
-    Slices slices(kSlices, document.Slices, task.Diagnostics);
-    slices.Complete(halfPie.Basic, task.Open);
+    Slices slices(kSlices, document.Slices, halfPie.Basic, task.Open);
     const Bars bars(kPlotOfTwo, document.Bars, document.Prop.Histogram.Plot, task.Open);
-    slices.DoubtOffsets(document.LabelOffsets.size(), kLabelOffsets, halfPie.Basic);
+    slices.DoubtOffsets(document.LabelOffsets.size(), kLabelOffsets);
 
     CBasicHalfPieHistogram chart;
     chart.SetHalfPieHistogramProp(document.Prop);
@@ -110,7 +102,7 @@ CBasicHalfPieHistogram LayOutContent(HalfPieHistogramDocument& document, LayoutT
     chart.SetLocation(task.Location);
     chart.SetChildOffset(document.LabelOffsets, {});
     chart.Layout();
-    slices.Doubt(halfPie.Basic, chart.GetHalfPie().GetLayout().Pie.Width);
+    slices.Doubt(chart.GetHalfPie().GetLayout().Pie.Width, task.Diagnostics);
     if (halfPie.Basic.WhichPart == HalfPiePart::Upper) {
         task.Diagnostics.push_back(penlode::Warning(
             kSlices.Record + "/WhichPart", "the upper half lies behind the bars; \"Lower\" lies below them"));

@@ -77,10 +77,6 @@ bool LacksWidth(const HistogramPlotProp& plot) {
 
 } // namespace
 
-void AllowBarShortForms(ChartStream& stream) {
-    stream.SetDefaultList("ComponentColor", PaletteTexts());
-}
-
 BarData LoadBars(ChartStream& stream, const DataSource& source, const char* csvKey) {
     BarData data;
     const bool isMissing = !stream.Has("data");
@@ -116,24 +112,16 @@ void SaveBars(SavingStream& stream, const BarData& data, const char* csvKey) {
 Bars::Bars(std::string place, BarData& data, HistogramPlotProp& plot, const OpenPlaces& open)
     : m_place(std::move(place)), m_data(data), m_components(data.Components()),
       m_isStacked(plot.Juxtaposition == 0) {
-    TakeNames(plot.ComponentName, open.contains(m_place + kNames));
+    const bool isOther =
+        CompleteNames(plot.ComponentName, data.ComponentNames, m_components, open.contains(m_place + kNames));
+    if (isOther) {
+        m_ofCompletion.push_back(OtherNames(m_place + kNames));
+    }
     if (open.contains(m_place + kColors)) {
         plot.ComponentColor = PaletteColors(plot.ComponentName.size());
     }
     if (m_isStacked) {
         CloseGaps();
-    }
-}
-
-/// The document's own names stand. Without any, bars are drawn and have none.
-void Bars::TakeNames(std::vector<std::string>& names, bool areOpen) {
-    const std::vector<std::string>& headed = m_data.ComponentNames;
-    if (!headed.empty() && (areOpen || names.empty())) {
-        names = headed;
-    } else if (areOpen) {
-        names.assign(m_components, "");
-    } else if (!headed.empty() && headed != names) {
-        m_ofCompletion.push_back(OtherNames(m_place + kNames));
     }
 }
 
@@ -221,11 +209,7 @@ void Bars::DoubtVisibility(const CBasicHistogram& chart, Diagnostics& diagnostic
 }
 
 Diagnostic Bars::Emptiness() const {
-    const std::string& file = m_data.Origin.File;
-    Diagnostic emptiness =
-        penlode::Error(file.empty() ? "data/groups" : "", "nothing to draw", "a group with values");
-    emptiness.File = file;
-    return emptiness;
+    return NothingIn(m_data.Origin, "data/groups", "a group with values");
 }
 
 void Bars::DoubtRange(const CBasicHistogram& chart, Diagnostics& diagnostics) const {

@@ -12,9 +12,6 @@
 
 namespace millichart::documents {
 
-/// Lets the records that are loaded from here on have no colours.
-void AllowBarShortForms(ChartStream& stream);
-
 /// The stream's group "data": "groups", each a name and values, or under `csvKey` a table of group names and
 /// values a component, under a heading with the components' names. What is wrong is told.
 BarData LoadBars(ChartStream& stream, const DataSource& source, const char* csvKey = "csv");
@@ -41,7 +38,6 @@ public:
     penlode::Diagnostic Emptiness() const;
 
 private:
-    void TakeNames(std::vector<std::string>& names, bool areOpen);
     void CloseGaps();
     std::vector<penlode::Diagnostic> DoubtSizes(const CBasicHistogram& chart) const;
     void DoubtRange(const CBasicHistogram& chart, std::vector<penlode::Diagnostic>& diagnostics) const;

@@ -2,7 +2,6 @@
 
 #include "documents/ChartLayouts.h"
 #include "documents/Fields.h"
-#include "documents/LoadDiagnostics.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -36,8 +35,19 @@ template <class Variant, class Work> void WithContent(Variant& held, const Work&
         held);
 }
 
-std::string LoadUtf8(ChartStream& stream, const char* key) {
-    return CStringUtil::AnsiToUtf8(LoadText(stream, key, ""));
+/// Loads or saves.
+void SerUtf8(penlode::CSerializeStream& stream, const char* key, std::string& text) {
+    std::string narrow = CStringUtil::Utf8ToAnsi(text);
+    stream.Ser(key, narrow, {});
+    if (!stream.IsSaving()) {
+        text = CStringUtil::AnsiToUtf8(narrow);
+    }
+}
+
+void SerTexts(penlode::CSerializeStream& stream, ChartDocument& document) {
+    SerUtf8(stream, "title", document.Title);
+    SerUtf8(stream, "description", document.Description);
+    SerUtf8(stream, "source", document.Source);
 }
 
 void LoadVersion(ChartStream& stream) {
@@ -66,13 +76,11 @@ void SaveDocument(SavingStream& stream, ChartDocument& document) {
     if (const ChartKind* kind = KindOf(document.Content)) {
         stream.Text("kind", kind->Name);
     }
-    stream.Text("title", CStringUtil::Utf8ToAnsi(document.Title));
-    stream.Text("description", CStringUtil::Utf8ToAnsi(document.Description));
-    stream.Text("source", CStringUtil::Utf8ToAnsi(document.Source));
+    SerTexts(stream, document);
     WithContent(document.Content, [&](auto& content) {
         SaveContent(stream, content);
-        stream.Text("location", PointText(document.Location));
-        SaveOffsets(stream, content);
+        SerPoint(stream, "location", document.Location);
+        SerOffsets(stream, content);
     });
 }
 
@@ -191,15 +199,13 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
     if (!json.IsUnreadable()) {
         LoadVersion(stream);
         document.Content = LoadKind(stream, loaded->Diagnostics);
-        document.Title = LoadUtf8(stream, "title");
-        document.Description = LoadUtf8(stream, "description");
-        document.Source = LoadUtf8(stream, "source");
+        SerTexts(stream, document);
         const DataSource source{std::filesystem::path(file).parent_path().string(), table ? &*table : nullptr,
                                 &loaded->Diagnostics, &loaded->DataFiles};
         WithContent(document.Content, [&](auto& content) {
             LoadContent(stream, source, content);
-            document.Location = LoadPoint(stream, "location");
-            LoadOffsets(stream, content);
+            SerPoint(stream, "location", document.Location);
+            SerOffsets(stream, content);
         });
     }
     const std::vector<Diagnostic> met = LoadDiagnostics(json, stream);

@@ -27,25 +27,15 @@ void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHistogram
 void LoadContent(ChartStream& stream, const DataSource& source, HistogramDocument& document);
 void LoadContent(ChartStream& stream, const DataSource& source, CurveDocument& document);
 
-/// Loads how far parts were moved.
-void LoadOffsets(ChartStream& stream, PieDocument& document);
-void LoadOffsets(ChartStream& stream, HalfPieDocument& document);
-void LoadOffsets(ChartStream& stream, HalfPieHalfPieDocument& document);
-void LoadOffsets(ChartStream& stream, HalfPieHistogramDocument& document);
+/// Loads or saves how far parts were moved.
+void SerOffsets(penlode::CSerializeStream& stream, PieDocument& document);
+void SerOffsets(penlode::CSerializeStream& stream, HalfPieDocument& document);
+void SerOffsets(penlode::CSerializeStream& stream, HalfPieHalfPieDocument& document);
+void SerOffsets(penlode::CSerializeStream& stream, HalfPieHistogramDocument& document);
 
-inline void LoadOffsets(ChartStream&, HistogramDocument&) {}
+inline void SerOffsets(penlode::CSerializeStream&, HistogramDocument&) {}
 
-inline void LoadOffsets(ChartStream&, CurveDocument&) {}
-
-/// The same on the way back; the stream knows what has changed.
-void SaveOffsets(SavingStream& stream, const PieDocument& document);
-void SaveOffsets(SavingStream& stream, const HalfPieDocument& document);
-void SaveOffsets(SavingStream& stream, const HalfPieHalfPieDocument& document);
-void SaveOffsets(SavingStream& stream, const HalfPieHistogramDocument& document);
-
-inline void SaveOffsets(SavingStream&, const HistogramDocument&) {}
-
-inline void SaveOffsets(SavingStream&, const CurveDocument&) {}
+inline void SerOffsets(penlode::CSerializeStream&, CurveDocument&) {}
 
 void SaveContent(SavingStream& stream, PieDocument& document);
 void SaveContent(SavingStream& stream, HalfPieDocument& document);

@@ -1,16 +1,12 @@
 #include "documents/ChartStream.h"
 
-#include "foundation/SerializeFrame.h"
+#include "documents/Fields.h"
+#include "documents/Palette.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 
 namespace millichart::documents {
-namespace {
-
-constexpr const char* kSeparator = "||";
-
-} // namespace
 
 /// Gives the place of the key.
 std::string ChartStream::Ask(const std::string& tag) {
@@ -33,8 +29,8 @@ void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
     if (!m_json.Has(tag)) {
         m_missing.insert(place);
     }
-    const auto replaced = m_defaultLists.find(tag);
-    m_json.Ser(tag, values, replaced == m_defaultLists.end() ? defaults : replaced->second);
+    const bool areColors = tag == "ComponentColor" || tag == "CurveColor";
+    m_json.Ser(tag, values, areColors ? PaletteTexts() : defaults);
 }
 
 std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
@@ -46,7 +42,7 @@ void ChartStream::Ser(const std::string& tag, std::string& value, const std::str
     if (const std::string place = Ask(tag); !m_json.Has(tag)) {
         m_missing.insert(place);
     }
-    if (m_joinedTags.contains(tag) && m_json.IsList(tag)) {
+    if (tag == "ComponentName" && m_json.IsList(tag)) {
         value = JoinedList(tag);
     } else {
         m_json.Ser(tag, value, defaultValue);
@@ -58,10 +54,10 @@ std::string ChartStream::JoinedList(const std::string& tag) {
     m_json.Ser(tag, texts, {});
     std::string joined;
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (millichart::SplitJoinedTexts(texts[i] + kSeparator) != std::vector{texts[i]}) {
-            Refuse(tag + "/" + std::to_string(i), texts[i], "a text without || and without | at its end");
+        if (!IsJoinable(texts[i])) {
+            Refuse(tag + "/" + std::to_string(i), texts[i], kJoinableForm);
         }
-        joined += texts[i] + kSeparator;
+        joined += texts[i] + "||";
     }
     return joined;
 }

@@ -9,20 +9,12 @@
 
 namespace millichart::documents {
 
-/// Loads a chart document: the keyed stream, and the short forms that people write, which
-/// the records' own serializers do not know. It remembers which keys
-/// were asked for, to guess what an unknown key was meant to be.
+/// Loads a chart document: the keyed stream, and the short forms that people write, which the records' own
+/// serializers do not know: names that a record holds joined may be a list, and colours may be missing. It
+/// remembers which keys were asked for, to guess what an unknown key was meant to be.
 class ChartStream final : public penlode::CSerializeStream {
 public:
     explicit ChartStream(penlode::CJsonSerializeStream& json) : m_json(json) {}
-
-    /// From here on the text under this tag may be a list of texts, which are joined as the record expects.
-    void AllowList(const std::string& tag) { m_joinedTags.insert(tag); }
-
-    /// The list that is loaded where this tag is missing.
-    void SetDefaultList(const std::string& tag, std::vector<std::string> texts) {
-        m_defaultLists[tag] = std::move(texts);
-    }
 
     /// The places of the texts and lists that were asked for and not there, as in
     /// "property/PieBasicProp/ComponentColor".
@@ -81,11 +73,14 @@ private:
     std::string JoinedList(const std::string& tag);
 
     penlode::CJsonSerializeStream& m_json;
-    std::set<std::string> m_joinedTags;
-    std::map<std::string, std::vector<std::string>> m_defaultLists;
     std::set<std::string> m_missing; ///< places
     std::map<std::string, std::vector<std::string>> m_asked;
     std::vector<std::string> m_places{""};
 };
+
+/// What a load met: errors, unknown keys as warnings with what they were probably meant to be, and missing
+/// keys as notes.
+std::vector<penlode::Diagnostic> LoadDiagnostics(const penlode::CJsonSerializeStream& json,
+                                                 const ChartStream& stream);
 
 } // namespace millichart::documents

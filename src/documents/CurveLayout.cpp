@@ -190,18 +190,6 @@ std::int32_t ReadableStep(std::size_t count) {
     return 1000000000;
 }
 
-/// The document's own names stand. Without any, curves are drawn and have none.
-void CompleteNames(const CurveData& data, std::vector<std::string>& names, LayoutTask& task) {
-    const bool areOpen = task.Open.contains(kNamesPlace);
-    if (!data.CurveNames.empty() && (areOpen || names.empty())) {
-        names = data.CurveNames;
-    } else if (areOpen) {
-        names.assign(data.Values.size(), "");
-    } else if (!data.Origin.File.empty() && !data.CurveNames.empty() && data.CurveNames != names) {
-        task.Diagnostics.push_back(OtherNames(kNamesPlace));
-    }
-}
-
 /// Where the document leaves the look of lines open, they can be told apart and seen.
 void CompleteLooks(CurvePlotProp& plot, const OpenPlaces& open) {
     const std::size_t count = plot.CurveName.size();
@@ -262,18 +250,9 @@ void DoubtRange(const CBasicCurve& chart, const CurveData& data, std::vector<Dia
     doubts.AddTo(diagnostics);
 }
 
-Diagnostic EmptinessOf(const CurveData& data) {
-    const std::string& file = data.Origin.File;
-    Diagnostic emptiness =
-        penlode::Error(file.empty() ? "data/curves" : "", "nothing to draw", "a curve with values");
-    emptiness.File = file;
-    return emptiness;
-}
-
 } // namespace
 
 void LoadContent(ChartStream& stream, const DataSource& source, CurveDocument& document) {
-    stream.SetDefaultList("CurveColor", PaletteTexts());
     CCurvePropSerialize::SerializeCurveProp(stream, document.Prop, "property");
     document.Data = LoadData(stream, source, document.Prop.Plot.CurveName.size());
     document.Range = LoadValueRange(stream, document.Prop.Plot.LogarithmScale != 0, *source.Diagnostics);
@@ -314,7 +293,11 @@ CBasicCurve LayOutContent(CurveDocument& document, LayoutTask& task) {
     CurveProp& prop = document.Prop;
     ForgetOrigin(data.Origin, task);
     task.Diagnostics = PlotSizeFaults("property/CurvePlotProp", prop.Plot.PlotWidth, prop.Plot.PlotHeight);
-    CompleteNames(data, prop.Plot.CurveName, task);
+    const bool isOther = CompleteNames(prop.Plot.CurveName, data.CurveNames, data.Values.size(),
+                                       task.Open.contains(kNamesPlace));
+    if (isOther && !data.Origin.File.empty()) {
+        task.Diagnostics.push_back(OtherNames(kNamesPlace));
+    }
     CompleteLooks(prop.Plot, task.Open);
     if (data.Labels.empty()) {
         data.Labels = TimeLabels(data.Times);
@@ -330,7 +313,7 @@ CBasicCurve LayOutContent(CurveDocument& document, LayoutTask& task) {
         task.Diagnostics.push_back(penlode::Warning(kNamesPlace, Counted(names, "name"),
                                                     std::to_string(data.Values.size()) + ", one a curve"));
     }
-    task.Emptiness = EmptinessOf(data);
+    task.Emptiness = NothingIn(data.Origin, "data/curves", "a curve with values");
     chart.SetCurveData(std::move(data.Values), std::move(data.Times));
     chart.SetHorAxisLabel(std::move(data.Labels));
     chart.SetLocation(task.Location);

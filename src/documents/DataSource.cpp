@@ -30,6 +30,23 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     return ReadTable(ReadFile(file.string(), NamedBy::Document), form, *source.Diagnostics);
 }
 
+bool CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,
+                   bool areOpen) {
+    if (!ofData.empty() && (areOpen || names.empty())) {
+        names = ofData;
+    } else if (areOpen) {
+        names.assign(count, "");
+    }
+    return !ofData.empty() && ofData != names;
+}
+
+penlode::Diagnostic NothingIn(const TableOrigin& origin, const char* place, const char* expected) {
+    penlode::Diagnostic nothing =
+        penlode::Error(origin.File.empty() ? place : "", "nothing to draw", expected);
+    nothing.File = origin.File;
+    return nothing;
+}
+
 penlode::Diagnostic OtherNames(const std::string& place) {
     return penlode::Warning(place,
                             "other names than in the CSV file, and the document's are taken; leave out " +

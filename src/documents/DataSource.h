@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/ChartData.h"
 #include "documents/ChartStream.h"
 #include "documents/Table.h"
 #include "penlode/streams/Diagnostic.h"
@@ -27,6 +28,14 @@ using OpenPlaces = std::set<std::string>;
 /// `key`, under which its own data stand, is refused.
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
                                const TableForm& form, const char* csvKey = "csv");
+
+/// Of bars or curves: the document's own names stand, then those that came with the data; without any, so
+/// many are empty where the names are left open, that all is drawn. True when own names are others.
+bool CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,
+                   bool areOpen);
+
+/// What is told of a chart whose data, at `place` in its document unless they are in a table, are none.
+penlode::Diagnostic NothingIn(const TableOrigin& origin, const char* place, const char* expected);
 
 /// The warning that a document's names at `place` are others than those that came with its table.
 penlode::Diagnostic OtherNames(const std::string& place);

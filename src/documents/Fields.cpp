@@ -1,9 +1,12 @@
 #include "documents/Fields.h"
 
+#include "foundation/SerializeFrame.h"
 #include "penlode/streams/TextForms.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 
 namespace millichart::documents {
 namespace {
@@ -17,6 +20,10 @@ template <class T> std::string TextOf(T value) {
     std::string text;
     penlode::ser_evaluate(value, text, true);
     return text;
+}
+
+std::string PointText(PointF point) {
+    return TextOf(point.X) + " " + TextOf(point.Y);
 }
 
 std::string ItemKey(const std::string& key, std::size_t index) {
@@ -80,22 +87,30 @@ double LoadNumber(CSerializeStream& stream, const char* key, double defaultNumbe
     return number;
 }
 
-PointF LoadPoint(CSerializeStream& stream, const char* key) {
-    const std::string text = LoadText(stream, key, "0 0");
-    PointF point;
+void SerPoint(CSerializeStream& stream, const char* key, PointF& point) {
+    std::string text = PointText(point);
+    stream.Ser(key, text, "0 0");
+    if (stream.IsSaving()) {
+        return;
+    }
+    point = {};
     if (!ParsePoint(text, point)) {
         stream.Refuse(key, text, kPointForm);
     }
     RefuseFarPoint(stream, key, point);
-    return point;
 }
 
-std::vector<PointF> LoadPoints(CSerializeStream& stream, const char* key) {
-    const std::vector<PointF> points = LoadList<PointF>(stream, key, ParsePoint, kPointForm, {});
+void SerPoints(CSerializeStream& stream, const char* key, std::vector<PointF>& points) {
+    if (stream.IsSaving()) {
+        std::vector<std::string> texts;
+        std::transform(points.begin(), points.end(), std::back_inserter(texts), PointText);
+        stream.Ser(key, texts, {});
+        return;
+    }
+    points = LoadList<PointF>(stream, key, ParsePoint, kPointForm, {});
     for (std::size_t i = 0; i < points.size(); ++i) {
         RefuseFarPoint(stream, ItemKey(key, i), points[i]);
     }
-    return points;
 }
 
 std::vector<double> LoadNumbers(CSerializeStream& stream, const char* key, double unread) {
@@ -118,8 +133,8 @@ bool ParseNumber(const std::string& text, double& number) {
     return Parse(text, number);
 }
 
-std::string PointText(PointF point) {
-    return TextOf(point.X) + " " + TextOf(point.Y);
+bool IsJoinable(const std::string& text) {
+    return SplitJoinedTexts(text + "||") == std::vector{text};
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

@@ -16,9 +16,9 @@ inline constexpr float kMaxPoint = 1e6F;
 /// A narrow text.
 std::string LoadText(penlode::CSerializeStream& stream, const char* key, const std::string& defaultText);
 double LoadNumber(penlode::CSerializeStream& stream, const char* key, double defaultNumber);
-/// Points are at most kMaxPoint away.
-penlode::PointF LoadPoint(penlode::CSerializeStream& stream, const char* key);
-std::vector<penlode::PointF> LoadPoints(penlode::CSerializeStream& stream, const char* key);
+/// Loads or saves: "12.5 40". Points are at most kMaxPoint away.
+void SerPoint(penlode::CSerializeStream& stream, const char* key, penlode::PointF& point);
+void SerPoints(penlode::CSerializeStream& stream, const char* key, std::vector<penlode::PointF>& points);
 /// What is no number is `unread`.
 std::vector<double> LoadNumbers(penlode::CSerializeStream& stream, const char* key, double unread = 0.0);
 
@@ -29,8 +29,11 @@ std::string NumberText(float number);
 /// The whole text as a finite number.
 bool ParseNumber(const std::string& text, double& number);
 
-/// "12.5 40", as LoadPoint reads it.
-std::string PointText(penlode::PointF point);
+/// What is expected of names that a record holds joined in one text.
+inline constexpr const char* kJoinableForm = "a text without || and without | at its end";
+
+/// Does a narrow text come out again whole when it is joined to others?
+bool IsJoinable(const std::string& text);
 
 /// "1 value", "2 values"
 std::string Counted(std::size_t count, const std::string& noun);

@@ -35,21 +35,18 @@ void SaveInGroup(SavingStream& stream, const char* group, const SliceData& data)
 } // namespace
 
 void LoadContent(ChartStream& stream, const DataSource& source, PieDocument& document) {
-    AllowSliceShortForms(stream);
     CPiePropSerialize::SerializePieProp(stream, document.Prop, "property");
     document.Data = LoadSlices(stream, source);
     CheckSliceNames(kPie, document.Prop.Basic.ComponentName, *source.Diagnostics);
 }
 
 void LoadContent(ChartStream& stream, const DataSource& source, HalfPieDocument& document) {
-    AllowSliceShortForms(stream);
     CHalfPiePropSerialize::SerializeHalfPieProp(stream, document.Prop, "property");
     document.Data = LoadSlices(stream, source);
     CheckSliceNames(kHalfPie, document.Prop.Basic.ComponentName, *source.Diagnostics);
 }
 
 void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHalfPieDocument& document) {
-    AllowSliceShortForms(stream);
     CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp(stream, document.Prop, "property");
     LoadHalves(stream, source, document.First, document.Second);
     CheckSliceNames(kFirstHalf, document.Prop.First.Basic.ComponentName, *source.Diagnostics);
@@ -75,35 +72,19 @@ void SaveContent(SavingStream& stream, HalfPieHalfPieDocument& document) {
     stream.Pop();
 }
 
-void LoadOffsets(ChartStream& stream, PieDocument& document) {
-    document.LabelOffsets = LoadPoints(stream, kLabelOffsets);
-    document.LegendOffset = LoadPoint(stream, "legendOffset");
+void SerOffsets(penlode::CSerializeStream& stream, PieDocument& document) {
+    SerPoints(stream, kLabelOffsets, document.LabelOffsets);
+    SerPoint(stream, "legendOffset", document.LegendOffset);
 }
 
-void LoadOffsets(ChartStream& stream, HalfPieDocument& document) {
-    document.LabelOffsets = LoadPoints(stream, kLabelOffsets);
+void SerOffsets(penlode::CSerializeStream& stream, HalfPieDocument& document) {
+    SerPoints(stream, kLabelOffsets, document.LabelOffsets);
 }
 
-void LoadOffsets(ChartStream& stream, HalfPieHalfPieDocument& document) {
+void SerOffsets(penlode::CSerializeStream& stream, HalfPieHalfPieDocument& document) {
     stream.Push(kLabelOffsets, -1);
-    document.FirstLabelOffsets = LoadPoints(stream, "first");
-    document.SecondLabelOffsets = LoadPoints(stream, "second");
-    stream.Pop();
-}
-
-void SaveOffsets(SavingStream& stream, const PieDocument& document) {
-    stream.Points(kLabelOffsets, document.LabelOffsets);
-    stream.Text("legendOffset", PointText(document.LegendOffset));
-}
-
-void SaveOffsets(SavingStream& stream, const HalfPieDocument& document) {
-    stream.Points(kLabelOffsets, document.LabelOffsets);
-}
-
-void SaveOffsets(SavingStream& stream, const HalfPieHalfPieDocument& document) {
-    stream.Push(kLabelOffsets, -1);
-    stream.Points("first", document.FirstLabelOffsets);
-    stream.Points("second", document.SecondLabelOffsets);
+    SerPoints(stream, "first", document.FirstLabelOffsets);
+    SerPoints(stream, "second", document.SecondLabelOffsets);
     stream.Pop();
 }
 
@@ -121,16 +102,15 @@ void TakeTableNames(HalfPieHalfPieDocument& document, bool inPlaceOfOwn) {
 }
 
 CBasicPie LayOutContent(PieDocument& document, LayoutTask& task) {
-    Slices slices(kPie, document.Data, task.Diagnostics);
     PieBasicProp& basic = document.Prop.Basic;
-    slices.Complete(basic, task.Open);
+    Slices slices(kPie, document.Data, basic, task.Open);
     CBasicPie chart;
     chart.SetPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
     chart.SetLocation(task.Location);
     chart.SetChildOffset(document.LabelOffsets, {document.LegendOffset});
     chart.Layout();
-    slices.Doubt(basic, chart.GetLayout().Pie.Width);
+    slices.Doubt(chart.GetLayout().Pie.Width, task.Diagnostics);
     if (basic.StartAngle < 0.0F || basic.StartAngle >= kFullTurn) {
         task.Diagnostics.push_back(penlode::Warning(kPie.Record + "/StartAngle", NumberText(basic.StartAngle),
                                                     "an angle from 0 to below 360"));
@@ -143,27 +123,24 @@ CBasicPie LayOutContent(PieDocument& document, LayoutTask& task) {
 }
 
 CBasicHalfPie LayOutContent(HalfPieDocument& document, LayoutTask& task) {
-    Slices slices(kHalfPie, document.Data, task.Diagnostics);
-    slices.Complete(document.Prop.Basic, task.Open);
+    Slices slices(kHalfPie, document.Data, document.Prop.Basic, task.Open);
     CBasicHalfPie chart;
     chart.SetHalfPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
     chart.SetLocation(task.Location);
     chart.SetChildOffset(document.LabelOffsets, {});
     chart.Layout();
-    slices.Doubt(document.Prop.Basic, chart.GetLayout().Pie.Width);
+    slices.Doubt(chart.GetLayout().Pie.Width, task.Diagnostics);
     task.Emptiness = slices.Emptiness();
     return chart;
 }
 
 CBasicHalfPieHalfPie LayOutContent(HalfPieHalfPieDocument& document, LayoutTask& task) {
     HalfPieHalfPieProp& prop = document.Prop;
-    Slices first(kFirstHalf, document.First, task.Diagnostics);
-    Slices second(kSecondHalf, document.Second, task.Diagnostics);
-    first.Complete(prop.First.Basic, task.Open);
-    second.Complete(prop.Second.Basic, task.Open);
-    first.DoubtOffsets(document.FirstLabelOffsets.size(), "labelOffsets/first", prop.First.Basic);
-    second.DoubtOffsets(document.SecondLabelOffsets.size(), "labelOffsets/second", prop.Second.Basic);
+    Slices first(kFirstHalf, document.First, prop.First.Basic, task.Open);
+    Slices second(kSecondHalf, document.Second, prop.Second.Basic, task.Open);
+    first.DoubtOffsets(document.FirstLabelOffsets.size(), "labelOffsets/first");
+    second.DoubtOffsets(document.SecondLabelOffsets.size(), "labelOffsets/second");
     std::vector<PointF> offsets = document.FirstLabelOffsets;
     offsets.push_back(kHalvesSeparator);
     offsets.insert(offsets.end(), document.SecondLabelOffsets.begin(), document.SecondLabelOffsets.end());
@@ -174,8 +151,8 @@ CBasicHalfPieHalfPie LayOutContent(HalfPieHalfPieDocument& document, LayoutTask&
     chart.SetLocation(task.Location);
     chart.SetChildOffset(offsets, {});
     chart.Layout();
-    first.Doubt(prop.First.Basic, chart.GetFirstHalf().GetLayout().Pie.Width);
-    second.Doubt(prop.Second.Basic, chart.GetSecondHalf().GetLayout().Pie.Width);
+    first.Doubt(chart.GetFirstHalf().GetLayout().Pie.Width, task.Diagnostics);
+    second.Doubt(chart.GetSecondHalf().GetLayout().Pie.Width, task.Diagnostics);
     if (IsUpper(prop.First) == IsUpper(prop.Second)) {
         task.Diagnostics.push_back(penlode::Warning(
             kSecondHalf.Record + "/WhichPart", "fills the same half of the circle as TopHalf and covers it"));

@@ -1,6 +1,5 @@
 #include "documents/SavingStream.h"
 
-#include "documents/Fields.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -67,14 +66,6 @@ void SavingStream::Numbers(const std::string& tag, const std::vector<double>& nu
     const std::string_view bytes(reinterpret_cast<const char*>(numbers.data()),
                                  numbers.size() * sizeof(double));
     Take(tag, HashOf(bytes), [&] { m_json->SaveNumbers(tag, numbers); });
-}
-
-void SavingStream::Points(const std::string& tag, const std::vector<penlode::PointF>& points) {
-    std::vector<std::string> texts;
-    for (const penlode::PointF point : points) {
-        texts.push_back(PointText(point));
-    }
-    Ser(tag, texts, {});
 }
 
 /// Groups beyond the count would stay, so that the list is written anew; a longer one keeps what it has. The

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "penlode/Geometry.h"
 #include "penlode/streams/JsonSerializeStream.h"
 
 #include <cstddef>
@@ -34,8 +33,6 @@ public:
 
     /// NaN is null.
     void Numbers(const std::string& tag, const std::vector<double>& numbers);
-
-    void Points(const std::string& tag, const std::vector<penlode::PointF>& points);
 
     /// Announces a list of groups, to be pushed by their index.
     void Groups(const std::string& tag, std::size_t count);

@@ -13,8 +13,8 @@ namespace {
 
 using penlode::Diagnostic;
 
-constexpr const char* kNames = "ComponentName";
-constexpr const char* kColors = "ComponentColor";
+constexpr const char* kNames = "/ComponentName";
+constexpr const char* kColors = "/ComponentColor";
 constexpr const char* kValues = "values";
 constexpr const char* kFirst = "first";
 constexpr const char* kSecond = "second";
@@ -30,6 +30,7 @@ constexpr const char* kSizesAboveZero =
 constexpr TableForm kPieTable{.HeadedBy = TableForm::Heading::OverNumber,
                               .Width = 2,
                               .WidthForm = "a name and a value",
+                              .AreNamesJoined = true,
                               .IsPositive = true,
                               .MaxRows = kMaxSlices,
                               .MaxRowsForm = kFewerSlices,
@@ -38,6 +39,7 @@ constexpr TableForm kPieTable{.HeadedBy = TableForm::Heading::OverNumber,
 /// There always is a heading: it may well be of years, which look like values.
 constexpr TableForm kHalvesTable{.Width = 3,
                                  .WidthForm = "a name and two values",
+                                 .AreNamesJoined = true,
                                  .IsPositive = true,
                                  .MaxRows = kMaxSlices,
                                  .MaxRowsForm = kFewerSlices,
@@ -100,11 +102,6 @@ SliceData LoadHalf(ChartStream& stream, const char* key, const DataSource& sourc
 
 } // namespace
 
-void AllowSliceShortForms(ChartStream& stream) {
-    stream.AllowList(kNames);
-    stream.SetDefaultList(kColors, PaletteTexts());
-}
-
 SliceData LoadSlices(ChartStream& stream, const DataSource& source) {
     stream.Push("data", -1);
     SliceData data = LoadSlicesHere(stream, source);
@@ -130,7 +127,7 @@ void CheckSliceNames(const SlicesPlace& place, std::vector<std::string>& names,
                      std::vector<Diagnostic>& diagnostics) {
     if (names.size() > kMaxSlices) {
         diagnostics.push_back(
-            penlode::Error(place.Record + "/" + kNames, Counted(names.size(), "name"), kFewerSlices));
+            penlode::Error(place.Record + kNames, Counted(names.size(), "name"), kFewerSlices));
         names.clear();
     }
 }
@@ -141,24 +138,22 @@ void SaveSlices(SavingStream& stream, const SliceData& data) {
 }
 
 /// The document's own names stand.
-void Slices::Complete(std::vector<std::string>& names, std::vector<penlode::Color>& colors,
-                      const OpenPlaces& open) {
-    const std::string place = m_place.Record + "/" + kNames;
-    if (names.empty()) {
-        names = m_data.Names;
-    } else if (!m_data.Names.empty() && m_data.Names != names) {
-        m_ofCompletion.push_back(OtherNames(place));
+void Slices::Complete(const OpenPlaces& open) {
+    if (m_names.empty()) {
+        m_names = m_data.Names;
+    } else if (!m_data.Names.empty() && m_data.Names != m_names) {
+        m_doubts.push_back(OtherNames(m_place.Record + kNames));
     }
-    if (open.contains(m_place.Record + "/" + kColors)) {
-        colors = PaletteColors(m_data.Values.size());
+    if (open.contains(m_place.Record + kColors)) {
+        m_colors = PaletteColors(m_data.Values.size());
     }
 }
 
-void Slices::DoubtOffsets(std::size_t count, const std::string& place, std::size_t names) {
-    if (count > names) {
-        m_ofCompletion.push_back(
+void Slices::DoubtOffsets(std::size_t count, const std::string& place) {
+    if (count > m_names.size()) {
+        m_doubts.push_back(
             penlode::Warning(place, Counted(count, "point"),
-                             std::to_string(names) + ", as a label without a name does not move"));
+                             std::to_string(m_names.size()) + ", as a label without a name does not move"));
     }
 }
 
@@ -172,41 +167,41 @@ Diagnostic Slices::Emptiness() const {
     return penlode::Error(m_place.Record, "nothing to draw, as the pie has no size", kSizesAboveZero);
 }
 
-Diagnostic Slices::Smallness(float width, bool isFixed) const {
-    const double shown = std::round(static_cast<double>(width) * 1000.0) / 1000.0;
-    return penlode::Warning(
-        m_place.Record + (isFixed ? "/FixedWidth" : "/FixedSize"),
-        "the pie is only " + NumberText(shown) + " mm across" +
-            (isFixed ? "" : ", by its values' total; with 1 here it is as wide as FixedWidth"));
-}
-
-void Slices::Doubt(std::size_t names, std::size_t colors, bool isFixed, float width) {
-    const std::size_t values = m_data.Values.size();
-    const bool isEmpty =
-        std::all_of(m_data.Values.begin(), m_data.Values.end(), [](double value) { return value == 0.0; });
-    const double total = std::accumulate(m_data.Values.begin(), m_data.Values.end(), 0.0);
-    if (!std::isfinite(total)) {
-        m_diagnostics.push_back(penlode::Error(m_place.Data, "a total that is too large", "smaller values"));
-        return;
-    }
-    std::vector<Diagnostic> doubts = std::exchange(m_ofCompletion, {});
-    if (isEmpty) {
-        doubts.push_back(penlode::Warning(m_place.Data, "no value above 0", "one for each slice"));
+void Slices::DoubtSize(float width, double total) {
+    if (total == 0.0) {
+        m_doubts.push_back(penlode::Warning(m_place.Data, "no value above 0", "one for each slice"));
     } else if (width < 0.0F) {
-        doubts.push_back(
+        m_doubts.push_back(
             penlode::Error(m_place.Record, "a pie of " + NumberText(width) + " mm", kSizesAboveZero));
     } else if (width < kMinPie) {
-        doubts.push_back(Smallness(width, isFixed));
+        const double shown = std::round(static_cast<double>(width) * 1000.0) / 1000.0;
+        m_doubts.push_back(penlode::Warning(
+            m_place.Record + (m_isFixed ? "/FixedWidth" : "/FixedSize"),
+            "the pie is only " + NumberText(shown) + " mm across" +
+                (m_isFixed ? "" : ", by its values' total; with 1 here it is as wide as FixedWidth")));
     }
-    if (names != 0 && names != values) {
-        doubts.push_back(penlode::Warning(m_place.Record + "/" + kNames, Counted(names, "name"),
-                                          std::to_string(values) + ", one a value"));
+}
+
+void Slices::DoubtCount(const char* key, std::size_t count, const char* noun) {
+    m_doubts.push_back(penlode::Warning(m_place.Record + key, Counted(count, noun),
+                                        std::to_string(m_data.Values.size()) + ", one a value"));
+}
+
+void Slices::Doubt(float width, std::vector<Diagnostic>& diagnostics) {
+    const std::vector<double>& values = m_data.Values;
+    const double total = std::accumulate(values.begin(), values.end(), 0.0);
+    if (!std::isfinite(total)) {
+        diagnostics.push_back(penlode::Error(m_place.Data, "a total that is too large", "smaller values"));
+        return;
     }
-    if (colors < values) {
-        doubts.push_back(penlode::Warning(m_place.Record + "/" + kColors, Counted(colors, "colour"),
-                                          std::to_string(values) + ", one a value"));
+    DoubtSize(width, total);
+    if (!m_names.empty() && m_names.size() != values.size()) {
+        DoubtCount(kNames, m_names.size(), "name");
     }
-    m_diagnostics.insert(m_diagnostics.end(), doubts.begin(), doubts.end());
+    if (m_colors.size() < values.size()) {
+        DoubtCount(kColors, m_colors.size(), "colour");
+    }
+    diagnostics.insert(diagnostics.end(), m_doubts.begin(), m_doubts.end());
 }
 
 } // namespace millichart::documents

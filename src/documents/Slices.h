@@ -18,9 +18,6 @@ struct SlicesPlace {
     std::string Data;   ///< of the group in which the values stand
 };
 
-/// Lets the records that are loaded from here on have their names as a list and no colours.
-void AllowSliceShortForms(ChartStream& stream);
-
 /// The stream's group "data": "values", or "csv" with a table of names and values. What is wrong is told;
 /// data with more slices than a pie can show are told and empty.
 SliceData LoadSlices(ChartStream& stream, const DataSource& source);
@@ -39,40 +36,35 @@ void SaveSlices(SavingStream& stream, const SliceData& data);
 /// The slices of one pie while it is laid out.
 class Slices {
 public:
-    Slices(const SlicesPlace& place, const SliceData& data, std::vector<penlode::Diagnostic>& diagnostics)
-        : m_place(place), m_data(data), m_diagnostics(diagnostics) {}
-
-    /// The names and colours that a record leaves open.
-    template <class Basic> void Complete(Basic& basic, const OpenPlaces& open) {
-        Complete(basic.ComponentName, basic.ComponentColor, open);
+    /// Completes the names and colours that a record leaves open.
+    template <class Basic>
+    Slices(const SlicesPlace& place, const SliceData& data, Basic& basic, const OpenPlaces& open)
+        : m_place(place), m_data(data), m_names(basic.ComponentName), m_colors(basic.ComponentColor),
+          m_isFixed(basic.FixedSize != 0) {
+        Complete(open);
     }
 
     /// A half pie in a chart of several keeps as many label offsets as it has names; tells when that takes
     /// some of the `count` at `place` away.
-    template <class Basic>
-    void DoubtOffsets(std::size_t count, const std::string& place, const Basic& basic) {
-        DoubtOffsets(count, place, basic.ComponentName.size());
-    }
+    void DoubtOffsets(std::size_t count, const std::string& place);
 
     /// Tells what was hardly meant, `width` being the whole circle's.
-    template <class Basic> void Doubt(const Basic& basic, float width) {
-        Doubt(basic.ComponentName.size(), basic.ComponentColor.size(), basic.FixedSize != 0, width);
-    }
+    void Doubt(float width, std::vector<penlode::Diagnostic>& diagnostics);
 
     /// What is told of a chart without size.
     penlode::Diagnostic Emptiness() const;
 
 private:
-    void Complete(std::vector<std::string>& names, std::vector<penlode::Color>& colors,
-                  const OpenPlaces& open);
-    void DoubtOffsets(std::size_t count, const std::string& place, std::size_t names);
-    penlode::Diagnostic Smallness(float width, bool isFixed) const;
-    void Doubt(std::size_t names, std::size_t colors, bool isFixed, float width);
+    void Complete(const OpenPlaces& open);
+    void DoubtSize(float width, double total);
+    void DoubtCount(const char* key, std::size_t count, const char* noun);
 
     const SlicesPlace& m_place;
     const SliceData& m_data;
-    std::vector<penlode::Diagnostic>& m_diagnostics;
-    std::vector<penlode::Diagnostic> m_ofCompletion;
+    std::vector<std::string>& m_names;
+    std::vector<penlode::Color>& m_colors;
+    bool m_isFixed;
+    std::vector<penlode::Diagnostic> m_doubts;
 };
 
 } // namespace millichart::documents

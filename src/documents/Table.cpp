@@ -169,6 +169,9 @@ private:
         }
         if (!m_hasTimes) {
             m_table.Names.push_back(CStringUtil::Utf8ToAnsi(cell));
+            if (m_form.AreNamesJoined && !IsJoinable(m_table.Names.back())) {
+                RefuseCell(row, 0, kJoinableForm);
+            }
             time = static_cast<std::int32_t>(m_table.Lines.size());
         }
         if (m_form.HasTimes) {

@@ -29,6 +29,7 @@ struct TableForm {
     const char* HeadingForm = nullptr;
     const char* HeadingNames = nullptr; ///< if numbers over the columns are to be doubted: what they are
     bool HasTimes = false;              ///< whole numbers in the first column; texts are labels
+    bool AreNamesJoined = false;        ///< in the record that takes them
     bool IsPositive = false;            ///< numbers are 0 or more
     std::optional<double> Gap = {};     ///< an empty cell's number; without, there must be one
     std::size_t MaxRows = SIZE_MAX;

@@ -49,6 +49,12 @@ TEST_F(CsvFile, ErrorsNameItsLines) {
               "millichart: d.csv:2: column 2: found \"inf\", expected a number\n"
               "millichart: d.csv:3: column 2: found -2, expected 0 or more\n"
               "millichart: d.csv:4: column 2: found nothing, expected a number\n");
+    EXPECT_EQ(
+        Complaint("A|B,1\nA||B,1\nC|,2\n北||,3\n"),
+        "millichart: d.csv:2: column 1: found \"A||B\", expected a text without || and without | at its end\n"
+        "millichart: d.csv:3: column 1: found \"C|\", expected a text without || and without | at its end\n"
+        "millichart: d.csv:4: column 1: found \"北||\", expected a text without || and without | at its "
+        "end\n");
     EXPECT_EQ(Complaint("a,1\n\"b,2\nc,3\n"),
               "millichart: d.csv:2: found a quote that never closes, expected a closing quote\n");
     EXPECT_EQ(Complaint("name,value\n"),

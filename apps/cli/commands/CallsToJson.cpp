@@ -1,5 +1,4 @@
-#include "commands/CallsToJson.h"
-
+#include "commands/Json.h"
 #include "penlode/Owned.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"

@@ -1,8 +1,6 @@
-#include "commands/CheckCommand.h"
-
+#include "commands/Commands.h"
 #include "files/Diagnostics.h"
 #include "files/Streams.h"
-#include "files/UserError.h"
 #include "pages/LoadedChart.h"
 
 #include <array>

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "commands/CheckCommand.h"
-#include "commands/DrawCommand.h"
-#include "commands/InspectCommand.h"
-#include "commands/NewCommand.h"
+#include "commands/Commands.h"
 
 #include <variant>
 

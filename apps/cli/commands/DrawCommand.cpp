@@ -1,12 +1,8 @@
-#include "commands/DrawCommand.h"
-
+#include "commands/Commands.h"
 #include "commands/Json.h"
 #include "commands/OutputNames.h"
-#include "commands/Progress.h"
 #include "files/Console.h"
 #include "files/Streams.h"
-#include "files/UserError.h"
-#include "pages/FontReport.h"
 #include "pages/LoadedChart.h"
 
 #include <filesystem>

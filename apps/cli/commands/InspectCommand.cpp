@@ -1,7 +1,5 @@
-#include "commands/InspectCommand.h"
-
-#include "commands/CallsToJson.h"
-#include "commands/LayoutToJson.h"
+#include "commands/Commands.h"
+#include "commands/Json.h"
 #include "files/Console.h"
 #include "files/Streams.h"
 #include "pages/LoadedChart.h"

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "penlode/Geometry.h"
+#include "documents/ChartDocument.h"
+#include "penlode/recording/RecordingEngine.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -27,6 +28,13 @@ template <class T> Json ListToJson(const std::vector<T>& items) {
     }
     return list;
 }
+
+/// The results of a chart's layout, in its own millimetres.
+Json LayoutToJson(const millichart::LaidOutChart& chart);
+
+/// One object a call: its operation under "call", and each argument under a name. Colours, pens and fonts are
+/// written as documents write them.
+Json CallsToJson(const std::vector<penlode::RecordedCall>& calls);
 
 /// The text of a tree, indented by two blanks down to that many levels; deeper ones stand on one line.
 std::string Printed(const Json& tree, int levels);

@@ -1,4 +1,4 @@
-#include "commands/LayoutToJson.h"
+#include "commands/Json.h"
 
 #include <utility>
 

@@ -1,8 +1,6 @@
-#include "commands/NewCommand.h"
-
+#include "commands/Commands.h"
 #include "documents/ChartContent.h"
 #include "files/Streams.h"
-#include "files/UserError.h"
 
 #include <filesystem>
 

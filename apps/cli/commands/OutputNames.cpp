@@ -2,7 +2,6 @@
 
 #include "files/Streams.h"
 #include "files/System.h"
-#include "files/UserError.h"
 
 #include <algorithm>
 #include <filesystem>

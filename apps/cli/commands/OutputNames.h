@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/DrawCommand.h"
+#include "commands/Commands.h"
 
 #include <string>
 #include <vector>

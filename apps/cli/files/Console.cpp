@@ -1,5 +1,7 @@
 #include "files/Console.h"
 
+#include "files/System.h"
+
 #include <iostream>
 
 namespace cli {
@@ -8,6 +10,14 @@ namespace {
 constexpr const char* kClearLine = "\r\x1B[K";
 
 bool g_lineIsShown = false;
+
+/// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
+void ShowPassingLine(const std::string& line) {
+    if (g_lineIsShown || !line.empty()) {
+        std::cerr << kClearLine << Printable(line) << std::flush;
+    }
+    g_lineIsShown = !line.empty();
+}
 
 } // namespace
 
@@ -22,11 +32,17 @@ void TellProblems(const std::vector<Diagnostic>& diagnostics) {
     }
 }
 
-void ShowPassingLine(const std::string& line) {
-    if (g_lineIsShown || !line.empty()) {
-        std::cerr << kClearLine << Printable(line) << std::flush;
+Progress::Progress(std::size_t total) : m_total(total), m_isShown(total > 1 && ErrorsGoToTerminal()) {}
+
+Progress::~Progress() {
+    ShowPassingLine("");
+}
+
+void Progress::Begin(const std::string& name) {
+    ++m_current;
+    if (m_isShown) {
+        ShowPassingLine(std::to_string(m_current) + "/" + std::to_string(m_total) + " " + name);
     }
-    g_lineIsShown = !line.empty();
 }
 
 } // namespace cli

@@ -2,6 +2,7 @@
 
 #include "files/Diagnostics.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,21 @@ void Tell(const std::string& message);
 /// Errors and warnings, not too many; notes are left out.
 void TellProblems(const std::vector<Diagnostic>& diagnostics);
 
-/// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
-void ShowPassingLine(const std::string& line);
+/// Tells a person at a terminal which of several inputs is being worked on, on a line that the next message
+/// replaces.
+class Progress {
+public:
+    explicit Progress(std::size_t total);
+    ~Progress();
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    void Begin(const std::string& name);
+
+private:
+    std::size_t m_total;
+    std::size_t m_current = 0;
+    bool m_isShown;
+};
 
 } // namespace cli

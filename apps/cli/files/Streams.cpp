@@ -1,7 +1,6 @@
 #include "files/Streams.h"
 
 #include "files/System.h"
-#include "files/UserError.h"
 
 #include <cerrno>
 #include <cstdio>

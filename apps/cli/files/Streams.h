@@ -2,10 +2,27 @@
 
 #include "documents/Files.h"
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace cli {
+
+/// What a person has to put right, in words for that person (UTF-8): the file, and what is the matter.
+class UserError : public std::runtime_error {
+public:
+    UserError(const std::string& file, const std::string& reason)
+        : std::runtime_error(file + ": " + reason) {}
+};
+
+/// A wish that cannot be carried out as it was spelt, told after the name of the option.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Why something was not done when memory ran out.
+inline constexpr const char* kTooLittleMemory = "there is too little memory";
 
 /// The file name that means the standard input or output.
 inline constexpr const char* kStandardStream = "-";

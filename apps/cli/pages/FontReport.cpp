@@ -1,5 +1,4 @@
-#include "pages/FontReport.h"
-
+#include "pages/LoadedChart.h"
 #include "penlode/text/FontFace.h"
 #include "penlode/text/StringUtil.h"
 

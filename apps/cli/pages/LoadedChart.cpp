@@ -1,8 +1,6 @@
 #include "pages/LoadedChart.h"
 
 #include "files/Streams.h"
-#include "files/UserError.h"
-#include "pages/FontReport.h"
 
 #include <new>
 #include <utility>

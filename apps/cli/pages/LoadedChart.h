@@ -19,4 +19,12 @@ struct LoadedChart {
 /// What is wrong is among the diagnostics, an input that cannot be read too.
 LoadedChart LoadChart(const std::string& input, const std::optional<std::string>& data);
 
+/// What became of a chart's fonts, for its reader. UTF-8, one message each.
+struct FontReport {
+    std::vector<std::string> Faces;    ///< "宋体 is drawn in Noto Serif CJK SC"
+    std::vector<std::string> Warnings; ///< characters that no installed face has
+};
+
+FontReport ReportFonts(const millichart::LaidOutChart& chart);
+
 } // namespace cli
