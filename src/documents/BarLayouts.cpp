@@ -57,7 +57,7 @@ void SaveContent(SavingStream& stream, HistogramDocument& document) {
 void SaveContent(SavingStream& stream, HalfPieHistogramDocument& document) {
     CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(stream, document.Prop, "property");
     stream.Push("data", -1);
-    SaveSlices(stream, document.Slices);
+    SaveSlices(stream, kSlices, document.Slices, document.Prop.HalfPie.Basic.ComponentName);
     stream.Pop();
     SaveBars(stream, document.Bars, kGroupsCsv);
     SaveValueRange(stream, {document.Largest, {}, {}});

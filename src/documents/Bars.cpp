@@ -18,6 +18,7 @@ using Diagnostics = std::vector<Diagnostic>;
 constexpr const char* kNames = "/ComponentName";
 constexpr const char* kColors = "/ComponentColor";
 constexpr const char* kGroups = "groups";
+constexpr const char* kTableNames = "names of the table's components";
 constexpr const char* kGroupsForm = "a list of groups, each with a name and values";
 
 constexpr TableForm kBarTable{.WidthForm = "as many as in the heading",
@@ -94,7 +95,8 @@ BarData LoadBars(ChartStream& stream, const DataSource& source, const char* csvK
 
 void SaveBars(SavingStream& stream, const BarData& data, const char* csvKey) {
     stream.Push("data", -1);
-    stream.ReplaceTable(csvKey, {kGroups});
+    stream.ReplaceTable(csvKey, {kGroups, kTableNames});
+    stream.Note(kTableNames, data.ComponentNames);
     stream.Groups(kGroups, data.Values.size());
     for (std::size_t i = 0; i < data.Values.size(); ++i) {
         stream.Push(kGroups, static_cast<int>(i));

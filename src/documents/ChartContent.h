@@ -27,7 +27,9 @@ struct ValueRange {
     std::optional<std::array<double, 4>> Natural;   ///< of a linear axis: minimum, maximum, step, minor step
     std::optional<std::array<double, 2>> Logarithm; ///< of a logarithmic axis: minimum, maximum
 
-    friend bool operator==(const ValueRange&, const ValueRange&) = default;
+    friend bool operator==(const ValueRange& a, const ValueRange& b) {
+        return penlode::HaveEqualMembers<3>(a, b);
+    }
 };
 
 struct PieDocument {
@@ -36,7 +38,9 @@ struct PieDocument {
     std::vector<penlode::PointF> LabelOffsets;
     penlode::PointF LegendOffset;
 
-    friend bool operator==(const PieDocument&, const PieDocument&) = default;
+    friend bool operator==(const PieDocument& a, const PieDocument& b) {
+        return penlode::HaveEqualMembers<4>(a, b);
+    }
 };
 
 struct HalfPieDocument {
@@ -44,7 +48,9 @@ struct HalfPieDocument {
     SliceData Data;
     std::vector<penlode::PointF> LabelOffsets;
 
-    friend bool operator==(const HalfPieDocument&, const HalfPieDocument&) = default;
+    friend bool operator==(const HalfPieDocument& a, const HalfPieDocument& b) {
+        return penlode::HaveEqualMembers<3>(a, b);
+    }
 };
 
 struct HalfPieHalfPieDocument {
@@ -54,7 +60,9 @@ struct HalfPieHalfPieDocument {
     std::vector<penlode::PointF> FirstLabelOffsets;
     std::vector<penlode::PointF> SecondLabelOffsets;
 
-    friend bool operator==(const HalfPieHalfPieDocument&, const HalfPieHalfPieDocument&) = default;
+    friend bool operator==(const HalfPieHalfPieDocument& a, const HalfPieHalfPieDocument& b) {
+        return penlode::HaveEqualMembers<5>(a, b);
+    }
 };
 
 struct HalfPieHistogramDocument {
@@ -64,7 +72,9 @@ struct HalfPieHistogramDocument {
     std::optional<double> Largest; ///< of the bars' axis; without it that of their values
     std::vector<penlode::PointF> LabelOffsets;
 
-    friend bool operator==(const HalfPieHistogramDocument&, const HalfPieHistogramDocument&) = default;
+    friend bool operator==(const HalfPieHistogramDocument& a, const HalfPieHistogramDocument& b) {
+        return penlode::HaveEqualMembers<5>(a, b);
+    }
 };
 
 struct HistogramDocument {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "charts/curve/CurveProp.h"
+#include "penlode/Equality.h"
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-/// The data of chart documents. Texts are narrow.
+/// The data of chart documents. Texts are narrow. A NaN equals a NaN here.
 namespace millichart {
 
 /// Where data that were read from a table stand in it, which diagnostics of their values tell.
@@ -22,10 +23,12 @@ struct SliceData {
     std::vector<std::string> Names; ///< those of a table; they show where the record has none
     std::vector<double> Values;
 
-    friend bool operator==(const SliceData&, const SliceData&) = default;
+    friend bool operator==(const SliceData& a, const SliceData& b) {
+        return penlode::HaveEqualMembers<2>(a, b);
+    }
 };
 
-/// The bars of a chart: a list a group, a number a component. NaN is a gap, and equals one here.
+/// The bars of a chart: a list a group, a number a component. NaN is a gap.
 struct BarData {
     std::vector<std::string> GroupNames;     ///< one a group, or none
     std::vector<std::string> ComponentNames; ///< of a table's heading; they show where the record has none
@@ -35,7 +38,7 @@ struct BarData {
     /// Bars of the largest group, or names if there are more.
     std::size_t Components() const;
 
-    friend bool operator==(const BarData& a, const BarData& b);
+    friend bool operator==(const BarData& a, const BarData& b) { return penlode::HaveEqualMembers<4>(a, b); }
 };
 
 /// The curves of a chart: a list a curve of values and of the times at which they are. kCurveNull is a gap.
@@ -46,7 +49,9 @@ struct CurveData {
     std::vector<std::string> Labels; ///< of the horizontal axis; without any there are numbers of times
     TableOrigin Origin;              ///< a line a time
 
-    friend bool operator==(const CurveData&, const CurveData&) = default;
+    friend bool operator==(const CurveData& a, const CurveData& b) {
+        return penlode::HaveEqualMembers<5>(a, b);
+    }
 };
 
 } // namespace millichart

@@ -145,15 +145,17 @@ void LaidOutChart::Draw(penlode::IGraphicsEngine& engine) const {
 struct ChartDocument::Loaded {
     std::string Name;
     std::string Text;
+    penlode::CJsonSerializeStream Json; ///< of the text; knows its places
+    bool IsUnread = false;
     std::vector<Diagnostic> Diagnostics;
     std::vector<std::string> DataFiles;
     OpenPlaces Missing;
     PlaceHashes Hashes;
 
     /// The places that hold something else now.
-    std::set<std::string> ChangedPlaces(ChartDocument& document) const {
+    std::set<std::string> ChangedPlaces(const PlaceHashes& now) const {
         std::set<std::string> changed;
-        for (const auto& [place, hash] : HashesOf(document)) {
+        for (const auto& [place, hash] : now) {
             const auto then = Hashes.find(place);
             if (then == Hashes.end() || then->second != hash) {
                 changed.insert(place);
@@ -162,12 +164,26 @@ struct ChartDocument::Loaded {
         return changed;
     }
 
+    /// What a document leaves open: what it did not hold when it was loaded and nobody has set since, and
+    /// what is empty where nothing was loaded.
+    OpenPlaces Open(const PlaceHashes& now) const {
+        OpenPlaces open;
+        for (const auto& [place, hash] : now) {
+            const auto then = Hashes.find(place);
+            if (then == Hashes.end() ? hash == HashOfNothing()
+                                     : hash == then->second && Missing.contains(place)) {
+                open.insert(place);
+            }
+        }
+        return open;
+    }
+
     /// What has no file is about the document.
-    void PutInOrder(const penlode::CJsonSerializeStream& json, std::vector<Diagnostic>& diagnostics) const {
+    void PutInOrder(std::vector<Diagnostic>& diagnostics) const {
         for (Diagnostic& diagnostic : diagnostics) {
             diagnostic.File = diagnostic.File == Name ? "" : diagnostic.File;
         }
-        json.PutInOrder(diagnostics);
+        Json.PutInOrder(diagnostics);
         for (Diagnostic& diagnostic : diagnostics) {
             diagnostic.File = diagnostic.File.empty() ? Name : diagnostic.File;
         }
@@ -184,6 +200,7 @@ ChartDocument ChartDocument::Load(const std::string& file) {
     loaded->Name = file;
     loaded->Diagnostics = {penlode::Error("", input.Fault)};
     loaded->Diagnostics.front().File = file;
+    loaded->IsUnread = true;
     document.m_loaded = std::move(loaded);
     return document;
 }
@@ -194,9 +211,10 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
     auto loaded = std::make_shared<Loaded>();
     loaded->Name = file;
     loaded->Text = std::move(text);
-    penlode::CJsonSerializeStream json(loaded->Text, file);
-    ChartStream stream(json);
-    if (!json.IsUnreadable()) {
+    loaded->Json = penlode::CJsonSerializeStream(loaded->Text, file);
+    loaded->IsUnread = loaded->Json.IsUnreadable();
+    ChartStream stream(loaded->Json);
+    if (!loaded->IsUnread) {
         LoadVersion(stream);
         document.Content = LoadKind(stream, loaded->Diagnostics);
         SerTexts(stream, document);
@@ -208,7 +226,7 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
             SerOffsets(stream, content);
         });
     }
-    const std::vector<Diagnostic> met = LoadDiagnostics(json, stream);
+    const std::vector<Diagnostic> met = LoadDiagnostics(loaded->Json, stream);
     loaded->Diagnostics.insert(loaded->Diagnostics.end(), met.begin(), met.end());
     loaded->Missing = stream.Missing();
     loaded->Hashes = HashesOf(document);
@@ -216,7 +234,7 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
         document.m_hasOtherData = true;
         TakeNamesOfTable(document.Content, true);
     }
-    loaded->PutInOrder(json, loaded->Diagnostics);
+    loaded->PutInOrder(loaded->Diagnostics);
     document.m_loaded = std::move(loaded);
     return document;
 }
@@ -237,7 +255,7 @@ const std::vector<std::string>& ChartDocument::DataFiles() const {
 
 void ChartDocument::PutInOrder(std::vector<Diagnostic>& diagnostics) const {
     if (m_loaded) {
-        m_loaded->PutInOrder(penlode::CJsonSerializeStream(m_loaded->Text), diagnostics);
+        m_loaded->PutInOrder(diagnostics);
     }
 }
 
@@ -250,34 +268,40 @@ LaidOutChart ChartDocument::LayOut() && {
 }
 
 LaidOutChart ChartDocument::LayOutAndSpend() {
+    const Loaded none;
+    const Loaded& loaded = m_loaded ? *m_loaded : none;
+    const PlaceHashes now = HashesOf(*this);
+    const std::set<std::string> changed = loaded.ChangedPlaces(now);
     LayoutTask task;
     task.Location = Location;
-    if (m_loaded) {
-        task.Open = m_loaded->Missing;
-        for (const std::string& place : m_loaded->ChangedPlaces(*this)) {
-            task.Open.erase(place);
-            task.AreDataChanged = task.AreDataChanged || IsOfData(place);
-        }
-    }
+    task.Open = loaded.Open(now);
+    task.AreDataChanged = std::any_of(changed.begin(), changed.end(), IsOfData);
+    task.Emptiness = penlode::Error("kind", "no kind", ChartKindNames());
     LaidOutChart laidOut;
     WithContent(Content, [&](auto& content) { laidOut.Chart = LayOutContent(content, task); });
+    const ChartKind* const kind = KindOf(Content);
+    Content = kind == nullptr ? ChartContent() : kind->Make();
+    m_isSpent = true;
     laidOut.Diagnostics = WithFaultOfExtent(std::move(task), laidOut.Extent());
+    PutInOrder(laidOut.Diagnostics);
     return laidOut;
 }
 
 /// What a table gave is written into the document once any of it has changed.
-std::string ChartDocument::Text() const {
+std::string ChartDocument::SavedText(std::string& fault) const {
     const Loaded none;
     const Loaded& loaded = m_loaded ? *m_loaded : none;
-    penlode::CJsonSerializeStream json(loaded.Text.empty() ? "{}" : loaded.Text);
-    if (json.IsUnreadable()) {
+    if (loaded.IsUnread || m_isSpent) {
+        fault = loaded.IsUnread ? "cannot be saved, as it could not be read"
+                                : "cannot be saved, as its content was taken out";
         return loaded.Text;
     }
+    penlode::CJsonSerializeStream json(loaded.Text.empty() ? "{}" : loaded.Text);
     ChartDocument copy = *this;
-    std::set<std::string> changed = loaded.ChangedPlaces(copy);
+    std::set<std::string> changed = loaded.ChangedPlaces(HashesOf(copy));
     if (m_hasOtherData || std::any_of(changed.begin(), changed.end(), IsOfData)) {
         TakeNamesOfTable(copy.Content, false);
-        changed = loaded.ChangedPlaces(copy);
+        changed = loaded.ChangedPlaces(HashesOf(copy));
     }
     if (m_hasOtherData) {
         for (const auto& [place, hash] : HashesOf(copy)) {
@@ -289,11 +313,19 @@ std::string ChartDocument::Text() const {
     json.BeginSaving();
     SavingStream stream(loaded.Hashes, changed, json);
     SaveDocument(stream, copy);
-    return json.Text();
+    fault = stream.Fault();
+    return fault.empty() ? json.Text() : loaded.Text;
+}
+
+std::string ChartDocument::Text() const {
+    std::string fault;
+    return SavedText(fault);
 }
 
 std::string ChartDocument::Save(const std::string& file) const {
-    return WriteFile(file, Text());
+    std::string fault;
+    const std::string text = SavedText(fault);
+    return fault.empty() ? WriteFile(file, text) : fault;
 }
 
 bool HasErrors(const std::vector<Diagnostic>& diagnostics) {

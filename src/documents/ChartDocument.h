@@ -73,26 +73,32 @@ public:
     bool IsSound() const;
     /// The tables that were read.
     const std::vector<std::string>& DataFiles() const;
-    /// Gives diagnostics about the document its name and the lines of their places, and sorts all into its
-    /// order.
+    /// Sorts into the document's order what several of its loads, layouts and readers found, and gives what
+    /// has no file its name and the lines of their places.
     void PutInOrder(std::vector<penlode::Diagnostic>& diagnostics) const;
 
-    /// The second one leaves no data in the document, which spares a large one's copy.
+    /// Its diagnostics have their files and lines, in the document's order. The second one takes the content
+    /// out of the document, which keeps its kind and cannot
+    /// be saved afterwards; this spares the copy of large data.
     LaidOutChart LayOut() const&;
     LaidOutChart LayOut() &&;
 
-    /// The document's text.
+    /// What is saved; of a document that cannot be saved, what was loaded.
     std::string Text() const;
     /// Writes it aside and then gives it the file's name, so that a failure leaves what was there before.
-    /// Gives the reason of one, as in "cannot be written: No space left on device", or an empty text.
+    /// Gives the reason of one, as in "cannot be written: No space left on device", or an empty text. A
+    /// document that could not be read, one whose content was taken out and a name that the format cannot
+    /// hold are such reasons too: then nothing is written.
     std::string Save(const std::string& file) const;
 
 private:
     struct Loaded;
 
     LaidOutChart LayOutAndSpend();
+    std::string SavedText(std::string& fault) const;
 
     std::shared_ptr<const Loaded> m_loaded;
+    bool m_isSpent = false;      ///< its content went into a layout
     bool m_hasOtherData = false; ///< than those that it was loaded with
 };
 

@@ -26,9 +26,11 @@ bool IsUpper(const HalfPieProp& prop) {
     return prop.Basic.WhichPart == HalfPiePart::Upper;
 }
 
-void SaveInGroup(SavingStream& stream, const char* group, const SliceData& data) {
+template <class Basic>
+void SaveInGroup(SavingStream& stream, const char* group, const SlicesPlace& place, const SliceData& data,
+                 const Basic& basic) {
     stream.Push(group, -1);
-    SaveSlices(stream, data);
+    SaveSlices(stream, place, data, basic.ComponentName);
     stream.Pop();
 }
 
@@ -55,20 +57,20 @@ void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHalfPieDo
 
 void SaveContent(SavingStream& stream, PieDocument& document) {
     CPiePropSerialize::SerializePieProp(stream, document.Prop, "property");
-    SaveInGroup(stream, "data", document.Data);
+    SaveInGroup(stream, "data", kPie, document.Data, document.Prop.Basic);
 }
 
 void SaveContent(SavingStream& stream, HalfPieDocument& document) {
     CHalfPiePropSerialize::SerializeHalfPieProp(stream, document.Prop, "property");
-    SaveInGroup(stream, "data", document.Data);
+    SaveInGroup(stream, "data", kHalfPie, document.Data, document.Prop.Basic);
 }
 
 void SaveContent(SavingStream& stream, HalfPieHalfPieDocument& document) {
     CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp(stream, document.Prop, "property");
     stream.Push("data", -1);
     stream.ReplaceTable("csv", {"first", "second"});
-    SaveInGroup(stream, "first", document.First);
-    SaveInGroup(stream, "second", document.Second);
+    SaveInGroup(stream, "first", kFirstHalf, document.First, document.Prop.First.Basic);
+    SaveInGroup(stream, "second", kSecondHalf, document.Second, document.Prop.Second.Basic);
     stream.Pop();
 }
 

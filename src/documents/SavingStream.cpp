@@ -1,5 +1,7 @@
 #include "documents/SavingStream.h"
 
+#include "documents/Fields.h"
+#include "foundation/SerializeFrame.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -13,11 +15,23 @@ std::size_t HashOf(std::string_view bytes) {
     return std::hash<std::string_view>()(bytes);
 }
 
+std::size_t HashOf(const std::vector<std::string>& texts) {
+    std::string all;
+    for (const std::string& text : texts) {
+        all += std::to_string(text.size()) + ":" + text;
+    }
+    return HashOf(all);
+}
+
 bool IsIn(const std::string& place, const std::string& group) {
     return place.starts_with(group) && (place.size() == group.size() || place[group.size()] == '/');
 }
 
 } // namespace
+
+std::size_t HashOfNothing() {
+    return HashOf("");
+}
 
 std::string SavingStream::PlaceOf(const std::string& tag) const {
     const std::string key = penlode::CStringUtil::AnsiToUtf8(tag);
@@ -51,15 +65,31 @@ template <class Write> void SavingStream::Take(const std::string& tag, std::size
 
 void SavingStream::Ser(const std::string& tag, std::vector<std::string>& values,
                        const std::vector<std::string>& defaults) {
-    std::string all;
-    for (const std::string& value : values) {
-        all += std::to_string(value.size()) + ":" + value;
-    }
-    Take(tag, HashOf(all), [&] { m_json->Ser(tag, values, defaults); });
+    Take(tag, HashOf(values), [&] { m_json->Ser(tag, values, defaults); });
 }
 
 void SavingStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
-    Take(tag, HashOf(value), [&] { m_json->Ser(tag, value, defaultValue); });
+    Take(tag, HashOf(value), [&] {
+        if (tag == "ComponentName" && m_json->IsList(tag)) {
+            std::vector<std::string> names = SplitJoinedTexts(value);
+            m_json->Ser(tag, names, {});
+        } else {
+            m_json->Ser(tag, value, defaultValue);
+        }
+    });
+}
+
+void SavingStream::Note(const std::string& tag, const std::vector<std::string>& texts) {
+    Take(tag, HashOf(texts), [] {});
+}
+
+void SavingStream::CheckJoined(const std::string& place, const std::vector<std::string>& names) {
+    for (std::size_t i = 0; i < names.size() && m_fault.empty(); ++i) {
+        if (!IsJoinable(names[i])) {
+            m_fault = "cannot be saved: " + place + "/" + std::to_string(i) + ": found \"" +
+                      penlode::CStringUtil::AnsiToUtf8(names[i]) + "\", expected " + kJoinableForm;
+        }
+    }
 }
 
 void SavingStream::Numbers(const std::string& tag, const std::vector<double>& numbers) {

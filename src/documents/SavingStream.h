@@ -13,6 +13,9 @@ namespace millichart::documents {
 /// A hash of what each place of a document holds.
 using PlaceHashes = std::map<std::string, std::size_t>;
 
+/// Of an empty text or list.
+std::size_t HashOfNothing();
+
 /// Takes what a document would save: either notes a hash of each place, or writes the places that changed,
 /// and nothing else, into the document as it was loaded.
 class SavingStream final : public penlode::CSerializeStream {
@@ -39,6 +42,16 @@ public:
 
     /// There is nothing under this tag.
     void Remove(const std::string& tag);
+
+    /// Takes texts that a table gave, which are written elsewhere: that they changed counts under this tag.
+    void Note(const std::string& tag, const std::vector<std::string>& texts);
+
+    /// Takes names that are saved at `place` as one text, each with two bars behind it, or as the list that
+    /// stands there. The fault of the first that no such form can hold is kept.
+    void CheckJoined(const std::string& place, const std::vector<std::string>& names);
+
+    /// Why the document cannot be saved; empty when it can.
+    const std::string& Fault() const { return m_fault; }
 
     /// In the place of a table that the document names under `csv` come what it gave, under these tags of the
     /// current group, once any of it has changed.
@@ -78,6 +91,7 @@ private:
     const std::set<std::string>* m_changed = nullptr;
     penlode::CJsonSerializeStream* m_json = nullptr;
     std::vector<Group> m_groups;
+    std::string m_fault;
     std::vector<std::string> m_rewritten; ///< places that are written with all that is in them
 };
 

@@ -16,6 +16,7 @@ using penlode::Diagnostic;
 constexpr const char* kNames = "/ComponentName";
 constexpr const char* kColors = "/ComponentColor";
 constexpr const char* kValues = "values";
+constexpr const char* kTableNames = "names of the table";
 constexpr const char* kFirst = "first";
 constexpr const char* kSecond = "second";
 
@@ -132,9 +133,12 @@ void CheckSliceNames(const SlicesPlace& place, std::vector<std::string>& names,
     }
 }
 
-void SaveSlices(SavingStream& stream, const SliceData& data) {
-    stream.ReplaceTable("csv", {kValues});
+void SaveSlices(SavingStream& stream, const SlicesPlace& place, const SliceData& data,
+                const std::vector<std::string>& names) {
+    stream.CheckJoined(place.Record + "/ComponentName", names);
+    stream.ReplaceTable("csv", {kValues, kTableNames});
     stream.Numbers(kValues, data.Values);
+    stream.Note(kTableNames, data.Names);
 }
 
 /// The document's own names stand.

@@ -30,8 +30,9 @@ void LoadHalves(ChartStream& stream, const DataSource& source, SliceData& first,
 void CheckSliceNames(const SlicesPlace& place, std::vector<std::string>& names,
                      std::vector<penlode::Diagnostic>& diagnostics);
 
-/// Into the stream's current group.
-void SaveSlices(SavingStream& stream, const SliceData& data);
+/// Into the stream's current group. `names` are the record's, which was saved before.
+void SaveSlices(SavingStream& stream, const SlicesPlace& place, const SliceData& data,
+                const std::vector<std::string>& names);
 
 /// The slices of one pie while it is laid out.
 class Slices {

@@ -2,6 +2,7 @@
 
 #include "penlode/svg/SvgEngine.h"
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -239,7 +240,8 @@ TEST_F(InFolder, ChangedCurvesTakeThePlaceOfTheirTable) {
     curves.Data.Values[1][2] = kCurveNull;
     doubts = document.LayOut().Diagnostics;
     ASSERT_EQ(doubts.size(), 1U);
-    EXPECT_EQ(doubts[0].File + doubts[0].Place, "data/curves/0/values/2") << "it is in no table any more";
+    EXPECT_EQ(doubts[0].File + ", " + doubts[0].Place, Name("t.json") + ", data/curves/0/values/2")
+        << "it is in no table any more";
     const ChartDocument again = Loaded(document.Text());
     const auto& data = std::get<CurveDocument>(again.Content).Data;
     EXPECT_EQ(data.Values, curves.Data.Values);
@@ -264,6 +266,7 @@ TEST_F(InFolder, WhatIsWrongIsToldAndNothingThrown) {
     EXPECT_FALSE(none.IsSound());
     EXPECT_EQ(Told(none), ": cannot be read: No such file or directory\n");
     EXPECT_EQ(none.LayOut().Extent(), penlode::RectF());
+    EXPECT_EQ(Told(none.LayOut().Diagnostics), "kind: found no kind, expected " + ChartKindNames() + "\n");
     const ChartDocument broken = Loaded("{\"kind\": ");
     EXPECT_FALSE(broken.IsSound());
     EXPECT_EQ(broken.Text(), "{\"kind\": ") << "what could not be read is not lost";
@@ -273,4 +276,80 @@ TEST_F(InFolder, WhatIsWrongIsToldAndNothingThrown) {
         "data": {"values": [1]}})");
     EXPECT_EQ(Told(wrong), "property/PieBasicProp/FixedWidth: found \"wide\", expected a number\n");
     EXPECT_TRUE(Holds(wrong, "\"wide\""));
+}
+
+TEST(ChartDocument, LayoutsTellWhereTheirDoubtsStand) {
+    ChartDocument document = Loaded("{\"kind\": \"pie\", \"data\": {\"values\": [1]},\n\"property\":"
+                                    "{\"PieBasicProp\": {\n\"FixedWidth\": 3, \"FixedSize\": 1,\n"
+                                    "\"StartAngle\": 400}}}");
+    const std::vector<penlode::Diagnostic> doubts = document.LayOut().Diagnostics;
+    ASSERT_EQ(doubts.size(), 2U);
+    EXPECT_EQ(doubts[0].File, "t.json");
+    EXPECT_EQ(doubts[0].Line, 3U);
+    EXPECT_EQ(doubts[1].Line, 4U);
+}
+
+TEST(ChartDocument, NamesThatAloneChangedAreSaved) {
+    for (const char* text :
+         {R"({"kind": "pie", "data": {"values": [1, 2]}})",
+          R"({"kind": "histogram", "data": {"groups": [{"values": [1, 2]}]}})",
+          R"({"kind": "curve", "data": {"curves": [{"values": [1]}, {"values": [2]}]}})"}) {
+        ChartDocument document = Loaded(text);
+        const std::vector<std::string> names{"A", "B"};
+        std::vector<std::string> saved;
+        if (auto* pie = std::get_if<PieDocument>(&document.Content)) {
+            pie->Data.Names = names;
+            saved = std::get<PieDocument>(Loaded(document.Text()).Content).Prop.Basic.ComponentName;
+        } else if (auto* bars = std::get_if<HistogramDocument>(&document.Content)) {
+            bars->Data.ComponentNames = names;
+            saved = std::get<HistogramDocument>(Loaded(document.Text()).Content).Prop.Plot.ComponentName;
+        } else if (auto* curves = std::get_if<CurveDocument>(&document.Content)) {
+            curves->Data.CurveNames = names;
+            saved = std::get<CurveDocument>(Loaded(document.Text()).Content).Data.CurveNames;
+        }
+        EXPECT_EQ(saved, names) << text;
+    }
+}
+
+TEST_F(InFolder, ShortFormsStayAndWhatNoFormHoldsIsNotSaved) {
+    ChartDocument document = Loaded(R"({"kind": "pie", "data": {"values": [1, 2]},
+        "property": {"PieBasicProp": {"FixedWidth": 37, "ComponentName": ["A", "B"]}}})");
+    auto& basic = std::get<PieDocument>(document.Content).Prop.Basic;
+    basic.ComponentName[1] = "C|D";
+    basic.FixedWidth = 37.5F;
+    EXPECT_TRUE(Holds(document, "\"FixedWidth\": 37.5"));
+    EXPECT_TRUE(Holds(document, "\"ComponentName\": ["));
+    EXPECT_TRUE(Loaded(document.Text()).Content == document.Content);
+    for (const char* name : {"C||D", "C|"}) {
+        basic.ComponentName[1] = name;
+        EXPECT_EQ(document.Save(Name("t.json")),
+                  "cannot be saved: property/PieBasicProp/ComponentName/1: found \"" + std::string(name) +
+                      "\", expected a text without || and without | at its end");
+    }
+    Write("broken.json", "{\"kind\": ");
+    EXPECT_EQ(ChartDocument::Load(Name("broken.json")).Save(Name("t.json")),
+              "cannot be saved, as it could not be read");
+    EXPECT_EQ(ChartDocument::Load(Name("none.json")).Save(Name("t.json")),
+              "cannot be saved, as it could not be read");
+    std::move(document).LayOut();
+    EXPECT_EQ(document.Save(Name("t.json")), "cannot be saved, as its content was taken out");
+    EXPECT_FALSE(std::filesystem::exists(Name("t.json")));
+}
+
+TEST(ChartDocument, OfAHostGetsColoursAndEqualsItsCopy) {
+    ChartDocument document;
+    document.Content = FindChartKind("pie")->Make();
+    auto& pie = std::get<PieDocument>(document.Content);
+    pie.Data.Values = {1.0, 2.0};
+    const LaidOutChart chart = document.LayOut();
+    EXPECT_EQ(std::get<CBasicPie>(chart.Chart).GetPieProp().Basic.ComponentColor.size(), 2U);
+    pie.Data.Values[0] = std::nan("");
+    pie.LabelOffsets = {{0.0F, std::nanf("")}};
+    EXPECT_TRUE(ChartContent(document.Content) == document.Content);
+    CurveDocument curve;
+    curve.Data.Values = {{std::nan("")}};
+    curve.Range.Largest = std::nan("");
+    EXPECT_TRUE(CurveDocument(curve) == curve);
+    curve.Data.Values[0][0] = 1.0;
+    EXPECT_FALSE(CurveDocument() == curve);
 }

@@ -16,7 +16,8 @@ namespace penlode {
 /// a number or a boolean is as good as its text. Keys keep their order.
 ///
 /// A stream loads from a document or saves into one. Saving into a loaded document keeps what it held under
-/// other keys, so that nothing that a newer version or another program wrote is lost.
+/// other keys, so that nothing that a newer version or another program wrote is lost; and what was a number
+/// stays one where the text is a number's.
 ///
 /// Groups of one name are a list of objects, and an index from 0 chooses one of them; 0 is also a lone object
 /// that is there. A save begins such a list, or adds to it, at the index that is its length; a save into a

@@ -1,5 +1,6 @@
 #include "penlode/streams/JsonWriter.h"
 
+#include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -61,8 +62,21 @@ void JsonWriter::Pop() {
 
 void JsonWriter::Save(const std::string& tag, const std::string& text) {
     if (JsonNode* const entry = Entry(tag)) {
-        m_tree.AsText(*entry) = CStringUtil::AnsiToUtf8(text);
+        SaveText(*entry, text);
     }
+}
+
+/// A number stays one, as people write it, where it is read as the very text.
+void JsonWriter::SaveText(JsonNode& node, const std::string& text) {
+    double number = 0.0;
+    std::string form = text;
+    if (node.Number() && ser_evaluate(number, form, false)) {
+        node = NumberNode(number);
+        if (m_tree.ScalarText(node) == text) {
+            return;
+        }
+    }
+    m_tree.AsText(node) = CStringUtil::AnsiToUtf8(text);
 }
 
 void JsonWriter::Save(const std::string& tag, const std::vector<std::string>& texts) {
@@ -70,7 +84,7 @@ void JsonWriter::Save(const std::string& tag, const std::vector<std::string>& te
         JsonList& items = m_tree.AsList(*entry);
         items.resize(texts.size());
         for (std::size_t i = 0; i < texts.size(); ++i) {
-            m_tree.AsText(items[i]) = CStringUtil::AnsiToUtf8(texts[i]);
+            SaveText(items[i], texts[i]);
         }
     }
 }

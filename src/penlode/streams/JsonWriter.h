@@ -41,6 +41,7 @@ private:
         return m_open.empty() ? &m_tree.Group(m_tree.Root()) : m_open.back().Group;
     }
 
+    void SaveText(JsonNode& node, const std::string& text);
     JsonNode* Entry(const std::string& tag);
     JsonNode& Item(JsonNode& entry, std::size_t index);
     bool HasPlaceFor(const std::string& tag, int index) const;
