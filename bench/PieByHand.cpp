@@ -44,7 +44,7 @@ Drawing LaidOut(const Pie& pie, const Typesetter& set) {
         const double share = pie.Values[i] / total;
         const double end = angle + share * 2.0 * std::numbers::pi;
         drawing.Slices.push_back({angle, end, pie.Colors[i],
-                                 PlacedLabel(pie, LabelOf(pie.Names[i], share), (angle + end) / 2.0, set)});
+                                  PlacedLabel(pie, LabelOf(pie.Names[i], share), (angle + end) / 2.0, set)});
         angle = end;
     }
     const double right = pie.CenterX + pie.Diameter / 2.0;
