@@ -144,7 +144,6 @@ void LaidOutChart::Draw(penlode::IGraphicsEngine& engine) const {
 /// What a document was when it was loaded.
 struct ChartDocument::Loaded {
     std::string Name;
-    std::string Text;
     penlode::CJsonSerializeStream Json; ///< of the text; knows its places
     bool IsUnread = false;
     std::vector<Diagnostic> Diagnostics;
@@ -210,8 +209,8 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
     ChartDocument document;
     auto loaded = std::make_shared<Loaded>();
     loaded->Name = file;
-    loaded->Text = std::move(text);
-    loaded->Json = penlode::CJsonSerializeStream(loaded->Text, file);
+    loaded->Json = penlode::CJsonSerializeStream(text, file);
+    document.m_text = std::make_shared<const std::string>(std::move(text));
     loaded->IsUnread = loaded->Json.IsUnreadable();
     ChartStream stream(loaded->Json);
     if (!loaded->IsUnread) {
@@ -263,7 +262,9 @@ LaidOutChart ChartDocument::LayOut() const& {
     return ChartDocument(*this).LayOutAndSpend();
 }
 
+/// A large document's text takes more memory than its data, and nobody saves it any more.
 LaidOutChart ChartDocument::LayOut() && {
+    m_text = nullptr;
     return LayOutAndSpend();
 }
 
@@ -291,12 +292,13 @@ LaidOutChart ChartDocument::LayOutAndSpend() {
 std::string ChartDocument::SavedText(std::string& fault) const {
     const Loaded none;
     const Loaded& loaded = m_loaded ? *m_loaded : none;
+    const std::string before = m_text ? *m_text : "";
     if (loaded.IsUnread || m_isSpent) {
         fault = loaded.IsUnread ? "cannot be saved, as it could not be read"
                                 : "cannot be saved, as its content was taken out";
-        return loaded.Text;
+        return before;
     }
-    penlode::CJsonSerializeStream json(loaded.Text.empty() ? "{}" : loaded.Text);
+    penlode::CJsonSerializeStream json(before.empty() ? "{}" : before);
     ChartDocument copy = *this;
     std::set<std::string> changed = loaded.ChangedPlaces(HashesOf(copy));
     if (m_hasOtherData || std::any_of(changed.begin(), changed.end(), IsOfData)) {
@@ -314,7 +316,7 @@ std::string ChartDocument::SavedText(std::string& fault) const {
     SavingStream stream(loaded.Hashes, changed, json);
     SaveDocument(stream, copy);
     fault = stream.Fault();
-    return fault.empty() ? json.Text() : loaded.Text;
+    return fault.empty() ? json.Text() : before;
 }
 
 std::string ChartDocument::Text() const {

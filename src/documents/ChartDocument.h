@@ -77,13 +77,13 @@ public:
     /// has no file its name and the lines of their places.
     void PutInOrder(std::vector<penlode::Diagnostic>& diagnostics) const;
 
-    /// Its diagnostics have their files and lines, in the document's order. The second one takes the content
-    /// out of the document, which keeps its kind and cannot
-    /// be saved afterwards; this spares the copy of large data.
+    /// Its diagnostics have their files and lines, in the document's order. The second one takes content and
+    /// text out of the document, which keeps its kind and cannot be saved afterwards; this spares a copy of
+    /// large data.
     LaidOutChart LayOut() const&;
     LaidOutChart LayOut() &&;
 
-    /// What is saved; of a document that cannot be saved, what was loaded.
+    /// What is saved; of a document that cannot be saved, what was loaded, or nothing once that was taken.
     std::string Text() const;
     /// Writes it aside and then gives it the file's name, so that a failure leaves what was there before.
     /// Gives the reason of one, as in "cannot be written: No space left on device", or an empty text. A
@@ -98,8 +98,9 @@ private:
     std::string SavedText(std::string& fault) const;
 
     std::shared_ptr<const Loaded> m_loaded;
-    bool m_isSpent = false;      ///< its content went into a layout
-    bool m_hasOtherData = false; ///< than those that it was loaded with
+    std::shared_ptr<const std::string> m_text; ///< that it was loaded from
+    bool m_isSpent = false;                    ///< its content went into a layout
+    bool m_hasOtherData = false;               ///< than those that it was loaded with
 };
 
 bool HasErrors(const std::vector<penlode::Diagnostic>& diagnostics);
