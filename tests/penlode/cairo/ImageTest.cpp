@@ -34,7 +34,7 @@ TEST(Image, StoredAsPngKeepsEveryPixel) {
             const auto value = static_cast<std::uint32_t>(i);
             pixels.push_back(Color::FromArgb(255 - value % 7, value, value >> 8U, 3));
         }
-        const Image read = DecodePng(svg::StoredPng(pixels, width));
+        const Image read = DecodePng(svg::StoredPng(pixels, static_cast<std::size_t>(width)));
         EXPECT_EQ(read.Width, width);
         EXPECT_EQ(read.Pixels, pixels);
     }
