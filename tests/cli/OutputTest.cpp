@@ -53,7 +53,8 @@ TEST_F(Output, SaysWhyItCannotBeWritten) {
     EXPECT_EQ(complaint("/dev/full"), "millichart: /dev/full: cannot be written: No space left on device\n");
     EXPECT_EQ(complaint("- >/dev/full"),
               "millichart: standard output: cannot be written: No space left on device\n");
-    const std::string longest = std::string(251, 'n') + ".svg";
+    std::string longest(251, 'n');
+    longest += ".svg";
     EXPECT_EQ(Run("millichart draw g.json -o " + longest).Errors, "");
     EXPECT_TRUE(Exists(longest));
 }
