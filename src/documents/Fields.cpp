@@ -2,6 +2,7 @@
 
 #include "foundation/SerializeFrame.h"
 #include "penlode/streams/TextForms.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -118,8 +119,7 @@ std::vector<double> LoadNumbers(CSerializeStream& stream, const char* key, doubl
 }
 
 std::string NumberText(double number) {
-    constexpr double kMaxWhole = 1e15;
-    if (number == std::trunc(number) && std::abs(number) < kMaxWhole) {
+    if (penlode::IsPlainWhole(number)) {
         return std::to_string(static_cast<std::int64_t>(number));
     }
     return TextOf(number);
@@ -134,7 +134,7 @@ bool ParseNumber(const std::string& text, double& number) {
 }
 
 bool IsJoinable(const std::string& text) {
-    return SplitJoinedTexts(text + "||") == std::vector{text};
+    return SplitJoinedTexts(text + std::string(kTextSeparator)) == std::vector{text};
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

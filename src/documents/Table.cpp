@@ -2,7 +2,6 @@
 
 #include "documents/Csv.h"
 #include "documents/Fields.h"
-#include "penlode/streams/JsonFault.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"
 
@@ -242,14 +241,15 @@ private:
     /// One stands for all those that are not kept.
     void Tell(Diagnostic fault) {
         fault.File = m_input.Name;
-        if (++m_told <= kMaxKept) {
+        if (++m_told <= penlode::kMaxDiagnostics) {
             m_diagnostics.push_back(std::move(fault));
             return;
         }
-        if (m_told > kMaxKept + 1) {
+        if (m_told > penlode::kMaxDiagnostics + 1) {
             m_diagnostics.pop_back();
         }
-        fault = penlode::Error("", "and " + std::to_string(m_told - kMaxKept) + " more, which are not told");
+        fault = penlode::Error("", "and " + std::to_string(m_told - penlode::kMaxDiagnostics) +
+                                       " more, which are not told");
         fault.File = m_input.Name;
         fault.IsRest = true;
         m_diagnostics.push_back(std::move(fault));
