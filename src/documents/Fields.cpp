@@ -36,23 +36,17 @@ template <class T> bool Parse(const std::string& text, T& value) {
     return penlode::ser_evaluate(value, form, false) && std::isfinite(value);
 }
 
-bool IsFar(PointF point) {
-    return std::abs(point.X) > kMaxPoint || std::abs(point.Y) > kMaxPoint;
-}
-
 bool ParsePoint(const std::string& text, PointF& point) {
     const std::size_t blank = text.find(' ');
     PointF read;
-    if (blank == std::string::npos || !Parse(text.substr(0, blank), read.X) ||
-        !Parse(text.substr(blank + 1), read.Y)) {
-        return false;
-    }
-    point = read;
-    return true;
+    const bool isRead = blank != std::string::npos && Parse(text.substr(0, blank), read.X) &&
+                        Parse(text.substr(blank + 1), read.Y);
+    point = isRead ? read : point;
+    return isRead;
 }
 
 void RefuseFarPoint(CSerializeStream& stream, const std::string& key, PointF point) {
-    if (IsFar(point)) {
+    if (std::abs(point.X) > kMaxPoint || std::abs(point.Y) > kMaxPoint) {
         stream.Refuse(key, "a point far away", "a point at most 1000000 mm away");
     }
 }
