@@ -149,7 +149,7 @@ struct PageEllipse {
                 Center.Y + std::cos(t) * First.Y + std::sin(t) * Second.Y};
     }
 
-    /// How far a stretch of the ellipse can stray from its chord, at most.
+    /// How far a section of the ellipse can stray from its chord, at most.
     double Bend(double step) const {
         return (std::hypot(First.X, First.Y) + std::hypot(Second.X, Second.Y)) * step * step / 8.0;
     }
@@ -178,11 +178,9 @@ public:
         const PageEllipse ellipse{Mapped(m_toPage, whole.Center),
                                   {whole.Rx * m_toPage.M11, whole.Rx * m_toPage.M12},
                                   {whole.Ry * m_toPage.M21, whole.Ry * m_toPage.M22}};
-        const bool isFlat = whole.Rx == 0.0 || whole.Ry == 0.0;
-        const double start = isFlat ? 0.0 : whole.Start;
-        Reach(ellipse.At(start));
+        Reach(ellipse.At(whole.Start));
         int cuts = kMaxCuts;
-        Cut(ellipse, start, isFlat ? 0.0 : whole.End, cuts);
+        Cut(ellipse, whole.Start, whole.End, cuts);
     }
 
 private:
