@@ -23,14 +23,16 @@ constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 } // namespace
 
 TEST(GraphicsEngine, RefusesSurfacesThatCannotBe) {
-    for (const SizeF size : {SizeF{0, 10}, SizeF{10, -1}, SizeF{kNan, 10}, SizeF{10, INFINITY}}) {
-        EXPECT_EQ(CGraphicsEngine::ForRaster(size, 96, kWhite), nullptr);
+    for (const SizeF size : {SizeF{0, 10}, SizeF{10, -1}, SizeF{kNan, 10}, SizeF{10, INFINITY},
+                             SizeF{33e3F, 0.3F}, SizeF{0.3F, 33e3F}}) {
+        EXPECT_EQ(CGraphicsEngine::ForRaster(size, 25.4, kWhite), nullptr);
         EXPECT_EQ(CGraphicsEngine::ForPdf(size), nullptr);
     }
     EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, 0.5, kWhite), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, NAN, kWhite), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, 9601, kWhite), nullptr);
-    EXPECT_EQ(CGraphicsEngine::ForRaster({32768, 1}, 25.4, kWhite), nullptr);
+    EXPECT_NE(CGraphicsEngine::ForRaster({32767, 0.1F}, 25.4, kWhite), nullptr);
+    EXPECT_NE(CGraphicsEngine::ForPdf({5080, 0.1F}), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForRaster({30000, 30000}, 25.4, kWhite), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForCairo(nullptr, 96), nullptr);
 }

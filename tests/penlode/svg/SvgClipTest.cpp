@@ -173,6 +173,12 @@ TEST(SvgClip, EverythingAndNothing) {
 }
 
 TEST(SvgClip, EndlessCombiningStaysBounded) {
+    CSvgEngine deep({80, 60});
+    for (int i = 0; i < 150; ++i) {
+        deep.SetClip(RectF{static_cast<float>(i), 0, 1, 1}, CombineMode::Exclude);
+    }
+    Dot(deep);
+    EXPECT_EQ(DeepestLevel(deep.Text()), 100 + 2) << "groups in the root, round the dot";
     CSvgEngine engine({80, 60});
     const Region cross = [] {
         Region region(RectF{0, 4, 10, 2});

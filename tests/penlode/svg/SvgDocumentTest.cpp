@@ -68,24 +68,6 @@ TEST(SvgDocument, CanBeReadWhileItGrows) {
     EXPECT_EQ(engine.Text().substr(0, half.size() - 14), half.substr(0, half.size() - 14));
 }
 
-TEST(SvgDocument, AnswersQueriesFromItsState) {
-    CSvgEngine engine({80, 60});
-    const Font font{L"宋体", 4.0F};
-    engine.TranslateTransform(3, 4, MatrixOrder::Prepend);
-    PointF point;
-    EXPECT_EQ(engine.TransformPoints(CoordinateSpace::Device, CoordinateSpace::World, &point, 1), Status::Ok);
-    EXPECT_EQ(point, (PointF{3, 4}));
-    EXPECT_EQ(engine.GetPageUnit(), Unit::Millimeter);
-    EXPECT_EQ(engine.MeasureScriptText(L"ab\nc", &font), (SizeF{4, 10}));
-    engine.SetClip(RectF{1, 1, 2, 2}, CombineMode::Replace);
-    Region clip;
-    engine.GetClip(&clip);
-    EXPECT_EQ(clip, Region(RectF{1, 1, 2, 2}));
-    EXPECT_EQ(engine.SetSmoothingMode(SmoothingMode::None), Status::Ok);
-    EXPECT_EQ(engine.GetSmoothingMode(), SmoothingMode::None);
-    EXPECT_EQ(engine.SetSmoothingMode(static_cast<SmoothingMode>(9)), Status::InvalidParameter);
-}
-
 TEST(SvgDocument, IsWellFormed) {
     if (std::system("xmllint --version >/dev/null 2>&1") != 0) {
         GTEST_SKIP() << "xmllint is not installed";

@@ -80,7 +80,11 @@ TEST(SvgGradient, TrianglesOutOfSightAreLeftOut) {
     CSvgEngine engine({80, 60});
     // Out of the page; out of the bounds.
     EXPECT_EQ(engine.GradientFill({0, 0, 99, 99}, {}, vertices, 6, mesh, 1, GradientMode::Triangle), 1);
-    EXPECT_EQ(engine.GradientFill({9, 0, 20, 20}, {}, vertices, 6, mesh + 1, 1, GradientMode::Triangle), 1);
+    for (const PointF origin : {PointF{12, 20}, {28, 20}, {20, 12}, {20, 28}}) {
+        EXPECT_EQ(
+            engine.GradientFill({20, 20, 28, 28}, origin, vertices, 6, mesh + 1, 1, GradientMode::Triangle),
+            1);
+    }
     EXPECT_EQ(Body(engine), "");
     // Of four parts one begins where the bounds end.
     EXPECT_EQ(engine.GradientFill({0, 0, 4, 20}, {}, vertices, 6, mesh, 2, GradientMode::Triangle), 1);
