@@ -6,6 +6,7 @@
 #include "penlode/svg/SvgWriter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -123,7 +124,7 @@ struct FarCheck {
     const Matrix& ToPage;
 
     bool operator()(const GraphicsPath::Line& line) const {
-        return IsFar(At(line.From)) || IsFar(At(line.To));
+        return AnyFar(MapAll(ToPage, std::array{line.From, line.To}));
     }
 
     bool operator()(const GraphicsPath::Arc& arc) const {
@@ -133,9 +134,6 @@ struct FarCheck {
     bool operator()(const GraphicsPath::Bezier& bezier) const {
         return AnyFar(MapAll(ToPage, bezier.Points));
     }
-
-private:
-    PointD At(PointF point) const { return Mapped(ToPage, point); }
 };
 
 /// An ellipse on the page, by the parameter of its points.

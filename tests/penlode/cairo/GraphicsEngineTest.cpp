@@ -32,6 +32,8 @@ TEST(GraphicsEngine, RefusesSurfacesThatCannotBe) {
     EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, NAN, kWhite), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForRaster({10, 10}, 9601, kWhite), nullptr);
     EXPECT_NE(CGraphicsEngine::ForRaster({32767, 0.1F}, 25.4, kWhite), nullptr);
+    EXPECT_NE(CGraphicsEngine::ForRaster({25.4F, 25.4F}, 1.0, kWhite), nullptr);
+    EXPECT_NE(CGraphicsEngine::ForRaster({0.1F, 0.1F}, 9600, kWhite), nullptr);
     EXPECT_NE(CGraphicsEngine::ForPdf({5080, 0.1F}), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForRaster({30000, 30000}, 25.4, kWhite), nullptr);
     EXPECT_EQ(CGraphicsEngine::ForCairo(nullptr, 96), nullptr);
