@@ -121,14 +121,6 @@ TEST(Text, InkLiesInTheMeasuredBoxAtEveryResolution) {
     }
 }
 
-TEST(Text, TurnsWithTheSurface) {
-    const SizeF box = Measured(L"深度计");
-    const RectF ink = InkOfText(200, L"深度计", kSong, 40, 40, 90);
-    EXPECT_NEAR(ink.Height, box.Width, 0.6F);
-    EXPECT_LT(ink.Right(), 40.2F);
-    EXPECT_GT(ink.X, 40 - box.Height - 0.2F);
-}
-
 TEST(Text, LettersThatHaveBeenDrawnLookAsForTheFirstTime) {
     std::vector<TurnedText> texts;
     for (const std::int32_t style : {FontStyle::Regular, FontStyle::Bold, FontStyle::Italic}) {

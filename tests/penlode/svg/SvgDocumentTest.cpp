@@ -1,11 +1,9 @@
 #include "penlode/svg/SvgEngine.h"
 #include "support/EverySlot.h"
 
-#include <clocale>
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <locale>
 
 using namespace penlode;
 
@@ -17,45 +15,7 @@ std::string Document(bool outlines) {
     return engine.Text();
 }
 
-struct DecimalComma final : std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-
-    char do_thousands_sep() const override { return '.'; }
-
-    std::string do_grouping() const override { return "\3"; }
-};
-
-/// A locale with a decimal comma, of the C library too where one is installed, until the end of the scope.
-class CommaLocale {
-public:
-    CommaLocale() {
-        for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "German_Germany.1252"}) {
-            if (std::setlocale(LC_ALL, name) != nullptr) {
-                break;
-            }
-        }
-    }
-
-    ~CommaLocale() {
-        std::locale::global(m_before);
-        std::setlocale(LC_ALL, "C");
-    }
-
-    CommaLocale(const CommaLocale&) = delete;
-    CommaLocale& operator=(const CommaLocale&) = delete;
-
-private:
-    std::locale m_before = std::locale::global(std::locale(std::locale::classic(), new DecimalComma));
-};
-
 } // namespace
-
-TEST(SvgDocument, SameCallsGiveTheSameBytesInEveryLocale) {
-    const std::string first = Document(false);
-    EXPECT_EQ(Document(false), first);
-    const CommaLocale comma;
-    EXPECT_EQ(Document(false), first);
-}
 
 TEST(SvgDocument, CanBeReadWhileItGrows) {
     CSvgEngine engine({80, 60});
