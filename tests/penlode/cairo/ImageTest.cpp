@@ -98,8 +98,6 @@ TEST(Image, TheCallbackEndsTheDrawing) {
               Status::Aborted);
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(InkOf(*g), 0);
-    const Image broken{2, 2, 96, 96, {kRed}};
-    EXPECT_EQ(g->DrawImage(&broken, RectF{0, 0, 4, 4}), Status::InvalidParameter);
 }
 
 TEST(Image, FewPixelsCoverAWholeLargePicture) {

@@ -151,3 +151,13 @@ TEST(SvgShapes, OpaqueMarkersOnOnePlaceAreWrittenOnce) {
     const std::string faint = box + " fill=\"#cc0000\" fill-opacity=\"0.502\"/>\n";
     EXPECT_EQ(Body(engine), box + kFill + faint + faint + box + kFill);
 }
+
+TEST(SvgShapes, CanBeReadWhileItGrows) {
+    CSvgEngine engine({80, 60});
+    engine.BeginContainer();
+    engine.FillRectangle(&kBrush, 0, 0, 1, 1);
+    const std::string half = engine.Text();
+    EXPECT_TRUE(half.ends_with("  </g>\n</svg>\n"));
+    engine.FillRectangle(&kBrush, 0, 0, 1, 1);
+    EXPECT_EQ(engine.Text().substr(0, half.size() - 14), half.substr(0, half.size() - 14));
+}
