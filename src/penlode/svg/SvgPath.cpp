@@ -199,9 +199,7 @@ private:
         const PointD end = ellipse.At(to);
         const double bend = ellipse.Bend(to - from);
         const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
-        const bool outside = around.Right < m_box.Left || around.Left > m_box.Right ||
-                             around.Bottom < m_box.Top || around.Top > m_box.Bottom;
-        if (outside || !(bend > kFlatness) || cuts == 0) {
+        if (!around.Meets(m_box) || !(bend > kFlatness) || cuts == 0) {
             m_lines.LineTo(end);
             return;
         }
