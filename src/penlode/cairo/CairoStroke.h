@@ -41,7 +41,7 @@ bool HasRoundPen(const Painter& painter);
 /// since its cost grows with what crosses a scanline inside one path.
 void StrokePolyline(const Painter& painter, const DevicePen& pen, std::vector<PointD> points, bool closed);
 
-/// Strokes the context's path, which lies within the far box.
+/// Strokes the context's path, which lies within the guard band.
 void StrokeCurrentPath(const Painter& painter, const DevicePen& pen);
 
 } // namespace penlode
