@@ -75,7 +75,7 @@ CairoSurface Copied(const ImagePart& drawn, const PixelRect& part, Status& statu
 Matrix PixelsToDevice(const Painter& painter, const RectF& source, const RectF& destination) {
     const Matrix toUnit =
         Matrix::Translation(-source.X, -source.Y) * Matrix::Scale(1.0 / source.Width, 1.0 / source.Height);
-    const std::optional<BoxD> box = DeviceBox(painter, destination);
+    const std::optional<BoxD> box = painter.DeviceBox(destination);
     const Matrix& m = painter.ToDevice();
     const bool upright = m.M12 == 0.0 && m.M21 == 0.0 && m.M11 > 0.0 && m.M22 > 0.0;
     if (box && upright && destination.Width > 0.0F && destination.Height > 0.0F) {
