@@ -22,6 +22,8 @@ public:
 
     bool IsSolid() const { return m_dashStyle == DashStyle::Solid || m_dashStyle == DashStyle::Custom; }
 
+    DashStyle GetDashStyle() const { return m_dashStyle; }
+
     Color GetColor() const { return m_color; }
 
     /// Dash and gap lengths in device units; none for a solid pen.
