@@ -1,8 +1,5 @@
 #include "penlode/cairo/CairoCanvas.h"
 
-#include "penlode/PenDrawing.h"
-#include "penlode/Units.h"
-
 #include <utility>
 
 namespace penlode {
@@ -12,8 +9,6 @@ cairo_antialias_t AntialiasFor(SmoothingMode mode) {
     const bool jagged = mode == SmoothingMode::None || mode == SmoothingMode::HighSpeed;
     return jagged ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT;
 }
-
-constexpr double kMaxTransform = 1e9;
 
 } // namespace
 
@@ -25,10 +20,6 @@ CairoCanvas::CairoCanvas(CairoContext context, const CanvasSetting& setting)
 
 CairoCanvas::~CairoCanvas() {
     cairo_restore(m_context.get());
-}
-
-double CairoCanvas::ThinnestLine() const {
-    return m_setting.HasPixels ? 1.0 : kMinPageLine * m_setting.Dpi / kMillimetresPerInch;
 }
 
 Status CairoCanvas::Recover() {
@@ -82,14 +73,13 @@ void CairoCanvas::UpdateClip(const CSurfaceState& state) {
     const cairo_matrix_t matrix = ToCairo(m_setting.ToUserSpace);
     cairo_set_matrix(m_context.get(), &matrix);
     m_clip.Apply(m_context.get(), clips,
-                 {m_setting.FromState, m_setting.HasPixels, m_setting.Area.Grown(64.0)});
+                 {m_setting.Device.FromState, m_setting.Device.HasPixels, m_setting.Device.Area.Grown(64.0)});
     m_clippedTo = std::move(clips);
 }
 
 Painter::Painter(CairoCanvas& canvas, const CSurfaceState& state)
-    : m_canvas(canvas), m_toDevice(state.WorldToDevice() * canvas.Setting().FromState),
-      m_snaps(canvas.Setting().HasPixels && KeepsAxesNearly(m_toDevice)),
-      m_ready(IsSound(m_toDevice, kMaxTransform) && canvas.Begin(state)) {}
+    : ShapePainter(canvas.Setting().Device, state), m_canvas(canvas),
+      m_ready(IsSound(ToDevice(), kMaxTransform) && canvas.Begin(state)) {}
 
 Painter::~Painter() {
     if (m_ready) {
@@ -103,15 +93,8 @@ void Painter::SetColor(Color color) const {
 }
 
 void Painter::SetMatrix(const Matrix& toDevice) const {
-    const cairo_matrix_t matrix = ToCairo(toDevice * Setting().ToUserSpace);
+    const cairo_matrix_t matrix = ToCairo(toDevice * m_canvas.Setting().ToUserSpace);
     cairo_set_matrix(Context(), &matrix);
-}
-
-bool IsSound(const Matrix& m, double strongest) {
-    constexpr double kFlattest = 1e-6;
-    const double largest = std::max({std::abs(m.M11), std::abs(m.M12), std::abs(m.M21), std::abs(m.M22)});
-    return m.IsInvertible() && largest <= strongest && largest >= 1.0 / strongest &&
-           std::abs(m.Determinant()) >= kFlattest * largest * largest;
 }
 
 cairo_matrix_t ToCairo(const Matrix& m) {

@@ -3,9 +3,7 @@
 #include "penlode/Color.h"
 #include "penlode/cairo/CairoClip.h"
 #include "penlode/cairo/CairoHandles.h"
-#include "penlode/cairo/PixelGrid.h"
-#include "penlode/engine/DeviceGeometry.h"
-#include "penlode/engine/SurfaceState.h"
+#include "penlode/engine/DeviceShapes.h"
 
 #include <optional>
 
@@ -13,14 +11,8 @@ namespace penlode {
 
 /// What a canvas is made of.
 struct CanvasSetting {
-    /// Pixels: lines are at least one wide and axis-parallel ones stand on the grid. Otherwise a page, on
-    /// which places are exact.
-    bool HasPixels = true;
-    double Dpi = 96.0;  ///< device units in an inch
-    BoxD Area;          ///< what can be seen, in device units
-    Matrix FromState;   ///< from CSurfaceState's device coordinates to device units
-    Matrix ToUserSpace; ///< from device units to what Cairo calls its user space
-    PixelGrid Grid;
+    DeviceSetting Device;
+    Matrix ToUserSpace;      ///< from device units to what Cairo calls its user space
     bool OwnsSurface = true; ///< a failed context may be replaced by a new one on the same surface
 };
 
@@ -39,9 +31,6 @@ public:
     cairo_surface_t* Surface() const { return m_surface.get(); }
 
     const CanvasSetting& Setting() const { return m_setting; }
-
-    /// Width of the thinnest line, in device units.
-    double ThinnestLine() const;
 
     /// Brings clip, matrix and smoothing up to date and opens the masks. False when the surface takes no
     /// drawings any more.
@@ -65,7 +54,7 @@ private:
 };
 
 /// One drawing operation: open from construction to destruction.
-class Painter {
+class Painter final : public ShapePainter {
 public:
     Painter(CairoCanvas& canvas, const CSurfaceState& state);
     ~Painter();
@@ -78,23 +67,12 @@ public:
 
     cairo_t* Context() const { return m_canvas.Context(); }
 
-    const Matrix& ToDevice() const { return m_toDevice; }
-
-    PointD Map(PointF point) const { return Mapped(m_toDevice, point); }
-
-    /// On a surface of pixels, while axis-parallel lines stay so.
-    bool Snaps() const { return m_snaps; }
-
-    bool HasPixels() const { return m_canvas.Setting().HasPixels; }
-
-    const CanvasSetting& Setting() const { return m_canvas.Setting(); }
-
-    double ThinnestLine() const { return m_canvas.ThinnestLine(); }
-
-    const PixelGrid& Grid() const { return Setting().Grid; }
-
-    /// The surface and a margin around it: outlines beyond this box can be cut off unseen.
-    BoxD GuardBand(double margin = 0.0) const { return Setting().Area.Grown(64.0 + margin); }
+    void FillPolygon(std::span<const PointD> corners, Color color) const override;
+    Status FillPath(const GraphicsPath& path, Color color) const override;
+    /// Long polylines go to Cairo piece by piece, since its cost grows with what crosses a scanline inside
+    /// one path.
+    void StrokePolyline(const DevicePen& pen, std::vector<PointD> points, bool closed) const override;
+    Status StrokePath(const GraphicsPath& path, const Pen& pen) const override;
 
     void SetColor(Color color) const;
     /// The context's matrix, as a map to device units.
@@ -102,16 +80,10 @@ public:
 
 private:
     CairoCanvas& m_canvas;
-    Matrix m_toDevice;
-    bool m_snaps;
     bool m_ready;
 };
 
-/// False for a matrix that enlarges or reduces by more than `strongest`, or flattens the plane to nearly a
-/// line: Cairo turns matrices round in fixed point, and a surface on which that fails is lost.
-bool IsSound(const Matrix& m, double strongest);
-
-/// The same in Cairo's terms.
+/// A matrix in Cairo's terms.
 cairo_matrix_t ToCairo(const Matrix& m);
 
 } // namespace penlode

@@ -1,7 +1,7 @@
 #include "penlode/cairo/CairoClip.h"
 
 #include "penlode/cairo/CairoOutline.h"
-#include "penlode/cairo/PixelGrid.h"
+#include "penlode/engine/PixelGrid.h"
 #include "penlode/engine/RegionFold.h"
 
 #include <array>

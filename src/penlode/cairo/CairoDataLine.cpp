@@ -1,16 +1,13 @@
-#include "penlode/Units.h"
 #include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoStroke.h"
 #include "penlode/cairo/LineCoverage.h"
-#include "penlode/engine/LineThinning.h"
+#include "penlode/engine/DataLine.h"
 
 #include <optional>
 #include <utility>
 
 namespace penlode {
 namespace {
-
-constexpr double kColumnsPerPixel = 2.0;
 
 /// Sections of a pixel in which coverage is looked for: as fine as Cairo's own rows, or coarser where the
 /// line is too dense to show it. A line that scribbles over the surface a million times gets fewer, so that
@@ -25,22 +22,6 @@ constexpr double kMaxPasses = 8.0;
 constexpr std::size_t kMaxStrokedScribble = 10000;
 
 constexpr double kMaxTip = 0.75;
-
-ThinningGrid GridOf(const Painter& painter, double margin) {
-    const BoxD box = painter.GuardBand(margin);
-    const CanvasSetting& setting = painter.Setting();
-    return {setting.HasPixels ? 1.0 / kColumnsPerPixel : setting.Dpi / kDocumentColumnsPerInch, box.Left,
-            box.Right};
-}
-
-/// Nothing when a point is not finite.
-std::optional<std::vector<PointD>> Thinned(const Painter& painter, double margin,
-                                           std::span<const PointF> points) {
-    std::vector<PointD> thinned;
-    const bool finite = ThinLine(points, painter.ToDevice(), GridOf(painter, margin),
-                                 [&](PointD point) { thinned.push_back(point); });
-    return finite ? std::optional(std::move(thinned)) : std::nullopt;
-}
 
 bool Scribbles(const Painter& painter, std::span<const PointD> points) {
     const BoxD area = painter.Setting().Area;
@@ -100,7 +81,7 @@ void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<
 
 Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, const Pen& pen) {
     const DevicePen drawn(pen, painter, false);
-    std::optional<std::vector<PointD>> line = Thinned(painter, drawn.Margin(), points);
+    std::optional<std::vector<PointD>> line = ThinnedLine(painter, drawn.Margin(), points);
     if (!line) {
         return Status::InvalidParameter;
     }
@@ -110,7 +91,7 @@ Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, co
         const bool thinned = line->size() < points.size();
         StrokeByCoverage(painter, drawn, std::move(*line), thinned);
     } else {
-        StrokePolyline(painter, drawn, std::move(*line), false);
+        painter.StrokePolyline(drawn, std::move(*line), false);
     }
     return Status::Ok;
 }

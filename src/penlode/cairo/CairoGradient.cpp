@@ -71,7 +71,7 @@ CairoPattern AxisBlend(const ColoredPoint& from, const ColoredPoint& to, bool ve
 void FillRect(const Painter& painter, const ColoredPoint& from, const ColoredPoint& to, bool vertical) {
     const BoxD seen = SeenWorld(painter);
     const RectF rect = Narrowed(BoxBetween(from.Place, to.Place));
-    if (const std::optional<BoxD> box = DeviceBox(painter, rect)) {
+    if (const std::optional<BoxD> box = painter.DeviceBox(rect)) {
         AddBox(painter.Context(), *box, painter.GuardBand());
     } else {
         GraphicsPath path;

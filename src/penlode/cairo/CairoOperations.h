@@ -2,18 +2,11 @@
 
 #include "penlode/cairo/CairoCanvas.h"
 #include "penlode/engine/Drawings.h"
-#include "penlode/engine/Outline.h"
 
-#include <optional>
 #include <span>
 
 /// What an engine on Cairo draws, given in world coordinates.
 namespace penlode {
-
-/// On a surface of pixels boxes, faces of 3D bars and axis-parallel lines are snapped to the grid; what is
-/// drawn as a path never is.
-Status Stroke(const Painter& painter, const Outline& outline, const Pen& pen);
-Status Fill(const Painter& painter, const Outline& outline, Color color);
 
 /// However long the line, thinned to what the surface can show; never snapped. InvalidParameter, and nothing
 /// drawn, when a point is not finite: they are looked at once, here.
@@ -30,8 +23,5 @@ Status PaintText(const Painter& painter, const TextRun& text);
 Status PaintImage(const Painter& painter, const ImagePart& part);
 
 Status PaintGradient(const Painter& painter, const GradientMesh& mesh);
-
-/// Where a rectangle lies in device units: snapped on pixels; nothing under a transform that turns it.
-std::optional<BoxD> DeviceBox(const Painter& painter, const RectF& rect);
 
 } // namespace penlode

@@ -1,46 +1,10 @@
 #include "penlode/cairo/CairoOutline.h"
 
-#include "penlode/engine/Finite.h"
 #include "penlode/engine/GuardBand.h"
 
 #include <utility>
 
 namespace penlode {
-namespace {
-
-class ReachProbe final : public OutlineSink {
-public:
-    explicit ReachProbe(const BoxD& box) : m_box(box) {}
-
-    void MoveTo(PointD p) override { Look(p); }
-
-    void LineTo(PointD p) override { Look(p); }
-
-    void CurveTo(PointD a, PointD b, PointD end) override {
-        Look(a);
-        Look(b);
-        Look(end);
-    }
-
-    void Close() override {}
-
-    Reach Found() const { return m_reach; }
-
-private:
-    void Look(PointD p) {
-        if (!IsFinite(p)) {
-            m_reach = Reach::NotFinite;
-        } else if (m_reach == Reach::Inside && !m_box.Contains(p)) {
-            m_reach = Reach::Beyond;
-        }
-    }
-
-    BoxD m_box;
-    Reach m_reach = Reach::Inside;
-};
-
-} // namespace
-
 void AddPolygon(cairo_t* context, std::span<const PointD> corners, const BoxD& box) {
     const std::vector<PointD> polygon = ClippedPolygon({corners.begin(), corners.end()}, box);
     cairo_new_sub_path(context);
@@ -70,12 +34,6 @@ bool AddArea(cairo_t* context, const GraphicsPath& path, const Matrix& toDevice,
         }
     }
     return reach != Reach::NotFinite;
-}
-
-Reach ReachOf(const GraphicsPath& path, const Matrix& toDevice, const BoxD& box) {
-    ReachProbe probe(box);
-    WalkOutline(path, toDevice, probe);
-    return probe.Found();
 }
 
 } // namespace penlode

@@ -17,11 +17,6 @@ void AddBox(cairo_t* context, const BoxD& area, const BoxD& box);
 /// is not finite.
 bool AddArea(cairo_t* context, const GraphicsPath& path, const Matrix& toDevice, const BoxD& box);
 
-/// How an outline lies to a box.
-enum class Reach { Inside, Beyond, NotFinite };
-
-Reach ReachOf(const GraphicsPath& path, const Matrix& toDevice, const BoxD& box);
-
 /// Sends an outline to a context as it is.
 class CairoOutline final : public OutlineSink {
 public:

@@ -1,7 +1,5 @@
 #include "penlode/cairo/CairoStroke.h"
 
-#include "penlode/PenDrawing.h"
-
 #include <numeric>
 #include <span>
 #include <utility>
@@ -9,38 +7,10 @@
 namespace penlode {
 namespace {
 
-constexpr double kMaxLineWidth = 65536.0;
-constexpr std::size_t kMaxPathPoints = 64;
 constexpr std::size_t kPieceLength = 32;
-
-/// A line with more dashes than any eye can tell apart is drawn solid.
-constexpr double kMaxDashes = 100000.0;
-
-double LengthOf(std::span<const PointD> points) {
-    double length = 0.0;
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        length += std::hypot(points[i].X - points[i - 1].X, points[i].Y - points[i - 1].Y);
-    }
-    return length;
-}
 
 double Sum(const std::vector<double>& values) {
     return std::accumulate(values.begin(), values.end(), 0.0);
-}
-
-/// The transform without its scale, in which the pen's width counts: a circle but where axes are scaled
-/// differently.
-Matrix PenShape(const Matrix& toDevice) {
-    const double k = toDevice.LengthFactor();
-    return {toDevice.M11 / k, toDevice.M12 / k, toDevice.M21 / k, toDevice.M22 / k, 0.0, 0.0};
-}
-
-bool IsRound(const Matrix& m) {
-    constexpr double kNoise = 1e-6;
-    const double first = std::hypot(m.M11, m.M12);
-    const double second = std::hypot(m.M21, m.M22);
-    const double slant = m.M11 * m.M21 + m.M12 * m.M22;
-    return std::abs(first - second) <= kNoise && std::abs(slant) <= kNoise;
 }
 
 /// A pen that is not round is drawn at this scale: a matrix without one, Cairo 1.16 takes for a turn when it
@@ -107,54 +77,10 @@ void StrokeRun(const Painter& painter, const PolylineRun& run, const std::vector
     }
 }
 
-/// Leaves out points next to the one before. Cairo counts in 1/256 of a pixel: shorter steps would go in
-/// wrong directions, and the pieces of a line that creeps along would pile up on one pixel.
-std::vector<PointD> WithoutCreeping(std::vector<PointD> points, double shortestStep) {
-    if (points.size() <= kMaxPathPoints) {
-        return points;
-    }
-    std::size_t kept = 1;
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        const PointD last = points[kept - 1];
-        const bool moved = std::abs(points[i].X - last.X) + std::abs(points[i].Y - last.Y) >= shortestStep;
-        if (moved || i + 1 == points.size()) {
-            points[kept++] = points[i];
-        }
-    }
-    points.resize(kept);
-    return points;
-}
-
-std::vector<PolylineRun> RunsOf(const Painter& painter, std::vector<PointD> points, bool closed,
-                                const DevicePen& pen) {
-    points = WithoutCreeping(std::move(points), painter.HasPixels() ? kMinStepInPixels : kMinStepOnPages);
-    if (closed) {
-        points = ClosedPolyline(std::move(points), pen.IsSolid());
-    }
-    return ClippedPolyline(std::move(points), painter.GuardBand(pen.Margin()));
-}
-
-/// Few points that lie near: one path, closed by Cairo itself.
-bool IsPlain(const std::vector<PointD>& points, const BoxD& box) {
-    return points.size() <= kMaxPathPoints &&
-           std::all_of(points.begin(), points.end(), [&](PointD p) { return box.Contains(p); });
-}
-
-bool HasTooManyDashes(const std::vector<PolylineRun>& runs, const std::vector<double>& dashes) {
-    double length = 0.0;
-    for (const PolylineRun& run : runs) {
-        length += LengthOf(run.Points);
-    }
-    return length / Sum(dashes) * static_cast<double>(dashes.size()) > 2.0 * kMaxDashes;
-}
-
 /// Pieces overlap, which a translucent line would show: it is drawn opaque on a sheet of its own, and the
 /// sheet is laid on translucent.
 void StrokeRuns(const Painter& painter, const DevicePen& pen, const std::vector<PolylineRun>& runs) {
-    std::vector<double> dashes = pen.Dashes();
-    if (!dashes.empty() && HasTooManyDashes(runs, dashes)) {
-        dashes.clear();
-    }
+    const std::vector<double> dashes = DashesFor(runs, pen);
     const bool translucent = pen.GetColor().A() != 0xFFU;
     if (translucent) {
         cairo_push_group(painter.Context());
@@ -172,47 +98,21 @@ void StrokeRuns(const Painter& painter, const DevicePen& pen, const std::vector<
 
 } // namespace
 
-bool HasRoundPen(const Painter& painter) {
-    return IsRound(PenShape(painter.ToDevice()));
-}
-
-DevicePen::DevicePen(const Pen& pen, const Painter& painter, bool snapped)
-    : m_color(pen.GetColor()), m_dashStyle(pen.GetDashStyle()),
-      m_width(std::clamp(std::abs(static_cast<double>(pen.GetWidth())) * painter.ToDevice().LengthFactor(),
-                         painter.ThinnestLine(), kMaxLineWidth)) {
-    if (snapped) {
-        m_width = PixelGrid::WholeWidth(m_width);
-    }
-}
-
-std::vector<double> DevicePen::Dashes() const {
-    std::vector<double> lengths;
-    for (const double part : DashPattern(m_dashStyle)) {
-        lengths.push_back(part * m_width);
-    }
-    return lengths;
-}
-
-double DevicePen::Margin() const {
-    return m_width * kMiterLimit;
-}
-
-void StrokePolyline(const Painter& painter, const DevicePen& pen, std::vector<PointD> points, bool closed) {
-    const BoxD box = painter.GuardBand(pen.Margin());
+void Painter::StrokePolyline(const DevicePen& pen, std::vector<PointD> points, bool closed) const {
     if (points.size() < 2) {
         return;
     }
-    if (!IsPlain(points, box)) {
-        StrokeRuns(painter, pen, RunsOf(painter, std::move(points), closed, pen));
+    if (!IsPlain(points, GuardBand(pen.Margin()))) {
+        StrokeRuns(*this, pen, RunsOf(*this, std::move(points), closed, pen));
         return;
     }
     for (const PointD p : points) {
-        cairo_line_to(painter.Context(), p.X, p.Y);
+        cairo_line_to(Context(), p.X, p.Y);
     }
     if (closed) {
-        cairo_close_path(painter.Context());
+        cairo_close_path(Context());
     }
-    StrokeCurrentPath(painter, pen);
+    StrokeCurrentPath(*this, pen);
 }
 
 void StrokeCurrentPath(const Painter& painter, const DevicePen& pen) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "penlode/cairo/CairoCanvas.h"
-#include "penlode/cairo/CairoMark.h"
 #include "penlode/cairo/GraphicsEngine.h"
+#include "penlode/engine/Mark.h"
 
 #include <cmath>
 #include <concepts>
@@ -34,16 +34,16 @@ struct CGraphicsEngine::Target {
         return answer == Status::Ok ? outcome : answer;
     }
 
-    /// The same for a small shape. One that lies on the one before is not drawn again, unless a host may have
-    /// drawn in between.
+    /// The same for a shape; one that is filled has a pen of its colour. A small one that lies on the one
+    /// before is not drawn again, unless a host may have drawn in between.
     template <std::invocable<const Painter&> Operation>
-    Status DrawMark(const CSurfaceState& state, MarkShape shape, const Pen& look,
-                    std::span<const PointF> corners, Operation&& operation) {
-        if (corners.size() > Mark::kMaxCorners || What == Kind::Host || Finished) {
-            return Draw(state, operation);
+    Status DrawShape(const CSurfaceState& state, const Outline& outline, const Pen& look, bool fills,
+                     Operation&& operation) {
+        std::optional<Mark> mark;
+        if (What != Kind::Host && !Finished) {
+            mark = MarkOf(outline, look, fills, Canvas.Setting().Device, state);
         }
-        const Mark mark(shape, look, corners, Canvas.Setting(), state);
-        if (LastMark && LastMark->Hides(mark)) {
+        if (mark && LastMark && LastMark->Hides(*mark)) {
             return Status::Ok;
         }
         const Status answer = Draw(state, operation);

@@ -1,5 +1,6 @@
 #include "penlode/cairo/CairoHandles.h"
 #include "penlode/cairo/PangoText.h"
+#include "penlode/engine/DeviceText.h"
 #include "penlode/engine/EngineArguments.h"
 #include "penlode/text/FontFace.h"
 

@@ -96,7 +96,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
         return nullptr;
     }
     FillWith(context.get(), background);
-    const CanvasSetting setting{true, dpi, {0.0, 0.0, width, height}, {}, {}, {width, height}};
+    const CanvasSetting setting{{true, dpi, {0.0, 0.0, width, height}, {}, {width, height}}, {}};
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(
         std::make_unique<Target>(Target::Kind::Picture, std::move(context), setting, dpi)));
 }
@@ -115,7 +115,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
     if (cairo_status(context.get()) != CAIRO_STATUS_SUCCESS) {
         return nullptr;
     }
-    const CanvasSetting setting{false, kPointsPerInch, {0.0, 0.0, width, height}, {}, {}, {}};
+    const CanvasSetting setting{{false, kPointsPerInch, {0.0, 0.0, width, height}, {}, {}}, {}};
     auto target = std::make_unique<Target>(Target::Kind::Pdf, std::move(context), setting, kPointsPerInch);
     target->PdfFile = std::move(file);
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
@@ -136,14 +136,10 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForCairo(_cairo* context, doub
     cairo_surface_get_device_offset(surface, &offsetX, &offsetY);
     const Matrix toPixels = Matrix{m.xx, m.yx, m.xy, m.yy, m.x0, m.y0} * Matrix::Scale(scaleX, scaleY) *
                             Matrix::Translation(offsetX, offsetY);
-    const CanvasSetting setting{HasPixels(surface),
-                                dpi * toPixels.LengthFactor(),
-                                ClipOf(context, toPixels),
-                                toPixels,
-                                Matrix::Translation(-offsetX, -offsetY) *
-                                    Matrix::Scale(1.0 / scaleX, 1.0 / scaleY),
-                                {},
-                                false};
+    const CanvasSetting setting{
+        {HasPixels(surface), dpi * toPixels.LengthFactor(), ClipOf(context, toPixels), toPixels, {}},
+        Matrix::Translation(-offsetX, -offsetY) * Matrix::Scale(1.0 / scaleX, 1.0 / scaleY),
+        false};
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(
         std::make_unique<Target>(Target::Kind::Host, CairoContext(cairo_reference(context)), setting, dpi)));
 }

@@ -1,6 +1,7 @@
 #include "penlode/cairo/PangoText.h"
 
 #include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/FaceMetrics.h"
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
 
@@ -45,22 +46,6 @@ struct LineKeyHash {
         return hash(key.Text) * 31U + hash(key.Family) * 7U + static_cast<std::size_t>(key.Style);
     }
 };
-
-/// Measures of a face in its em.
-struct FaceMetrics {
-    double Ascent;
-    double Descent;
-};
-
-/// Some Chinese faces leave so much air between lines (Noto Serif CJK 1.44 em) that a frame round a text no
-/// longer fits it. A line is at most 1.25 em high, and these stand in it as in faces that were made for
-/// tables: an ideograph's box (0.88 em up, 0.12 em down) a hair above the middle, and the Latin letters'
-/// tails (0.25 em down) still inside.
-constexpr FaceMetrics kCompactLine{0.98, 0.27};
-
-FaceMetrics WithoutExcessAir(FaceMetrics face) {
-    return face.Ascent + face.Descent > kCompactLine.Ascent + kCompactLine.Descent ? kCompactLine : face;
-}
 
 Held<PangoFontMap> MakeFontMap() {
     Held<PangoFontMap> map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));

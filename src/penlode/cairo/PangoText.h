@@ -17,12 +17,6 @@ namespace penlode {
 /// The em size of a set line, in its own units. All its measures are in proportion.
 inline constexpr double kShapingEm = 100.0;
 
-/// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
-/// for every face, clear of ideographs as of Latin letters.
-inline constexpr double kUnderline = -0.18;
-inline constexpr double kStrikeout = 0.3;
-inline constexpr double kDecorationThickness = 0.05;
-
 struct ShapedLine {
     PangoLayoutLine* Line = nullptr; ///< null for an empty text or where no font is installed
     double Width = 0.0;

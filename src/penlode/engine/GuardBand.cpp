@@ -1,5 +1,7 @@
 #include "penlode/engine/GuardBand.h"
 
+#include "penlode/engine/Finite.h"
+
 #include <optional>
 #include <utility>
 
@@ -89,6 +91,37 @@ double Bend(PointD p0, PointD p1, PointD p2, PointD p3) {
     return 0.75 * std::max(off(p0, p1, p2), off(p1, p2, p3));
 }
 
+class ReachProbe final : public OutlineSink {
+public:
+    explicit ReachProbe(const BoxD& box) : m_box(box) {}
+
+    void MoveTo(PointD p) override { Look(p); }
+
+    void LineTo(PointD p) override { Look(p); }
+
+    void CurveTo(PointD a, PointD b, PointD end) override {
+        Look(a);
+        Look(b);
+        Look(end);
+    }
+
+    void Close() override {}
+
+    Reach Found() const { return m_reach; }
+
+private:
+    void Look(PointD p) {
+        if (!IsFinite(p)) {
+            m_reach = Reach::NotFinite;
+        } else if (m_reach == Reach::Inside && !m_box.Contains(p)) {
+            m_reach = Reach::Beyond;
+        }
+    }
+
+    BoxD m_box;
+    Reach m_reach = Reach::Inside;
+};
+
 } // namespace
 
 std::vector<PolylineRun> ClippedPolyline(std::vector<PointD> points, const BoxD& box) {
@@ -162,6 +195,12 @@ void OutlineFlattener::Flatten(const Cubic& c, int depth) {
     const PointD middle = Between(am, mb, 0.5);
     Flatten({c.P0, a, am, middle}, depth + 1);
     Flatten({middle, mb, b, c.P3}, depth + 1);
+}
+
+Reach ReachOf(const GraphicsPath& path, const Matrix& toDevice, const BoxD& box) {
+    ReachProbe probe(box);
+    WalkOutline(path, toDevice, probe);
+    return probe.Found();
 }
 
 } // namespace penlode

@@ -63,4 +63,9 @@ private:
     std::vector<FlatFigure> m_figures;
 };
 
+/// How an outline lies to a box.
+enum class Reach { Inside, Beyond, NotFinite };
+
+Reach ReachOf(const GraphicsPath& path, const Matrix& toDevice, const BoxD& box);
+
 } // namespace penlode

@@ -121,7 +121,8 @@ TEST(GraphicsEngine, OnAFoldedPlaneAClipCannotBeRead) {
 
 TEST(CairoCanvas, AFailedContextIsReplacedOnItsSurface) {
     const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 8, 8));
-    CairoCanvas canvas(CairoContext(cairo_create(surface.get())), {true, 25.4, {0, 0, 8, 8}, {}, {}, {8, 8}});
+    CairoCanvas canvas(CairoContext(cairo_create(surface.get())),
+                       {{true, 25.4, {0, 0, 8, 8}, {}, {8, 8}}, {}});
     CSurfaceState state(25.4, 25.4);
     state.CombineClip(Region::Shape{RectF{0, 0, 4, 8}}, CombineMode::Replace);
     const auto draw = [&] {

@@ -1,4 +1,4 @@
-#include "penlode/cairo/PixelGrid.h"
+#include "penlode/engine/PixelGrid.h"
 
 #include <cstddef>
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "penlode/Pen.h"
-#include "penlode/cairo/CairoCanvas.h"
+#include "penlode/engine/DeviceView.h"
+#include "penlode/engine/Outline.h"
 
 #include <array>
+#include <optional>
 #include <span>
 
 namespace penlode {
@@ -17,7 +19,7 @@ public:
     static constexpr std::size_t kMaxCorners = 4;
 
     /// Up to kMaxCorners in world coordinates. What is filled has a pen of its colour.
-    Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, const CanvasSetting& setting,
+    Mark(MarkShape shape, const Pen& look, std::span<const PointF> corners, const DeviceSetting& setting,
          const CSurfaceState& state);
 
     /// Whether `next` would be painted over this one, to within an eighth of a pixel. Snapped boxes are to
@@ -34,5 +36,9 @@ private:
     SmoothingMode m_smoothing;
     std::uint64_t m_clip;
 };
+
+/// Nothing for what is no such shape.
+std::optional<Mark> MarkOf(const Outline& outline, const Pen& look, bool fills, const DeviceSetting& setting,
+                           const CSurfaceState& state);
 
 } // namespace penlode

@@ -1,0 +1,43 @@
+#include "penlode/gdiplus/GraphicsEngine.h"
+
+#include "penlode/engine/Finite.h"
+#include "penlode/gdiplus/GdiTarget.h"
+
+namespace penlode {
+
+Status CGraphicsEngine::StrokeOutline(const Outline& outline, const Pen& pen) {
+    return m_target->DrawShape(State(), outline, pen, false,
+                               [&](const GdiPainter& painter) { return painter.Stroke(outline, pen); });
+}
+
+Status CGraphicsEngine::FillOutline(const Outline& outline, const SolidBrush& brush) {
+    return m_target->DrawShape(
+        State(), outline, Pen(brush.FillColor, 0.0F), true,
+        [&](const GdiPainter& painter) { return painter.Fill(outline, brush.FillColor); });
+}
+
+Status CGraphicsEngine::StrokeDataLine(std::span<const PointF> points, const Pen& pen) {
+    bool seen = false;
+    const Status answer = m_target->Draw(State(), [&](const GdiPainter& painter) {
+        seen = true;
+        return penlode::StrokeDataLine(painter, points, pen);
+    });
+    return seen || AreFinite(points) ? answer : Status::InvalidParameter;
+}
+
+Status CGraphicsEngine::PaintText(const TextRun& text) {
+    return m_target->Draw(State(),
+                          [&](const GdiPainter& painter) { return penlode::PaintText(painter, text); });
+}
+
+Status CGraphicsEngine::PaintImage(const ImagePart& part) {
+    return m_target->Draw(State(),
+                          [&](const GdiPainter& painter) { return penlode::PaintImage(painter, part); });
+}
+
+Status CGraphicsEngine::PaintGradient(const GradientMesh& mesh) {
+    return m_target->Draw(State(),
+                          [&](const GdiPainter& painter) { return penlode::PaintGradient(painter, mesh); });
+}
+
+} // namespace penlode

@@ -1,0 +1,241 @@
+#include "penlode/Units.h"
+#include "penlode/engine/Finite.h"
+#include "penlode/gdiplus/GdiTarget.h"
+
+#include <cmath>
+
+namespace penlode {
+namespace {
+
+constexpr double kMaxSide = 32767.0;
+constexpr double kMaxPixels = 500e6;
+constexpr double kMaxPageSide = 5080.0;
+constexpr double kHundredths = 100.0;
+
+double WholePixels(double millimetres, double dpi) {
+    return std::max(1.0, std::round(millimetres * dpi / kMillimetresPerInch));
+}
+
+bool IsWithin(double value, double least, double most) {
+    return value >= least && value <= most;
+}
+
+bool IsPage(HDC context) {
+    const int technology = GetDeviceCaps(context, TECHNOLOGY);
+    const DWORD kind = GetObjectType(context);
+    return technology == DT_RASPRINTER || technology == DT_PLOTTER || kind == OBJ_ENHMETADC ||
+           kind == OBJ_METADC;
+}
+
+/// What of a context can be seen; a page's whole extent, since its clip may not be set yet.
+BoxD SeenArea(HDC context) {
+    RECT clip{};
+    if (IsPage(context) || GetClipBox(context, &clip) == ERROR) {
+        return {0.0, 0.0, static_cast<double>(GetDeviceCaps(context, HORZRES)),
+                static_cast<double>(GetDeviceCaps(context, VERTRES))};
+    }
+    return {static_cast<double>(clip.left), static_cast<double>(clip.top), static_cast<double>(clip.right),
+            static_cast<double>(clip.bottom)};
+}
+
+/// The screen's device context, given back when it goes.
+class ScreenDc {
+public:
+    ScreenDc() : m_dc(GetDC(nullptr)) {}
+
+    ~ScreenDc() { ReleaseDC(nullptr, m_dc); }
+
+    ScreenDc(const ScreenDc&) = delete;
+    ScreenDc& operator=(const ScreenDc&) = delete;
+
+    HDC Handle() const { return m_dc; }
+
+    /// Pixels in an inch of the screen as its driver measures it: metafiles count by that, whatever size the
+    /// user likes texts to have.
+    double TrueDpi() const {
+        return GetDeviceCaps(m_dc, HORZRES) * kMillimetresPerInch / GetDeviceCaps(m_dc, HORZSIZE);
+    }
+
+private:
+    HDC m_dc;
+};
+
+constexpr CLSID kPngEncoder{0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
+struct Released {
+    void operator()(IStream* stream) const { stream->Release(); }
+};
+
+std::string ContentOf(IStream* stream) {
+    HGLOBAL memory = nullptr;
+    STATSTG statistics{};
+    if (GetHGlobalFromStream(stream, &memory) != S_OK || stream->Stat(&statistics, STATFLAG_NONAME) != S_OK) {
+        return {};
+    }
+    const std::string content(static_cast<const char*>(GlobalLock(memory)),
+                              static_cast<std::size_t>(statistics.cbSize.QuadPart));
+    GlobalUnlock(memory);
+    return content;
+}
+
+std::string Encoded(Gdiplus::GpImage* image) {
+    IStream* made = nullptr;
+    if (CreateStreamOnHGlobal(nullptr, TRUE, &made) != S_OK) {
+        return {};
+    }
+    const std::unique_ptr<IStream, Released> stream(made);
+    return flat::GdipSaveImageToStream(image, stream.get(), &kPngEncoder, nullptr) == Gdiplus::Ok
+               ? ContentOf(stream.get())
+               : std::string();
+}
+
+bool IsOpaque(const Image& image) {
+    return std::all_of(image.Pixels.begin(), image.Pixels.end(),
+                       [](Color color) { return color.A() == 0xFFU; });
+}
+
+std::string BytesOf(HENHMETAFILE metafile) {
+    std::string bytes(GetEnhMetaFileBits(metafile, 0, nullptr), '\0');
+    GetEnhMetaFileBits(metafile, static_cast<UINT>(bytes.size()), reinterpret_cast<BYTE*>(bytes.data()));
+    return bytes;
+}
+
+} // namespace
+
+CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
+    : CTrackingEngine(target->Dpi, target->Dpi), m_target(std::move(target)) {}
+
+CGraphicsEngine::~CGraphicsEngine() = default;
+
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, double dpi, Color background) {
+    if (!AreFinite(millimetres.Width, millimetres.Height) || millimetres.Width <= 0.0F ||
+        millimetres.Height <= 0.0F || !IsWithin(dpi, 1.0, 9600.0) || !StartGdiplus()) {
+        return nullptr;
+    }
+    const double width = WholePixels(millimetres.Width, dpi);
+    const double height = WholePixels(millimetres.Height, dpi);
+    if (width > kMaxSide || height > kMaxSide || width * height > kMaxPixels) {
+        return nullptr;
+    }
+    GdipBitmap bitmap = Created<GdipBitmap>(flat::GdipCreateBitmapFromScan0, static_cast<INT>(width),
+                                            static_cast<INT>(height), 0, PixelFormat32bppPARGB, nullptr);
+    if (bitmap == nullptr) {
+        return nullptr;
+    }
+    flat::GdipBitmapSetResolution(bitmap.get(), static_cast<float>(dpi), static_cast<float>(dpi));
+    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipGetImageGraphicsContext, bitmap.get());
+    if (graphics == nullptr) {
+        return nullptr;
+    }
+    flat::GdipGraphicsClear(graphics.get(), background.Argb);
+    const DeviceSetting setting{true, dpi, {0.0, 0.0, width, height}, {}, {width, height}};
+    auto target = std::make_unique<Target>(Target::Kind::Picture, std::move(graphics), setting, dpi);
+    target->Surface.reset(bitmap.release());
+    return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
+}
+
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForDeviceContext(HDC context, double dpi) {
+    if (context == nullptr || !(dpi == 0.0 || IsWithin(dpi, 1.0, 9600.0)) || !StartGdiplus()) {
+        return nullptr;
+    }
+    if (dpi == 0.0) {
+        dpi = GetDeviceCaps(context, LOGPIXELSX);
+    }
+    SaveDC(context);
+    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipCreateFromHDC, context);
+    if (graphics == nullptr) {
+        RestoreDC(context, -1);
+        return nullptr;
+    }
+    const DeviceSetting setting{!IsPage(context), dpi, SeenArea(context), {}, {}};
+    auto target = std::make_unique<Target>(Target::Kind::Context, std::move(graphics), setting, dpi);
+    target->Context = context;
+    return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
+}
+
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForMetafile(SizeF millimetres) {
+    if (!(millimetres.Width > 0.0F && millimetres.Height > 0.0F && millimetres.Width <= kMaxPageSide &&
+          millimetres.Height <= kMaxPageSide) ||
+        !StartGdiplus()) {
+        return nullptr;
+    }
+    const ScreenDc screen;
+    const Gdiplus::RectF frame(0.0F, 0.0F, static_cast<float>(millimetres.Width * kHundredths),
+                               static_cast<float>(millimetres.Height * kHundredths));
+    Gdiplus::GpMetafile* metafile = nullptr;
+    flat::GdipRecordMetafile(screen.Handle(), Gdiplus::EmfTypeEmfPlusDual, &frame,
+                             Gdiplus::MetafileFrameUnitGdi, L"Millichart", &metafile);
+    GdipImage surface(metafile);
+    if (surface == nullptr) {
+        return nullptr;
+    }
+    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipGetImageGraphicsContext, surface.get());
+    if (graphics == nullptr) {
+        return nullptr;
+    }
+    const double dpi = screen.TrueDpi();
+    const double pixels = dpi / kMillimetresPerInch;
+    const DeviceSetting setting{
+        false, dpi, {0.0, 0.0, millimetres.Width * pixels, millimetres.Height * pixels}, {}, {}};
+    auto target = std::make_unique<Target>(Target::Kind::Metafile, std::move(graphics), setting, dpi);
+    target->Surface = std::move(surface);
+    return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
+}
+
+std::string CGraphicsEngine::EncodePng() const {
+    const Image image = Pixels();
+    if (image.Pixels.empty()) {
+        return {};
+    }
+    if (!IsOpaque(image)) {
+        return Encoded(m_target->Surface.get());
+    }
+    auto* const picture = static_cast<Gdiplus::GpBitmap*>(m_target->Surface.get());
+    const GdipBitmap opaque = Created<GdipBitmap>(flat::GdipCloneBitmapAreaI, 0, 0, image.Width, image.Height,
+                                                  PixelFormat24bppRGB, picture);
+    flat::GdipBitmapSetResolution(opaque.get(), image.HorizontalDpi, image.VerticalDpi);
+    return Encoded(opaque.get());
+}
+
+Image CGraphicsEngine::Pixels() const {
+    Image image;
+    if (m_target->What != Target::Kind::Picture) {
+        return image;
+    }
+    const BoxD& area = m_target->Canvas->Setting().Area;
+    image.Width = static_cast<std::int32_t>(area.Width());
+    image.Height = static_cast<std::int32_t>(area.Height());
+    image.HorizontalDpi = image.VerticalDpi = static_cast<float>(m_target->Dpi);
+    image.Pixels.resize(static_cast<std::size_t>(image.Width) * static_cast<std::size_t>(image.Height));
+    static_assert(sizeof(Color) == 4);
+    Gdiplus::BitmapData rows{};
+    rows.Width = static_cast<UINT>(image.Width);
+    rows.Height = static_cast<UINT>(image.Height);
+    rows.Stride = image.Width * 4;
+    rows.PixelFormat = PixelFormat32bppARGB;
+    rows.Scan0 = image.Pixels.data();
+    const Gdiplus::Rect whole(0, 0, image.Width, image.Height);
+    auto* const picture = static_cast<Gdiplus::GpBitmap*>(m_target->Surface.get());
+    if (flat::GdipBitmapLockBits(picture, &whole,
+                                 Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeUserInputBuf,
+                                 PixelFormat32bppARGB, &rows) == Gdiplus::Ok) {
+        flat::GdipBitmapUnlockBits(picture, &rows);
+    }
+    return image;
+}
+
+std::string CGraphicsEngine::FinishMetafile() {
+    if (m_target->What != Target::Kind::Metafile) {
+        return {};
+    }
+    if (m_target->Canvas) {
+        m_target->Canvas.reset();
+        HENHMETAFILE handle = nullptr;
+        flat::GdipGetHemfFromMetafile(static_cast<Gdiplus::GpMetafile*>(m_target->Surface.get()), &handle);
+        m_target->File = BytesOf(handle);
+        DeleteEnhMetaFile(handle);
+    }
+    return m_target->File;
+}
+
+} // namespace penlode
