@@ -181,8 +181,7 @@ public:
         const bool isFlat = whole.Rx == 0.0 || whole.Ry == 0.0;
         const double start = isFlat ? 0.0 : whole.Start;
         Reach(ellipse.At(start));
-        int cuts = kMaxCuts;
-        Cut(ellipse, start, isFlat ? 0.0 : whole.End, cuts);
+        Cut(ellipse, start, isFlat ? 0.0 : whole.End);
     }
 
 private:
@@ -199,20 +198,28 @@ private:
         }
     }
 
-    void Cut(const PageEllipse& ellipse, double from, double to, int& cuts) {
-        const PointD end = ellipse.At(to);
+    /// Cuts in halves what is not flat yet; their ends wait here and not on the stack, which may be small.
+    void Cut(const PageEllipse& ellipse, double from, double to) {
+        std::vector<double> ends{to};
+        for (int cuts = kMaxCuts; !ends.empty();) {
+            const double end = ends.back();
+            if (cuts > 0 && NeedsCut(ellipse, from, end)) {
+                --cuts;
+                ends.push_back(from + (end - from) / 2.0);
+            } else {
+                m_lines.LineTo(ellipse.At(end));
+                from = end;
+                ends.pop_back();
+            }
+        }
+    }
+
+    bool NeedsCut(const PageEllipse& ellipse, double from, double to) const {
         const double bend = ellipse.Bend(to - from);
-        const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
+        const BoxD around = BoxBetween(ellipse.At(from), ellipse.At(to)).Grown(bend);
         const bool outside = around.Right < m_box.Left || around.Left > m_box.Right ||
                              around.Bottom < m_box.Top || around.Top > m_box.Bottom;
-        if (outside || !(bend > kFlatness) || cuts == 0) {
-            m_lines.LineTo(end);
-            return;
-        }
-        --cuts;
-        const double middle = from + (to - from) / 2.0;
-        Cut(ellipse, from, middle, cuts);
-        Cut(ellipse, middle, to, cuts);
+        return !outside && bend > kFlatness;
     }
 
     const Matrix& m_toPage;
