@@ -21,6 +21,9 @@ struct CGraphicsEngine::Target {
         if (Context != nullptr) {
             RestoreDC(Context, -1);
         }
+        if (PlainMetafile != nullptr) {
+            DeleteEnhMetaFile(CloseEnhMetaFile(PlainMetafile));
+        }
     }
 
     Target(const Target&) = delete;
@@ -59,7 +62,8 @@ struct CGraphicsEngine::Target {
     Kind What;
     double Dpi;
     HDC Context = nullptr;           ///< saved, to be restored
-    GdipImage Surface;               ///< a picture or a metafile
+    GdipImage Surface;               ///< a picture, or a metafile of both kinds of records
+    HDC PlainMetafile = nullptr;     ///< one of GDI's records, while it is recorded
     std::optional<GdiCanvas> Canvas; ///< none when the metafile is finished
     std::string File;                ///< the finished metafile
     std::optional<Mark> LastMark;    ///< drawn by the last operation, if it was one

@@ -46,8 +46,8 @@ public:
     static std::unique_ptr<CGraphicsEngine> ForDeviceContext(HDC__* context, double dpi = 0.0);
 
     /// An enhanced metafile of that many millimetres, up to 5080 (200 inches) along a side, for which the
-    /// screen is the reference. It holds the records of GDI+ beside those of GDI, where the system writes
-    /// both. Null for any other size.
+    /// screen is the reference. It holds the records of GDI+ beside those of GDI where the system writes
+    /// both, else GDI's alone, which count in the screen's pixels. Null for any other size.
     static std::unique_ptr<CGraphicsEngine> ForMetafile(SizeF millimetres);
 
     ~CGraphicsEngine() override;

@@ -3,6 +3,7 @@
 #include "penlode/gdiplus/GdiTarget.h"
 
 #include <cmath>
+#include <utility>
 
 namespace penlode {
 namespace {
@@ -94,10 +95,52 @@ bool IsOpaque(const Image& image) {
                        [](Color color) { return color.A() == 0xFFU; });
 }
 
+/// Its bytes, once it is of no more use.
 std::string BytesOf(HENHMETAFILE metafile) {
     std::string bytes(GetEnhMetaFileBits(metafile, 0, nullptr), '\0');
     GetEnhMetaFileBits(metafile, static_cast<UINT>(bytes.size()), reinterpret_cast<BYTE*>(bytes.data()));
+    DeleteEnhMetaFile(metafile);
     return bytes;
+}
+
+/// A metafile of that many hundredths of a millimetre, for GDI+'s records and GDI's.
+GdipImage DualMetafile(HDC screen, const RECT& frame) {
+    const Gdiplus::Rect place(0, 0, frame.right, frame.bottom);
+    Gdiplus::GpMetafile* metafile = nullptr;
+    flat::GdipRecordMetafileI(screen, Gdiplus::EmfTypeEmfPlusDual, &place, Gdiplus::MetafileFrameUnitGdi,
+                              L"Millichart", &metafile);
+    return GdipImage(metafile);
+}
+
+HENHMETAFILE HandleOf(Gdiplus::GpImage* metafile) {
+    HENHMETAFILE handle = nullptr;
+    flat::GdipGetHemfFromMetafile(static_cast<Gdiplus::GpMetafile*>(metafile), &handle);
+    return handle;
+}
+
+/// Whether a metafile for both gets GDI's records too. Where it does not, programs without GDI+ would see
+/// nothing of it.
+bool RecordsBoth(HDC screen) {
+    const GdipImage metafile = DualMetafile(screen, {0, 0, 1000, 1000});
+    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipGetImageGraphicsContext, metafile.get());
+    if (graphics == nullptr) {
+        return false;
+    }
+    Gdiplus::GpSolidFill* black = nullptr;
+    flat::GdipCreateSolidFill(kBlack.Argb, &black);
+    const GdipBrush brush(black);
+    flat::GdipFillRectangle(graphics.get(), brush.get(), 0.0F, 0.0F, 5.0F, 5.0F);
+    graphics.reset();
+    const HENHMETAFILE handle = HandleOf(metafile.get());
+    bool found = false;
+    const auto look = [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM argument) -> int {
+        const DWORD kind = record->iType;
+        *reinterpret_cast<bool*>(argument) |= kind != EMR_HEADER && kind != EMR_GDICOMMENT && kind != EMR_EOF;
+        return 1;
+    };
+    EnumEnhMetaFile(nullptr, handle, look, &found, nullptr);
+    DeleteEnhMetaFile(handle);
+    return found;
 }
 
 } // namespace
@@ -160,17 +203,16 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForMetafile(SizeF millimetres)
         return nullptr;
     }
     const ScreenDc screen;
-    const Gdiplus::RectF frame(0.0F, 0.0F, static_cast<float>(millimetres.Width * kHundredths),
-                               static_cast<float>(millimetres.Height * kHundredths));
-    Gdiplus::GpMetafile* metafile = nullptr;
-    flat::GdipRecordMetafile(screen.Handle(), Gdiplus::EmfTypeEmfPlusDual, &frame,
-                             Gdiplus::MetafileFrameUnitGdi, L"Millichart", &metafile);
-    GdipImage surface(metafile);
-    if (surface == nullptr) {
-        return nullptr;
-    }
-    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipGetImageGraphicsContext, surface.get());
+    const RECT frame{0, 0, std::lround(millimetres.Width * kHundredths),
+                     std::lround(millimetres.Height * kHundredths)};
+    static const bool kRecordsBoth = RecordsBoth(screen.Handle());
+    GdipImage dual = kRecordsBoth ? DualMetafile(screen.Handle(), frame) : nullptr;
+    HDC plain = kRecordsBoth ? nullptr : CreateEnhMetaFileW(screen.Handle(), nullptr, &frame, nullptr);
+    GdipGraphics graphics = dual != nullptr
+                                ? Created<GdipGraphics>(flat::GdipGetImageGraphicsContext, dual.get())
+                                : Created<GdipGraphics>(flat::GdipCreateFromHDC, plain);
     if (graphics == nullptr) {
+        DeleteEnhMetaFile(CloseEnhMetaFile(plain));
         return nullptr;
     }
     const double dpi = screen.TrueDpi();
@@ -178,7 +220,8 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForMetafile(SizeF millimetres)
     const DeviceSetting setting{
         false, dpi, {0.0, 0.0, millimetres.Width * pixels, millimetres.Height * pixels}, {}, {}};
     auto target = std::make_unique<Target>(Target::Kind::Metafile, std::move(graphics), setting, dpi);
-    target->Surface = std::move(surface);
+    target->Surface = std::move(dual);
+    target->PlainMetafile = plain;
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
 }
 
@@ -230,10 +273,9 @@ std::string CGraphicsEngine::FinishMetafile() {
     }
     if (m_target->Canvas) {
         m_target->Canvas.reset();
-        HENHMETAFILE handle = nullptr;
-        flat::GdipGetHemfFromMetafile(static_cast<Gdiplus::GpMetafile*>(m_target->Surface.get()), &handle);
-        m_target->File = BytesOf(handle);
-        DeleteEnhMetaFile(handle);
+        m_target->File = BytesOf(m_target->Surface != nullptr
+                                     ? HandleOf(m_target->Surface.get())
+                                     : CloseEnhMetaFile(std::exchange(m_target->PlainMetafile, nullptr)));
     }
     return m_target->File;
 }

@@ -1,6 +1,7 @@
 #include "penlode/cairo/Picture.h"
 #include "penlode/text/FontFace.h"
 #include "penlode/text/StringUtil.h"
+#include "support/KeptMeasures.h"
 #include "support/PictureDifference.h"
 
 #include <array>
@@ -83,6 +84,15 @@ PictureDifference FromOutlines(const TurnedText& text) {
 }
 
 } // namespace
+
+TEST(PangoText, MeasuresAsItAlwaysDid) {
+    for (const KeptMeasure& kept : kKeptMeasures) {
+        const Font font = kept.Face();
+        const SizeF size = CStringUtil::MeasureWideString(kept.Text, &font);
+        EXPECT_NEAR(size.Width, kept.Width, 0.001F) << CStringUtil::WideToUtf8(kept.Text);
+        EXPECT_NEAR(size.Height, kept.Height, 0.001F) << CStringUtil::WideToUtf8(kept.Text);
+    }
+}
 
 TEST(Text, WidthsAreThoseOfTheTypeNotOfAScreen) {
     EXPECT_NEAR(Measured(L"深度(m) 12345.678").Width, 34.3F, 0.7F);
