@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <set>
 #include <type_traits>
 #include <utility>
@@ -217,7 +216,7 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
         LoadVersion(stream);
         document.Content = LoadKind(stream, loaded->Diagnostics);
         SerTexts(stream, document);
-        const DataSource source{std::filesystem::path(file).parent_path().string(), table ? &*table : nullptr,
+        const DataSource source{PathFromUtf8(file).parent_path(), table ? &*table : nullptr,
                                 &loaded->Diagnostics, &loaded->DataFiles};
         WithContent(document.Content, [&](auto& content) {
             LoadContent(stream, source, content);

@@ -3,8 +3,6 @@
 #include "documents/Fields.h"
 #include "penlode/text/StringUtil.h"
 
-#include <filesystem>
-
 namespace millichart::documents {
 
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
@@ -24,10 +22,10 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     if (!isName) {
         return std::nullopt;
     }
-    const std::filesystem::path file =
-        std::filesystem::path(source.Folder) / penlode::CStringUtil::AnsiToUtf8(named);
-    source.Files->push_back(file.string());
-    return ReadTable(ReadFile(file.string(), NamedBy::Document), form, *source.Diagnostics);
+    const std::string file =
+        Utf8FromPath(source.Folder / PathFromUtf8(penlode::CStringUtil::AnsiToUtf8(named)));
+    source.Files->push_back(file);
+    return ReadTable(ReadFile(file, NamedBy::Document), form, *source.Diagnostics);
 }
 
 bool CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,

@@ -5,6 +5,7 @@
 #include "documents/Table.h"
 #include "penlode/streams/Diagnostic.h"
 
+#include <filesystem>
 #include <optional>
 #include <set>
 #include <string>
@@ -14,8 +15,8 @@ namespace millichart::documents {
 
 /// Where a chart's data may come from besides its document, and where to tell what is wrong with it.
 struct DataSource {
-    std::string Folder;     ///< the document's; a table that it names stands there
-    const InputText* Table; ///< replaces the document's own data; null without one
+    std::filesystem::path Folder; ///< the document's; a table that it names stands there
+    const InputText* Table;       ///< replaces the document's own data; null without one
     std::vector<penlode::Diagnostic>* Diagnostics;
     std::vector<std::string>* Files; ///< takes the name of each table that the document names
 };

@@ -1,14 +1,14 @@
 #include "documents/Files.h"
 
+#include "penlode/text/StringUtil.h"
+
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
-#include <istream>
 #include <random>
 #include <system_error>
+#include <type_traits>
 #include <vector>
 
 namespace millichart {
@@ -25,16 +25,16 @@ std::string ReasonOf(int error) {
 }
 
 /// What can be told before a file is opened, which may wait for ever or read without end. Finds its size.
-std::string FaultOfKind(const std::string& name, NamedBy who, std::size_t& size) {
+std::string FaultOfKind(const fs::path& file, NamedBy who, std::size_t& size) {
     std::error_code error;
-    const fs::file_status status = fs::status(name, error);
+    const fs::file_status status = fs::status(file, error);
     if (fs::is_directory(status)) {
         return "cannot be read: it is a folder";
     }
     if (who == NamedBy::Document && fs::exists(status) && !fs::is_regular_file(status)) {
         return "cannot be read: it is no file but a device or a pipe, which a document may not name";
     }
-    const std::uintmax_t found = fs::is_regular_file(status) ? fs::file_size(name, error) : 0;
+    const std::uintmax_t found = fs::is_regular_file(status) ? fs::file_size(file, error) : 0;
     size = error ? 0 : static_cast<std::size_t>(std::min<std::uintmax_t>(found, kMaxBytes));
     return !error && found > kMaxBytes ? kTooLarge : "";
 }
@@ -51,13 +51,12 @@ void ReadAll(std::istream& stream, InputText& input) {
 }
 
 /// Short and hidden, in the file's folder.
-std::string AsideName(const std::string& name) {
-    const std::string own = ".millichart-" + std::to_string(std::random_device{}());
-    return fs::path(name).replace_filename(own).string();
+fs::path AsideOf(fs::path file) {
+    return file.replace_filename(".millichart-" + std::to_string(std::random_device{}()));
 }
 
 /// Who may read and write the old file may do so with the new one.
-void KeepMode(const std::string& old, const std::string& fresh) {
+void KeepMode(const fs::path& old, const fs::path& fresh) {
     std::error_code error;
     const fs::file_status status = fs::status(old, error);
     if (fs::exists(status)) {
@@ -66,50 +65,53 @@ void KeepMode(const std::string& old, const std::string& fresh) {
 }
 
 /// True when every byte reached the file and it closed without an error, which `errno` tells else.
-bool WriteBytes(const std::string& name, std::string_view bytes) {
-    std::FILE* file = std::fopen(name.c_str(), "wb");
-    if (file == nullptr) {
-        return false;
-    }
-    const bool written =
-        std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
-    const int error = errno;
-    const bool closed = std::fclose(file) == 0;
-    if (!written) {
-        errno = error;
-    }
-    return written && closed;
+bool WriteBytes(const fs::path& file, std::string_view bytes) {
+    std::ofstream stream(file, std::ios::binary);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    return !stream.fail();
 }
 
 /// The file that a link leads to, there or not; empty if too many links lead from one to the next.
-std::string BehindLinks(const std::string& name) {
+fs::path BehindLinks(fs::path file) {
     constexpr int kMaxLinks = 40;
     std::error_code error;
-    fs::path file = name;
     for (int i = 0; fs::is_symlink(fs::symlink_status(file, error)); ++i) {
         if (i == kMaxLinks) {
             return {};
         }
         file = file.parent_path() / fs::read_symlink(file, error);
     }
-    return file.string();
+    return file;
 }
 
-bool IsDeviceOrPipe(const std::string& name) {
+bool IsDeviceOrPipe(const fs::path& file) {
     std::error_code error;
-    const fs::file_status status = fs::status(name, error);
+    const fs::file_status status = fs::status(file, error);
     return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
 }
 
+// Where the system's names are wide, a narrow one would be read in whatever code page is set.
+constexpr bool kAreWide = std::is_same_v<fs::path::value_type, wchar_t>;
+
 } // namespace
 
+fs::path PathFromUtf8(const std::string& name) {
+    return kAreWide ? fs::path(penlode::CStringUtil::Utf8ToWideString(name)) : fs::path(name);
+}
+
+std::string Utf8FromPath(const fs::path& path) {
+    return kAreWide ? penlode::CStringUtil::WideToUtf8(path.wstring()) : path.string();
+}
+
 InputText ReadFile(const std::string& name, NamedBy who) {
+    const fs::path path = PathFromUtf8(name);
     std::size_t size = 0;
-    InputText input{name, "", FaultOfKind(name, who, size)};
+    InputText input{name, "", FaultOfKind(path, who, size)};
     if (!input.Fault.empty()) {
         return input;
     }
-    std::ifstream file(name, std::ios::binary);
+    std::ifstream file(path, std::ios::binary);
     if (!file) {
         input.Fault = "cannot be read: " + ReasonOf(errno);
         return input;
@@ -130,16 +132,17 @@ InputText ReadStream(std::istream& stream, const std::string& name) {
 
 std::string WriteFile(const std::string& name, std::string_view bytes,
                       const std::function<void(const std::string&)>& begin) {
-    if (IsDeviceOrPipe(name)) {
-        return WriteBytes(name, bytes) ? "" : "cannot be written: " + ReasonOf(errno);
+    const fs::path path = PathFromUtf8(name);
+    if (IsDeviceOrPipe(path)) {
+        return WriteBytes(path, bytes) ? "" : "cannot be written: " + ReasonOf(errno);
     }
-    const std::string target = BehindLinks(name);
+    const fs::path target = BehindLinks(path);
     if (target.empty()) {
         return "cannot be written: too many links lead from one to the next";
     }
-    const std::string part = AsideName(target);
+    const fs::path part = AsideOf(target);
     if (begin) {
-        begin(part);
+        begin(Utf8FromPath(part));
     }
     std::error_code error;
     if (!WriteBytes(part, bytes)) {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
 
-/// Reading and writing whole files, without exceptions.
+/// Reading and writing whole files, without exceptions. Names are UTF-8, whatever the system's own are.
 namespace millichart {
+
+std::filesystem::path PathFromUtf8(const std::string& name);
+std::string Utf8FromPath(const std::filesystem::path& path);
 
 /// A text and where it comes from.
 struct InputText {

@@ -130,22 +130,22 @@ private:
             HasWidth(row, 2, m_form.HeadingForm);
             m_isOver = true;
         } else if (m_form.HeadingNames != nullptr) {
-            DoubtHeading(row);
+            WarnOfNumbers(row);
         }
     }
 
     /// A heading whose cells are numbers alone may have been meant for data, unless nothing stands over the
     /// first column.
-    void DoubtHeading(const CsvRow& row) {
+    void WarnOfNumbers(const CsvRow& row) {
         const auto end = row.Cells.begin() + static_cast<std::ptrdiff_t>(FilledCells(row));
         if (!row.Cells.front().empty() && std::all_of(row.Cells.begin() + 1, end, IsNumber)) {
-            Diagnostic doubt =
+            Diagnostic warning =
                 penlode::Warning("", std::string("taken as the heading with ") + m_form.HeadingNames +
                                          ", though they are numbers; with an empty first cell it is no doubt "
                                          "one");
-            doubt.Line = row.Line;
-            doubt.File = m_input.Name;
-            m_diagnostics.push_back(std::move(doubt));
+            warning.Line = row.Line;
+            warning.File = m_input.Name;
+            m_diagnostics.push_back(std::move(warning));
         }
     }
 

@@ -27,7 +27,7 @@ struct TableForm {
     /// Of a table whose width its heading gives: what is expected of a heading without a second cell. Such a
     /// heading may stand alone.
     const char* HeadingForm = nullptr;
-    const char* HeadingNames = nullptr; ///< if numbers over the columns are to be doubted: what they are
+    const char* HeadingNames = nullptr; ///< what they are, if a warning is due of numbers there
     bool HasTimes = false;              ///< whole numbers in the first column; texts are labels
     bool AreNamesJoined = false;        ///< in the record that takes them
     bool IsPositive = false;            ///< numbers are 0 or more

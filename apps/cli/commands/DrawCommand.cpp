@@ -5,7 +5,6 @@
 #include "files/Streams.h"
 #include "pages/LoadedChart.h"
 
-#include <filesystem>
 #include <new>
 #include <set>
 
@@ -20,8 +19,9 @@ constexpr float kMargin = 5.0F;
 /// One name for a file, however it is called.
 std::string CanonicalName(const std::string& name) {
     std::error_code error;
-    const std::filesystem::path path = std::filesystem::weakly_canonical(name, error);
-    return error ? name : path.string();
+    const std::filesystem::path path =
+        std::filesystem::weakly_canonical(millichart::PathFromUtf8(name), error);
+    return error ? name : millichart::Utf8FromPath(path);
 }
 
 std::string Millimetres(SizeF size) {

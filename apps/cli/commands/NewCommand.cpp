@@ -2,8 +2,6 @@
 #include "documents/ChartContent.h"
 #include "files/Streams.h"
 
-#include <filesystem>
-
 namespace cli {
 
 void WriteNew(const NewOptions& options) {
@@ -13,7 +11,7 @@ void WriteNew(const NewOptions& options) {
     }
     std::error_code error;
     if (!options.Force && options.Output != kStandardStream &&
-        std::filesystem::is_regular_file(options.Output, error)) {
+        std::filesystem::is_regular_file(millichart::PathFromUtf8(options.Output), error)) {
         throw UserError(options.Output, "is there already; with --force it is written over");
     }
     WriteOutput(options.Output, kind->Template);

@@ -4,24 +4,25 @@
 #include "files/System.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <string_view>
 
 namespace cli {
 namespace {
 
 namespace fs = std::filesystem;
+using millichart::PathFromUtf8;
+using millichart::Utf8FromPath;
 
 bool IsFolder(const DrawOptions& options) {
     std::error_code error;
     return options.Output != kStandardStream &&
            (options.Inputs.size() > 1 || options.Output->ends_with('/') ||
-            fs::is_directory(*options.Output, error));
+            fs::is_directory(PathFromUtf8(*options.Output), error));
 }
 
 /// NAME for NAME.chart.json and NAME.json.
 std::string BaseName(const std::string& input) {
-    std::string name = fs::path(input).filename().string();
+    std::string name = Utf8FromPath(PathFromUtf8(input).filename());
     for (const std::string_view ending : {".json", ".chart"}) {
         if (name.ends_with(ending) && name.size() > ending.size()) {
             name.resize(name.size() - ending.size());
@@ -63,7 +64,7 @@ void MakeFolder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw UserError(folder.string(), "cannot be made a folder: " + error.message());
+        throw UserError(Utf8FromPath(folder), "cannot be made a folder: " + error.message());
     }
 }
 
@@ -89,7 +90,7 @@ void CheckOutputs(const DrawOptions& options) {
 void RefuseToOverwrite(const std::string& output, const std::string& shownInput, const DrawOptions& options,
                        const std::vector<std::string>& dataFiles) {
     std::error_code error;
-    if (output == kStandardStream || !fs::is_regular_file(output, error)) {
+    if (output == kStandardStream || !fs::is_regular_file(PathFromUtf8(output), error)) {
         return;
     }
     std::vector<std::string> read = options.Inputs;
@@ -98,7 +99,7 @@ void RefuseToOverwrite(const std::string& output, const std::string& shownInput,
         read.push_back(*options.Data);
     }
     for (const std::string& file : read) {
-        if (file != kStandardStream && fs::equivalent(file, output, error)) {
+        if (file != kStandardStream && fs::equivalent(PathFromUtf8(file), PathFromUtf8(output), error)) {
             throw UserError(shownInput, "its picture would take the place of " + file);
         }
     }
@@ -111,12 +112,13 @@ OutputName OutputOf(const DrawOptions& options, const std::string& input) {
         return {name, options.Format ? *options.Format : *FormatOfName(name)};
     }
     const PictureFormat format = options.Format.value_or(PictureFormat::Png);
-    const fs::path folder = options.Output ? fs::path(*options.Output) : fs::path(input).parent_path();
+    const fs::path folder =
+        options.Output ? PathFromUtf8(*options.Output) : PathFromUtf8(input).parent_path();
     if (options.Output) {
         MakeFolder(folder);
     }
     const std::string base = input == kStandardStream ? "chart" : BaseName(input);
-    return {(folder / (base + EndingOf(format))).string(), format};
+    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format};
 }
 
 } // namespace cli

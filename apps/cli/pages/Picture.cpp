@@ -1,12 +1,12 @@
 #include "pages/Picture.h"
 
+#include "documents/Files.h"
 #include "penlode/cairo/GraphicsEngine.h"
 #include "penlode/svg/SvgEngine.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <filesystem>
 #include <utility>
 
 namespace cli {
@@ -73,7 +73,7 @@ std::unique_ptr<Picture> OnCairo(std::unique_ptr<CGraphicsEngine> engine,
 } // namespace
 
 std::optional<PictureFormat> FormatOfName(const std::string& fileName) {
-    return FormatOfEnding(std::filesystem::path(fileName).extension().string());
+    return FormatOfEnding(millichart::Utf8FromPath(millichart::PathFromUtf8(fileName).extension()));
 }
 
 std::optional<PictureFormat> FormatOfEnding(std::string ending) {
