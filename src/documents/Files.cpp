@@ -154,7 +154,7 @@ std::string WriteFile(const std::string& name, std::string_view bytes,
     if (!error) {
         return {};
     }
-    const std::string reason = error.message();
+    const std::string reason = error.default_error_condition().message();
     fs::remove(part, error);
     return "cannot be written: " + reason;
 }
