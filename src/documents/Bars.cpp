@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace millichart::documents {
 namespace {
@@ -15,8 +14,6 @@ namespace {
 using penlode::Diagnostic;
 using Diagnostics = std::vector<Diagnostic>;
 
-constexpr const char* kNames = "/ComponentName";
-constexpr const char* kColors = "/ComponentColor";
 constexpr const char* kGroups = "groups";
 constexpr const char* kTableNames = "names of the table's components";
 constexpr const char* kGroupsForm = "a list of groups, each with a name and values";
@@ -35,11 +32,8 @@ void TrimGaps(std::vector<double>& values) {
     }
 }
 
-BarData BarsOf(Table table) {
-    BarData data{std::move(table.Names),
-                 std::move(table.Heading),
-                 {},
-                 {std::move(table.File), std::move(table.Lines)}};
+BarData BarsOf(const Table& table) {
+    BarData data{table.Names, table.Heading, {}, {table.File, table.Lines}};
     data.Values.resize(data.GroupNames.size());
     for (std::size_t group = 0; group < data.Values.size(); ++group) {
         for (const std::vector<double>& column : table.Columns) {
@@ -50,88 +44,44 @@ BarData BarsOf(Table table) {
     return data;
 }
 
-void LoadGroups(ChartStream& stream, BarData& data) {
-    bool hasNames = false;
-    const std::size_t count = stream.CountGroups(kGroups);
-    if (!stream.IsList(kGroups)) {
-        std::vector<std::string> none;
-        stream.Ser(kGroups, none, {});
-        stream.Refuse(kGroups, "", kGroupsForm);
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-        stream.Push(kGroups, static_cast<int>(i));
-        hasNames = hasNames || stream.Has("name");
-        data.GroupNames.push_back(stream.Has("name") ? LoadText(stream, "name", "") : "");
-        data.Values.push_back(stream.LoadNumbersAndGaps("values"));
-        TrimGaps(data.Values.back());
-        stream.Pop();
-    }
-    if (!hasNames) {
-        data.GroupNames.clear();
-    }
-}
-
-/// The depth is a part of a bar's width, which is the group's, shared by the names.
-bool LacksWidth(const HistogramPlotProp& plot) {
-    return plot.ComponentName.empty() && plot.PieStyle != BarStyle::Flat;
-}
-
 } // namespace
 
-BarData LoadBars(ChartStream& stream, const DataSource& source, const char* csvKey) {
-    BarData data;
-    const bool isMissing = !stream.Has("data");
-    const bool isGroup = stream.Push("data", -1);
-    std::optional<Table> table = LoadTable(stream, kGroups, source, kBarTable, csvKey);
-    if (stream.Has(kGroups)) {
-        LoadGroups(stream, data);
-    } else if (!table && !stream.Has(csvKey) && (isGroup || isMissing)) {
-        source.Diagnostics->push_back(penlode::Error(
-            "data/groups", "no such key", std::string(kGroupsForm) + ", or " + csvKey + " with a file"));
-    }
+void Bars::Load(ChartStream& stream, const DataSource& source) {
+    m_data = {};
+    const std::optional<Table> table =
+        LoadList(stream, source, {kGroups, kGroupsForm, m_csvKey, kBarTable}, m_data.GroupNames, [&] {
+            m_data.Values.push_back(stream.LoadNumbersAndGaps("values"));
+            TrimGaps(m_data.Values.back());
+        });
     stream.Pop();
-    return table ? BarsOf(*std::move(table)) : data;
+    if (table) {
+        m_data = BarsOf(*table);
+    }
 }
 
-void SaveBars(SavingStream& stream, const BarData& data, const char* csvKey) {
+void Bars::Save(SavingStream& stream) const {
     stream.Push("data", -1);
-    stream.ReplaceTable(csvKey, {kGroups, kTableNames});
-    stream.Note(kTableNames, data.ComponentNames);
-    stream.Groups(kGroups, data.Values.size());
-    for (std::size_t i = 0; i < data.Values.size(); ++i) {
-        stream.Push(kGroups, static_cast<int>(i));
-        if (i < data.GroupNames.size()) {
-            stream.Text("name", data.GroupNames[i]);
-        } else {
-            stream.Remove("name");
-        }
-        stream.Numbers("values", data.Values[i]);
-        stream.Pop();
-    }
+    stream.ReplaceTable(m_csvKey, {kGroups, kTableNames});
+    stream.Note(kTableNames, m_data.ComponentNames);
+    stream.Groups(kGroups, m_data.Values.size(), m_data.GroupNames,
+                  [&](std::size_t group) { stream.Numbers("values", m_data.Values[group]); });
     stream.Pop();
-}
-
-Bars::Bars(std::string place, BarData& data, HistogramPlotProp& plot, const OpenPlaces& open)
-    : m_place(std::move(place)), m_data(data), m_components(data.Components()),
-      m_isStacked(plot.Juxtaposition == 0) {
-    const bool isOther =
-        CompleteNames(plot.ComponentName, data.ComponentNames, m_components, open.contains(m_place + kNames));
-    if (isOther) {
-        m_ofCompletion.push_back(OtherNames(m_place + kNames));
-    }
-    if (open.contains(m_place + kColors)) {
-        plot.ComponentColor = PaletteColors(plot.ComponentName.size());
-    }
-    if (m_isStacked) {
-        CloseGaps();
-    }
 }
 
 /// In a stack nothing is as good as 0.
-void Bars::CloseGaps() {
+void Bars::Complete(const LayoutTask& task) {
+    if (task.AreDataChanged) {
+        m_data.Origin = {};
+    }
+    CompleteNames(m_plot.ComponentName, m_data.ComponentNames, m_data.Components(),
+                  task.Open.contains(m_record + kNames));
+    if (task.Open.contains(m_record + kColors)) {
+        m_plot.ComponentColor = PaletteColors(m_plot.ComponentName.size());
+    }
     for (std::vector<double>& group : m_data.Values) {
         std::replace_if(
-            group.begin(), group.end(), [](double value) { return std::isnan(value); }, 0.0);
+            group.begin(), group.end(),
+            [this](double value) { return m_plot.Juxtaposition == 0 && std::isnan(value); }, 0.0);
     }
 }
 
@@ -140,7 +90,7 @@ template <class Look> void Bars::ForEachHeight(const Look& look) const {
     for (std::size_t group = 0; group < m_data.Values.size(); ++group) {
         double height = 0.0;
         for (std::size_t i = 0; i < m_data.Values[group].size(); ++i) {
-            height = m_isStacked ? height + m_data.Values[group][i] : m_data.Values[group][i];
+            height = m_plot.Juxtaposition == 0 ? height + m_data.Values[group][i] : m_data.Values[group][i];
             look(height, group, i);
         }
     }
@@ -154,59 +104,55 @@ double Bars::Largest() const {
     return largest;
 }
 
-void Bars::Doubt(const CBasicHistogram& chart, Diagnostics& diagnostics) const {
-    diagnostics.insert(diagnostics.end(), m_ofCompletion.begin(), m_ofCompletion.end());
-    if (m_components == 0) {
+/// The depth is a part of a bar's width, which is the group's, shared by the names.
+bool Bars::LacksWidth() const {
+    return m_plot.ComponentName.empty() && m_plot.PieStyle != BarStyle::Flat;
+}
+
+void Bars::Check(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& diagnostics) const {
+    const std::size_t names = m_plot.ComponentName.size();
+    const std::size_t components = m_data.Components();
+    if (AreOthers(m_plot.ComponentName, m_data.ComponentNames)) {
+        diagnostics.push_back(OtherNames(m_record + kNames));
+    }
+    if (components == 0) {
         diagnostics.push_back(Emptiness());
         diagnostics.back().Severity = penlode::Severity::Warning;
     }
-    const HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
-    if (const std::size_t names = plot.ComponentName.size(); names != m_components && !LacksWidth(plot)) {
-        diagnostics.push_back(penlode::Warning(m_place + kNames, Counted(names, "name"),
-                                               std::to_string(m_components) + ", one a value of a group"));
+    if (names != components && !LacksWidth()) {
+        diagnostics.push_back(
+            WrongCount(m_record + kNames, names, "name", components, "one a value of a group"));
     }
-    if (const std::size_t colors = plot.ComponentColor.size(); colors < plot.ComponentName.size()) {
-        diagnostics.push_back(penlode::Warning(m_place + kColors, Counted(colors, "colour"),
-                                               std::to_string(plot.ComponentName.size()) + ", one a name"));
+    if (const std::size_t colors = m_plot.ComponentColor.size(); colors < names) {
+        diagnostics.push_back(WrongCount(m_record + kColors, colors, "colour", names, "one a name"));
     }
-    const Diagnostics ofSizes = DoubtSizes(chart);
-    diagnostics.insert(diagnostics.end(), ofSizes.begin(), ofSizes.end());
-    DoubtRange(chart, diagnostics);
+    const Diagnostics faults = SizeFaults();
+    diagnostics.insert(diagnostics.end(), faults.begin(), faults.end());
+    if (components > 0 && faults.empty()) {
+        CheckWidths(chart.GetLayout(), diagnostics);
+    }
+    CheckRange(chart, mayBeSet, diagnostics);
 }
 
-Diagnostics Bars::DoubtSizes(const CBasicHistogram& chart) const {
+Diagnostics Bars::SizeFaults() const {
+    Diagnostics faults = PlotSizeFaults(m_record, m_plot.PlotWidth, m_plot.PlotHeight);
+    if (const std::size_t components = m_data.Components(); components > 0 && LacksWidth()) {
+        faults.push_back(
+            penlode::Error(m_record + kNames, "no names",
+                           std::to_string(components) + ", without which bars in 3D have no width"));
+    }
+    return faults;
+}
+
+void Bars::CheckWidths(const HistogramLayout& layout, Diagnostics& diagnostics) const {
     constexpr float kMinBarWidth = 0.1F;
-    const HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
-    const HistogramLayout& layout = chart.GetLayout();
-    Diagnostics doubts = PlotSizeFaults(m_place, plot.PlotWidth, plot.PlotHeight);
-    if (m_components > 0 && LacksWidth(plot)) {
-        doubts.push_back(
-            penlode::Error(m_place + kNames, "no names",
-                           std::to_string(m_components) + ", without which bars in 3D have no width"));
-    }
-    if (m_components == 0 || !doubts.empty()) {
-        return doubts;
-    }
     if (layout.GroupGap < 0.0F) {
-        const char* const key = plot.GroupDistane < 0.0F ? "/GroupDistane" : "/PlotWidth";
-        doubts.push_back(penlode::Warning(m_place + key, "the bars of neighbouring groups overlap"));
+        const char* const key = m_plot.GroupDistane < 0.0F ? "/GroupDistane" : "/PlotWidth";
+        diagnostics.push_back(penlode::Warning(m_record + key, "the bars of neighbouring groups overlap"));
     }
     if (layout.ComponentWidth < kMinBarWidth) {
-        doubts.push_back(penlode::Warning(
-            m_place + "/PlotWidth", "each bar is only " + NumberText(layout.ComponentWidth) + " mm wide"));
-    }
-    return doubts;
-}
-
-void Bars::DoubtVisibility(const CBasicHistogram& chart, Diagnostics& diagnostics) const {
-    constexpr double kVisible = 0.01;
-    const double largest = Largest();
-    const RangeDoubts range(chart, false);
-    const double part = range.PartOf(largest);
-    if (largest > 0.0 && part > 0.0 && part < kVisible && chart.GetHistogramProp().Plot.LogarithmScale == 0) {
-        diagnostics.push_back(penlode::Warning("range", "the largest bar takes less than 1 % of " +
-                                                            range.Axis() +
-                                                            "; NaturalValueRange sets another"));
+        diagnostics.push_back(penlode::Warning(
+            m_record + "/PlotWidth", "each bar is only " + NumberText(layout.ComponentWidth) + " mm wide"));
     }
 }
 
@@ -214,15 +160,23 @@ Diagnostic Bars::Emptiness() const {
     return NothingIn(m_data.Origin, "data/groups", "a group with values");
 }
 
-void Bars::DoubtRange(const CBasicHistogram& chart, Diagnostics& diagnostics) const {
-    RangeDoubts doubts(chart, chart.GetHistogramProp().Plot.LogarithmScale != 0);
-    ForEachHeight([&](double height, std::size_t group, std::size_t component) {
-        doubts.Look(height, [&] {
-            return AtValue(m_data.Origin, group, component + 1,
-                           "data/groups/" + std::to_string(group) + "/values/" + std::to_string(component));
-        });
+void Bars::CheckRange(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& diagnostics) const {
+    constexpr double kVisible = 0.01;
+    const bool isLogarithmic = m_plot.LogarithmScale != 0;
+    RangeCheck range(chart, isLogarithmic);
+    ForEachHeight([&range](double height, std::size_t group, std::size_t component) {
+        range.Look(height, group, component);
     });
-    doubts.AddTo(diagnostics);
+    range.AddTo(diagnostics, [this](std::size_t group, std::size_t component) {
+        return AtValue(m_data.Origin, group, component + 1,
+                       "data/groups/" + std::to_string(group) + "/values/" + std::to_string(component));
+    });
+    const double part = range.PartOf(Largest());
+    if (mayBeSet && !isLogarithmic && Largest() > 0.0 && part > 0.0 && part < kVisible) {
+        diagnostics.push_back(penlode::Warning("range", "the largest bar takes less than 1 % of " +
+                                                            range.Axis() +
+                                                            "; NaturalValueRange sets another"));
+    }
 }
 
 } // namespace millichart::documents

@@ -3,6 +3,7 @@
 #include "charts/curve/CurveProp.h"
 #include "penlode/Equality.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -36,7 +37,13 @@ struct BarData {
     TableOrigin Origin; ///< a line a group
 
     /// Bars of the largest group, or names if there are more.
-    std::size_t Components() const;
+    std::size_t Components() const {
+        std::size_t count = ComponentNames.size();
+        for (const std::vector<double>& group : Values) {
+            count = (std::max)(count, group.size());
+        }
+        return count;
+    }
 
     friend bool operator==(const BarData& a, const BarData& b) { return penlode::HaveEqualMembers<4>(a, b); }
 };

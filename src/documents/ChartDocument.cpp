@@ -21,19 +21,6 @@ namespace {
 constexpr const char* kFormatVersion = "1";
 constexpr float kMaxPage = 5000.0F;
 
-template <class T> constexpr bool kIsNone = std::is_same_v<std::decay_t<T>, std::monostate>;
-
-/// Calls `work` with what the variant holds, unless that is nothing.
-template <class Variant, class Work> void WithContent(Variant& held, const Work& work) {
-    std::visit(
-        [&work](auto& content) {
-            if constexpr (!kIsNone<decltype(content)>) {
-                work(content);
-            }
-        },
-        held);
-}
-
 /// Loads or saves.
 void SerUtf8(penlode::CSerializeStream& stream, const char* key, std::string& text) {
     std::string narrow = CStringUtil::Utf8ToAnsi(text);
@@ -76,11 +63,7 @@ void SaveDocument(SavingStream& stream, ChartDocument& document) {
         stream.Text("kind", kind->Name);
     }
     SerTexts(stream, document);
-    WithContent(document.Content, [&](auto& content) {
-        SaveContent(stream, content);
-        SerPoint(stream, "location", document.Location);
-        SerOffsets(stream, content);
-    });
+    SaveContent(stream, document.Content, document.Location);
 }
 
 PlaceHashes HashesOf(ChartDocument& document) {
@@ -88,10 +71,6 @@ PlaceHashes HashesOf(ChartDocument& document) {
     SavingStream stream(hashes);
     SaveDocument(stream, document);
     return hashes;
-}
-
-void TakeNamesOfTable(ChartContent& content, bool inPlaceOfOwn) {
-    WithContent(content, [inPlaceOfOwn](auto& held) { TakeTableNames(held, inPlaceOfOwn); });
 }
 
 bool IsOfData(const std::string& place) {
@@ -189,40 +168,36 @@ struct ChartDocument::Loaded {
 };
 
 ChartDocument ChartDocument::Load(const std::string& file) {
-    InputText input = ReadFile(file);
-    if (input.Fault.empty()) {
-        return FromText(std::move(input.Text), file);
-    }
-    ChartDocument document;
-    auto loaded = std::make_shared<Loaded>();
-    loaded->Name = file;
-    loaded->Diagnostics = {penlode::Error("", input.Fault)};
-    loaded->Diagnostics.front().File = file;
-    loaded->IsUnread = true;
-    document.m_loaded = std::move(loaded);
-    return document;
+    return FromInput(ReadFile(file));
 }
 
 ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
                                       std::optional<InputText> table) {
+    return FromInput({file, std::move(text)}, std::move(table));
+}
+
+ChartDocument ChartDocument::FromInput(InputText input, std::optional<InputText> table) {
     ChartDocument document;
     auto loaded = std::make_shared<Loaded>();
-    loaded->Name = file;
-    loaded->Json = penlode::CJsonSerializeStream(text, file);
-    document.m_text = std::make_shared<const std::string>(std::move(text));
+    loaded->Name = input.Name;
+    if (!input.Fault.empty()) {
+        loaded->Diagnostics = {penlode::Error("", input.Fault)};
+        loaded->Diagnostics.front().File = input.Name;
+        loaded->IsUnread = true;
+        document.m_loaded = std::move(loaded);
+        return document;
+    }
+    loaded->Json = penlode::CJsonSerializeStream(input.Text, input.Name);
+    document.m_text = std::make_shared<const std::string>(std::move(input.Text));
     loaded->IsUnread = loaded->Json.IsUnreadable();
     ChartStream stream(loaded->Json);
     if (!loaded->IsUnread) {
         LoadVersion(stream);
         document.Content = LoadKind(stream, loaded->Diagnostics);
         SerTexts(stream, document);
-        const DataSource source{PathFromUtf8(file).parent_path(), table ? &*table : nullptr,
+        const DataSource source{PathFromUtf8(input.Name).parent_path(), table ? &*table : nullptr,
                                 &loaded->Diagnostics, &loaded->DataFiles};
-        WithContent(document.Content, [&](auto& content) {
-            LoadContent(stream, source, content);
-            SerPoint(stream, "location", document.Location);
-            SerOffsets(stream, content);
-        });
+        LoadContent(stream, source, document.Content, document.Location);
     }
     const std::vector<Diagnostic> met = LoadDiagnostics(loaded->Json, stream);
     loaded->Diagnostics.insert(loaded->Diagnostics.end(), met.begin(), met.end());
@@ -230,16 +205,21 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
     loaded->Hashes = HashesOf(document);
     if (table) {
         document.m_hasOtherData = true;
-        TakeNamesOfTable(document.Content, true);
+        TakeTableNames(document.Content, true);
     }
     loaded->PutInOrder(loaded->Diagnostics);
     document.m_loaded = std::move(loaded);
     return document;
 }
 
+/// Empty, of one that was not.
+const ChartDocument::Loaded& ChartDocument::AsLoaded() const {
+    static const Loaded kNone;
+    return m_loaded ? *m_loaded : kNone;
+}
+
 const std::vector<Diagnostic>& ChartDocument::Diagnostics() const {
-    static const std::vector<Diagnostic> kNone;
-    return m_loaded ? m_loaded->Diagnostics : kNone;
+    return AsLoaded().Diagnostics;
 }
 
 bool ChartDocument::IsSound() const {
@@ -247,8 +227,7 @@ bool ChartDocument::IsSound() const {
 }
 
 const std::vector<std::string>& ChartDocument::DataFiles() const {
-    static const std::vector<std::string> kNone;
-    return m_loaded ? m_loaded->DataFiles : kNone;
+    return AsLoaded().DataFiles;
 }
 
 void ChartDocument::PutInOrder(std::vector<Diagnostic>& diagnostics) const {
@@ -268,8 +247,7 @@ LaidOutChart ChartDocument::LayOut() && {
 }
 
 LaidOutChart ChartDocument::LayOutAndSpend() {
-    const Loaded none;
-    const Loaded& loaded = m_loaded ? *m_loaded : none;
+    const Loaded& loaded = AsLoaded();
     const PlaceHashes now = HashesOf(*this);
     const std::set<std::string> changed = loaded.ChangedPlaces(now);
     LayoutTask task;
@@ -278,7 +256,7 @@ LaidOutChart ChartDocument::LayOutAndSpend() {
     task.AreDataChanged = std::any_of(changed.begin(), changed.end(), IsOfData);
     task.Emptiness = penlode::Error("kind", "no kind", ChartKindNames());
     LaidOutChart laidOut;
-    WithContent(Content, [&](auto& content) { laidOut.Chart = LayOutContent(content, task); });
+    LayOutContent(Content, task, laidOut);
     const ChartKind* const kind = KindOf(Content);
     Content = kind == nullptr ? ChartContent() : kind->Make();
     m_isSpent = true;
@@ -289,8 +267,7 @@ LaidOutChart ChartDocument::LayOutAndSpend() {
 
 /// What a table gave is written into the document once any of it has changed.
 std::string ChartDocument::SavedText(std::string& fault) const {
-    const Loaded none;
-    const Loaded& loaded = m_loaded ? *m_loaded : none;
+    const Loaded& loaded = AsLoaded();
     const std::string before = m_text ? *m_text : "";
     if (loaded.IsUnread || m_isSpent) {
         fault = loaded.IsUnread ? "cannot be saved, as it could not be read"
@@ -301,12 +278,11 @@ std::string ChartDocument::SavedText(std::string& fault) const {
     ChartDocument copy = *this;
     std::set<std::string> changed = loaded.ChangedPlaces(HashesOf(copy));
     if (m_hasOtherData || std::any_of(changed.begin(), changed.end(), IsOfData)) {
-        TakeNamesOfTable(copy.Content, false);
-        changed = loaded.ChangedPlaces(HashesOf(copy));
-    }
-    if (m_hasOtherData) {
-        for (const auto& [place, hash] : HashesOf(copy)) {
-            if (IsOfData(place)) {
+        TakeTableNames(copy.Content, false);
+        const PlaceHashes now = HashesOf(copy);
+        changed = loaded.ChangedPlaces(now);
+        for (const auto& [place, hash] : now) {
+            if (m_hasOtherData && IsOfData(place)) {
                 changed.insert(place);
             }
         }

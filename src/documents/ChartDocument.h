@@ -61,6 +61,9 @@ public:
     static ChartDocument FromText(std::string text, const std::string& file = {},
                                   std::optional<InputText> table = std::nullopt);
 
+    /// The same of a text that was read, or could not be.
+    static ChartDocument FromInput(InputText input, std::optional<InputText> table = std::nullopt);
+
     std::string Title; ///< UTF-8, like the description and the source
     std::string Description;
     std::string Source;
@@ -94,6 +97,7 @@ public:
 private:
     struct Loaded;
 
+    const Loaded& AsLoaded() const;
     LaidOutChart LayOutAndSpend();
     std::string SavedText(std::string& fault) const;
 

@@ -1,77 +1,37 @@
 #pragma once
 
 #include "documents/ChartDocument.h"
-#include "documents/ChartStream.h"
 #include "documents/DataSource.h"
+#include "documents/LayoutTask.h"
 #include "documents/SavingStream.h"
 
-#include <vector>
+#include <type_traits>
+#include <variant>
 
-/// What each kind of chart does with its document: four functions a kind.
+/// What each kind of chart does with its document.
 namespace millichart::documents {
 
-/// What a layout is told besides the document's content.
-struct LayoutTask {
-    penlode::PointF Location;
-    OpenPlaces Open;
-    bool AreDataChanged = false; ///< since they were loaded, so that they do not stand where they came from
-    std::vector<penlode::Diagnostic> Diagnostics; ///< takes what was hardly meant
-    penlode::Diagnostic Emptiness;                ///< takes what is told when the chart has no extent
-};
+/// Calls `work` with what the variant holds, unless that is nothing.
+template <class Variant, class Work> void WithContent(Variant& held, const Work& work) {
+    std::visit(
+        [&work](auto& content) {
+            if constexpr (!std::is_same_v<std::decay_t<decltype(content)>, std::monostate>) {
+                work(content);
+            }
+        },
+        held);
+}
 
-/// Loads a record, its data and range. What is wrong is told.
-void LoadContent(ChartStream& stream, const DataSource& source, PieDocument& document);
-void LoadContent(ChartStream& stream, const DataSource& source, HalfPieDocument& document);
-void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHalfPieDocument& document);
-void LoadContent(ChartStream& stream, const DataSource& source, HalfPieHistogramDocument& document);
-void LoadContent(ChartStream& stream, const DataSource& source, HistogramDocument& document);
-void LoadContent(ChartStream& stream, const DataSource& source, CurveDocument& document);
-
-/// Loads or saves how far parts were moved.
-void SerOffsets(penlode::CSerializeStream& stream, PieDocument& document);
-void SerOffsets(penlode::CSerializeStream& stream, HalfPieDocument& document);
-void SerOffsets(penlode::CSerializeStream& stream, HalfPieHalfPieDocument& document);
-void SerOffsets(penlode::CSerializeStream& stream, HalfPieHistogramDocument& document);
-
-inline void SerOffsets(penlode::CSerializeStream&, HistogramDocument&) {}
-
-inline void SerOffsets(penlode::CSerializeStream&, CurveDocument&) {}
-
-void SaveContent(SavingStream& stream, PieDocument& document);
-void SaveContent(SavingStream& stream, HalfPieDocument& document);
-void SaveContent(SavingStream& stream, HalfPieHalfPieDocument& document);
-void SaveContent(SavingStream& stream, HalfPieHistogramDocument& document);
-void SaveContent(SavingStream& stream, HistogramDocument& document);
-void SaveContent(SavingStream& stream, CurveDocument& document);
+/// Loads a record, its data and range, the chart's location and how far parts were moved. What is wrong is
+/// told.
+void LoadContent(ChartStream& stream, const DataSource& source, ChartContent& content,
+                 penlode::PointF& location);
+void SaveContent(SavingStream& stream, ChartContent& content, penlode::PointF& location);
 
 /// Puts the names that came with a table into the record: those that it lacks, or in the place of its own.
-void TakeTableNames(PieDocument& document, bool inPlaceOfOwn);
-void TakeTableNames(HalfPieDocument& document, bool inPlaceOfOwn);
-void TakeTableNames(HalfPieHalfPieDocument& document, bool inPlaceOfOwn);
-void TakeTableNames(HalfPieHistogramDocument& document, bool inPlaceOfOwn);
-void TakeTableNames(HistogramDocument& document, bool inPlaceOfOwn);
-void TakeTableNames(CurveDocument& document, bool inPlaceOfOwn);
+void TakeTableNames(ChartContent& content, bool inPlaceOfOwn);
 
-/// Completes the document, which is not needed afterwards, and lays out its chart.
-CBasicPie LayOutContent(PieDocument& document, LayoutTask& task);
-CBasicHalfPie LayOutContent(HalfPieDocument& document, LayoutTask& task);
-CBasicHalfPieHalfPie LayOutContent(HalfPieHalfPieDocument& document, LayoutTask& task);
-CBasicHalfPieHistogram LayOutContent(HalfPieHistogramDocument& document, LayoutTask& task);
-CBasicHistogram LayOutContent(HistogramDocument& document, LayoutTask& task);
-CBasicCurve LayOutContent(CurveDocument& document, LayoutTask& task);
-
-inline void ForgetOrigin(TableOrigin& origin, const LayoutTask& task) {
-    if (task.AreDataChanged) {
-        origin = {};
-    }
-}
-
-/// Such names go into the record's.
-inline void TakeNames(std::vector<std::string>& names, const std::vector<std::string>& ofTable,
-                      bool inPlaceOfOwn) {
-    if (!ofTable.empty() && (names.empty() || inPlaceOfOwn)) {
-        names = ofTable;
-    }
-}
+/// Completes the content, which is not needed afterwards, and lays out its chart.
+void LayOutContent(ChartContent& content, LayoutTask& task, LaidOutChart& laidOut);
 
 } // namespace millichart::documents

@@ -2,6 +2,7 @@
 
 #include "documents/Fields.h"
 #include "documents/Palette.h"
+#include "foundation/SerializeFrame.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -39,13 +40,29 @@ std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
 }
 
 void ChartStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
-    if (const std::string place = Ask(tag); !m_json.Has(tag)) {
+    const std::string place = Ask(tag);
+    if (!m_json.Has(tag)) {
         m_missing.insert(place);
     }
     if (tag == "ComponentName" && m_json.IsList(tag)) {
         value = JoinedList(tag);
-    } else {
-        m_json.Ser(tag, value, defaultValue);
+        return;
+    }
+    m_json.Ser(tag, value, defaultValue);
+    if (tag == "ComponentName") {
+        WarnOfDroppedName(place, value);
+    }
+}
+
+void ChartStream::WarnOfDroppedName(const std::string& place, const std::string& joined) {
+    std::size_t kept = 0;
+    for (const std::string& name : SplitJoinedTexts(joined)) {
+        kept += name.size() + kTextSeparator.size();
+    }
+    if (kept < joined.size()) {
+        const std::string dropped = penlode::CStringUtil::AnsiToUtf8(joined.substr(kept));
+        m_warnings.push_back(penlode::Warning(place, '"' + penlode::Shortened(dropped) +
+                                                         "\" is dropped, as no \"||\" follows it"));
     }
 }
 
@@ -57,7 +74,7 @@ std::string ChartStream::JoinedList(const std::string& tag) {
         if (!IsJoinable(texts[i])) {
             Refuse(tag + "/" + std::to_string(i), texts[i], kJoinableForm);
         }
-        joined += texts[i] + "||";
+        joined.append(texts[i]).append(kTextSeparator);
     }
     return joined;
 }

@@ -40,6 +40,9 @@ public:
     /// Numbers, and NaN for each null or empty text.
     std::vector<double> LoadNumbersAndGaps(const std::string& tag);
 
+    /// What is doubtful about the short forms.
+    const std::vector<penlode::Diagnostic>& Warnings() const { return m_warnings; }
+
     /// The keys that were asked for, UTF-8, by the place of their group.
     const std::map<std::string, std::vector<std::string>>& AskedKeys() const { return m_asked; }
 
@@ -71,9 +74,11 @@ public:
 private:
     std::string Ask(const std::string& tag);
     std::string JoinedList(const std::string& tag);
+    void WarnOfDroppedName(const std::string& place, const std::string& joined);
 
     penlode::CJsonSerializeStream& m_json;
     std::set<std::string> m_missing; ///< places
+    std::vector<penlode::Diagnostic> m_warnings;
     std::map<std::string, std::vector<std::string>> m_asked;
     std::vector<std::string> m_places{""};
 };

@@ -4,6 +4,33 @@
 #include "penlode/text/StringUtil.h"
 
 namespace millichart::documents {
+namespace {
+
+void LoadGroups(ChartStream& stream, const ListForm& form, std::vector<std::string>& names,
+                const std::function<void()>& load) {
+    if (!stream.IsList(form.Key)) {
+        std::vector<std::string> none;
+        if (form.NoList[0] == '\0') {
+            stream.Ser(form.Key, none, {});
+        }
+        stream.Refuse(form.Key, form.NoList, form.Expected);
+    }
+    bool hasNames = false;
+    const std::size_t count = stream.CountGroups(form.Key);
+    for (std::size_t i = 0; i < count; ++i) {
+        stream.Push(form.Key, static_cast<int>(i));
+        const bool hasName = stream.Has("name");
+        hasNames = hasNames || hasName;
+        names.push_back(hasName ? LoadText(stream, "name", "") : "");
+        load();
+        stream.Pop();
+    }
+    if (!hasNames) {
+        names.clear();
+    }
+}
+
+} // namespace
 
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
                                const TableForm& form, const char* csvKey) {
@@ -28,27 +55,19 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     return ReadTable(ReadFile(file, NamedBy::Document), form, *source.Diagnostics);
 }
 
-bool CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,
-                   bool areOpen) {
-    if (!ofData.empty() && (areOpen || names.empty())) {
-        names = ofData;
-    } else if (areOpen) {
-        names.assign(count, "");
+std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, const ListForm& form,
+                              std::vector<std::string>& names, const std::function<void()>& load) {
+    const bool isMissing = !stream.Has("data");
+    const bool isGroup = stream.Push("data", -1);
+    std::optional<Table> table = LoadTable(stream, form.Key, source, form.Table, form.CsvKey);
+    if (stream.Has(form.Key)) {
+        LoadGroups(stream, form, names, load);
+    } else if (!table && !stream.Has(form.CsvKey) && (isGroup || isMissing)) {
+        source.Diagnostics->push_back(
+            penlode::Error(std::string("data/") + form.Key, "no such key",
+                           std::string(form.Expected) + ", or " + form.CsvKey + " with a file"));
     }
-    return !ofData.empty() && ofData != names;
-}
-
-penlode::Diagnostic NothingIn(const TableOrigin& origin, const char* place, const char* expected) {
-    penlode::Diagnostic nothing =
-        penlode::Error(origin.File.empty() ? place : "", "nothing to draw", expected);
-    nothing.File = origin.File;
-    return nothing;
-}
-
-penlode::Diagnostic OtherNames(const std::string& place) {
-    return penlode::Warning(place,
-                            "other names than in the CSV file, and the document's are taken; leave out " +
-                                place.substr(place.rfind('/') + 1) + " for those of the file");
+    return table;
 }
 
 } // namespace millichart::documents

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "documents/ChartData.h"
 #include "documents/ChartStream.h"
 #include "documents/Table.h"
-#include "penlode/streams/Diagnostic.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -21,24 +19,24 @@ struct DataSource {
     std::vector<std::string>* Files; ///< takes the name of each table that the document names
 };
 
-/// The places of keys that a document leaves open, so that what is taken for them follows the data.
-using OpenPlaces = std::set<std::string>;
-
 /// The table that a chart's data are in: the one that replaces them, or that of the file under `csvKey` in
 /// the stream's current group. Nothing when the data stand in the document. A document with both `csvKey` and
 /// `key`, under which its own data stand, is refused.
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
                                const TableForm& form, const char* csvKey = "csv");
 
-/// Of bars or curves: the document's own names stand, then those that came with the data; without any, so
-/// many are empty where the names are left open, that all is drawn. True when own names are others.
-bool CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,
-                   bool areOpen);
+/// A list of groups, each with a name, in the group "data", or a table in its place.
+struct ListForm {
+    const char* Key;
+    const char* Expected; ///< what stands there
+    const char* CsvKey;
+    const TableForm& Table;
+    const char* NoList = ""; ///< is found where a group stands instead; else the group itself
+};
 
-/// What is told of a chart whose data, at `place` in its document unless they are in a table, are none.
-penlode::Diagnostic NothingIn(const TableOrigin& origin, const char* place, const char* expected);
-
-/// The warning that a document's names at `place` are others than those that came with its table.
-penlode::Diagnostic OtherNames(const std::string& place);
+/// Opens the group "data", which the caller pops. `names` takes the list's, unless none has one; `load` loads
+/// the rest of each.
+std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, const ListForm& form,
+                              std::vector<std::string>& names, const std::function<void()>& load);
 
 } // namespace millichart::documents

@@ -2,6 +2,7 @@
 
 #include "foundation/SerializeFrame.h"
 #include "penlode/streams/TextForms.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,23 +36,17 @@ template <class T> bool Parse(const std::string& text, T& value) {
     return penlode::ser_evaluate(value, form, false) && std::isfinite(value);
 }
 
-bool IsFar(PointF point) {
-    return std::abs(point.X) > kMaxPoint || std::abs(point.Y) > kMaxPoint;
-}
-
 bool ParsePoint(const std::string& text, PointF& point) {
     const std::size_t blank = text.find(' ');
     PointF read;
-    if (blank == std::string::npos || !Parse(text.substr(0, blank), read.X) ||
-        !Parse(text.substr(blank + 1), read.Y)) {
-        return false;
-    }
-    point = read;
-    return true;
+    const bool isRead = blank != std::string::npos && Parse(text.substr(0, blank), read.X) &&
+                        Parse(text.substr(blank + 1), read.Y);
+    point = isRead ? read : point;
+    return isRead;
 }
 
 void RefuseFarPoint(CSerializeStream& stream, const std::string& key, PointF point) {
-    if (IsFar(point)) {
+    if (std::abs(point.X) > kMaxPoint || std::abs(point.Y) > kMaxPoint) {
         stream.Refuse(key, "a point far away", "a point at most 1000000 mm away");
     }
 }
@@ -118,8 +113,7 @@ std::vector<double> LoadNumbers(CSerializeStream& stream, const char* key, doubl
 }
 
 std::string NumberText(double number) {
-    constexpr double kMaxWhole = 1e15;
-    if (number == std::trunc(number) && std::abs(number) < kMaxWhole) {
+    if (penlode::IsPlainWhole(number)) {
         return std::to_string(static_cast<std::int64_t>(number));
     }
     return TextOf(number);
@@ -134,7 +128,7 @@ bool ParseNumber(const std::string& text, double& number) {
 }
 
 bool IsJoinable(const std::string& text) {
-    return SplitJoinedTexts(text + "||") == std::vector{text};
+    return SplitJoinedTexts(text + std::string(kTextSeparator)) == std::vector{text};
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

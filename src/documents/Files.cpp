@@ -20,8 +20,12 @@ constexpr std::size_t kMaxBytes = std::size_t{1} << 30U;
 constexpr std::size_t kPiece = std::size_t{1} << 16U;
 constexpr const char* kTooLarge = "cannot be read: it is larger than 1 GB";
 
-std::string ReasonOf(int error) {
-    return std::strerror(error);
+std::string NotRead(int error) {
+    return std::string("cannot be read: ") + std::strerror(error);
+}
+
+bool IsDeviceOrPipe(const fs::file_status& status) {
+    return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
 }
 
 /// What can be told before a file is opened, which may wait for ever or read without end. Finds its size.
@@ -31,7 +35,7 @@ std::string FaultOfKind(const fs::path& file, NamedBy who, std::size_t& size) {
     if (fs::is_directory(status)) {
         return "cannot be read: it is a folder";
     }
-    if (who == NamedBy::Document && fs::exists(status) && !fs::is_regular_file(status)) {
+    if (who == NamedBy::Document && IsDeviceOrPipe(status)) {
         return "cannot be read: it is no file but a device or a pipe, which a document may not name";
     }
     const std::uintmax_t found = fs::is_regular_file(status) ? fs::file_size(file, error) : 0;
@@ -85,12 +89,6 @@ fs::path BehindLinks(fs::path file) {
     return file;
 }
 
-bool IsDeviceOrPipe(const fs::path& file) {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
-    return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
-}
-
 // Where the system's names are wide, a narrow one would be read in whatever code page is set.
 constexpr bool kAreWide = std::is_same_v<fs::path::value_type, wchar_t>;
 
@@ -113,13 +111,13 @@ InputText ReadFile(const std::string& name, NamedBy who) {
     }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        input.Fault = "cannot be read: " + ReasonOf(errno);
+        input.Fault = NotRead(errno);
         return input;
     }
     input.Text.reserve(size);
     ReadAll(file, input);
     if (file.bad()) {
-        input.Fault = "cannot be read: " + ReasonOf(errno);
+        input.Fault = NotRead(errno);
     }
     return input;
 }
@@ -133,8 +131,9 @@ InputText ReadStream(std::istream& stream, const std::string& name) {
 std::string WriteFile(const std::string& name, std::string_view bytes,
                       const std::function<void(const std::string&)>& begin) {
     const fs::path path = PathFromUtf8(name);
-    if (IsDeviceOrPipe(path)) {
-        return WriteBytes(path, bytes) ? "" : "cannot be written: " + ReasonOf(errno);
+    std::error_code error;
+    if (IsDeviceOrPipe(fs::status(path, error))) {
+        return WriteBytes(path, bytes) ? "" : std::string("cannot be written: ") + std::strerror(errno);
     }
     const fs::path target = BehindLinks(path);
     if (target.empty()) {
@@ -144,7 +143,7 @@ std::string WriteFile(const std::string& name, std::string_view bytes,
     if (begin) {
         begin(Utf8FromPath(part));
     }
-    std::error_code error;
+    error.clear();
     if (!WriteBytes(part, bytes)) {
         error = std::error_code(errno, std::generic_category());
     } else {

@@ -95,16 +95,18 @@ std::string Guess(const std::string& place, const AskedKeys& asked) {
 std::vector<Diagnostic> LoadDiagnostics(const penlode::CJsonSerializeStream& json,
                                         const ChartStream& stream) {
     std::vector<Diagnostic> diagnostics = json.Problems();
-    const bool areCut = diagnostics.size() >= kMaxKept;
+    const bool areCut = diagnostics.size() >= penlode::kMaxDiagnostics;
     // A missing kind is told as an error.
     std::erase_if(diagnostics, [](const Diagnostic& problem) {
         return problem.Kind == DiagnosticKind::MissingKey && problem.Place == "kind";
     });
     if (areCut) {
         diagnostics.push_back(penlode::Error("", "too many problems; those after the first " +
-                                                     std::to_string(kMaxKept) + " are not told"));
+                                                     std::to_string(penlode::kMaxDiagnostics) +
+                                                     " are not told"));
         diagnostics.back().IsRest = true;
     }
+    diagnostics.insert(diagnostics.end(), stream.Warnings().begin(), stream.Warnings().end());
     if (!stream.AskedKeys().contains("property")) {
         return diagnostics; // the record was not asked for, so that none of its keys is known
     }

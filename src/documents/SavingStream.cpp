@@ -100,7 +100,7 @@ void SavingStream::Numbers(const std::string& tag, const std::vector<double>& nu
 
 /// Groups beyond the count would stay, so that the list is written anew; a longer one keeps what it has. The
 /// hash is the count.
-void SavingStream::Groups(const std::string& tag, std::size_t count) {
+void SavingStream::AnnounceGroups(const std::string& tag, std::size_t count) {
     Take(tag, count, [&] {
         const auto loaded = m_loaded->find(PlaceOf(tag));
         if (loaded != m_loaded->end() && loaded->second > count) {
@@ -112,6 +112,21 @@ void SavingStream::Groups(const std::string& tag, std::size_t count) {
             m_json->Ser(tag, none, {});
         }
     });
+}
+
+void SavingStream::Groups(const std::string& tag, std::size_t count, const std::vector<std::string>& names,
+                          const std::function<void(std::size_t)>& save) {
+    AnnounceGroups(tag, count);
+    for (std::size_t i = 0; i < count; ++i) {
+        Push(tag, static_cast<int>(i));
+        if (i < names.size()) {
+            Text("name", names[i]);
+        } else {
+            Remove("name");
+        }
+        save(i);
+        Pop();
+    }
 }
 
 void SavingStream::Remove(const std::string& tag) {

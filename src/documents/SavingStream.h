@@ -3,6 +3,7 @@
 #include "penlode/streams/JsonSerializeStream.h"
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -37,8 +38,9 @@ public:
     /// NaN is null.
     void Numbers(const std::string& tag, const std::vector<double>& numbers);
 
-    /// Announces a list of groups, to be pushed by their index.
-    void Groups(const std::string& tag, std::size_t count);
+    /// A list of groups, each with its name, if there is one, and what `save` saves of it.
+    void Groups(const std::string& tag, std::size_t count, const std::vector<std::string>& names,
+                const std::function<void(std::size_t)>& save);
 
     /// There is nothing under this tag.
     void Remove(const std::string& tag);
@@ -84,6 +86,7 @@ private:
     bool IsChanged(const std::string& place) const;
     /// Calls `write` in the current group of the document.
     template <class Write> void InGroup(const Write& write);
+    void AnnounceGroups(const std::string& tag, std::size_t count);
     template <class Write> void Take(const std::string& tag, std::size_t hash, const Write& write);
 
     PlaceHashes* m_hashes = nullptr;

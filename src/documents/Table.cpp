@@ -2,12 +2,11 @@
 
 #include "documents/Csv.h"
 #include "documents/Fields.h"
-#include "penlode/streams/JsonFault.h"
 #include "penlode/streams/TextForms.h"
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <utility>
 
@@ -18,16 +17,15 @@ using penlode::CStringUtil;
 using penlode::Diagnostic;
 using Heading = TableForm::Heading;
 
-/// As spreadsheet programs of many languages write numbers.
-bool HasDecimalComma(std::string cell) {
-    std::replace(cell.begin(), cell.end(), ',', '.');
+bool IsNumber(const std::string& cell) {
     double number = 0.0;
     return ParseNumber(cell, number);
 }
 
-bool IsNumber(const std::string& cell) {
-    double number = 0.0;
-    return ParseNumber(cell, number);
+/// As spreadsheet programs of many languages write numbers.
+bool HasDecimalComma(std::string cell) {
+    std::replace(cell.begin(), cell.end(), ',', '.');
+    return IsNumber(cell);
 }
 
 /// A word over a column, and no malformed or missing number? "nan" and "inf" are numbers too, if not ones to
@@ -37,13 +35,6 @@ bool IsWord(const std::string& cell) {
     std::string text = cell;
     return !cell.empty() && cell.find_first_of("0123456789") == std::string::npos &&
            !penlode::ser_evaluate(number, text, false);
-}
-
-/// The whole cell, without any blanks: most are plain numbers, for which this is enough.
-template <class Number> bool ParsePlain(const std::string& cell, Number& number) {
-    const char* const end = cell.data() + cell.size();
-    const auto [parsed, error] = std::from_chars(cell.data(), end, number);
-    return error == std::errc() && parsed == end;
 }
 
 class TableReader {
@@ -78,9 +69,8 @@ public:
 private:
     void ReadRow(const CsvRow& row) {
         const bool isFirst = std::exchange(m_isFirst, false);
-        std::int32_t time = 0;
-        const bool isTime = m_form.HasTimes && ParsePlain(row.Cells.front(), time);
-        const bool isHeading = isFirst && IsHeading(row, isTime);
+        const auto time = m_form.HasTimes ? penlode::NumberOf<std::int32_t>(row.Cells.front()) : std::nullopt;
+        const bool isHeading = isFirst && IsHeading(row, time.has_value());
         if (m_width == 0) {
             // In a heading nothing stands over columns that a spreadsheet program added.
             m_width = m_form.Width != 0 ? m_form.Width : isHeading ? FilledCells(row) : row.Cells.size();
@@ -92,7 +82,7 @@ private:
             TakeHeading(row);
         } else if ((mayBeShort || HasWidth(row, m_width, m_form.WidthForm)) && !isHeading) {
             m_filled = std::max(m_filled, FilledCells(row));
-            TakeFirstCell(row, isTime, time);
+            TakeFirstCell(row, time);
             TakeNumbers(row, isFirst && m_form.HeadedBy == Heading::OverNumber);
         }
     }
@@ -158,13 +148,13 @@ private:
         return cells == width;
     }
 
-    void TakeFirstCell(const CsvRow& row, bool isTime, std::int32_t time) {
+    void TakeFirstCell(const CsvRow& row, std::optional<std::int32_t> time) {
         const std::string& cell = row.Cells.front();
         const bool isFirst = m_table.Lines.empty();
-        m_hasTimes = isFirst ? isTime : m_hasTimes;
-        if (m_form.HasTimes && !isTime && (IsNumber(cell) || (isFirst && cell.empty()))) {
+        m_hasTimes = isFirst ? time.has_value() : m_hasTimes;
+        if (m_form.HasTimes && !time && (IsNumber(cell) || (isFirst && cell.empty()))) {
             RefuseCell(row, 0, "a time, which is a whole number within 32 bits, or a text as a label");
-        } else if (m_hasTimes && !isTime) {
+        } else if (m_hasTimes && !time) {
             RefuseCell(row, 0, "a whole number, as in the rows above");
         }
         if (!m_hasTimes) {
@@ -175,7 +165,7 @@ private:
             time = static_cast<std::int32_t>(m_table.Lines.size());
         }
         if (m_form.HasTimes) {
-            m_table.Times.push_back(time);
+            m_table.Times.push_back(time.value_or(0));
         }
         m_table.Lines.push_back(static_cast<std::uint32_t>(row.Line));
     }
@@ -188,10 +178,13 @@ private:
         }
     }
 
+    /// Most are plain numbers without any blanks.
     double NumberIn(const CsvRow& row, std::size_t column, bool mayBeHeading) {
         const std::string& cell = row.Cells[column];
-        double number = 0.0;
-        if (!(ParsePlain(cell, number) && std::isfinite(number)) && !ParseNumber(cell, number)) {
+        const std::optional<double> plain = penlode::NumberOf<double>(cell);
+        const bool isPlain = plain && std::isfinite(*plain);
+        double number = isPlain ? *plain : 0.0;
+        if (!isPlain && !ParseNumber(cell, number)) {
             const std::string expected =
                 mayBeHeading ? "a number, or a heading without digits" : penlode::kFloatForm;
             RefuseCell(row, column, expected + (HasDecimalComma(cell) ? ", with a decimal point" : ""));
@@ -242,14 +235,15 @@ private:
     /// One stands for all those that are not kept.
     void Tell(Diagnostic fault) {
         fault.File = m_input.Name;
-        if (++m_told <= kMaxKept) {
+        if (++m_told <= penlode::kMaxDiagnostics) {
             m_diagnostics.push_back(std::move(fault));
             return;
         }
-        if (m_told > kMaxKept + 1) {
+        if (m_told > penlode::kMaxDiagnostics + 1) {
             m_diagnostics.pop_back();
         }
-        fault = penlode::Error("", "and " + std::to_string(m_told - kMaxKept) + " more, which are not told");
+        fault = penlode::Error("", "and " + std::to_string(m_told - penlode::kMaxDiagnostics) +
+                                       " more, which are not told");
         fault.File = m_input.Name;
         fault.IsRest = true;
         m_diagnostics.push_back(std::move(fault));

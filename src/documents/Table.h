@@ -11,9 +11,6 @@
 
 namespace millichart::documents {
 
-/// The most diagnostics of one source that are kept.
-inline constexpr std::size_t kMaxKept = 10000;
-
 /// What a kind of chart expects of a table with its data: a column of names or times, and columns of numbers.
 struct TableForm {
     enum class Heading {

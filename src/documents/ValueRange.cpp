@@ -32,12 +32,6 @@ bool IsInReach(double number) {
     return std::abs(number) <= kMaxValue;
 }
 
-/// Was what is wrong with it told when it was loaded?
-bool IsUnread(ChartStream& stream, const char* key, const std::vector<double>& numbers) {
-    return stream.Has(key) && (!stream.IsList(key) || std::any_of(numbers.begin(), numbers.end(),
-                                                                  [](double n) { return std::isnan(n); }));
-}
-
 bool IsNaturalRange(const std::vector<double>& r) {
     return r.size() == 4 && r[0] < r[1] && r[2] > 0.0 && r[3] > 0.0 && IsInReach(r[0]) && IsInReach(r[1]) &&
            (r[1] - r[0]) / std::min(r[2], r[3]) < static_cast<double>(kMaxTicks);
@@ -83,37 +77,33 @@ template <std::size_t N> std::optional<std::array<double, N>> ArrayOf(const std:
     return all;
 }
 
-/// What is wrong with the group as a whole or with one of its lists; nothing where that was told when they
-/// were loaded.
-std::optional<Diagnostic> FaultOf(ChartStream& stream, bool isLogarithmic, const std::vector<double>& natural,
-                                  const std::vector<double>& logarithm) {
+/// What is wrong with the group as a whole or with its list; nothing where that was told when it was loaded.
+std::optional<Diagnostic> FaultOf(ChartStream& stream, bool isLogarithmic,
+                                  const std::vector<double>& numbers) {
     const std::string own = isLogarithmic ? kLogarithm : kNatural;
     const std::string foreign = isLogarithmic ? kNatural : kLogarithm;
-    const auto fault = [](const std::string& key, const std::string& found, const std::string& expected) {
-        return penlode::Error(key.empty() ? kRange : std::string(kRange) + "/" + key, found, expected);
-    };
+    const std::string group = std::string(kRange) + "/";
     if (stream.Has(foreign)) {
-        return fault(foreign, "a range of the other scale",
-                     own + ", as LogarithmScale is " + (isLogarithmic ? "on" : "off"));
+        return penlode::Error(group + foreign, "a range of the other scale",
+                              own + ", as LogarithmScale is " + (isLogarithmic ? "on" : "off"));
     }
-    if (stream.Has(own) && stream.Has(kMax)) {
-        return fault(kMax, "a second range", "either it or " + own);
+    const bool hasMax = stream.Has(kMax);
+    if (!stream.Has(own)) {
+        return hasMax ? std::nullopt
+                      : std::optional(penlode::Error(kRange, "no range", std::string(kMax) + " or " + own));
     }
-    if (IsUnread(stream, kNatural, natural) || IsUnread(stream, kLogarithm, logarithm)) {
+    if (hasMax) {
+        return penlode::Error(group + kMax, "a second range", "either it or " + own);
+    }
+    const bool isRead = stream.IsList(own) && std::none_of(numbers.begin(), numbers.end(),
+                                                           [](double number) { return std::isnan(number); });
+    if (!isRead || (isLogarithmic ? IsLogarithmRange(numbers) : IsNaturalRange(numbers))) {
         return std::nullopt;
     }
-    if (stream.Has(kNatural) && !IsNaturalRange(natural)) {
-        return fault(kNatural, ListShown(natural),
-                     "minimum, larger maximum, major step and minor step, both above 0 and for fewer than "
-                     "100000 ticks");
-    }
-    if (stream.Has(kLogarithm) && !IsLogarithmRange(logarithm)) {
-        return fault(kLogarithm, ListShown(logarithm), "minimum above 0 and larger maximum");
-    }
-    if (!stream.Has(own) && !stream.Has(kMax)) {
-        return fault("", "no range", std::string(kMax) + " or " + own);
-    }
-    return std::nullopt;
+    return penlode::Error(group + own, ListShown(numbers),
+                          isLogarithmic ? "minimum above 0 and larger maximum"
+                                        : "minimum, larger maximum, major step and minor step, both above 0 "
+                                          "and for fewer than 100000 ticks");
 }
 
 template <class Numbers>
@@ -137,7 +127,7 @@ ValueRange LoadValueRange(ChartStream& stream, bool isLogarithmic, Diagnostics& 
         const std::vector<double> logarithm = LoadRange(stream, kLogarithm);
         range.Natural = ArrayOf<4>(natural);
         range.Logarithm = ArrayOf<2>(logarithm);
-        if (auto fault = FaultOf(stream, isLogarithmic, natural, logarithm)) {
+        if (auto fault = FaultOf(stream, isLogarithmic, isLogarithmic ? logarithm : natural)) {
             diagnostics.push_back(*std::move(fault));
         }
     });
@@ -182,25 +172,28 @@ Diagnostics PlotSizeFaults(const std::string& place, float width, float height) 
     return faults;
 }
 
-void RangeDoubts::AddTo(Diagnostics& diagnostics) const {
-    const auto several = [](std::size_t count, const char* one, const char* many) {
-        return count == 1 ? one : "this and " + Counted(count - 1, "other value") + many;
-    };
-    Diagnostic told = m_huge != 0 ? m_firstHuge : m_first;
-    if (m_huge != 0) {
-        told.Severity = penlode::Severity::Error;
-        told.Text = several(m_huge, "is", " are") + " too large for a value axis, expected at most " +
-                    NumberText(kMaxValue);
-    } else if (m_outside != 0) {
-        told.Severity = penlode::Severity::Warning;
-        told.Text = several(m_outside, "lies outside ", " lie outside ") + Axis();
-    } else {
+void RangeCheck::AddTo(Diagnostics& diagnostics,
+                       const std::function<Diagnostic(std::size_t, std::size_t)>& locate) const {
+    const bool isError = m_huge != 0;
+    const std::size_t count = isError ? m_huge : m_outside;
+    if (count == 0) {
         return;
+    }
+    const Item& first = isError ? m_firstHuge : m_firstOutside;
+    const bool isOne = count == 1;
+    Diagnostic told = locate(first.List, first.Index);
+    told.Severity = isError ? penlode::Severity::Error : penlode::Severity::Warning;
+    told.Text = isOne ? "" : "this and " + Counted(count - 1, "other value") + " ";
+    if (isError) {
+        told.Text += (isOne ? "is" : "are") + std::string(" too large for a value axis, expected at most ") +
+                     NumberText(kMaxValue);
+    } else {
+        told.Text += (isOne ? "lies" : "lie") + std::string(" outside ") + Axis();
     }
     diagnostics.push_back(std::move(told));
 }
 
-std::string RangeDoubts::Axis() const {
+std::string RangeCheck::Axis() const {
     return "the value axis, which goes from " + NumberText(m_min) + " to " + NumberText(m_max);
 }
 

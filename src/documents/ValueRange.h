@@ -5,6 +5,7 @@
 #include "documents/SavingStream.h"
 #include "penlode/streams/Diagnostic.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,9 +43,9 @@ template <class Chart> void SetValueRange(Chart& chart, const ValueRange& range,
 std::vector<penlode::Diagnostic> PlotSizeFaults(const std::string& place, float width, float height);
 
 /// Looks for values that a value axis does not hold, one after the other.
-class RangeDoubts {
+class RangeCheck {
 public:
-    template <class Chart> RangeDoubts(const Chart& chart, bool isLogarithmic) {
+    template <class Chart> RangeCheck(const Chart& chart, bool isLogarithmic) {
         double step = 0.0;
         if (isLogarithmic) {
             chart.GetLogarithmValueRange(m_min, m_max);
@@ -53,21 +54,19 @@ public:
         }
     }
 
-    /// `locate` gives a diagnostic of the value's file, line and place; it is called for the first one that
-    /// does not fit, and for the first one that no axis could hold.
-    template <class Locate> void Look(double value, const Locate& locate) {
-        if (value < m_min || value > m_max) {
-            m_first = m_outside == 0 ? locate() : m_first;
-            ++m_outside;
+    void Look(double value, std::size_t list, std::size_t item) {
+        if ((value < m_min || value > m_max) && m_outside++ == 0) {
+            m_firstOutside = {list, item};
         }
-        if (value < -kMaxValue || value > kMaxValue) {
-            m_firstHuge = m_huge == 0 ? locate() : m_firstHuge;
-            ++m_huge;
+        if ((value < -kMaxValue || value > kMaxValue) && m_huge++ == 0) {
+            m_firstHuge = {list, item};
         }
     }
 
-    /// Adds nothing, a warning, or an error.
-    void AddTo(std::vector<penlode::Diagnostic>& diagnostics) const;
+    /// Adds nothing, a warning, or an error. `locate` gives a diagnostic of the file, line and place of an
+    /// item of a list.
+    void AddTo(std::vector<penlode::Diagnostic>& diagnostics,
+               const std::function<penlode::Diagnostic(std::size_t, std::size_t)>& locate) const;
 
     /// Where in the range a value stands, 0 being its minimum and 1 its maximum.
     double PartOf(double value) const { return (value - m_min) / (m_max - m_min); }
@@ -76,12 +75,17 @@ public:
     std::string Axis() const;
 
 private:
+    struct Item {
+        std::size_t List = 0;
+        std::size_t Index = 0;
+    };
+
     double m_min = 0.0;
     double m_max = 0.0;
     std::size_t m_outside = 0;
-    penlode::Diagnostic m_first;
-    std::size_t m_huge = 0;
-    penlode::Diagnostic m_firstHuge;
+    Item m_firstOutside;
+    std::size_t m_huge = 0; ///< those that no axis could hold
+    Item m_firstHuge;
 };
 
 /// Of the value in a column of a row of the table, or else at that place in the document.

@@ -13,8 +13,6 @@ using penlode::ser_evaluate;
 
 namespace {
 
-constexpr const char* kTextSeparator = "||";
-
 template <class T> std::string TextOf(T value) {
     std::string text;
     ser_evaluate(value, text, true);
@@ -46,20 +44,20 @@ std::string ListedNames(EnumNames names) {
     return "one of " + text;
 }
 
-std::string NameOf(std::int32_t value, EnumNames names) {
-    const auto found = std::find_if(names.begin(), names.end(),
-                                    [value](const EnumName& name) { return name.Value == value; });
-    return found == names.end() ? TextOf(value) : found->Name;
-}
-
-bool ValueOf(const std::string& text, EnumNames names, std::int32_t& value) {
-    const auto found =
-        std::find_if(names.begin(), names.end(), [&text](const EnumName& name) { return name.Name == text; });
-    if (found == names.end()) {
-        return false;
-    }
-    value = found->Value;
-    return true;
+/// As Evaluate, by name. A value without one is shown as its number, which is not read.
+auto ByName(EnumNames names) {
+    return [names](std::int32_t& value, std::string& text, bool toText) {
+        const auto found = std::find_if(names.begin(), names.end(), [&](const EnumName& name) {
+            return toText ? name.Value == value : name.Name == text;
+        });
+        const bool isFound = found != names.end();
+        if (toText) {
+            text = isFound ? found->Name : TextOf(value);
+        } else if (isFound) {
+            value = found->Value;
+        }
+        return isFound;
+    };
 }
 
 } // namespace
@@ -72,23 +70,28 @@ KeyedRecord::~KeyedRecord() {
     m_stream.Pop();
 }
 
-template <class T> void KeyedRecord::Number(const char* key, T& value, T defaultValue, const char* form) {
-    std::string text = TextOf(value);
-    m_stream.Ser(key, text, TextOf(defaultValue));
+template <class T, class Convert>
+void KeyedRecord::Single(const char* key, T& value, T defaultValue, const std::string& form,
+                         Convert convert) {
+    std::string text;
+    std::string defaultText;
+    convert(value, text, true);
+    convert(defaultValue, defaultText, true);
+    m_stream.Ser(key, text, defaultText);
     if (!m_stream.IsSaving()) {
         value = defaultValue;
-        if (!Evaluate(value, text, false)) {
+        if (!convert(value, text, false)) {
             m_stream.Refuse(key, text, form);
         }
     }
 }
 
 void KeyedRecord::Field(const char* key, std::int32_t& value, std::int32_t defaultValue) {
-    Number(key, value, defaultValue, penlode::kIntegerForm);
+    Single(key, value, defaultValue, penlode::kIntegerForm, Evaluate<std::int32_t>);
 }
 
 void KeyedRecord::Field(const char* key, float& value, float defaultValue) {
-    Number(key, value, defaultValue, penlode::kFloatForm);
+    Single(key, value, defaultValue, penlode::kFloatForm, Evaluate<float>);
 }
 
 void KeyedRecord::Field(const char* key, std::string& value, const std::string& defaultValue) {
@@ -96,14 +99,7 @@ void KeyedRecord::Field(const char* key, std::string& value, const std::string& 
 }
 
 void KeyedRecord::Field(const char* key, std::int32_t& value, EnumNames names, std::int32_t defaultValue) {
-    std::string text = NameOf(value, names);
-    m_stream.Ser(key, text, NameOf(defaultValue, names));
-    if (!m_stream.IsSaving()) {
-        value = defaultValue;
-        if (!ValueOf(text, names, value)) {
-            m_stream.Refuse(key, text, ListedNames(names));
-        }
-    }
+    Single(key, value, defaultValue, ListedNames(names), ByName(names));
 }
 
 void KeyedRecord::Field(const char* key, penlode::Color& value, penlode::Color defaultValue) {
@@ -158,18 +154,13 @@ void KeyedRecord::Field(const char* key, std::vector<float>& values, float fallb
 }
 
 void KeyedRecord::Field(const char* key, std::vector<std::int32_t>& values, EnumNames names) {
-    List(key, values, 0, ListedNames(names), [names](std::int32_t& value, std::string& text, bool toText) {
-        if (toText) {
-            text = NameOf(value, names);
-        }
-        return toText || ValueOf(text, names, value);
-    });
+    List(key, values, 0, ListedNames(names), ByName(names));
 }
 
 void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values) {
     std::string joined;
     for (const std::string& value : values) {
-        joined += WithWholeCharacters(value) + kTextSeparator;
+        joined.append(WithWholeCharacters(value)).append(kTextSeparator);
     }
     m_stream.Ser(key, joined, {});
     if (!m_stream.IsSaving()) {
@@ -214,9 +205,9 @@ std::vector<std::string> SplitJoinedTexts(const std::string& joined) {
     std::vector<std::string> texts;
     std::size_t start = 0;
     for (std::size_t at = 0; at < joined.size();) {
-        if (joined.compare(at, 2, kTextSeparator) == 0) {
+        if (joined.compare(at, kTextSeparator.size(), kTextSeparator) == 0) {
             texts.push_back(joined.substr(start, at - start));
-            at += 2;
+            at += kTextSeparator.size();
             start = at;
         } else {
             at += penlode::CStringUtil::AnsiCharLength(joined, at);

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The frame of every record's serializer. A record's fields stand in one list, a line a field, which both
@@ -75,8 +76,9 @@ public:
     template <class Prop> void Record(const char* tag, Prop& prop) { SerializeFields(m_stream, prop, tag); }
 
 private:
-    template <class T> void Number(const char* key, T& value, T defaultValue, const char* form);
-    /// `convert` turns an item into its text, or the text into the item and tells whether it could.
+    /// `convert` turns a value into its text, or the text into the value and tells whether it could.
+    template <class T, class Convert>
+    void Single(const char* key, T& value, T defaultValue, const std::string& form, Convert convert);
     template <class T, class Convert>
     void List(const char* key, std::vector<T>& values, T fallback, const std::string& form, Convert convert);
 
@@ -154,6 +156,9 @@ template <class T> void PositionalRecord::Put(penlode::Owned<T>& value) {
         }
     });
 }
+
+/// Follows each of several texts that are stored in one.
+inline constexpr std::string_view kTextSeparator = "||";
 
 /// Splits a narrow text at every "||", by whole characters, since a second byte may look like "|". Each piece
 /// that is followed by "||" is one text.

@@ -232,15 +232,15 @@ TEST_F(InFolder, ChangedCurvesTakeThePlaceOfTheirTable) {
           R"({"kind": "curve", "data": {"csv": "d.csv"}, "range": {"NaturalValueRange": [0, 10, 5, 1]}})");
     ChartDocument document = ChartDocument::Load(Name("t.json"));
     ASSERT_EQ(Told(document), "");
-    std::vector<penlode::Diagnostic> doubts = document.LayOut().Diagnostics;
-    ASSERT_EQ(doubts.size(), 1U);
-    EXPECT_EQ(doubts[0].File + ", " + doubts[0].Place, Name("d.csv") + ", column 2");
-    EXPECT_EQ(doubts[0].Line, 4U);
+    std::vector<penlode::Diagnostic> warnings = document.LayOut().Diagnostics;
+    ASSERT_EQ(warnings.size(), 1U);
+    EXPECT_EQ(warnings[0].File + ", " + warnings[0].Place, Name("d.csv") + ", column 2");
+    EXPECT_EQ(warnings[0].Line, 4U);
     auto& curves = std::get<CurveDocument>(document.Content);
     curves.Data.Values[1][2] = kCurveNull;
-    doubts = document.LayOut().Diagnostics;
-    ASSERT_EQ(doubts.size(), 1U);
-    EXPECT_EQ(doubts[0].File + ", " + doubts[0].Place, Name("t.json") + ", data/curves/0/values/2")
+    warnings = document.LayOut().Diagnostics;
+    ASSERT_EQ(warnings.size(), 1U);
+    EXPECT_EQ(warnings[0].File + ", " + warnings[0].Place, Name("t.json") + ", data/curves/0/values/2")
         << "it is in no table any more";
     const ChartDocument again = Loaded(document.Text());
     const auto& data = std::get<CurveDocument>(again.Content).Data;
@@ -278,15 +278,15 @@ TEST_F(InFolder, WhatIsWrongIsToldAndNothingThrown) {
     EXPECT_TRUE(Holds(wrong, "\"wide\""));
 }
 
-TEST(ChartDocument, LayoutsTellWhereTheirDoubtsStand) {
+TEST(ChartDocument, LayoutsTellWhereTheirWarningsStand) {
     ChartDocument document = Loaded("{\"kind\": \"pie\", \"data\": {\"values\": [1]},\n\"property\":"
                                     "{\"PieBasicProp\": {\n\"FixedWidth\": 3, \"FixedSize\": 1,\n"
                                     "\"StartAngle\": 400}}}");
-    const std::vector<penlode::Diagnostic> doubts = document.LayOut().Diagnostics;
-    ASSERT_EQ(doubts.size(), 2U);
-    EXPECT_EQ(doubts[0].File, "t.json");
-    EXPECT_EQ(doubts[0].Line, 3U);
-    EXPECT_EQ(doubts[1].Line, 4U);
+    const std::vector<penlode::Diagnostic> warnings = document.LayOut().Diagnostics;
+    ASSERT_EQ(warnings.size(), 2U);
+    EXPECT_EQ(warnings[0].File, "t.json");
+    EXPECT_EQ(warnings[0].Line, 3U);
+    EXPECT_EQ(warnings[1].Line, 4U);
 }
 
 TEST(ChartDocument, NamesThatAloneChangedAreSaved) {

@@ -1,17 +1,16 @@
 #!/usr/bin/env bash
 # Names every class and function of the public headers in one program and holds what the compiler saw declared against
 # what the libraries export: a host can link each function that a header shows him, and finds each that is exported in
-# a header. Called as CheckExports.sh COMPILER SOURCES FOLDER "LIBRARIES" MIXED HEADERS..., where MIXED is a pattern of
-# headers in which only what is marked is meant for hosts.
+# a header. Called as CheckExports.sh COMPILER SOURCES FOLDER "LIBRARIES" HEADERS...
 set -euo pipefail
 export LC_ALL=C
-compiler=$1 sources=$2 folder=$3 libraries=$4 mixed=$5
-shift 5
+compiler=$1 sources=$2 folder=$3 libraries=$4
+shift 4
 cd "$folder"
 
 # "class penlode::Region", "function penlode::SplitLines" or "pure penlode::ISerialize::Read(" a line. What belongs to
 # a namespace begins its line; templates and inline functions need no library.
-awk -v mixed="$mixed" '
+awk '
   function last_word(text) { sub(/\(.*/, "", text); if (!sub(/.* operator/, "operator", text)) sub(/.*[ *&]/, "", text); return text }
   /^namespace (penlode|millichart) / { room = $2; next }
   /^template/ { skip = !/[;{}]$/; next }
@@ -33,7 +32,7 @@ awk -v mixed="$mixed" '
   }
   /^}/ { type = "" }
   /^(inline|constexpr|namespace|class|struct|enum|using|static_assert)/ { next }
-  /^[A-Za-z].*\(/ && (FILENAME !~ mixed || /_API /) { print "function", room "::" last_word($0) }
+  /^[A-Za-z].*\(/ { print "function", room "::" last_word($0) }
 ' "$@" | sort -u >named
 
 {

@@ -1,5 +1,6 @@
 #include "commands/Json.h"
 
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -40,8 +41,7 @@ Json ToJson(double number) {
         return nullptr;
     }
     const double rounded = std::round(number * kStepsPerUnit) / kStepsPerUnit;
-    const bool isWhole = rounded == std::trunc(rounded) && std::abs(rounded) < 1e15;
-    return isWhole ? Json(static_cast<std::int64_t>(rounded)) : Json(rounded);
+    return penlode::IsPlainWhole(rounded) ? Json(static_cast<std::int64_t>(rounded)) : Json(rounded);
 }
 
 Json ToJson(penlode::PointF point) {

@@ -1,5 +1,7 @@
 #include "files/Diagnostics.h"
 
+#include "penlode/text/Digits.h"
+
 #include <algorithm>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -52,17 +54,13 @@ Json ObjectOf(const Diagnostic& diagnostic) {
 } // namespace
 
 std::string Printable(std::string_view text) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string shown;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (!IsControl(text, i)) {
+        if (IsControl(text, i)) {
+            shown += "\\x" + penlode::HexDigits(static_cast<unsigned char>(text[i]), 2);
+        } else {
             shown += text[i];
-            continue;
         }
-        shown += "\\x";
-        shown += kDigits[byte >> 4U];
-        shown += kDigits[byte & 15U];
     }
     return shown;
 }

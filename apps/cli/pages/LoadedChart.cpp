@@ -8,12 +8,6 @@
 namespace cli {
 namespace {
 
-penlode::Diagnostic Fault(const std::string& file, const std::string& text) {
-    penlode::Diagnostic fault = penlode::Error("", text);
-    fault.File = file;
-    return fault;
-}
-
 /// What the layout found, in the order of what the load found.
 void LayOut(LoadedChart& loaded) {
     loaded.Chart = std::move(loaded.Document).LayOut();
@@ -32,15 +26,9 @@ void LayOut(LoadedChart& loaded) {
 }
 
 LoadedChart Load(const std::string& input, const std::optional<std::string>& data) {
-    millichart::InputText text = ReadInput(input);
     LoadedChart loaded;
-    if (!text.Fault.empty()) {
-        loaded.Diagnostics = {Fault(text.Name, text.Fault)};
-        return loaded;
-    }
-    loaded.Document = millichart::ChartDocument::FromText(std::move(text.Text), text.Name,
-                                                          data ? std::optional(ReadInput(*data))
-                                                               : std::optional<millichart::InputText>());
+    loaded.Document = millichart::ChartDocument::FromInput(
+        ReadInput(input), data ? std::optional(ReadInput(*data)) : std::optional<millichart::InputText>());
     loaded.Diagnostics = loaded.Document.Diagnostics();
     if (loaded.Document.IsSound()) {
         LayOut(loaded);
@@ -55,7 +43,8 @@ LoadedChart LoadChart(const std::string& input, const std::optional<std::string>
         return Load(input, data);
     } catch (const std::bad_alloc&) {
         LoadedChart none;
-        none.Diagnostics = {Fault(ShownName(input), kTooLittleMemory)};
+        none.Diagnostics = {penlode::Error("", kTooLittleMemory)};
+        none.Diagnostics.front().File = ShownName(input);
         return none;
     }
 }

@@ -149,42 +149,38 @@ void CBinarySerialize::Read(std::vector<std::string>& values) {
     values = std::move(texts);
 }
 
-void CBinarySerialize::Read(Font** font) {
-    const auto present = TakePresence();
-    if (!present) {
-        return;
+template <class Object, class ReadFields>
+void CBinarySerialize::ReadObject(Object** object, ReadFields readFields) {
+    const bool present = TakePresence();
+    Object read;
+    if (present) {
+        readFields(read);
     }
-    std::string family;
-    Font read;
-    if (*present) {
+    if (!Failed()) {
+        *object = present ? new Object(std::move(read)) : nullptr;
+    }
+}
+
+void CBinarySerialize::Read(Font** font) {
+    ReadObject(font, [this](Font& read) {
+        std::string family;
         Read(family);
         Read(read.Size);
         Read(read.Style);
         read.Family = CStringUtil::AnsiToWideString(family);
-    }
-    if (!Failed()) {
-        *font = *present ? new Font(std::move(read)) : nullptr;
-    }
+    });
 }
 
 void CBinarySerialize::Read(Pen** pen) {
-    const auto present = TakePresence();
-    if (!present) {
-        return;
-    }
-    Color color;
-    float width = 0.0F;
-    Pen read;
-    if (*present) {
+    ReadObject(pen, [this](Pen& read) {
+        Color color;
+        float width = 0.0F;
         Read(color);
         Read(width);
         ReadDashStyle(read);
         read.SetColor(color);
         read.SetWidth(width);
-    }
-    if (!Failed()) {
-        *pen = *present ? new Pen(read) : nullptr;
-    }
+    });
 }
 
 void CBinarySerialize::WriteWord(std::uint32_t word) {
@@ -234,25 +230,21 @@ std::optional<std::uint32_t> CBinarySerialize::TakeWord(const char* what) {
 
 std::optional<std::uint32_t> CBinarySerialize::TakeLength(const char* what, std::size_t itemSize) {
     const auto length = TakeWord(what);
-    const std::size_t most = Remaining() / itemSize;
-    if (length && *length > most) {
+    const std::size_t maximum = Remaining() / itemSize;
+    if (length && *length > maximum) {
         m_position -= kWordSize;
         Fail(m_position, "a length of " + std::to_string(*length),
-             what + (" whose length is at most " + std::to_string(most)));
+             what + (" whose length is at most " + std::to_string(maximum)));
         return std::nullopt;
     }
     return length;
 }
 
-std::optional<bool> CBinarySerialize::TakePresence() {
+bool CBinarySerialize::TakePresence() {
     const auto byte = Take(1, "a presence flag");
-    if (!byte) {
-        return std::nullopt;
-    }
-    const auto flag = static_cast<unsigned char>(byte->front());
+    const auto flag = static_cast<unsigned char>(byte ? byte->front() : '\0');
     if (flag > 1) {
         Fail(--m_position, std::to_string(flag), "0 for nothing or 1 for an object");
-        return std::nullopt;
     }
     return flag == 1;
 }

@@ -70,7 +70,9 @@ private:
     std::optional<std::uint32_t> TakeWord(const char* what);
     /// A count of items that take at least `itemSize` bytes each.
     std::optional<std::uint32_t> TakeLength(const char* what, std::size_t itemSize);
-    std::optional<bool> TakePresence();
+    /// Is there an object? Not in a stream that failed.
+    bool TakePresence();
+    template <class Object, class ReadFields> void ReadObject(Object** object, ReadFields readFields);
     void ReadDashStyle(Pen& pen);
 
     std::string m_bytes;

@@ -1,5 +1,7 @@
 #include "penlode/streams/Diagnostic.h"
 
+#include "penlode/text/Utf8.h"
+
 #include <utility>
 
 namespace penlode {
@@ -31,6 +33,20 @@ Diagnostic Said(Severity severity, std::string place, std::string text) {
 }
 
 } // namespace
+
+std::string Shortened(std::string text) {
+    std::size_t characters = 0;
+    std::size_t cut = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        characters += IsUtf8Continuation(text[i]) ? 0 : 1;
+        if (characters < kMaxShown) {
+            cut = i + 1;
+        } else if (characters > kMaxShown) {
+            return text.substr(0, cut) + "…";
+        }
+    }
+    return text;
+}
 
 Diagnostic Error(std::string place, std::string found, std::string expected) {
     return Compared(Severity::Error, std::move(place), std::move(found), std::move(expected));

@@ -34,6 +34,16 @@ struct Diagnostic {
     friend bool operator==(const Diagnostic&, const Diagnostic&) = default;
 };
 
+/// Texts of a document that appear in diagnostics are no longer than this, in characters.
+inline constexpr std::size_t kMaxShown = 60;
+
+/// The most diagnostics of one source that are kept, so that a file made of nothing but faults does not fill
+/// the memory with them.
+inline constexpr std::size_t kMaxDiagnostics = 10000;
+
+/// At most kMaxShown characters of a UTF-8 text; a cut is marked by "…".
+PENLODE_API std::string Shortened(std::string text);
+
 /// An error, "found ..., expected ...".
 PENLODE_API Diagnostic Error(std::string place, std::string found, std::string expected);
 /// An error that a sentence says better.

@@ -2,6 +2,7 @@
 
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
+#include "penlode/text/Utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,14 +10,10 @@
 namespace penlode {
 namespace {
 
-bool IsContinuation(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-}
-
 /// The character whose bytes begin at `offset`, or its first byte in hexadecimal if it is not UTF-8.
 std::string CharacterAt(std::string_view json, std::size_t offset) {
     std::size_t end = offset + 1;
-    while (end < json.size() && IsContinuation(json[end])) {
+    while (end < json.size() && IsUtf8Continuation(json[end])) {
         ++end;
     }
     const std::string_view bytes = json.substr(offset, std::min<std::size_t>(end - offset, 4));
@@ -26,7 +23,8 @@ std::string CharacterAt(std::string_view json, std::size_t offset) {
 
 std::size_t ColumnsBetween(std::string_view json, std::size_t begin, std::size_t end) {
     const std::string_view part = json.substr(begin, end - begin);
-    return part.size() - static_cast<std::size_t>(std::count_if(part.begin(), part.end(), IsContinuation));
+    return part.size() -
+           static_cast<std::size_t>(std::count_if(part.begin(), part.end(), IsUtf8Continuation));
 }
 
 } // namespace
@@ -34,20 +32,6 @@ std::size_t ColumnsBetween(std::string_view json, std::size_t begin, std::size_t
 bool IsWordByte(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
            c == '+' || c == '-' || c == '.';
-}
-
-std::string Shortened(std::string text) {
-    std::size_t characters = 0;
-    std::size_t cut = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        characters += IsContinuation(text[i]) ? 0 : 1;
-        if (characters < kMaxShown) {
-            cut = i + 1;
-        } else if (characters > kMaxShown) {
-            return text.substr(0, cut) + "…";
-        }
-    }
-    return text;
 }
 
 std::string FoundAt(std::string_view json, std::size_t offset) {

@@ -1,20 +1,13 @@
 #pragma once
 
-#include "penlode/Export.h"
 #include "penlode/streams/Diagnostic.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-/// Places in a JSON text that cannot be read, for people. Internal to the keyed stream, but for Shortened.
+/// Places in a JSON text that cannot be read, for people. Internal to the keyed stream.
 namespace penlode {
-
-/// Texts of a document that appear in problems are no longer than this, in characters.
-inline constexpr std::size_t kMaxShown = 60;
-
-/// At most kMaxShown characters of a UTF-8 text; a cut is marked by "…".
-PENLODE_API std::string Shortened(std::string text);
 
 /// An Unreadable problem at a byte offset, given as line and column in characters, both from 1.
 Diagnostic UnreadableAt(std::string_view json, std::size_t offset, std::string found, std::string expected);

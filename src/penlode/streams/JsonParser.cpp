@@ -26,7 +26,7 @@ namespace {
 using rapidjson::SizeType;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr const char* kLargestNumber = "a number of at most 1.79e308";
+constexpr const char* kMaxNumber = "a number of at most 1.79e308";
 /// Levels are kept off the machine's stack. RapidJSON's own numbers are neither exact nor safe from exponents
 /// of many digits.
 constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag |
@@ -144,7 +144,7 @@ Diagnostic FaultOf(std::string_view json, const rapidjson::ParseResult& result, 
                    ? FaultAt(json, offset + 1, "one of \" \\ / b f n r t u after the backslash")
                    : FaultAt(json, offset, "control characters written as escapes");
     case rapidjson::kParseErrorNumberTooBig:
-        return FaultAt(json, offset, kLargestNumber);
+        return FaultAt(json, offset, kMaxNumber);
     default:
         return BrokenOff(json, offset);
     }
@@ -171,7 +171,7 @@ public:
 
     bool RawNumber(const char* /*text*/, SizeType /*length*/, bool /*copy*/) {
         const auto number = NumberNode(TakeToken());
-        return number ? Add(*number) : Fail(FaultAt(m_json, m_start, kLargestNumber));
+        return number ? Add(*number) : Fail(FaultAt(m_json, m_start, kMaxNumber));
     }
 
     bool String(const char* text, SizeType length, bool /*copy*/) {
@@ -278,7 +278,7 @@ private:
 
     /// Keys are cut, since a place is made for each of any number of doubled keys.
     void RefuseDouble(const JsonNode& entry) {
-        if (m_problems.size() >= kMaxProblems) {
+        if (m_problems.size() >= kMaxDiagnostics) {
             return;
         }
         std::string place;

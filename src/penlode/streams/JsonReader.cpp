@@ -48,12 +48,6 @@ bool JsonReader::Push(const std::string& tag, int index) {
     return group != nullptr;
 }
 
-void JsonReader::Pop() {
-    if (!m_open.empty()) {
-        m_open.pop_back();
-    }
-}
-
 /// Adds the index to the place of a group that stands in a list.
 JsonNode* JsonReader::Enter(const std::string& tag, int index, std::string& place) {
     JsonNode* entry = Ask(tag);
@@ -80,27 +74,26 @@ JsonNode* JsonReader::Enter(const std::string& tag, int index, std::string& plac
     return entry;
 }
 
-std::optional<std::string> JsonReader::Text(const std::string& tag, const std::string& defaultText) {
+void JsonReader::Load(const std::string& tag, std::string& text, const std::string& defaultText) {
     const JsonNode* const entry = Ask(tag);
+    const auto loaded = entry == nullptr ? std::nullopt : m_tree.ScalarText(*entry);
+    text = loaded.value_or(defaultText);
     if (entry == nullptr) {
         ReportMissing(PlaceOf(tag), CStringUtil::AnsiToUtf8(defaultText));
-        return std::nullopt;
-    }
-    auto text = m_tree.ScalarText(*entry);
-    if (!text) {
+    } else if (!loaded) {
         Report(Kind::WrongType, *entry, PlaceOf(tag), kText);
     }
-    return text;
 }
 
 /// An item that is no text is empty, so that the others keep their places.
-std::optional<std::vector<std::string>> JsonReader::Texts(const std::string& tag,
-                                                          const std::vector<std::string>& defaults) {
+void JsonReader::Load(const std::string& tag, std::vector<std::string>& texts,
+                      const std::vector<std::string>& defaults) {
     const JsonList* const items = AskList(tag, defaults);
     if (items == nullptr) {
-        return std::nullopt;
+        texts = defaults;
+        return;
     }
-    std::vector<std::string> texts;
+    texts.clear();
     texts.reserve(items->size());
     for (const JsonNode& item : *items) {
         auto text = m_tree.ScalarText(item);
@@ -109,7 +102,6 @@ std::optional<std::vector<std::string>> JsonReader::Texts(const std::string& tag
         }
         texts.push_back(std::move(text).value_or(std::string()));
     }
-    return texts;
 }
 
 std::vector<double> JsonReader::NumbersAndGaps(const std::string& tag) {
@@ -195,7 +187,7 @@ std::string JsonReader::PlaceOf(const std::string& tag, std::size_t item) const 
 
 /// A document that could not be read has one problem, not one for each key that it therefore lacks.
 bool JsonReader::HasRoom() const {
-    return !m_isUnreadable && m_problems.size() < kMaxProblems;
+    return !m_isUnreadable && m_problems.size() < kMaxDiagnostics;
 }
 
 void JsonReader::ReportMissing(std::string place, std::string taken) {

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "penlode/streams/Diagnostic.h"
-#include "penlode/streams/JsonTree.h"
+#include "penlode/streams/JsonCursor.h"
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -12,11 +11,11 @@
 
 namespace penlode {
 
-/// Loads from a tree: marks in it what is asked for, and tells what is missing or of no use. Internal to the
-/// keyed stream, whose tags and texts are narrow.
-class JsonReader {
+/// Loads from a tree: marks in it what is asked for, and tells what is missing or of no use. Texts are
+/// narrow. Internal to the keyed stream.
+class JsonReader : public JsonCursor {
 public:
-    explicit JsonReader(JsonTree& tree) : m_tree(tree) {}
+    using JsonCursor::JsonCursor;
 
     void Parse(std::string_view json);
 
@@ -26,31 +25,16 @@ public:
 
     std::vector<Diagnostic> UnknownKeys() const;
 
-    /// Null where the document has none.
-    const JsonGroup* Current() const { return m_tree.GroupOrNull(CurrentNode()); }
-
-    std::string Tag() const { return m_open.empty() ? std::string() : m_open.back().Tag; }
-
     bool Push(const std::string& tag, int index);
-    void Pop();
-
-    std::optional<std::string> Text(const std::string& tag, const std::string& defaultText);
-    std::optional<std::vector<std::string>> Texts(const std::string& tag,
-                                                  const std::vector<std::string>& defaults);
+    void Load(const std::string& tag, std::string& text, const std::string& defaultText);
+    void Load(const std::string& tag, std::vector<std::string>& texts,
+              const std::vector<std::string>& defaults);
     std::vector<double> NumbersAndGaps(const std::string& tag);
     std::size_t CountGroups(const std::string& tag);
 
     void Refuse(const std::string& tag, const std::string& found, const std::string& expected);
 
 private:
-    struct OpenGroup {
-        JsonNode Node; ///< Null for a group that is not in the document; nothing is found in it
-        std::string Tag;
-        std::string Place;
-    };
-
-    const JsonNode& CurrentNode() const { return m_open.empty() ? m_tree.Root() : m_open.back().Node; }
-
     JsonNode* Ask(const std::string& tag);
     const JsonList* AskList(const std::string& tag, const std::vector<std::string>& defaults);
     JsonNode* Enter(const std::string& tag, int index, std::string& place);
@@ -64,8 +48,6 @@ private:
     bool NameWhatWasExpected(const std::string& place, const std::string& expected);
     void AddUnknown(const JsonNode& group, const std::string& place, std::vector<Diagnostic>& unknown) const;
 
-    JsonTree& m_tree;
-    std::vector<OpenGroup> m_open;
     bool m_isUnreadable = false;
     std::vector<Diagnostic> m_problems;
     /// What was told of places that hold no text, by place.

@@ -20,11 +20,11 @@ struct CJsonSerializeStream::Document {
     std::string FileName;
     std::vector<Diagnostic> UnknownBeforeSaving;
 
-    const JsonGroup* Current() const { return Saving ? Writer.Current() : Reader.Current(); }
+    JsonCursor& Cursor() { return Saving ? static_cast<JsonCursor&>(Writer) : Reader; }
 
     /// The entry of the current group, or null.
-    const JsonNode* Find(const std::string& tag) const {
-        const JsonGroup* const group = Current();
+    const JsonNode* Find(const std::string& tag) {
+        const JsonGroup* const group = Cursor().Current();
         return group == nullptr ? nullptr : group->Find(CStringUtil::AnsiToUtf8(tag));
     }
 };
@@ -91,8 +91,7 @@ void CJsonSerializeStream::Ser(const std::string& tag, std::vector<std::string>&
     if (m_document->Saving) {
         m_document->Writer.Save(tag, values);
     } else {
-        auto loaded = m_document->Reader.Texts(tag, defaults);
-        values = std::move(loaded).value_or(defaults);
+        m_document->Reader.Load(tag, values, defaults);
     }
 }
 
@@ -100,13 +99,12 @@ void CJsonSerializeStream::Ser(const std::string& tag, std::string& value, const
     if (m_document->Saving) {
         m_document->Writer.Save(tag, value);
     } else {
-        auto loaded = m_document->Reader.Text(tag, defaultValue);
-        value = std::move(loaded).value_or(defaultValue);
+        m_document->Reader.Load(tag, value, defaultValue);
     }
 }
 
 int CJsonSerializeStream::GetSize() {
-    const JsonGroup* const group = m_document->Current();
+    const JsonGroup* const group = m_document->Cursor().Current();
     return group == nullptr ? 0 : static_cast<int>(group->Entries().size());
 }
 
@@ -119,11 +117,7 @@ bool CJsonSerializeStream::Push(const char* tag, int index) {
 }
 
 void CJsonSerializeStream::Pop() {
-    if (m_document->Saving) {
-        m_document->Writer.Pop();
-    } else {
-        m_document->Reader.Pop();
-    }
+    m_document->Cursor().Pop();
 }
 
 bool CJsonSerializeStream::IsSaving() const {
@@ -131,7 +125,7 @@ bool CJsonSerializeStream::IsSaving() const {
 }
 
 std::string CJsonSerializeStream::GetTag() {
-    return m_document->Saving ? m_document->Writer.Tag() : m_document->Reader.Tag();
+    return m_document->Cursor().Tag();
 }
 
 void* CJsonSerializeStream::GetObjectCreator() {

@@ -5,15 +5,13 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 
 namespace penlode {
 namespace {
 
 /// A whole number is written out, so that it is an integer's text as well: 1e5 as 100000.
 std::string NumberText(double value) {
-    const bool whole = std::trunc(value) == value && std::abs(value) < 1e15;
-    return whole ? Digits(value, std::chars_format::fixed) : Digits(value);
+    return IsPlainWhole(value) ? Digits(value, std::chars_format::fixed) : Digits(value);
 }
 
 } // namespace

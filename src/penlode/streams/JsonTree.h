@@ -54,6 +54,10 @@ using JsonList = std::vector<JsonNode>;
 /// Entries in the order in which they were added.
 class JsonGroup {
 public:
+    JsonGroup() = default;
+    JsonGroup(JsonGroup&&) = default;
+    JsonGroup& operator=(JsonGroup&&) = default; // and no copy, whose keys would belong to the other
+
     struct Entry {
         const std::string* Key;
         JsonNode Value;
@@ -77,6 +81,9 @@ class JsonTree {
 public:
     /// An empty group.
     JsonTree() { AsGroup(m_root); }
+
+    JsonTree(JsonTree&&) = default;
+    JsonTree& operator=(JsonTree&&) = default;
 
     /// What a node stands for, which is made a text, list or group of its own unless it is one.
     std::string& AsText(JsonNode& node) { return As(JsonType::Text, node, m_texts); }

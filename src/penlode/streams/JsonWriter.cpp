@@ -1,6 +1,7 @@
 #include "penlode/streams/JsonWriter.h"
 
 #include "penlode/streams/TextForms.h"
+#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -15,31 +16,32 @@ JsonNode NumberNode(double number) {
     if (!std::isfinite(number)) {
         return {};
     }
-    constexpr double kMaxWhole = 1e15;
-    const bool isWhole = number == std::trunc(number) && std::abs(number) < kMaxWhole;
     const bool isMinusZero = number == 0.0 && std::signbit(number);
-    return isWhole && !isMinusZero ? JsonNode::Integer(static_cast<std::int64_t>(number))
-                                   : JsonNode::Real(number);
+    return IsPlainWhole(number) && !isMinusZero ? JsonNode::Integer(static_cast<std::int64_t>(number))
+                                                : JsonNode::Real(number);
 }
 
 } // namespace
 
 bool JsonWriter::Push(const std::string& tag, int index) {
     const std::size_t levels = (m_open.empty() ? 1 : m_open.back().Levels) + (index < 0 ? 1 : 2);
-    JsonGroup* group = nullptr;
     // One level is left for a list in the innermost group.
-    if (levels < kMaxLevels && HasPlaceFor(tag, index)) {
-        JsonNode* const entry = Entry(tag);
-        const bool isLone = index < 0 || (index == 0 && entry->Is(JsonType::Group));
-        group = &m_tree.AsGroup(isLone ? *entry : Item(*entry, static_cast<std::size_t>(index)));
+    const bool hasPlace = levels < kMaxLevels && HasPlaceFor(tag, index);
+    JsonNode group;
+    if (hasPlace) {
+        JsonNode& entry = *Entry(tag);
+        const bool isLone = index < 0 || (index == 0 && entry.Is(JsonType::Group));
+        JsonNode& node = isLone ? entry : Item(entry, static_cast<std::size_t>(index));
+        m_tree.AsGroup(node);
+        group = node;
     }
-    m_open.push_back({group, tag, levels});
-    return group != nullptr;
+    m_open.push_back({group, tag, {}, levels});
+    return hasPlace;
 }
 
 /// A list becomes longer by one group at a time.
 bool JsonWriter::HasPlaceFor(const std::string& tag, int index) const {
-    const JsonGroup* const group = CurrentGroup();
+    const JsonGroup* const group = Current();
     if (group == nullptr || index <= 0) {
         return group != nullptr;
     }
@@ -52,12 +54,6 @@ JsonNode& JsonWriter::Item(JsonNode& entry, std::size_t index) {
     JsonList& items = m_tree.AsList(entry);
     items.resize(std::max(items.size(), index + 1));
     return items[index];
-}
-
-void JsonWriter::Pop() {
-    if (!m_open.empty()) {
-        m_open.pop_back();
-    }
 }
 
 void JsonWriter::Save(const std::string& tag, const std::string& text) {
@@ -98,14 +94,14 @@ void JsonWriter::Save(const std::string& tag, std::span<const double> numbers) {
 }
 
 void JsonWriter::Remove(const std::string& tag) {
-    if (JsonGroup* const group = CurrentGroup()) {
+    if (JsonGroup* const group = Current()) {
         group->Remove(CStringUtil::AnsiToUtf8(tag));
     }
 }
 
 /// The entry of the open group, made if need be; null where nothing is kept.
 JsonNode* JsonWriter::Entry(const std::string& tag) {
-    JsonGroup* const group = CurrentGroup();
+    JsonGroup* const group = Current();
     return group == nullptr ? nullptr : &group->FindOrAdd(CStringUtil::AnsiToUtf8(tag)).first->Value;
 }
 

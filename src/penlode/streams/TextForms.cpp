@@ -129,67 +129,56 @@ std::optional<Font> FontOf(std::string_view text) {
     return Font{CStringUtil::AnsiToWideString(std::string(text)), *size, style};
 }
 
-template <class Value, class Parsed> bool Take(Value& value, std::optional<Parsed> parsed) {
-    if (parsed) {
-        value = std::move(*parsed);
-    }
-    return parsed.has_value();
-}
-
-template <class Number> bool EvaluateNumber(Number& value, std::string& text, bool toText) {
+/// By a function that gives a value's text, and one that gives what a text means, if anything.
+template <class Value, class TextOf, class ValueOf>
+bool Evaluate(Value& value, std::string& text, bool toText, TextOf textOf, ValueOf valueOf) {
     if (toText) {
-        text = Digits(value);
+        text = textOf(value);
         return true;
     }
-    return Take(value, NumberOf<Number>(Trimmed(text)));
+    auto read = valueOf(Trimmed(text));
+    if (read) {
+        value = std::move(*read);
+    }
+    return read.has_value();
 }
 
-template <class Object>
-bool TakeObject(Owned<Object>& object, std::string_view text,
-                std::optional<Object> (*parse)(std::string_view)) {
-    if (text == kNone) {
+template <class Object, class TextOf, class ObjectOf>
+bool EvaluateObject(Owned<Object>& object, std::string& text, bool toText, TextOf textOf, ObjectOf objectOf) {
+    if (!toText && Trimmed(text) == kNone) {
         object = nullptr;
         return true;
     }
-    return Take(object, parse(text));
+    return Evaluate(
+        object, text, toText,
+        [textOf](const Owned<Object>& shown) { return shown ? textOf(*shown) : std::string(kNone); },
+        objectOf);
 }
 
 } // namespace
 
 bool ser_evaluate(std::int32_t& value, std::string& text, bool toText) {
-    return EvaluateNumber(value, text, toText);
+    return Evaluate(value, text, toText, Digits<std::int32_t>, NumberOf<std::int32_t>);
 }
 
 bool ser_evaluate(float& value, std::string& text, bool toText) {
-    return EvaluateNumber(value, text, toText);
+    return Evaluate(value, text, toText, Digits<float>, NumberOf<float>);
 }
 
 bool ser_evaluate(double& value, std::string& text, bool toText) {
-    return EvaluateNumber(value, text, toText);
+    return Evaluate(value, text, toText, Digits<double>, NumberOf<double>);
 }
 
 bool ser_evaluate(Color& value, std::string& text, bool toText) {
-    if (toText) {
-        text = ColorText(value);
-        return true;
-    }
-    return Take(value, ColorOf(Trimmed(text)));
+    return Evaluate(value, text, toText, ColorText, ColorOf);
 }
 
 bool ser_evaluate(Owned<Pen>& value, std::string& text, bool toText) {
-    if (toText) {
-        text = value ? PenText(*value) : kNone;
-        return true;
-    }
-    return TakeObject(value, Trimmed(text), PenOf);
+    return EvaluateObject(value, text, toText, PenText, PenOf);
 }
 
 bool ser_evaluate(Owned<Font>& value, std::string& text, bool toText) {
-    if (toText) {
-        text = value ? FontText(*value) : kNone;
-        return true;
-    }
-    return TakeObject(value, Trimmed(text), FontOf);
+    return EvaluateObject(value, text, toText, FontText, FontOf);
 }
 
 bool ser_evaluate_vector(float& value, std::stringstream& stream, bool toText) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +17,13 @@ template <class Number, class... Format> std::string Digits(Number value, Format
     std::array<char, 720> digits; // the largest double has 309 digits before the point
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, format...).ptr;
     return {digits.data(), end};
+}
+
+/// Is this a whole number that is written with all its digits, and without an exponent? A double holds each
+/// one below this.
+inline bool IsPlainWhole(double value) {
+    constexpr double kMaxPlain = 1e15;
+    return std::trunc(value) == value && std::abs(value) < kMaxPlain;
 }
 
 /// Rounded to so many decimals, without needless zeros and without a negative zero.

@@ -1,0 +1,278 @@
+#include "documents/Curves.h"
+
+#include "documents/Fields.h"
+#include "documents/Palette.h"
+#include "documents/ValueRange.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <utility>
+
+namespace millichart::documents {
+namespace {
+
+using penlode::Diagnostic;
+using Times = std::vector<std::int32_t>;
+
+constexpr const char* kCurves = "curves";
+constexpr const char* kCurvesForm = "a list of curves, each with values and their times";
+const std::string kPlot = "property/CurvePlotProp";
+const std::string kNamesPlace = kPlot + "/CurveName";
+const std::string kHorAxis = "property/CurveHorAxisProp/";
+
+constexpr float kLineWidth = 0.4F;
+constexpr float kMarkerWidth = 1.6F;
+constexpr std::size_t kMaxLabels = 12;
+constexpr std::size_t kManyLabels = 2000;
+
+constexpr TableForm kCurveTable{.HeadedBy = TableForm::Heading::OverTime,
+                                .WidthForm = "as many as in the first row",
+                                .HeadingNames = "the curves' names",
+                                .HasTimes = true,
+                                .Gap = kCurveNull,
+                                .NoRows = "no rows of values",
+                                .RowsForm = "a row a time: the time or a label, and a value a curve"};
+
+/// Columns that a spreadsheet program added are no curves, unless the document names them. One is left.
+CurveData CurvesOf(Table table, std::size_t names) {
+    const std::size_t filled = table.Columns.size() - std::min(table.EmptyColumns, table.Columns.size());
+    if (const std::size_t kept = std::max({filled, names, std::size_t{1}}); kept < table.Columns.size()) {
+        table.Columns.resize(kept);
+    }
+    CurveData data;
+    data.CurveNames = std::move(table.Heading);
+    data.Values = std::move(table.Columns);
+    data.Times.assign(data.Values.size(), table.Times);
+    data.Labels = std::move(table.Names);
+    data.Origin = {std::move(table.File), std::move(table.Lines)};
+    return data;
+}
+
+std::vector<double> LoadValues(ChartStream& stream) {
+    std::vector<double> values = stream.LoadNumbersAndGaps("values");
+    std::replace_if(
+        values.begin(), values.end(), [](double value) { return std::isnan(value); }, kCurveNull);
+    return values;
+}
+
+Times LoadTimes(ChartStream& stream) {
+    const std::vector<double> numbers = stream.LoadNumbersAndGaps("times");
+    Times times(numbers.size());
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const bool isWhole =
+            numbers[i] >= -2147483648.0 && numbers[i] <= 2147483647.0 && std::trunc(numbers[i]) == numbers[i];
+        if (isWhole) {
+            times[i] = static_cast<std::int32_t>(numbers[i]);
+        } else {
+            stream.Refuse("times/" + std::to_string(i), "no whole number", "a whole number within 32 bits");
+        }
+    }
+    return times;
+}
+
+Times CountedTimes(std::size_t count) {
+    Times times(count);
+    std::iota(times.begin(), times.end(), 0);
+    return times;
+}
+
+std::vector<double> WithGaps(std::vector<double> values) {
+    std::replace_if(
+        values.begin(), values.end(), [](double value) { return value < kCurveNullThreshold; },
+        std::numeric_limits<double>::quiet_NaN());
+    return values;
+}
+
+/// Labels for an axis over times that has none of its own: whole numbers, evenly spread, from the first to
+/// the last.
+std::vector<std::string> TimeLabels(const std::vector<Times>& curves) {
+    std::int64_t first = INT64_MAX;
+    std::int64_t last = INT64_MIN;
+    for (const Times& times : curves) {
+        for (const std::int32_t time : times) {
+            first = std::min<std::int64_t>(first, time);
+            last = std::max<std::int64_t>(last, time);
+        }
+    }
+    if (first >= last) {
+        return {};
+    }
+    // As many parts, of those that look well, as give whole numbers; the ends alone if none does.
+    std::int64_t parts = 1;
+    for (const std::int64_t good : {10, 8, 6, 5, 9, 7, 4, 3, 2}) {
+        if ((last - first) % good == 0) {
+            parts = good;
+            break;
+        }
+    }
+    std::vector<std::string> labels;
+    for (std::int64_t i = 0; i <= parts; ++i) {
+        labels.push_back(std::to_string(first + (last - first) / parts * i));
+    }
+    return labels;
+}
+
+/// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
+std::int32_t ReadableStep(std::size_t count) {
+    for (std::int32_t power = 1; power < 1000000000; power *= 10) {
+        for (const std::int32_t digit : {1, 2, 5}) {
+            if (count / static_cast<std::size_t>(digit * power) < kMaxLabels) {
+                return digit * power;
+            }
+        }
+    }
+    return 1000000000;
+}
+
+/// A table of a million rows has as many labels. The chart measures all that it gets, whether a step passes
+/// over them or not, so that thousands are left empty where nobody sees them.
+void ForgetUnseen(std::vector<std::string>& labels, std::int32_t labelStep) {
+    if (labels.size() < kManyLabels || labelStep <= 1) {
+        return;
+    }
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        if (i % static_cast<std::size_t>(labelStep) != 0) {
+            labels[i] = std::string();
+        }
+    }
+}
+
+} // namespace
+
+void Curves::Load(ChartStream& stream, const DataSource& source) {
+    m_data = {};
+    const auto loadCurve = [&] {
+        m_data.Values.push_back(LoadValues(stream));
+        const std::size_t values = m_data.Values.back().size();
+        m_data.Times.push_back(stream.Has("times") ? LoadTimes(stream) : CountedTimes(values));
+        if (m_data.Times.back().size() != values) {
+            stream.Refuse("times", std::to_string(m_data.Times.back().size()),
+                          std::to_string(values) + ", one a value");
+        }
+    };
+    std::optional<Table> table = LoadList(
+        stream, source, {kCurves, kCurvesForm, "csv", kCurveTable, "no list"}, m_data.CurveNames, loadCurve);
+    std::vector<std::string> labels;
+    if (stream.Has("labels")) {
+        stream.Ser("labels", labels, {});
+    }
+    stream.Pop();
+    if (table) {
+        m_data = CurvesOf(*std::move(table), m_prop.Plot.CurveName.size());
+    }
+    // Labels belong to the data that they stand beside.
+    if (!labels.empty() && source.Table == nullptr) {
+        m_data.Labels = std::move(labels);
+    }
+}
+
+void Curves::Save(SavingStream& stream) const {
+    stream.Push("data", -1);
+    stream.ReplaceTable("csv", {kCurves, "labels"});
+    stream.Groups(kCurves, m_data.Values.size(), m_data.CurveNames, [&](std::size_t curve) {
+        stream.Numbers("values", WithGaps(m_data.Values[curve]));
+        const Times times = curve < m_data.Times.size() ? m_data.Times[curve] : Times();
+        stream.Numbers("times", std::vector<double>(times.begin(), times.end()));
+    });
+    stream.Ser("labels", m_data.Labels, {});
+    stream.Pop();
+}
+
+void Curves::TakeTableNames(bool inPlaceOfOwn) {
+    if (inPlaceOfOwn) { // else they stand with the curves
+        TakeNames(m_prop.Plot.CurveName, m_data.CurveNames, true);
+    }
+}
+
+void Curves::Complete(const LayoutTask& task) {
+    if (task.AreDataChanged) {
+        m_data.Origin = {};
+    }
+    CompleteNames(m_prop.Plot.CurveName, m_data.CurveNames, m_data.Values.size(),
+                  task.Open.contains(kNamesPlace));
+    CompleteLooks(task.Open);
+    if (m_data.Labels.empty()) {
+        m_data.Labels = TimeLabels(m_data.Times);
+    }
+    CompleteSteps(task.Open);
+    ForgetUnseen(m_data.Labels, m_prop.HorAxis.LabelStep);
+}
+
+/// Where the document leaves the look of lines open, they can be told apart and seen.
+void Curves::CompleteLooks(const OpenPlaces& open) {
+    CurvePlotProp& plot = m_prop.Plot;
+    const std::size_t count = plot.CurveName.size();
+    if (open.contains(kPlot + "/CurveColor")) {
+        plot.CurveColor = PaletteColors(count);
+    }
+    if (open.contains(kPlot + "/CurveDotColor")) {
+        plot.CurveDotColor = plot.CurveColor;
+    }
+    if (open.contains(kPlot + "/CurveWidth")) {
+        plot.CurveWidth.assign(count, kLineWidth);
+    }
+    if (open.contains(kPlot + "/CurveDotWidth")) {
+        plot.CurveDotWidth.assign(count, kMarkerWidth);
+    }
+}
+
+void Curves::CompleteSteps(const OpenPlaces& open) {
+    CurveHorAxisProp& axis = m_prop.HorAxis;
+    for (const auto& [key, step] : {std::pair("ScaleStep", &axis.ScaleStep),
+                                    {"LabelStep", &axis.LabelStep},
+                                    {"VerGridStep", &axis.VerGridStep}}) {
+        if (open.contains(kHorAxis + key)) {
+            *step = ReadableStep(m_data.Labels.size());
+        }
+    }
+}
+
+double Curves::Largest() const {
+    double largest = -HUGE_VAL;
+    for (const std::vector<double>& values : m_data.Values) {
+        for (const double value : values) {
+            largest = std::max(largest, value);
+        }
+    }
+    return largest < kCurveNullThreshold ? -HUGE_VAL : largest;
+}
+
+void Curves::Check(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {
+    diagnostics = PlotSizeFaults(kPlot, m_prop.Plot.PlotWidth, m_prop.Plot.PlotHeight);
+    const std::vector<std::string>& names = m_prop.Plot.CurveName;
+    if (!m_data.Origin.File.empty() && AreOthers(names, m_data.CurveNames)) {
+        diagnostics.push_back(OtherNames(kNamesPlace));
+    }
+    CheckRange(chart, diagnostics);
+    if (const std::size_t curves = m_data.Values.size(); names.size() != curves) {
+        diagnostics.push_back(WrongCount(kNamesPlace, names.size(), "name", curves, "one a curve"));
+    }
+}
+
+void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {
+    const CurvePlotProp& plot = m_prop.Plot;
+    RangeCheck range(chart, plot.LogarithmScale != 0);
+    for (std::size_t curve = 0; curve < m_data.Values.size(); ++curve) {
+        const bool nullsAreZero =
+            curve < plot.NullValueStyle.size() && plot.NullValueStyle[curve] != CurveNullValueStyle::Break;
+        for (std::size_t i = 0; i < m_data.Values[curve].size(); ++i) {
+            const double value = m_data.Values[curve][i];
+            const bool isNull = value < kCurveNullThreshold;
+            if (!isNull || nullsAreZero) {
+                range.Look(isNull ? 0.0 : value, curve, i);
+            }
+        }
+    }
+    range.AddTo(diagnostics, [this](std::size_t curve, std::size_t i) {
+        return AtValue(m_data.Origin, i, curve + 1,
+                       "data/curves/" + std::to_string(curve) + "/values/" + std::to_string(i));
+    });
+}
+
+Diagnostic Curves::Emptiness() const {
+    return NothingIn(m_data.Origin, "data/curves", "a curve with values");
+}
+
+} // namespace millichart::documents

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "charts/curve/BasicCurve.h"
+#include "documents/ChartData.h"
+#include "documents/DataSource.h"
+#include "documents/LayoutTask.h"
+#include "documents/SavingStream.h"
+
+#include <vector>
+
+namespace millichart::documents {
+
+/// The curves of a document.
+class Curves {
+public:
+    Curves(CurveData& data, CurveProp& prop) : m_data(data), m_prop(prop) {}
+
+    /// The stream's group "data": "curves", each a name, values and their times, or "csv" with a table of
+    /// times and values a curve; and "labels". What is wrong is told.
+    void Load(ChartStream& stream, const DataSource& source);
+
+    void Save(SavingStream& stream) const;
+
+    void TakeTableNames(bool inPlaceOfOwn);
+
+    /// Completes the record and the labels.
+    void Complete(const LayoutTask& task);
+
+    /// The largest value that is not null. -infinity when there is none.
+    double Largest() const;
+
+    /// Warns of what was hardly meant. The chart has its range.
+    void Check(const CBasicCurve& chart, std::vector<penlode::Diagnostic>& diagnostics) const;
+
+    /// What is told of a chart that has nothing to draw.
+    penlode::Diagnostic Emptiness() const;
+
+private:
+    void CompleteLooks(const OpenPlaces& open);
+    void CompleteSteps(const OpenPlaces& open);
+    void CheckRange(const CBasicCurve& chart, std::vector<penlode::Diagnostic>& diagnostics) const;
+
+    CurveData& m_data;
+    CurveProp& m_prop;
+};
+
+} // namespace millichart::documents
