@@ -1,5 +1,6 @@
 # The headers that a host gets, as paths below src/: each that declares something a library exports, the one that
-# includes them all, that of the documents, and every header that one of these includes.
+# includes them all, that of the documents, and every header that one of these includes. The engine of another
+# platform is none of them.
 function(public_headers result)
   set(waiting millichart.h documents/ChartDocument.h)
   file(GLOB_RECURSE all RELATIVE ${PROJECT_SOURCE_DIR}/src CONFIGURE_DEPENDS src/*.h)
@@ -21,6 +22,11 @@ function(public_headers result)
       list(APPEND waiting ${included})
     endif()
   endwhile()
+  if(WIN32)
+    list(FILTER found EXCLUDE REGEX "^penlode/cairo/")
+  else()
+    list(FILTER found EXCLUDE REGEX "^penlode/gdiplus/")
+  endif()
   if(NOT MILLICHART_DOCUMENTS)
     list(FILTER found EXCLUDE REGEX "^(documents/|penlode/streams/Json)")
   endif()

@@ -153,7 +153,7 @@ std::string WriteFile(const std::string& name, std::string_view bytes,
     if (!error) {
         return {};
     }
-    const std::string reason = error.default_error_condition().message();
+    const std::string reason = error.message();
     fs::remove(part, error);
     return "cannot be written: " + reason;
 }

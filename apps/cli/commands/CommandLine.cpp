@@ -57,9 +57,9 @@ void AddParsed(CLI::App& command, const std::string& name, Target& target, bool 
 }
 
 void AddDraw(CLI::App& app, DrawOptions& options) {
-    const std::string page = kPlatform.PageName;
     const std::string formats = FormatList();
-    CLI::App& draw = *app.add_subcommand("draw", "Draw chart documents as PNG, SVG or " + page);
+    const std::string pageName = kPlatform.PageName;
+    CLI::App& draw = *app.add_subcommand("draw", "Draw chart documents as PNG, SVG or " + pageName);
     draw.add_option("FILE", options.Inputs, "chart documents (JSON); - is the standard input")->required();
     draw.add_option("-o,--output", options.Output,
                     "the picture, a folder for the pictures, or - for the standard output; without it "
@@ -82,7 +82,7 @@ void AddDraw(CLI::App& app, DrawOptions& options) {
         "WIDTHxHEIGHT in mm, with the chart in its middle; without it the chart and a margin of 5 mm");
     AddParsed<penlode::Color>(
         draw, "--background", options.Background, ParseBackground, "a colour such as #FF336699, or none",
-        "#RRGGBB, #AARRGGBB or none; without it white, for " + page + " the bare paper");
+        "#RRGGBB, #AARRGGBB or none; without it white, for " + pageName + " the bare paper");
     draw.add_flag("--outlines", options.TextAsOutlines, "write an SVG's texts as glyph outlines");
     draw.add_flag("-v,--verbose", options.Verbose, "tell which faces the fonts are drawn in");
 }

@@ -9,6 +9,7 @@ namespace cli {
 /// The words of the command line after the program, in UTF-8 where the system has an encoding of its own.
 std::vector<std::string> Arguments(int argc, char** argv);
 
+/// One that escape sequences steer.
 bool ErrorsGoToTerminal();
 bool OutputGoesToTerminal();
 

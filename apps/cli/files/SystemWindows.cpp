@@ -21,10 +21,15 @@ namespace {
 
 std::timed_mutex g_writing;
 
-bool IsConsole(DWORD stream) {
-    DWORD mode = 0;
-    return GetConsoleMode(GetStdHandle(stream), &mode) != 0;
-}
+struct Console {
+    explicit Console(DWORD stream) : Handle(GetStdHandle(stream)) {
+        IsThere = GetConsoleMode(Handle, &Mode) != 0;
+    }
+
+    HANDLE Handle;
+    DWORD Mode = 0;
+    bool IsThere;
+};
 
 /// A console takes UTF-16, whatever code page it is set to; texts are flushed by whole characters.
 class ConsoleText final : public std::stringbuf {
@@ -54,11 +59,11 @@ private:
 /// On a console the stream writes wide texts and may steer it; elsewhere it writes bytes as they are.
 void PrepareOutput(std::ostream& stream, std::FILE* file, DWORD number) {
     _setmode(_fileno(file), _O_BINARY);
-    const HANDLE console = GetStdHandle(number);
-    DWORD mode = 0;
-    if (GetConsoleMode(console, &mode) != 0) {
-        SetConsoleMode(console, mode | ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
-        stream.rdbuf(new ConsoleText(console)); // for ever, as streams are flushed when the program ends
+    if (const Console console(number); console.IsThere) {
+        SetConsoleMode(console.Handle,
+                       console.Mode | ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+        // For ever, as streams are flushed when the program ends.
+        stream.rdbuf(new ConsoleText(console.Handle));
     }
 }
 
@@ -107,11 +112,11 @@ std::vector<std::string> Arguments(int /*argc*/, char** /*argv*/) {
 }
 
 bool ErrorsGoToTerminal() {
-    return IsConsole(STD_ERROR_HANDLE);
+    return (Console(STD_ERROR_HANDLE).Mode & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
 bool OutputGoesToTerminal() {
-    return IsConsole(STD_OUTPUT_HANDLE);
+    return Console(STD_OUTPUT_HANDLE).IsThere;
 }
 
 void PrepareSystem() {
