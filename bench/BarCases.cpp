@@ -1,7 +1,7 @@
 #include "BarsByHand.h"
 #include "Suite.h"
 #include "millichart.h"
-#include "penlode/cairo/GraphicsEngine.h"
+#include "penlode/GraphicsEngine.h"
 #include "penlode/svg/SvgEngine.h"
 
 #include <memory>

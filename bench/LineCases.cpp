@@ -1,7 +1,7 @@
 #include "LineByHand.h"
 #include "Series.h"
 #include "Suite.h"
-#include "penlode/cairo/GraphicsEngine.h"
+#include "penlode/GraphicsEngine.h"
 
 #include <random>
 

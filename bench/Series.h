@@ -1,7 +1,7 @@
 #pragma once
 
 #include "millichart.h"
-#include "penlode/cairo/GraphicsEngine.h"
+#include "penlode/GraphicsEngine.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
 /// Everything that a host needs: the charts, their records, the serializers and the streams. The engine that
-/// a host draws on is included by its own header, such as penlode/cairo/GraphicsEngine.h.
+/// a host draws on is included by its own header: penlode/GraphicsEngine.h, this platform's.
 ///
 /// <windows.h> may come before or after, with or without its macros. <X11/Xlib.h> comes after: its macros
 /// Status and None are names here. A host that names either behind both undefines the macro first.

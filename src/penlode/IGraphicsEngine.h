@@ -56,12 +56,13 @@ using DrawImageAbort = bool (*)(void* callbackData);
 /// meaning up to the terminator; "\n" breaks a line, and nothing else does. A line of more than 8192
 /// characters ends there. Pens, brushes, fonts, paths and images stay the caller's and are not kept.
 ///
-/// A call with a null pen, brush, font, text, path, image or list of points, with a number that is not
-/// finite, or with a font of no size is an InvalidParameter and changes nothing. What has no extent draws
-/// nothing, and is Ok: a rectangle of negative width or height, a fill, an ellipse, an arc or a pie without
-/// width or height, a line of fewer than two points, an area of fewer than three. A pen draws a rectangle
-/// without width or height as a line. Under a transform that folds the plane to a line nothing can be seen,
-/// and all is Ok.
+/// A call with a null pen, brush, font, text, path, image or list of points or with a number that is not
+/// finite is an InvalidParameter and changes nothing; so is a text drawn in a font of no size, which measures
+/// nothing. What has no extent draws nothing, and is Ok: a rectangle of negative width or height, a fill, an
+/// ellipse, an arc or a pie without width or height, a line of fewer than two points, an area of fewer than
+/// three. A pen draws a rectangle without width or height as a line. Under a transform that folds the plane
+/// to a line nothing can be seen, and what draws is Ok; there is no way back to world coordinates, which
+/// GetClip and TransformPoints refuse.
 ///
 /// The order of the operations is part of the interface; a compiler may still lay out overloads in an order
 /// of its own.

@@ -5,7 +5,6 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
-#include <array>
 
 namespace penlode {
 namespace {
@@ -59,7 +58,7 @@ public:
     }
 
     void operator()(const StringFormat& format) {
-        Word(NameOf(kAlignments, format.Alignment) + "-" + NameOf(kAlignments, format.LineAlignment));
+        Word(NameOf(kAlignmentNames, format.Alignment) + "-" + NameOf(kAlignmentNames, format.LineAlignment));
     }
 
     void operator()(const GraphicsPath& path) {
@@ -122,23 +121,17 @@ public:
         }
     }
 
-    void operator()(CombineMode mode) { Word(NameOf(kModes, mode)); }
+    void operator()(CombineMode mode) { Word(NameOf(kCombineModeNames, mode)); }
 
     void operator()(MatrixOrder order) { Word(order == MatrixOrder::Prepend ? "prepend" : "append"); }
 
-    void operator()(Unit unit) { Word(NameOf(kUnits, unit)); }
+    void operator()(Unit unit) { Word(NameOf(kUnitNames, unit)); }
 
-    void operator()(SmoothingMode mode) { Word(NameOf(kSmoothing, mode)); }
+    void operator()(SmoothingMode mode) { Word(NameOf(kSmoothingModeNames, mode)); }
 
     std::string Take() { return std::move(m_text); }
 
 private:
-    static constexpr std::array kAlignments{"near", "center", "far"};
-    static constexpr std::array kModes{"replace", "intersect", "union", "xor", "exclude", "complement"};
-    static constexpr std::array kUnits{"world", "display",  "pixel",     "point",
-                                       "inch",  "document", "millimeter"};
-    static constexpr std::array kSmoothing{"default", "high-speed", "high-quality", "none", "antialias"};
-
     void Word(const std::string& word) { m_text += " " + word; }
 
     static std::string Hex(Color color) { return "#" + HexDigits(color.Argb, 8); }

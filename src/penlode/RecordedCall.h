@@ -3,11 +3,20 @@
 #include "penlode/IGraphicsEngine.h"
 #include "penlode/Region.h"
 
+#include <array>
 #include <string>
 #include <variant>
 #include <vector>
 
 namespace penlode {
+
+/// The names of enumerators in their order, for whoever writes calls down.
+inline constexpr std::array kAlignmentNames{"near", "center", "far"};
+inline constexpr std::array kCombineModeNames{"replace", "intersect", "union",
+                                              "xor",     "exclude",   "complement"};
+inline constexpr std::array kUnitNames{"world", "display",  "pixel",     "point",
+                                       "inch",  "document", "millimeter"};
+inline constexpr std::array kSmoothingModeNames{"default", "high-speed", "high-quality", "none", "antialias"};
 
 /// One call that an engine got: the operation's name and its arguments in order, each with a name of its own
 /// in the call. A null pointer is a monostate.

@@ -1,8 +1,10 @@
+#include "penlode/svg/SvgEngine.h"
 #include "support/PictureDifference.h"
 #include "support/Rasterised.h"
 
 #include <array>
 #include <gtest/gtest.h>
+#include <regex>
 
 using namespace penlode;
 
@@ -104,6 +106,26 @@ const Pair kPairs[] = {
      [](IGraphicsEngine& g) { g.DrawRectangle(&kPen, 5, 5, 150, 150); }},
     {"a box", [](IGraphicsEngine& g) { g.FillRectangle(&kBrush, 10, -1e9F, 2e9F, 2e9F); },
      [](IGraphicsEngine& g) { g.FillRectangle(&kBrush, 10, -100, 200, 200); }},
+    {"a tower",
+     [](IGraphicsEngine& g) {
+         GraphicsPath path;
+         path.AddLine({5, 5}, {5, 1e7F});
+         path.AddLine({20, 1e7F}, {20, 5});
+         g.FillPath(&kBrush, &path);
+         g.FillRectangle(&kBrush, 25, 5 - 1e6F, 10, 1e6F);
+     },
+     [](IGraphicsEngine& g) {
+         g.FillRectangle(&kBrush, 5, 5, 15, 100);
+         g.FillRectangle(&kBrush, 25, -100, 10, 105);
+     }},
+    {"a flat arc",
+     [](IGraphicsEngine& g) {
+         GraphicsPath path;
+         path.AddLine({5, 5}, {20, 5});
+         path.AddArc({20, 5 - 1e7F, 0, 2e7F}, 0, 90);
+         g.FillPath(&kBrush, &path);
+     },
+     [](IGraphicsEngine& g) { g.FillRectangle(&kBrush, 5, 5, 15, 100); }},
     {"a wedge",
      [](IGraphicsEngine& g) {
          Area(g, {{5, 3}, {100000005.0F, 50000003.0F}, {5, 1e8F}});
@@ -162,6 +184,11 @@ TEST(FarShapes, LookAsTheirNearPartsDo) {
                     draw(g);
                 });
             };
+            CSvgEngine svg(kRaster.Page);
+            svg.SetTransform(&map);
+            pair.Far(svg);
+            EXPECT_FALSE(std::regex_search(svg.Text(), std::regex("[ ,\"ML-][0-9]{6}")))
+                << pair.Name << " gives viewers numbers that floats do not hold";
             const auto far = under(pair.Far);
             const auto near = under(pair.Near);
             for (std::size_t i = 0; i < far.size(); ++i) {

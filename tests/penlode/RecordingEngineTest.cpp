@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <utility>
 
 using namespace penlode;
 
@@ -55,10 +56,21 @@ TEST(RecordingEngine, AnswersQueriesFromItsState) {
     std::int32_t characters = 0;
     std::int32_t lines = 0;
     const Font font{L"宋体", 4.0F};
-    engine.MeasureString(L"ab\nc", -1, &font, RectF{10, 20, 100, 7}, nullptr, &bounds, &characters, &lines);
+    const auto fits = [&](const wchar_t* text, const Font& face, float height) {
+        EXPECT_EQ(engine.MeasureString(text, -1, &face, RectF{10, 20, 1, height}, nullptr, &bounds,
+                                       &characters, &lines),
+                  Status::Ok);
+        return std::pair(lines, characters);
+    };
+    EXPECT_EQ(fits(L"ab\nc", font, 4.9F), std::pair(0, 0));
     EXPECT_EQ(bounds, (RectF{10, 20, 4, 10}));
-    EXPECT_EQ(lines, 1);
-    EXPECT_EQ(characters, 3);
+    EXPECT_EQ(fits(L"ab\nc", font, 5), std::pair(1, 3));
+    EXPECT_EQ(fits(L"ab\nc", font, 0.1F), std::pair(0, 0));
+    EXPECT_EQ(fits(L"ab\nc", font, 99), std::pair(2, 4));
+    EXPECT_EQ(fits(L"ab\nc", font, 0), std::pair(2, 4));
+    EXPECT_EQ(fits(L"ab\nc", {L"宋体", 0.0F}, 7), std::pair(2, 4));
+    EXPECT_EQ(fits(L"", font, 7), std::pair(0, 0));
+    EXPECT_EQ(engine.MeasureString(L"a", -1, &font, RectF{}, nullptr, nullptr, nullptr, nullptr), Status::Ok);
     EXPECT_EQ(engine.Text(), "TranslateTransform 3 4 prepend\n");
 }
 
@@ -68,22 +80,74 @@ TEST(RecordingEngine, BadArgumentsAreRecordedAndRefused) {
     const Pen wild(kBlack, INFINITY);
     const SolidBrush brush;
     const Font none{L"宋体", 0.0F};
+    const Font some;
     const Image broken{2, 2, 96.0F, 96.0F, {kBlack}};
     const Image whole{1, 1, 96.0F, 96.0F, {kBlack}};
-    const PointF points[] = {{0, 0}, {NAN, 1}};
+    const Font wildFont{L"宋体", NAN};
+    const PointF points[] = {{0, 0}, {NAN, 1}, {9, 9}};
     GraphicsPath path;
     path.AddLines(points);
-    for (const Status status :
-         {engine.DrawLine(&pen, 0, 0, NAN, 1), engine.DrawLine(&wild, 0, 0, 1, 1),
-          engine.DrawLines(&pen, points, 2), engine.DrawLines(&pen, points, -1),
-          engine.FillPie(&brush, {0, 0, 1, 1}, 0, INFINITY), engine.FillPath(&brush, &path),
-          engine.SetClip(&path, CombineMode::Replace), engine.DrawString(L"a", -1, &none, PointF{}, &brush),
-          engine.DrawImage(&broken, RectF{0, 0, 1, 1}),
-          engine.DrawImage(&whole, {0, 0, 1, 1}, 0, 0, 1, 1, Unit::World, nullptr, nullptr, nullptr)}) {
-        EXPECT_EQ(status, Status::InvalidParameter);
-    }
-    EXPECT_EQ(engine.Calls().size(), 10U);
-    PointF point;
+    GraphicsPath curve;
+    curve.AddBezier({0, 0}, {NAN, 1}, {1, 1}, {9, 9});
+    GraphicsPath arc;
+    arc.AddArc({0, 0, 1, 1}, NAN, 90);
+    Region region;
+    region.Combine(Region(curve), CombineMode::Intersect);
+    const auto noMode = static_cast<CombineMode>(6);
+    const std::vector<Status> statuses{
+        engine.DrawLine(nullptr, 0, 0, 9, 9),
+        engine.DrawLine(&pen, 0, 0, NAN, 1),
+        engine.DrawLine(&wild, 0, 0, 1, 1),
+        engine.DrawLines(&pen, nullptr, 3),
+        engine.DrawLines(&pen, points, 3),
+        engine.DrawLines(&pen, points, -1),
+        engine.DrawRectangle(nullptr, 0, 0, 9, 9),
+        engine.DrawArc(&pen, 0, 0, 9, 9, NAN, 9),
+        engine.DrawEllipse(&pen, 0, 0, INFINITY, 9),
+        engine.DrawPie(nullptr, {0, 0, 9, 9}, 0, 90),
+        engine.DrawPolygon(&pen, points, -1),
+        engine.DrawCurve(&pen, nullptr, 3),
+        engine.DrawCurve(&pen, points, 3),
+        engine.FillRectangle(nullptr, 0, 0, 9, 9),
+        engine.FillEllipse(&brush, NAN, 0, 9, 9),
+        engine.FillPie(&brush, {0, 0, 1, 1}, 0, INFINITY),
+        engine.FillPolygon(nullptr, points, 3),
+        engine.FillPath(&brush, nullptr),
+        engine.FillPath(&brush, &path),
+        engine.FillPath(&brush, &curve),
+        engine.FillPath(&brush, &arc),
+        engine.SetClip(&path, CombineMode::Replace),
+        engine.SetClip(&std::as_const(region), CombineMode::Replace),
+        engine.SetClip(RectF{0, 0, NAN, 0}, CombineMode::Replace),
+        engine.SetClip(static_cast<const GraphicsPath*>(nullptr), CombineMode::Replace),
+        engine.SetClip(static_cast<Region*>(nullptr), CombineMode::Replace),
+        engine.SetClip(RectF{}, noMode),
+        engine.DrawString(nullptr, -1, &some, PointF{}, &brush),
+        engine.DrawString(L"a", -1, nullptr, PointF{}, &brush),
+        engine.DrawString(L"a", -1, &some, PointF{}, nullptr),
+        engine.DrawString(L"a", -1, &none, PointF{}, &brush),
+        engine.DrawString(L"a", -1, &wildFont, PointF{}, &brush),
+        engine.DrawString(L"a", -1, &some, points[1], &brush),
+        engine.DrawImage(nullptr, RectF{0, 0, 9, 9}),
+        engine.DrawImage(&broken, RectF{0, 0, 1, 1}),
+        engine.DrawImage(&whole, RectF{NAN, 0, 1, 1}),
+        engine.DrawImage(&whole, {0, 0, 1, 1}, 0, 0, 1, 1, Unit::World, nullptr, nullptr, nullptr),
+        engine.SetTransform(nullptr),
+        engine.EndContainer(77),
+        engine.SetSmoothingMode(static_cast<SmoothingMode>(9))};
+    EXPECT_EQ(statuses, std::vector<Status>(statuses.size(), Status::InvalidParameter));
+    EXPECT_EQ(engine.Calls().size(), statuses.size());
+    EXPECT_EQ(engine.DrawLines(&pen, points, 1), Status::Ok);
+    EXPECT_EQ(engine.GetClip(nullptr), Status::InvalidParameter);
+    EXPECT_EQ(engine.MeasureString(L"a", -1, nullptr, PointF{}, nullptr), Status::InvalidParameter);
+    PointF point{NAN, 0};
+    EXPECT_EQ(engine.MeasureString(L"a", -1, &some, point, nullptr), Status::InvalidParameter);
+    EXPECT_EQ(engine.MeasureString(nullptr, -1, &some, PointF{}, nullptr), Status::InvalidParameter);
+    const GradientVertex vertex{};
+    const GradientRect mesh{0, 0};
+    EXPECT_EQ(engine.GradientFill({}, {}, nullptr, 0, &mesh, 0, GradientMode::RectH), 0);
+    EXPECT_EQ(engine.GradientFill({}, {}, &vertex, 1, nullptr, 0, GradientMode::RectH), 0);
+    EXPECT_EQ(engine.GradientFill({}, {}, &vertex, 1, &mesh, 0, GradientMode::Triangle), 1);
     for (const auto space : {static_cast<CoordinateSpace>(-1), static_cast<CoordinateSpace>(3)}) {
         EXPECT_EQ(engine.TransformPoints(space, CoordinateSpace::World, &point, 1), Status::InvalidParameter);
         EXPECT_EQ(engine.TransformPoints(CoordinateSpace::World, space, &point, 1), Status::InvalidParameter);

@@ -12,11 +12,6 @@ namespace {
 
 using namespace penlode;
 
-constexpr std::array kAlignments{"near", "center", "far"};
-constexpr std::array kModes{"replace", "intersect", "union", "xor", "exclude", "complement"};
-constexpr std::array kUnits{"world", "display", "pixel", "point", "inch", "document", "millimeter"};
-constexpr std::array kSmoothing{"default", "high-speed", "high-quality", "none", "antialias"};
-
 template <class E, std::size_t N> Json NameOf(const std::array<const char*, N>& names, E value) {
     const auto index = static_cast<std::size_t>(value);
     return index < N ? Json(names[index]) : Json(static_cast<std::int64_t>(value));
@@ -59,7 +54,7 @@ struct ArgumentToJson {
 
     Json operator()(const StringFormat& format) const {
         return Json::array(
-            {NameOf(kAlignments, format.Alignment), NameOf(kAlignments, format.LineAlignment)});
+            {NameOf(kAlignmentNames, format.Alignment), NameOf(kAlignmentNames, format.LineAlignment)});
     }
 
     Json operator()(const GraphicsPath& path) const {
@@ -77,7 +72,7 @@ struct ArgumentToJson {
     Json operator()(const Region& region) const {
         Json steps = Json::array();
         for (const Region::Step& step : region.Steps()) {
-            steps.push_back({{"mode", NameOf(kModes, step.Mode)},
+            steps.push_back({{"mode", NameOf(kCombineModeNames, step.Mode)},
                              {KindOf(step.Operand), std::visit(*this, step.Operand)}});
         }
         return steps;
@@ -121,13 +116,13 @@ struct ArgumentToJson {
         return rows;
     }
 
-    Json operator()(CombineMode mode) const { return NameOf(kModes, mode); }
+    Json operator()(CombineMode mode) const { return NameOf(kCombineModeNames, mode); }
 
     Json operator()(MatrixOrder order) const { return order == MatrixOrder::Prepend ? "prepend" : "append"; }
 
-    Json operator()(Unit unit) const { return NameOf(kUnits, unit); }
+    Json operator()(Unit unit) const { return NameOf(kUnitNames, unit); }
 
-    Json operator()(SmoothingMode mode) const { return NameOf(kSmoothing, mode); }
+    Json operator()(SmoothingMode mode) const { return NameOf(kSmoothingModeNames, mode); }
 
 private:
     static const char* KindOf(const Region::Shape& shape) {

@@ -2,10 +2,9 @@
 
 #include "penlode/cairo/CairoOutline.h"
 #include "penlode/engine/PixelGrid.h"
+#include "penlode/engine/RegionFold.h"
 
 #include <array>
-#include <optional>
-#include <utility>
 
 namespace penlode {
 namespace {
@@ -17,87 +16,52 @@ using EvenOddArea = std::vector<Region::Shape>;
 /// What lies in all of the areas; no area at all is the whole plane.
 using Intersection = std::vector<EvenOddArea>;
 
-std::optional<Intersection> Reduced(const Region& region);
+/// Regions that are plain intersections. An area that comes twice stays twice, as its soft edges show it.
+class Intersections {
+public:
+    /// A region that is no plain intersection.
+    bool IsExhausted() const { return m_isExhausted; }
 
-std::optional<Intersection> Reduced(const Region::Shape& shape) {
-    if (std::holds_alternative<Region::Everything>(shape)) {
-        return Intersection{};
-    }
-    if (std::holds_alternative<Region::Nothing>(shape)) {
-        return Intersection{EvenOddArea{}};
-    }
-    if (const auto* nested = std::get_if<Region::Nested>(&shape)) {
-        return Reduced(*nested->Area);
-    }
-    return Intersection{EvenOddArea{shape}};
-}
+    Intersection Of(const Region::Everything&) const { return {}; }
 
-bool IsNothing(const Intersection& areas) {
-    return areas.size() == 1 && areas.front().empty();
-}
+    Intersection Of(const Region::Nothing&) const { return {EvenOddArea{}}; }
 
-std::optional<EvenOddArea> AsOneArea(const Intersection& areas) {
-    if (areas.size() > 1) {
-        return std::nullopt;
-    }
-    return areas.empty() ? EvenOddArea{Region::Everything{}} : areas.front();
-}
+    Intersection Of(const Region::Shape& shape) const { return {EvenOddArea{shape}}; }
 
-std::optional<Intersection> Both(Intersection a, const Intersection& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
-
-std::optional<Intersection> OneOfBoth(const Intersection& a, const Intersection& b) {
-    std::optional<EvenOddArea> area = AsOneArea(a);
-    const std::optional<EvenOddArea> other = AsOneArea(b);
-    if (!area || !other) {
-        return std::nullopt;
-    }
-    area->insert(area->end(), other->begin(), other->end());
-    return Intersection{std::move(*area)};
-}
-
-std::optional<Intersection> FirstOnly(const Intersection& first, const Intersection& second) {
-    const std::optional<Intersection> rest = OneOfBoth(second, {});
-    return rest ? Both(first, *rest) : std::nullopt;
-}
-
-std::optional<Intersection> EitherOf(const Intersection& a, const Intersection& b) {
-    if (a.empty() || IsNothing(b)) {
+    Intersection Both(Intersection a, const Intersection& b) const {
+        a.insert(a.end(), b.begin(), b.end());
         return a;
     }
-    return b.empty() || IsNothing(a) ? std::optional(b) : std::nullopt;
-}
 
-std::optional<Intersection> Joined(const Intersection& old, const Intersection& operand, CombineMode mode) {
-    switch (mode) {
-    case CombineMode::Intersect:
-        return Both(old, operand);
-    case CombineMode::Union:
-        return EitherOf(old, operand);
-    case CombineMode::Xor:
-        return OneOfBoth(old, operand);
-    case CombineMode::Exclude:
-        return FirstOnly(old, operand);
-    case CombineMode::Complement:
-        return FirstOnly(operand, old);
-    default:
-        return operand;
-    }
-}
-
-std::optional<Intersection> Reduced(const Region& region) {
-    std::optional<Intersection> areas = Intersection{};
-    for (const Region::Step& step : region.Steps()) {
-        const std::optional<Intersection> operand = Reduced(step.Operand);
-        areas = areas && operand ? Joined(*areas, *operand, step.Mode) : std::nullopt;
-        if (!areas) {
-            return std::nullopt;
+    Intersection Either(const Intersection& a, const Intersection& b) {
+        if (a.empty() || IsNothing(b)) {
+            return a;
         }
+        m_isExhausted = m_isExhausted || !(b.empty() || IsNothing(a));
+        return b;
     }
-    return areas;
-}
+
+    Intersection OneOf(const Intersection& a, const Intersection& b) {
+        m_isExhausted = m_isExhausted || a.size() > 1 || b.size() > 1;
+        EvenOddArea area = AsOneArea(a);
+        const EvenOddArea other = AsOneArea(b);
+        area.insert(area.end(), other.begin(), other.end());
+        return {area};
+    }
+
+    Intersection Without(const Intersection& first, const Intersection& second) {
+        return Both(first, OneOf(second, {}));
+    }
+
+private:
+    static bool IsNothing(const Intersection& areas) { return areas.size() == 1 && areas.front().empty(); }
+
+    static EvenOddArea AsOneArea(const Intersection& areas) {
+        return areas.empty() ? EvenOddArea{Region::Everything{}} : areas.front();
+    }
+
+    bool m_isExhausted = false;
+};
 
 /// Adds shapes to a context's path.
 struct ShapeAdder {
@@ -190,12 +154,13 @@ void ClipTo(cairo_t* context, const EvenOddArea& area, const ClipSetting& settin
 void CairoClip::Apply(cairo_t* context, const std::vector<Region>& regions, const ClipSetting& setting) {
     m_masks.clear();
     for (const Region& region : regions) {
-        const std::optional<Intersection> areas = Reduced(region);
-        if (!areas) {
+        Intersections algebra;
+        const Intersection areas = Folded(region, algebra);
+        if (algebra.IsExhausted()) {
             m_masks.push_back(MaskOf(context, region, setting));
             continue;
         }
-        for (const EvenOddArea& area : *areas) {
+        for (const EvenOddArea& area : areas) {
             ClipTo(context, area, setting);
         }
     }

@@ -107,9 +107,9 @@ void FillTriangle(const Painter& painter, const std::array<ColoredPoint, 3>& cor
     const std::vector<PointD> cut =
         ClippedPolygon({corners[0].Place, corners[1].Place, corners[2].Place}, painter.GuardBand());
     const CairoPattern mesh(cairo_pattern_create_mesh());
-    const auto tinted = [&](PointD p) { return ColoredPoint{p, RgbAt(corners, p)}; };
+    const auto colored = [&](PointD p) { return ColoredPoint{p, RgbAt(corners, p)}; };
     for (std::size_t i = 2; i < cut.size(); ++i) {
-        const std::array<ColoredPoint, 3> piece{tinted(cut[0]), tinted(cut[i - 1]), tinted(cut[i])};
+        const std::array<ColoredPoint, 3> piece{colored(cut[0]), colored(cut[i - 1]), colored(cut[i])};
         AddPatch(mesh.get(), piece);
     }
     cairo_set_source(painter.Context(), mesh.get());

@@ -49,7 +49,7 @@ void StrokeInPenShape(const Painter& painter) {
     painter.SetMatrix({});
 }
 
-/// A stretch of a polyline, its dashes as the whole line has them there.
+/// A section of a polyline, its dashes as the whole line has them there.
 void StrokePart(const Painter& painter, std::span<const PointD> points, double before,
                 const std::vector<double>& dashes) {
     cairo_t* context = painter.Context();

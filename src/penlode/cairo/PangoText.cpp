@@ -177,7 +177,7 @@ private:
         int scaleX = 0;
         int scaleY = 0;
         hb_font_get_scale(shaper, &scaleX, &scaleY);
-        const double em = scaleY == 0 ? kShapingEm * PANGO_SCALE : std::abs(scaleY);
+        const double em = std::abs(scaleY);
         return {extents.ascender / em, -extents.descender / em};
     }
 

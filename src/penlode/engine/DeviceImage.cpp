@@ -10,15 +10,13 @@ constexpr std::int32_t kRowsPerQuestion = 64;
 
 constexpr double kMaxScale = 32767.0;
 
-/// The whole pixels that hold the part of the source inside the image.
-PixelRect Covered(const Image& image, const BoxD& source) {
-    const BoxD inside =
-        Common(source, {0.0, 0.0, static_cast<double>(image.Width), static_cast<double>(image.Height)});
-    const auto left = static_cast<std::int32_t>(std::min<double>(std::floor(inside.Left), image.Width));
-    const auto top = static_cast<std::int32_t>(std::min<double>(std::floor(inside.Top), image.Height));
-    const auto right = static_cast<std::int32_t>(std::min<double>(std::ceil(inside.Right), image.Width));
-    const auto bottom = static_cast<std::int32_t>(std::min<double>(std::ceil(inside.Bottom), image.Height));
-    return {left, top, right - left, bottom - top};
+/// The image's whole pixels that hold its visible part.
+PixelRect Covered(const BoxD& image, const BoxD& visible) {
+    const BoxD whole = RoundedOut(visible);
+    const PointD from = image.Nearest({whole.Left, whole.Top});
+    const PointD to = image.Nearest({whole.Right, whole.Bottom});
+    return {static_cast<std::int32_t>(from.X), static_cast<std::int32_t>(from.Y),
+            static_cast<std::int32_t>(to.X - from.X), static_cast<std::int32_t>(to.Y - from.Y)};
 }
 
 std::uint32_t Premultiplied(Color color) {
@@ -55,16 +53,16 @@ Matrix PixelsToDevice(const DeviceView& view, const RectF& source, const RectF& 
 } // namespace
 
 std::optional<PlacedImage> Placed(const DeviceView& view, const ImagePart& drawn) {
-    const Image& image = *drawn.Picture;
+    const BoxD image{0.0, 0.0, static_cast<double>(drawn.Picture->Width),
+                     static_cast<double>(drawn.Picture->Height)};
     const RectF& s = drawn.Source;
-    const BoxD source = BoxBetween({s.X, s.Y}, {s.Right(), s.Bottom()});
-    const PixelRect part = Covered(image, source);
+    const BoxD visible = Common(BoxBetween({s.X, s.Y}, {s.Right(), s.Bottom()}), image);
+    const PixelRect part = Covered(image, visible);
     const Matrix pixelsToDevice = PixelsToDevice(view, s, drawn.Destination);
     if (part.Width <= 0 || part.Height <= 0 || !(part.IsOnePixel() || IsSound(pixelsToDevice, kMaxScale))) {
         return std::nullopt;
     }
-    const BoxD whole{0.0, 0.0, static_cast<double>(image.Width), static_cast<double>(image.Height)};
-    return PlacedImage{part, Common(source, whole), pixelsToDevice};
+    return PlacedImage{part, visible, pixelsToDevice};
 }
 
 Status CopyPixels(const ImagePart& drawn, const PixelRect& part, unsigned char* rows, std::ptrdiff_t stride) {

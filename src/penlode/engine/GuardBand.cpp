@@ -182,7 +182,7 @@ void OutlineFlattener::CurveTo(PointD control1, PointD control2, PointD end) {
 void OutlineFlattener::Flatten(const Cubic& c, int depth) {
     const auto [left, right] = std::minmax({c.P0.X, c.P1.X, c.P2.X, c.P3.X});
     const auto [top, bottom] = std::minmax({c.P0.Y, c.P1.Y, c.P2.Y, c.P3.Y});
-    const bool outside = right < m_box.Left || left > m_box.Right || bottom < m_box.Top || top > m_box.Bottom;
+    const bool outside = !BoxD{left, top, right, bottom}.Meets(m_box);
     if (outside || depth == kMaxSplit || Bend(c.P0, c.P1, c.P2, c.P3) <= m_tolerance) {
         LineTo(c.P3);
         return;

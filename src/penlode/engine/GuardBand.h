@@ -5,9 +5,9 @@
 #include <span>
 #include <vector>
 
-/// Keeps coordinates near the surface. Cairo's numbers wrap around some 8 million device units from the
-/// origin, so whatever may lie farther out is cut to a generous box before Cairo sees it. What lies inside
-/// the box comes out unchanged.
+/// Keeps coordinates near the surface. Far from it every platform's numbers fail: Cairo's wrap around some
+/// 8 million device units from the origin, and viewers of documents count in floats. So whatever may lie
+/// farther out is cut to a generous box first. What lies inside the box comes out unchanged.
 namespace penlode {
 
 /// A connected part of a polyline, and the length along the polyline before it: where its dashes begin.

@@ -36,7 +36,7 @@ inline constexpr double kDocumentColumnsPerInch = 600.0;
 
 namespace thinning {
 
-/// A stretch from its left edge on and up to its right.
+/// An interval from its left edge on and up to its right.
 template <class Number> struct Interval {
     Number Left;
     Number Right;
@@ -55,7 +55,7 @@ inline Interval<double> ColumnAt(double x, const ThinningGrid& grid) {
     return {column * grid.ColumnWidth, (column + 1.0) * grid.ColumnWidth};
 }
 
-/// The stretch between two places that holds x, whatever their rounding.
+/// The interval between two places that holds x, whatever their rounding.
 template <class Number> Interval<Number> Holding(Number x, double a, double b) {
     constexpr Number kInfinity = std::numeric_limits<Number>::infinity();
     return {std::min(x, static_cast<Number>(std::min(a, b))),

@@ -1,7 +1,5 @@
 #include "penlode/engine/PixelGrid.h"
 
-#include "penlode/engine/LineThinning.h"
-
 #include <cstddef>
 
 namespace penlode {
@@ -122,7 +120,7 @@ BoxD PixelGrid::Outline(const BoxD& box, double lineWidth) const {
 }
 
 bool PixelGrid::IsAxisParallel(std::span<const PointD> polyline) {
-    if (polyline.size() < 2 || polyline.size() >= kMinDataLinePoints) {
+    if (polyline.size() < 2) {
         return false;
     }
     for (std::size_t i = 1; i < polyline.size(); ++i) {

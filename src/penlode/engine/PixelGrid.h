@@ -44,8 +44,8 @@ public:
     /// The box's outline as the centres of its lines.
     BoxD Outline(const BoxD& box, double lineWidth) const;
 
-    /// All segments along an axis, and fewer points than data have, whose steps only happen to be steep. Such
-    /// a polyline, and no other, is snapped.
+    /// All segments along an axis. Such a polyline, and no other, is snapped; data never come here, whose
+    /// steps only happen to be steep.
     static bool IsAxisParallel(std::span<const PointD> polyline);
 
     /// The centres of a polyline's lines, grown at both ends by half a pixel for odd widths, so that the

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "penlode/Export.h"
 #include "penlode/GraphicsTypes.h"
 #include "penlode/Matrix.h"
 #include "penlode/Region.h"
@@ -21,7 +20,7 @@ namespace penlode {
 ///
 /// The clip is kept in device coordinates. A container's own clip is combined inside the one that it began
 /// with.
-class PENLODE_API CSurfaceState {
+class CSurfaceState {
 public:
     /// A fresh surface: no transform, millimetres at scale 1, nothing clipped.
     CSurfaceState(double dpiX, double dpiY);

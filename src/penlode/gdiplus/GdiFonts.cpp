@@ -5,7 +5,7 @@
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
 
-#include <iterator>
+#include <array>
 #include <map>
 #include <unordered_map>
 #include <utility>
@@ -22,13 +22,22 @@ constexpr std::size_t kMaxKeptWidths = 8192;
 constexpr std::size_t kMaxKeptCharacters = 1U << 20U;
 constexpr std::size_t kMaxKeptFaces = 256;
 
+GdipFontFamily FamilyNamed(const wchar_t* name) {
+    return Created<GdipFontFamily>(flat::GdipCreateFontFamilyFromName, name, nullptr);
+}
+
+/// Where the system has no sans-serif of its own, any that it is likely to have.
+constexpr std::array kLastResorts{L"Microsoft YaHei", L"SimHei", L"SimSun", L"Segoe UI", L"Arial", L"Tahoma"};
+
 GdipFontFamily FamilyFor(const std::wstring& name) {
-    GdipFontFamily family;
-    if (!name.empty()) {
-        family = Created<GdipFontFamily>(flat::GdipCreateFontFamilyFromName, name.c_str(), nullptr);
+    GdipFontFamily family = name.empty() ? nullptr : FamilyNamed(name.c_str());
+    if (family == nullptr) {
+        family = Created<GdipFontFamily>(flat::GdipGetGenericFontFamilySansSerif);
     }
-    return family != nullptr ? std::move(family)
-                             : Created<GdipFontFamily>(flat::GdipGetGenericFontFamilySansSerif);
+    for (const wchar_t* resort : kLastResorts) {
+        family = family == nullptr ? FamilyNamed(resort) : std::move(family);
+    }
+    return family;
 }
 
 /// A family may lack a style: then whatever it has.
@@ -152,8 +161,7 @@ Measurer* ThreadMeasurer() {
 }
 
 bool IsInstalled(const std::wstring& family) {
-    return !family.empty() && StartGdiplus() &&
-           Created<GdipFontFamily>(flat::GdipCreateFontFamilyFromName, family.c_str(), nullptr) != nullptr;
+    return !family.empty() && StartGdiplus() && FamilyNamed(family.c_str()) != nullptr;
 }
 
 } // namespace

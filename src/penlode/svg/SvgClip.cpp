@@ -1,6 +1,7 @@
 #include "penlode/svg/SvgClip.h"
 
 #include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/RegionFold.h"
 #include "penlode/svg/SvgGeometry.h"
 #include "penlode/svg/SvgPath.h"
 #include "penlode/svg/SvgWriter.h"
@@ -34,23 +35,50 @@ bool AreAlike(const Term& a, const Term& b) {
     return a.Is == Term::Kind::Area && b.Is == a.Is && a.Inverted == b.Inverted && a.Data == b.Data;
 }
 
-/// Makes terms, up to a bound: an expression stays small enough to be written by recursion. What is made when
-/// the bound is passed is of no use.
+/// Makes terms, up to a bound: an expression stays small enough to be written by recursion.
 class TermMaker {
 public:
+    explicit TermMaker(SizeF page) : m_page(page) {}
+
     bool IsExhausted() const { return m_made > kMaxTerms || m_tooDeep; }
+
+    TermRef Of(const Region::Everything&) { return Make({Term::Kind::All, {}, false, {}}); }
+
+    TermRef Of(const Region::Nothing&) { return Make({Term::Kind::Any, {}, false, {}}); }
+
+    TermRef Of(const RectF& rect) {
+        return Near(HasExtent(rect) ? PolygonData(AreaOnPage({{}, m_page}, CornersOf(rect))) : "");
+    }
+
+    TermRef Of(const GraphicsPath& path) { return Near(IsFinite(path) ? PathData(path, {{}, m_page}) : ""); }
+
+    TermRef Both(const TermRef& a, const TermRef& b) { return Joined(Term::Kind::All, a, b); }
+
+    TermRef Either(const TermRef& a, const TermRef& b) { return Joined(Term::Kind::Any, a, b); }
+
+    TermRef Without(const TermRef& a, const TermRef& b) { return Both(a, Not(b)); }
+
+    TermRef OneOf(const TermRef& a, const TermRef& b) {
+        if (a->Is == Term::Kind::Area && b->Is == Term::Kind::Area) {
+            return Area(a->Data + " " + b->Data, a->Inverted != b->Inverted);
+        }
+        return Either(Without(a, b), Both(Not(a), b));
+    }
+
+private:
+    static constexpr std::size_t kMaxTerms = 3000;
+    static constexpr std::size_t kMaxNested = 100;
+
+    TermRef Make(Term term) {
+        ++m_made;
+        return std::make_shared<const Term>(std::move(term));
+    }
 
     TermRef Area(std::string data, bool inverted = false) {
         return Make({Term::Kind::Area, std::move(data), inverted, {}});
     }
 
-    TermRef Everything() { return Make({Term::Kind::All, {}, false, {}}); }
-
-    TermRef Nothing() { return Make({Term::Kind::Any, {}, false, {}}); }
-
-    TermRef Both(const TermRef& a, const TermRef& b) { return Joined(Term::Kind::All, a, b); }
-
-    TermRef Either(const TermRef& a, const TermRef& b) { return Joined(Term::Kind::Any, a, b); }
+    TermRef Near(std::string data) { return data.empty() ? Of(Region::Nothing{}) : Area(std::move(data)); }
 
     TermRef Not(const TermRef& term) {
         if (term->Is == Term::Kind::Area) {
@@ -61,22 +89,6 @@ public:
             negated.Parts.push_back(IsExhausted() ? part : Not(part));
         }
         return Make(std::move(negated));
-    }
-
-    TermRef OneOf(const TermRef& a, const TermRef& b) {
-        if (a->Is == Term::Kind::Area && b->Is == Term::Kind::Area) {
-            return Area(a->Data + " " + b->Data, a->Inverted != b->Inverted);
-        }
-        return Either(Both(a, Not(b)), Both(Not(a), b));
-    }
-
-private:
-    static constexpr std::size_t kMaxTerms = 3000;
-    static constexpr std::size_t kMaxNested = 100;
-
-    TermRef Make(Term term) {
-        ++m_made;
-        return std::make_shared<const Term>(std::move(term));
     }
 
     /// Parts of the same kind are taken in, what changes nothing is left out, and what decides alone stays
@@ -97,64 +109,10 @@ private:
         return joined.Parts.size() == 1 ? joined.Parts.front() : Make(std::move(joined));
     }
 
+    SizeF m_page;
     std::size_t m_made = 0;
     bool m_tooDeep = false;
 };
-
-TermRef TermOf(const Region& region, SizeF page, TermMaker& make);
-
-struct ShapeTerm {
-    SizeF Page;
-    TermMaker& Make;
-
-    TermRef operator()(const Region::Everything&) const { return Make.Everything(); }
-
-    TermRef operator()(const Region::Nothing&) const { return Make.Nothing(); }
-
-    TermRef operator()(const RectF& rect) const {
-        return HasExtent(rect) ? Near(PolygonData(AreaOnPage({{}, Page}, CornersOf(rect)))) : Make.Nothing();
-    }
-
-    TermRef operator()(const GraphicsPath& path) const {
-        return IsFinite(path) ? Near(PathData(path, {{}, Page})) : Make.Nothing();
-    }
-
-    TermRef operator()(const Region::Nested& nested) const { return TermOf(*nested.Area, Page, Make); }
-
-private:
-    TermRef Near(std::string data) const {
-        return data.empty() ? Make.Nothing() : Make.Area(std::move(data));
-    }
-};
-
-TermRef Combined(const TermRef& old, const TermRef& operand, CombineMode mode, TermMaker& make) {
-    switch (mode) {
-    case CombineMode::Intersect:
-        return make.Both(old, operand);
-    case CombineMode::Union:
-        return make.Either(old, operand);
-    case CombineMode::Xor:
-        return make.OneOf(old, operand);
-    case CombineMode::Exclude:
-        return make.Both(old, make.Not(operand));
-    case CombineMode::Complement:
-        return make.Both(operand, make.Not(old));
-    default:
-        return operand;
-    }
-}
-
-TermRef TermOf(const Region& region, SizeF page, TermMaker& make) {
-    TermRef term = make.Everything();
-    for (const Region::Step& step : region.Steps()) {
-        TermRef next = Combined(term, std::visit(ShapeTerm{page, make}, step.Operand), step.Mode, make);
-        if (make.IsExhausted()) {
-            break;
-        }
-        term = std::move(next);
-    }
-    return term;
-}
 
 std::string PageData(SizeF page) {
     return PolygonData(MapAll({}, CornersOf(RectF{0.0F, 0.0F, page.Width, page.Height})));
@@ -238,8 +196,8 @@ private:
 } // namespace
 
 std::vector<std::string> ClipGroups(const Region& region, SizeF page, SvgDefinitions& definitions) {
-    TermMaker make;
-    return TermWriter(page, definitions).Groups(TermOf(region, page, make));
+    TermMaker make(page);
+    return TermWriter(page, definitions).Groups(Folded(region, make));
 }
 
 std::string MaskAttribute(std::span<const std::string> groups, SizeF page, SvgDefinitions& definitions) {

@@ -23,13 +23,13 @@ constexpr double kMinPart = 0.25;
 
 using Triangle = std::array<ColoredPoint, 3>;
 
-Color ColorOf(const Rgb& tint) {
+Color ColorOf(const Rgb& rgb) {
     const auto byte = [](double channel) { return static_cast<std::uint32_t>(std::lround(channel)); };
-    return Color::FromArgb(0xFFU, byte(tint[0]), byte(tint[1]), byte(tint[2]));
+    return Color::FromArgb(0xFFU, byte(rgb[0]), byte(rgb[1]), byte(rgb[2]));
 }
 
-std::string OpaqueAttribute(const char* name, const Rgb& tint) {
-    const std::string fill = FillAttributes(ColorOf(tint));
+std::string OpaqueAttribute(const char* name, const Rgb& rgb) {
+    const std::string fill = FillAttributes(ColorOf(rgb));
     return std::string(" ") + name + fill.substr(fill.find('='));
 }
 
@@ -118,8 +118,8 @@ std::string AxisBlend(const Matrix& toPage, const ColoredPoint& from, const Colo
     const std::string attributes = " gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(start.X) + "\" y1=\"" +
                                    Number(start.Y) + "\" x2=\"" + Number(end.X) + "\" y2=\"" + Number(end.Y) +
                                    "\"";
-    const auto stop = [](const char* offset, const Rgb& tint) {
-        return SvgElement("stop").Set("offset", offset).Raw(OpaqueAttribute("stop-color", tint)).Empty();
+    const auto stop = [](const char* offset, const Rgb& rgb) {
+        return SvgElement("stop").Set("offset", offset).Raw(OpaqueAttribute("stop-color", rgb)).Empty();
     };
     return definitions.LinearGradient(attributes, stop("0", from.Colour) + stop("1", to.Colour));
 }

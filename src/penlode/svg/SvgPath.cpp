@@ -6,6 +6,7 @@
 #include "penlode/svg/SvgWriter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -123,7 +124,7 @@ struct FarCheck {
     const Matrix& ToPage;
 
     bool operator()(const GraphicsPath::Line& line) const {
-        return IsFar(At(line.From)) || IsFar(At(line.To));
+        return AnyFar(MapAll(ToPage, std::array{line.From, line.To}));
     }
 
     bool operator()(const GraphicsPath::Arc& arc) const {
@@ -133,9 +134,6 @@ struct FarCheck {
     bool operator()(const GraphicsPath::Bezier& bezier) const {
         return AnyFar(MapAll(ToPage, bezier.Points));
     }
-
-private:
-    PointD At(PointF point) const { return Mapped(ToPage, point); }
 };
 
 /// An ellipse on the page, by the parameter of its points.
@@ -149,7 +147,7 @@ struct PageEllipse {
                 Center.Y + std::cos(t) * First.Y + std::sin(t) * Second.Y};
     }
 
-    /// How far a stretch of the ellipse can stray from its chord, at most.
+    /// How far a section of the ellipse can stray from its chord, at most.
     double Bend(double step) const {
         return (std::hypot(First.X, First.Y) + std::hypot(Second.X, Second.Y)) * step * step / 8.0;
     }
@@ -178,11 +176,9 @@ public:
         const PageEllipse ellipse{Mapped(m_toPage, whole.Center),
                                   {whole.Rx * m_toPage.M11, whole.Rx * m_toPage.M12},
                                   {whole.Ry * m_toPage.M21, whole.Ry * m_toPage.M22}};
-        const bool isFlat = whole.Rx == 0.0 || whole.Ry == 0.0;
-        const double start = isFlat ? 0.0 : whole.Start;
-        Reach(ellipse.At(start));
+        Reach(ellipse.At(whole.Start));
         int cuts = kMaxCuts;
-        Cut(ellipse, start, isFlat ? 0.0 : whole.End, cuts);
+        Cut(ellipse, whole.Start, whole.End, cuts);
     }
 
 private:
@@ -203,9 +199,7 @@ private:
         const PointD end = ellipse.At(to);
         const double bend = ellipse.Bend(to - from);
         const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
-        const bool outside = around.Right < m_box.Left || around.Left > m_box.Right ||
-                             around.Bottom < m_box.Top || around.Top > m_box.Bottom;
-        if (outside || !(bend > kFlatness) || cuts == 0) {
+        if (!around.Meets(m_box) || !(bend > kFlatness) || cuts == 0) {
             m_lines.LineTo(end);
             return;
         }

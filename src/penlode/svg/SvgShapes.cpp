@@ -9,6 +9,7 @@
 #include "penlode/text/Digits.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 #include <string_view>
@@ -129,7 +130,7 @@ std::string PolygonElement(const PageMap& map, std::span<const PointF> points, c
 std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint& stroke) {
     const PointD a = Mapped(map.ToPage, from);
     const PointD b = Mapped(map.ToPage, to);
-    if (IsFar(a) || IsFar(b)) {
+    if (AnyFar(std::array{a, b})) {
         return StrokedFigures({{{a, b}, false}}, map.Surroundings(stroke.Margin), stroke);
     }
     if (RoundsToNothing(a.X - b.X) && RoundsToNothing(a.Y - b.Y)) {
@@ -144,28 +145,18 @@ std::string LineElement(const PageMap& map, PointF from, PointF to, const Paint&
         .Empty();
 }
 
-std::string StrokedBox(const PageMap& map, const RectF& rect, const Paint& stroke) {
+std::string BoxOrPolygon(const PageMap& map, const RectF& rect, const Paint& paint) {
     const PointF corner{rect.Right(), rect.Bottom()};
-    const PointD a = OnPage(map.ToPage, rect.TopLeft());
-    const PointD b = OnPage(map.ToPage, corner);
     if (rect.Width == 0.0F || rect.Height == 0.0F) {
-        return LineElement(map, rect.TopLeft(), corner, stroke);
+        return LineElement(map, rect.TopLeft(), corner, paint);
     }
-    // A viewer shows no rectangle of width 0, not even its outline.
-    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b) || RoundsToNothing(a.X - b.X) ||
-        RoundsToNothing(a.Y - b.Y)) {
-        return PolygonElement(map, CornersOf(rect), stroke);
-    }
-    return BoxElement(a, b, stroke);
-}
-
-std::string FilledBox(const PageMap& map, const RectF& rect, const Paint& fill) {
     const PointD a = Mapped(map.ToPage, rect.TopLeft());
-    const PointD b = Mapped(map.ToPage, PointF{rect.Right(), rect.Bottom()});
-    if (!KeepsAxesNearly(map.ToPage) || IsFar(a) || IsFar(b)) {
-        return PolygonElement(map, CornersOf(rect), fill);
-    }
-    return BoxElement(a, b, fill);
+    const PointD b = Mapped(map.ToPage, corner);
+    // A viewer shows no rectangle of width 0, not even its outline.
+    const bool lacksSide = paint.Strokes && (RoundsToNothing(a.X - b.X) || RoundsToNothing(a.Y - b.Y));
+    return !KeepsAxesNearly(map.ToPage) || AnyFar(std::array{a, b}) || lacksSide
+               ? PolygonElement(map, CornersOf(rect), paint)
+               : BoxElement(a, b, paint);
 }
 
 std::string PathElement(const PageMap& map, const GraphicsPath& path, const Paint& paint) {
@@ -209,7 +200,7 @@ struct ElementWriter {
     }
 
     std::string operator()(const Outline::Rectangle& rectangle) const {
-        return Look.Strokes ? StrokedBox(Map, rectangle.Box, Look) : FilledBox(Map, rectangle.Box, Look);
+        return BoxOrPolygon(Map, rectangle.Box, Look);
     }
 
     std::string operator()(const Outline::Ellipse& ellipse) const {

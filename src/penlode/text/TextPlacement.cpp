@@ -5,7 +5,7 @@
 namespace penlode {
 namespace {
 
-/// Where a stretch of this length begins when it is aligned in the stretch from `start` on.
+/// Where an interval of this length begins when it is aligned in the one from `start` on.
 float Aligned(StringAlignment alignment, float start, float extent, float length) {
     switch (alignment) {
     case StringAlignment::Center:

@@ -121,14 +121,6 @@ TEST(Text, InkLiesInTheMeasuredBoxAtEveryResolution) {
     }
 }
 
-TEST(Text, TurnsWithTheSurface) {
-    const SizeF box = Measured(L"深度计");
-    const RectF ink = InkOfText(200, L"深度计", kSong, 40, 40, 90);
-    EXPECT_NEAR(ink.Height, box.Width, 0.6F);
-    EXPECT_LT(ink.Right(), 40.2F);
-    EXPECT_GT(ink.X, 40 - box.Height - 0.2F);
-}
-
 TEST(Text, LettersThatHaveBeenDrawnLookAsForTheFirstTime) {
     std::vector<TurnedText> texts;
     for (const std::int32_t style : {FontStyle::Regular, FontStyle::Bold, FontStyle::Italic}) {
@@ -166,11 +158,14 @@ TEST(Text, MoreLettersThanAThreadKeepsAreDrawnTheSame) {
 TEST(Text, NoLetterIsCutOff) {
     for (const std::int32_t style : {FontStyle::Regular, FontStyle::Italic | FontStyle::Bold}) {
         const Font font{L"Times New Roman", 28.0F, style};
-        // On a quarter of a pixel, a letter stands where it should.
+        // On a quarter of a pixel, a letter stands where it should, and from nearby it goes there.
         const float baselineOnWholePixel = 60.0F - CStringUtil::MeasureFont(font).Ascent;
         for (const wchar_t* letter : {L"f", L"g", L"W", L"Q", L"深", L"_"}) {
             const TurnedText text{letter, font, 40.25F, baselineOnWholePixel, 0.0F};
             EXPECT_LE(FromOutlines(text).Largest, 24U) << CStringUtil::WideToUtf8(letter);
+            for (const float near : {40.14F, 40.36F}) {
+                EXPECT_EQ(Drawn({letter, font, near, baselineOnWholePixel, 0.0F}).Pixels, Drawn(text).Pixels);
+            }
         }
         for (const wchar_t* word : {L"fgjW", L"深度", L"Q;_", L"|"}) {
             const TurnedText text{word, font, 60.2F, 60.7F, -33.0F};
@@ -221,7 +216,13 @@ TEST(Text, StylesShow) {
     EXPECT_GT(ink(FontStyle::Underline | FontStyle::Strikeout), ink(FontStyle::Underline));
 }
 
-TEST(Text, UnderlineIsOneCrispLine) {
+TEST(Text, UnderlineIsAsThickTurnedAsItsOutlineAndUprightOneCrispLine) {
+    const Font lines{L"宋体", 28.0F, FontStyle::Underline | FontStyle::Strikeout};
+    const TurnedText turned{L"    ", lines, 40.2F, 60.7F, -33.0F};
+    EXPECT_LE(FromOutlines(turned).Largest, 16U);
+    EXPECT_GT(CountOf(Drawn(turned), kWhite), 0);
+    EXPECT_LT(CountOf(Drawn(turned), kWhite), 120 * 120 - 100);
+
     const auto g = CGraphicsEngine::ForRaster({30, 10}, 96, kWhite);
     const Font font{L"宋体", 4.0F, FontStyle::Underline};
     g->DrawString(L"一一一一", -1, &font, PointF{2, 2}, &kBrush);

@@ -45,3 +45,15 @@ TEST(SvgEverySlot, IsWrittenAsItWas) {
             << kept << ", line " << was - expected.begin() + 1 << "; ./run golden writes it anew";
     }
 }
+
+TEST(SvgEverySlot, IsWellFormed) {
+    if (std::system("xmllint --version >/dev/null 2>&1") != 0) {
+        GTEST_SKIP() << "xmllint is not installed";
+    }
+    for (const bool outlines : {false, true}) {
+        const std::string name = testing::TempDir() + "millichart-well-formed.svg";
+        std::ofstream(name, std::ios::binary) << Drawn(outlines);
+        EXPECT_EQ(std::system(("xmllint --noout \"" + name + "\"").c_str()), 0);
+        std::remove(name.c_str());
+    }
+}

@@ -33,12 +33,19 @@ TEST(SvgShapes, BoxesAreRectsAndLinesWhereTheyHaveNoExtent) {
     engine.DrawRectangle(&kPen, 1, 2, 3.00049F, 4);
     engine.FillRectangle(&kBrush, -0.0001F, 0, 10, 10);
     engine.DrawRectangle(&kPen, 1, 2, 0, 4);
+    engine.DrawRectangle(&kPen, 1, 2, 3, 0);
+    engine.DrawRectangle(&kPen, 1, 2, 0.0001F, 4);
+    engine.DrawRectangle(&kPen, 1, 2, 3, 0.0001F);
+    engine.DrawLine(&kPen, 1, 2, 1.0001F, 2);
     engine.FillRectangle(&kBrush, 1, 2, 0, 4);
     engine.DrawRectangle(&kPen, 1, 2, -3, 4);
     engine.FillRectangle(&kBrush, 1, 2, 3, -4);
     EXPECT_EQ(Body(engine), "<rect x=\"1\" y=\"2\" width=\"3\" height=\"4\"" + kStroke +
                                 "<rect x=\"0\" y=\"0\" width=\"10\" height=\"10\"" + kFill +
-                                "<line x1=\"1\" y1=\"2\" x2=\"1\" y2=\"6\"" + kStroke);
+                                "<line x1=\"1\" y1=\"2\" x2=\"1\" y2=\"6\"" + kStroke +
+                                "<line x1=\"1\" y1=\"2\" x2=\"4\" y2=\"2\"" + kStroke +
+                                "<polygon points=\"1,2 1,6\"" + kStroke + "<polygon points=\"1,2 4,2 1,2\"" +
+                                kStroke);
 }
 
 TEST(SvgShapes, LinesAndPolygons) {
@@ -126,6 +133,7 @@ TEST(SvgShapes, DataAreWrittenAsFineAsTheyCanBePrinted) {
     engine.DrawLines(&kPen, noise.data(), static_cast<std::int32_t>(noise.size()));
     const std::string body = Body(engine);
     EXPECT_EQ(body.substr(0, 23), "<polyline points=\"0,0 0");
+    EXPECT_NE(body.find(" 79.5"), std::string::npos);
     EXPECT_NE(body.find(" 80,20.81\""), std::string::npos);
     EXPECT_LT(body.size(), 160000U);
 }
@@ -142,4 +150,14 @@ TEST(SvgShapes, OpaqueMarkersOnOnePlaceAreWrittenOnce) {
     const std::string box = "<rect x=\"1\" y=\"2\" width=\"3\" height=\"4\"";
     const std::string faint = box + " fill=\"#cc0000\" fill-opacity=\"0.502\"/>\n";
     EXPECT_EQ(Body(engine), box + kFill + faint + faint + box + kFill);
+}
+
+TEST(SvgShapes, CanBeReadWhileItGrows) {
+    CSvgEngine engine({80, 60});
+    engine.BeginContainer();
+    engine.FillRectangle(&kBrush, 0, 0, 1, 1);
+    const std::string half = engine.Text();
+    EXPECT_TRUE(half.ends_with("  </g>\n</svg>\n"));
+    engine.FillRectangle(&kBrush, 0, 0, 1, 1);
+    EXPECT_EQ(engine.Text().substr(0, half.size() - 14), half.substr(0, half.size() - 14));
 }

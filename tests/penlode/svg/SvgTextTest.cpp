@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <span>
 
 using namespace penlode;
 
@@ -46,6 +47,19 @@ TEST(SvgText, KeepsBlanksThatAViewerWouldDrop) {
         EXPECT_NE(Drawn(text, kArial).find(" xml:space=\"preserve\""), std::string::npos);
     }
     EXPECT_EQ(Drawn(L"a b", kArial).find("xml:space"), std::string::npos);
+}
+
+TEST(SvgText, TellsTheLanguageOfChinese) {
+    const std::pair<std::uint32_t, std::uint32_t> blocks[] = {
+        {0x2E80, 0x9FFF}, {0xF900, 0xFAFF}, {0xFE30, 0xFE4F}, {0xFF00, 0xFFEF}, {0x20000, 0x3FFFF}};
+    const auto isTagged = [](std::uint32_t c) {
+        const wchar_t text[] = {L'a', static_cast<wchar_t>(c), L'\0'};
+        return Drawn(text, kArial).find(" xml:lang=\"zh-CN\"") != std::string::npos;
+    };
+    for (const auto& [first, last] : std::span(blocks).first(sizeof(wchar_t) == 2 ? 4 : 5)) {
+        EXPECT_TRUE(isTagged(first) && isTagged(last)) << first;
+        EXPECT_FALSE(isTagged(first - 1) || isTagged(last + 1)) << first;
+    }
 }
 
 TEST(SvgText, NamesStyleAndAGenericFamily) {
