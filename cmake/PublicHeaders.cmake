@@ -1,6 +1,5 @@
 # The headers that a host gets, as paths below src/: each that declares something a library exports, the one that
-# includes them all, that of the documents, and every header that one of these includes. The engine of another
-# platform is none of them.
+# includes them all, that of the documents, and every header that one of these includes.
 function(public_headers result)
   set(waiting millichart.h documents/ChartDocument.h penlode/GraphicsEngine.h)
   if(WIN32)
@@ -27,11 +26,6 @@ function(public_headers result)
       list(APPEND waiting ${included})
     endif()
   endwhile()
-  if(WIN32)
-    list(FILTER found EXCLUDE REGEX "^penlode/cairo/")
-  else()
-    list(FILTER found EXCLUDE REGEX "^penlode/gdiplus/")
-  endif()
   if(NOT MILLICHART_DOCUMENTS)
     list(FILTER found EXCLUDE REGEX "^(documents/|penlode/streams/Json)")
   endif()
