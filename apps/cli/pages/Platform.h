@@ -1,11 +1,7 @@
 #pragma once
 
 #include "pages/Picture.h"
-#ifdef _WIN32
-#include "penlode/gdiplus/GraphicsEngine.h"
-#else
-#include "penlode/cairo/GraphicsEngine.h"
-#endif
+#include "penlode/GraphicsEngine.h"
 
 namespace cli {
 
