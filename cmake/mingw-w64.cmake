@@ -1,4 +1,6 @@
 # Cross-compiles for 64-bit Windows with mingw-w64; the result depends on nothing but the system's own libraries.
+# What runs the tests.
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine/environment wine)
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(mingw_prefix x86_64-w64-mingw32)

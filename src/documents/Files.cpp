@@ -20,12 +20,19 @@ constexpr std::size_t kMaxBytes = std::size_t{1} << 30U;
 constexpr std::size_t kPiece = std::size_t{1} << 16U;
 constexpr const char* kTooLarge = "cannot be read: it is larger than 1 GB";
 
+// Where the system's names are wide, a narrow one would be read in whatever code page is set.
+constexpr bool kAreWide = std::is_same_v<fs::path::value_type, wchar_t>;
+
 std::string NotRead(int error) {
     return std::string("cannot be read: ") + std::strerror(error);
 }
 
-bool IsDeviceOrPipe(const fs::file_status& status) {
-    return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+/// Windows knows a device by its name alone, in any folder; status does not tell, but the name in full does.
+bool IsDeviceOrPipe(const fs::path& file) {
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    return (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status)) ||
+           (kAreWide && fs::absolute(file.filename(), error).wstring().starts_with(LR"(\\.\)"));
 }
 
 /// What can be told before a file is opened, which may wait for ever or read without end. Finds its size.
@@ -35,7 +42,7 @@ std::string FaultOfKind(const fs::path& file, NamedBy who, std::size_t& size) {
     if (fs::is_directory(status)) {
         return "cannot be read: it is a folder";
     }
-    if (who == NamedBy::Document && IsDeviceOrPipe(status)) {
+    if (who == NamedBy::Document && IsDeviceOrPipe(file)) {
         return "cannot be read: it is no file but a device or a pipe, which a document may not name";
     }
     const std::uintmax_t found = fs::is_regular_file(status) ? fs::file_size(file, error) : 0;
@@ -89,9 +96,6 @@ fs::path BehindLinks(fs::path file) {
     return file;
 }
 
-// Where the system's names are wide, a narrow one would be read in whatever code page is set.
-constexpr bool kAreWide = std::is_same_v<fs::path::value_type, wchar_t>;
-
 } // namespace
 
 fs::path PathFromUtf8(const std::string& name) {
@@ -131,8 +135,7 @@ InputText ReadStream(std::istream& stream, const std::string& name) {
 std::string WriteFile(const std::string& name, std::string_view bytes,
                       const std::function<void(const std::string&)>& begin) {
     const fs::path path = PathFromUtf8(name);
-    std::error_code error;
-    if (IsDeviceOrPipe(fs::status(path, error))) {
+    if (IsDeviceOrPipe(path)) {
         return WriteBytes(path, bytes) ? "" : std::string("cannot be written: ") + std::strerror(errno);
     }
     const fs::path target = BehindLinks(path);
@@ -143,7 +146,7 @@ std::string WriteFile(const std::string& name, std::string_view bytes,
     if (begin) {
         begin(Utf8FromPath(part));
     }
-    error.clear();
+    std::error_code error;
     if (!WriteBytes(part, bytes)) {
         error = std::error_code(errno, std::generic_category());
     } else {
@@ -153,7 +156,9 @@ std::string WriteFile(const std::string& name, std::string_view bytes,
     if (!error) {
         return {};
     }
-    const std::string reason = error.message();
+    // As C tells it, in one language and without an end of line.
+    const std::string reason = error.default_error_condition().message();
+    fs::permissions(part, fs::perms::owner_write, fs::perm_options::add, error); // else Windows keeps it
     fs::remove(part, error);
     return "cannot be written: " + reason;
 }

@@ -60,7 +60,7 @@ protected:
 
     bool Exists(const std::string& file) const { return fs::exists(PathFromUtf8(NameOf(file))); }
 
-    /// `input` names the file that is the standard input.
+    /// The command beside this program; `input` names the file that is the standard input.
     Outcome Run(const std::string& arguments, const std::string& input = "in") const {
         Outcome outcome;
         {
@@ -73,7 +73,7 @@ protected:
             startup.hStdInput = in.get();
             startup.hStdOutput = out.get();
             startup.hStdError = err.get();
-            outcome.Status = Started(PathFromUtf8("\"" MILLICHART_EXE "\" " + arguments).wstring(), startup);
+            outcome.Status = Started(L"millichart.exe " + PathFromUtf8(arguments).wstring(), startup);
         }
         outcome.Output = Read("out");
         outcome.Errors = Read("err");
@@ -165,7 +165,8 @@ TEST_F(WindowsCommand, PutsNothingInTheWayOfWhatIsThere) {
     Run("new pie -o 饼.chart.json");
     const std::string document = Read("饼.chart.json");
     EXPECT_EQ(Run("new curve -o 饼.chart.json").Status, 1U);
-    EXPECT_EQ(Run("draw 饼.chart.json -o .\\饼.CHART.JSON --format svg").Status, 1U);
+    EXPECT_EQ(Run("draw 饼.chart.json -o .\\饼.CHART.JSON --format svg").Errors,
+              "millichart: 饼.chart.json: its picture would take the place of 饼.chart.json\n");
     EXPECT_EQ(Read("饼.chart.json"), document);
 
     Run("draw 饼.chart.json");

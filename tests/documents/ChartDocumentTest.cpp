@@ -1,5 +1,6 @@
 #include "documents/ChartDocument.h"
 
+#include "documents/Files.h"
 #include "penlode/svg/SvgEngine.h"
 
 #include <cmath>
@@ -81,7 +82,7 @@ std::string Said(const ChartDocument& document) {
     std::string said;
     for (const penlode::Diagnostic& d : found) {
         if (d.Severity != penlode::Severity::Note) {
-            said += std::filesystem::path(d.File).filename().string() +
+            said += Utf8FromPath(PathFromUtf8(d.File).filename()) +
                     (d.Line == 0 ? "" : ":" + std::to_string(d.Line)) +
                     (d.Severity == penlode::Severity::Warning ? ": warning: " : ": ") + d.Place +
                     (d.Place.empty() ? "" : ": ") + d.Text + "\n";
@@ -94,23 +95,25 @@ bool Holds(const ChartDocument& document, const std::string& text) {
     return document.Text().find(text) != std::string::npos;
 }
 
-/// A folder that goes with the test.
+/// A folder that goes with the test, with a name that no code page has.
 class InFolder : public testing::Test {
 protected:
-    InFolder() : m_folder(testing::TempDir() + "millichart-documents") {
+    InFolder() : m_folder(std::filesystem::path(testing::TempDir()) / PathFromUtf8("millichart-文档📈")) {
         std::filesystem::create_directories(m_folder);
     }
 
     ~InFolder() override { std::filesystem::remove_all(m_folder); }
 
-    std::string Name(const std::string& file) const { return m_folder + "/" + file; }
+    std::filesystem::path Path(const std::string& file) const { return m_folder / PathFromUtf8(file); }
+
+    std::string Name(const std::string& file) const { return Utf8FromPath(Path(file)); }
 
     void Write(const std::string& file, const std::string& text) const {
-        std::ofstream(Name(file), std::ios::binary) << text;
+        std::ofstream(Path(file), std::ios::binary) << text;
     }
 
 private:
-    std::string m_folder;
+    std::filesystem::path m_folder;
 };
 
 } // namespace
@@ -126,7 +129,7 @@ TEST_F(InFolder, WhatIsSaidOfDocumentsIsAsListed) {
                 parts.at("b.json"), Name("b.json"),
                 table == parts.end() ? std::nullopt : std::optional(InputText{"table", table->second}));
             EXPECT_EQ(Said(document), parts.at("said")) << list.path() << "\n" << parts.at("b.json");
-            std::filesystem::remove(Name("d.csv"));
+            std::filesystem::remove(Path("d.csv"));
         }
     }
 }
@@ -278,6 +281,27 @@ TEST_F(InFolder, WhatIsWrongIsToldAndNothingThrown) {
     EXPECT_TRUE(Holds(wrong, "\"wide\""));
 }
 
+TEST_F(InFolder, AReadOnlyFileIsReplacedOrKeptWhole) {
+    Write("t.json", "old");
+    std::filesystem::permissions(Path("t.json"), std::filesystem::perms::owner_read);
+    const std::string fault = Loaded("{}").Save(Name("t.json"));
+    const bool isKept = ReadFile(Name("t.json")).Text == "old";
+    EXPECT_EQ(fault, isKept ? "cannot be written: Permission denied" : "");
+    const std::filesystem::directory_iterator files(Path(""));
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "nothing is left beside it";
+    std::filesystem::permissions(Path("t.json"), std::filesystem::perms::owner_all);
+}
+
+TEST(ChartDocument, MayNotNameADevice) {
+#ifdef _WIN32
+    const std::string device = "NUL";
+#else
+    const std::string device = "/dev/zero";
+#endif
+    EXPECT_EQ(Told(Loaded(R"({"kind": "pie", "data": {"csv": ")" + device + "\"}}")),
+              ": cannot be read: it is no file but a device or a pipe, which a document may not name\n");
+}
+
 TEST(ChartDocument, LayoutsTellWhereTheirWarningsStand) {
     ChartDocument document = Loaded("{\"kind\": \"pie\", \"data\": {\"values\": [1]},\n\"property\":"
                                     "{\"PieBasicProp\": {\n\"FixedWidth\": 3, \"FixedSize\": 1,\n"
@@ -333,7 +357,7 @@ TEST_F(InFolder, ShortFormsStayAndWhatNoFormHoldsIsNotSaved) {
               "cannot be saved, as it could not be read");
     std::move(document).LayOut();
     EXPECT_EQ(document.Save(Name("t.json")), "cannot be saved, as its content was taken out");
-    EXPECT_FALSE(std::filesystem::exists(Name("t.json")));
+    EXPECT_FALSE(std::filesystem::exists(Path("t.json")));
 }
 
 TEST(ChartDocument, OfAHostGetsColoursAndEqualsItsCopy) {

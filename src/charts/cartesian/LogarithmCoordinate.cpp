@@ -3,7 +3,10 @@
 #include "foundation/NumberText.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <limits>
+#include <string>
 
 namespace millichart {
 namespace {
@@ -11,22 +14,31 @@ namespace {
 constexpr double kBase = 10.0;
 constexpr double kDecadesShown = 100.0;
 
+/// The same on every platform, which std::pow is not: of one that ends a bit lower, an axis would lose its
+/// last tick.
+double PowerOfTen(int exponent) {
+    double power = exponent < 0 ? 0.0 : std::numeric_limits<double>::infinity();
+    const std::string text = "1e" + std::to_string(exponent);
+    std::from_chars(text.data(), text.data() + text.size(), power);
+    return power;
+}
+
 /// The power of ten above a value of 1 or more: 9.99 gives 10, and 10 gives 100.
 double DecadeAbove(double value) {
     int divisions = 0;
     for (double rest = value; rest >= 1.0; rest /= kBase) {
         ++divisions;
     }
-    return std::pow(kBase, divisions);
+    return PowerOfTen(divisions);
 }
 
 /// The power of ten at or above a value between 0 and 1.
 double DecadeAtOrAbove(double value) {
     int exponent = 0;
-    while (std::pow(kBase, exponent - 1) >= value) {
+    while (PowerOfTen(exponent - 1) >= value) {
         --exponent;
     }
-    return std::pow(kBase, exponent);
+    return PowerOfTen(exponent);
 }
 
 int DecimalsOf(double value) {

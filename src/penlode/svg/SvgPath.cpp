@@ -177,8 +177,7 @@ public:
                                   {whole.Rx * m_toPage.M11, whole.Rx * m_toPage.M12},
                                   {whole.Ry * m_toPage.M21, whole.Ry * m_toPage.M22}};
         Reach(ellipse.At(whole.Start));
-        int cuts = kMaxCuts;
-        Cut(ellipse, whole.Start, whole.End, cuts);
+        Cut(ellipse, whole.Start, whole.End);
     }
 
 private:
@@ -195,18 +194,26 @@ private:
         }
     }
 
-    void Cut(const PageEllipse& ellipse, double from, double to, int& cuts) {
-        const PointD end = ellipse.At(to);
-        const double bend = ellipse.Bend(to - from);
-        const BoxD around = BoxBetween(ellipse.At(from), end).Grown(bend);
-        if (!around.Meets(m_box) || !(bend > kFlatness) || cuts == 0) {
-            m_lines.LineTo(end);
-            return;
+    /// Cuts in halves what is not flat yet; their ends wait here and not on the stack, which may be small.
+    void Cut(const PageEllipse& ellipse, double from, double to) {
+        std::vector<double> ends{to};
+        for (int cuts = kMaxCuts; !ends.empty();) {
+            const double end = ends.back();
+            if (cuts > 0 && NeedsCut(ellipse, from, end)) {
+                --cuts;
+                ends.push_back(from + (end - from) / 2.0);
+            } else {
+                m_lines.LineTo(ellipse.At(end));
+                from = end;
+                ends.pop_back();
+            }
         }
-        --cuts;
-        const double middle = from + (to - from) / 2.0;
-        Cut(ellipse, from, middle, cuts);
-        Cut(ellipse, middle, to, cuts);
+    }
+
+    bool NeedsCut(const PageEllipse& ellipse, double from, double to) const {
+        const double bend = ellipse.Bend(to - from);
+        const BoxD around = BoxBetween(ellipse.At(from), ellipse.At(to)).Grown(bend);
+        return around.Meets(m_box) && bend > kFlatness;
     }
 
     const Matrix& m_toPage;
