@@ -33,7 +33,7 @@ private:
 int main(int argc, char** argv) {
     try {
         cli::PrepareSystem();
-        return std::visit(Carry(), cli::ParseCommandLine(argc, argv));
+        return std::visit(Carry(), cli::ParseCommandLine(cli::Arguments(argc, argv)));
     } catch (const cli::UsageError& error) {
         cli::Tell(error.what());
         return cli::kWrongUsage;

@@ -147,7 +147,7 @@ std::string WriteFile(const std::string& name, std::string_view bytes,
     if (begin) {
         begin(Utf8FromPath(part));
     }
-    error.clear();
+    std::error_code error;
     if (!WriteBytes(part, bytes)) {
         error = std::error_code(errno, std::generic_category());
     } else {

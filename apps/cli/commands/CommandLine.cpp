@@ -2,9 +2,11 @@
 
 #include "documents/ChartContent.h"
 #include "files/Console.h"
+#include "pages/Platform.h"
 #include "penlode/streams/TextForms.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cctype>
 #include <string_view>
 
@@ -41,7 +43,7 @@ bool ParseBackground(std::string text, penlode::Color& color) {
 /// An option whose text is read by `parse`; complains with the form that it should have.
 template <class T, class Target>
 void AddParsed(CLI::App& command, const std::string& name, Target& target, bool (*parse)(std::string, T&),
-               const char* form, const std::string& help) {
+               const std::string& form, const std::string& help) {
     command.add_option_function<std::string>(
         name,
         [&target, parse, name, form](const std::string& text) {
@@ -55,7 +57,9 @@ void AddParsed(CLI::App& command, const std::string& name, Target& target, bool 
 }
 
 void AddDraw(CLI::App& app, DrawOptions& options) {
-    CLI::App& draw = *app.add_subcommand("draw", "Draw chart documents as PNG, SVG or PDF");
+    const std::string formats = FormatList();
+    const std::string pageName = kPlatform.PageName;
+    CLI::App& draw = *app.add_subcommand("draw", "Draw chart documents as PNG, SVG or " + pageName);
     draw.add_option("FILE", options.Inputs, "chart documents (JSON); - is the standard input")->required();
     draw.add_option("-o,--output", options.Output,
                     "the picture, a folder for the pictures, or - for the standard output; without it "
@@ -67,7 +71,7 @@ void AddDraw(CLI::App& app, DrawOptions& options) {
             format = known.value_or(format);
             return known.has_value();
         },
-        "png, svg or pdf", "png, svg or pdf, where the name of -o does not tell");
+        formats, formats + ", where the name of -o does not tell");
     draw.add_option("--data", options.Data, kDataHelp);
     AddParsed<double>(draw, "--dpi", options.Dpi, ParseDpi, "a number from 10 to 2400",
                       "dots per inch of a PNG, from 10 to 2400; without it 96");
@@ -76,9 +80,9 @@ void AddDraw(CLI::App& app, DrawOptions& options) {
         [](std::string text, penlode::SizeF& page) { return ParsePage(text, page); },
         "WIDTHxHEIGHT in mm, each at most 5000, such as 210x297",
         "WIDTHxHEIGHT in mm, with the chart in its middle; without it the chart and a margin of 5 mm");
-    AddParsed<penlode::Color>(draw, "--background", options.Background, ParseBackground,
-                              "a colour such as #FF336699, or none",
-                              "#RRGGBB, #AARRGGBB or none; without it white, and a PDF's bare paper");
+    AddParsed<penlode::Color>(
+        draw, "--background", options.Background, ParseBackground, "a colour such as #FF336699, or none",
+        "#RRGGBB, #AARRGGBB or none; without it white, for " + pageName + " the bare paper");
     draw.add_flag("--outlines", options.TextAsOutlines, "write an SVG's texts as glyph outlines");
     draw.add_flag("-v,--verbose", options.Verbose, "tell which faces the fonts are drawn in");
 }
@@ -106,8 +110,7 @@ void AddInspect(CLI::App& app, InspectOptions& options) {
 }
 
 /// The parser does not say which word it took for no command.
-bool NamesCommand(const CLI::App& app, int argc, char** argv) {
-    const std::string word = argc > 1 ? argv[1] : "";
+bool NamesCommand(const CLI::App& app, const std::string& word) {
     const auto named =
         app.get_subcommands([&word](const CLI::App* command) { return command->get_name() == word; });
     if (word.starts_with('-') || !named.empty()) {
@@ -120,9 +123,10 @@ bool NamesCommand(const CLI::App& app, int argc, char** argv) {
 
 } // namespace
 
-Wish ParseCommandLine(int argc, char** argv) {
+Wish ParseCommandLine(std::vector<std::string> arguments) {
     CLI::App app{"Draws chart documents.", "millichart"};
     app.require_subcommand(1);
+    app.allow_windows_style_options(false);
     app.failure_message([](const CLI::App*, const CLI::Error& error) {
         return Printable(std::string("millichart: ") + error.what() + "; millichart --help tells more") +
                "\n";
@@ -136,11 +140,12 @@ Wish ParseCommandLine(int argc, char** argv) {
     AddNew(app, fresh);
     AddCheck(app, check);
     AddInspect(app, inspect);
-    if (!NamesCommand(app, argc, argv)) {
+    if (!NamesCommand(app, arguments.empty() ? "" : arguments.front())) {
         return Finished{kWrongUsage};
     }
     try {
-        app.parse(argc, argv);
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         return Finished{app.exit(error) == 0 ? 0 : kWrongUsage};
     }

@@ -15,7 +15,8 @@ using Wish = std::variant<Finished, DrawOptions, NewOptions, CheckOptions, Inspe
 
 inline constexpr int kWrongUsage = 2;
 
-/// Reads the program's arguments. Help, the version and complaints about the arguments are told here.
-Wish ParseCommandLine(int argc, char** argv);
+/// Reads the words after the program's name. Help, the version and complaints about the arguments are told
+/// here.
+Wish ParseCommandLine(std::vector<std::string> arguments);
 
 } // namespace cli

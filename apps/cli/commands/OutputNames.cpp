@@ -2,6 +2,7 @@
 
 #include "files/Streams.h"
 #include "files/System.h"
+#include "pages/Platform.h"
 
 #include <algorithm>
 #include <string_view>
@@ -15,9 +16,10 @@ using millichart::Utf8FromPath;
 
 bool IsFolder(const DrawOptions& options) {
     std::error_code error;
+    const fs::path output = PathFromUtf8(*options.Output);
+    const bool endsInSeparator = !output.empty() && !output.has_filename();
     return options.Output != kStandardStream &&
-           (options.Inputs.size() > 1 || options.Output->ends_with('/') ||
-            fs::is_directory(PathFromUtf8(*options.Output), error));
+           (options.Inputs.size() > 1 || endsInSeparator || fs::is_directory(output, error));
 }
 
 /// NAME for NAME.chart.json and NAME.json.
@@ -34,12 +36,18 @@ std::string BaseName(const std::string& input) {
 /// What an output needs whose name tells no format.
 std::string NeededFormat(const DrawOptions& options) {
     if (!options.Output) {
-        return "standard input: expected --format png, svg or pdf, or -o FILE, with it";
+        return "standard input: expected --format " + FormatList() + ", or -o FILE, with it";
     }
     return "-o " + *options.Output +
            (options.Output == kStandardStream
-                ? ": expected --format png, svg or pdf with it"
-                : ": expected a name that ends in .png, .svg or .pdf, or --format");
+                ? ": expected --format " + FormatList() + " with it"
+                : ": expected a name that ends in " + FormatList(".") + ", or --format");
+}
+
+void RefuseOtherPage(const std::string& option, PictureFormat format) {
+    if (!IsDrawn(format)) {
+        throw UsageError(option + ": " + kPlatform.OtherPage);
+    }
 }
 
 void CheckOneFile(const DrawOptions& options) {
@@ -49,6 +57,9 @@ void CheckOneFile(const DrawOptions& options) {
     }
     if (told && options.Format && *told != *options.Format) {
         throw UsageError("-o " + *options.Output + ": its ending tells another format than --format");
+    }
+    if (told) {
+        RefuseOtherPage("-o " + *options.Output, *told);
     }
 }
 
@@ -64,7 +75,8 @@ void MakeFolder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw UserError(Utf8FromPath(folder), "cannot be made a folder: " + error.message());
+        throw UserError(Utf8FromPath(folder),
+                        "cannot be made a folder: " + error.default_error_condition().message());
     }
 }
 
@@ -80,6 +92,9 @@ void CheckOutputs(const DrawOptions& options) {
     }
     if (options.Inputs.size() > 1 && options.Output == kStandardStream) {
         throw UsageError("-o -: expected one FILE with it");
+    }
+    if (options.Format) {
+        RefuseOtherPage("--format", *options.Format);
     }
     if (options.Output ? !IsFolder(options) : standard == 1) {
         CheckOneFile(options);

@@ -3,7 +3,6 @@
 #include "files/System.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <iostream>
 #include <optional>
@@ -26,9 +25,8 @@ millichart::InputText ReadInput(const std::string& name) {
 void WriteOutput(const std::string& name, std::string_view bytes) {
     std::string fault;
     if (name == kStandardStream) {
-        const bool written =
-            std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
-        fault = written ? "" : std::string("cannot be written: ") + std::strerror(errno);
+        std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush();
+        fault = std::cout ? "" : std::string("cannot be written: ") + std::strerror(errno);
     } else {
         std::optional<UnfinishedFile> unfinished;
         fault = millichart::WriteFile(name, bytes,

@@ -1,15 +1,21 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// The little of the operating system that the standard library does not reach.
 namespace cli {
 
+/// The words of the command line after the program, in UTF-8 where the system has an encoding of its own.
+std::vector<std::string> Arguments(int argc, char** argv);
+
+/// One that escape sequences steer.
 bool ErrorsGoToTerminal();
 bool OutputGoesToTerminal();
 
-/// Before anything is written: a write beyond the file size limit fails instead of ending the program, and a
-/// signal that ends it takes the unfinished file away.
+/// Before anything is read or written: the standard streams carry bytes, or UTF-8 to a terminal; a write
+/// beyond the file size limit fails instead of ending the program; and what ends the program leaves no
+/// unfinished file.
 void PrepareSystem();
 
 /// A file that is not finished while this lives; at most one lives at a time.

@@ -1,4 +1,5 @@
 #include "pages/LoadedChart.h"
+#include "pages/Platform.h"
 #include "penlode/text/FontFace.h"
 #include "penlode/text/StringUtil.h"
 
@@ -38,9 +39,9 @@ FontReport ReportFonts(const millichart::LaidOutChart& chart) {
     for (const auto& [family, missing] : missingByFamily) {
         report.Faces.push_back(FaceMessage(family));
         if (!missing.empty()) {
-            report.Warnings.push_back(
-                "no installed font has " + CStringUtil::WideToUtf8(missing) +
-                "; install one that does, such as fonts-noto-cjk or fonts-wqy-zenhei for Chinese");
+            report.Warnings.push_back("no installed font has " + CStringUtil::WideToUtf8(missing) +
+                                      "; install one that does, such as " + kPlatform.ChineseFonts +
+                                      " for Chinese");
         }
     }
     return report;

@@ -1,7 +1,7 @@
 #include "pages/Picture.h"
 
 #include "documents/Files.h"
-#include "penlode/cairo/GraphicsEngine.h"
+#include "pages/Platform.h"
 #include "penlode/svg/SvgEngine.h"
 
 #include <algorithm>
@@ -14,8 +14,10 @@ namespace {
 
 using penlode::CGraphicsEngine;
 
-constexpr std::array<std::pair<const char*, PictureFormat>, 3> kEndings{
-    {{".png", PictureFormat::Png}, {".svg", PictureFormat::Svg}, {".pdf", PictureFormat::Pdf}}};
+constexpr std::array<std::pair<const char*, PictureFormat>, 4> kEndings{{{".png", PictureFormat::Png},
+                                                                         {".svg", PictureFormat::Svg},
+                                                                         {".pdf", PictureFormat::Pdf},
+                                                                         {".emf", PictureFormat::Emf}}};
 
 penlode::Color BackgroundOf(const PictureSettings& settings) {
     return settings.Background.value_or(penlode::kWhite);
@@ -27,9 +29,9 @@ std::optional<penlode::Color> SvgBackground(const PictureSettings& settings) {
     return color.A() == 0 ? std::nullopt : std::optional(color);
 }
 
-class CairoPicture final : public Picture {
+class EnginePicture final : public Picture {
 public:
-    CairoPicture(std::unique_ptr<CGraphicsEngine> engine, std::string (*finish)(CGraphicsEngine&))
+    EnginePicture(std::unique_ptr<CGraphicsEngine> engine, std::string (*finish)(CGraphicsEngine&))
         : m_engine(std::move(engine)), m_finish(finish) {}
 
     penlode::IGraphicsEngine& Engine() override { return *m_engine; }
@@ -56,8 +58,8 @@ private:
     penlode::CSvgEngine m_engine;
 };
 
-std::unique_ptr<CGraphicsEngine> PdfPage(const PictureSettings& settings) {
-    auto engine = CGraphicsEngine::ForPdf(settings.Page);
+std::unique_ptr<CGraphicsEngine> PageOf(const PictureSettings& settings) {
+    auto engine = kPlatform.Begin(settings.Page);
     if (engine != nullptr && settings.Background) {
         const penlode::SolidBrush brush{*settings.Background};
         engine->FillRectangle(&brush, 0.0F, 0.0F, settings.Page.Width, settings.Page.Height);
@@ -65,12 +67,21 @@ std::unique_ptr<CGraphicsEngine> PdfPage(const PictureSettings& settings) {
     return engine;
 }
 
-std::unique_ptr<Picture> OnCairo(std::unique_ptr<CGraphicsEngine> engine,
-                                 std::string (*finish)(CGraphicsEngine&)) {
-    return engine == nullptr ? nullptr : std::make_unique<CairoPicture>(std::move(engine), finish);
+std::unique_ptr<Picture> OnEngine(std::unique_ptr<CGraphicsEngine> engine,
+                                  std::string (*finish)(CGraphicsEngine&)) {
+    return engine == nullptr ? nullptr : std::make_unique<EnginePicture>(std::move(engine), finish);
 }
 
 } // namespace
+
+bool IsDrawn(PictureFormat format) {
+    return format == PictureFormat::Png || format == PictureFormat::Svg || format == kPlatform.Page;
+}
+
+std::string FormatList(const std::string& beforeEach) {
+    const auto name = [&beforeEach](PictureFormat format) { return beforeEach + (EndingOf(format) + 1); };
+    return name(PictureFormat::Png) + ", " + name(PictureFormat::Svg) + " or " + name(kPlatform.Page);
+}
 
 std::optional<PictureFormat> FormatOfName(const std::string& fileName) {
     return FormatOfEnding(millichart::Utf8FromPath(millichart::PathFromUtf8(fileName).extension()));
@@ -100,11 +111,11 @@ std::unique_ptr<Picture> MakePicture(const PictureSettings& settings) {
     switch (settings.Format) {
     case PictureFormat::Svg:
         return std::make_unique<SvgPicture>(settings);
-    case PictureFormat::Pdf:
-        return OnCairo(PdfPage(settings), [](CGraphicsEngine& engine) { return engine.FinishPdf(); });
+    case PictureFormat::Png:
+        return OnEngine(CGraphicsEngine::ForRaster(settings.Page, settings.Dpi, BackgroundOf(settings)),
+                        [](CGraphicsEngine& engine) { return engine.EncodePng(); });
     default:
-        return OnCairo(CGraphicsEngine::ForRaster(settings.Page, settings.Dpi, BackgroundOf(settings)),
-                       [](CGraphicsEngine& engine) { return engine.EncodePng(); });
+        return OnEngine(PageOf(settings), kPlatform.Finish);
     }
 }
 

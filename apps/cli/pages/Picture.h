@@ -10,7 +10,13 @@
 
 namespace cli {
 
-enum class PictureFormat { Png, Svg, Pdf };
+enum class PictureFormat { Png, Svg, Pdf, Emf };
+
+/// Is it drawn on this platform? One of PDF and EMF is not.
+bool IsDrawn(PictureFormat format);
+
+/// "png, svg or pdf": what is drawn on this platform.
+std::string FormatList(const std::string& beforeEach = "");
 
 /// The format of ".png" and the like, in either case; nothing for other endings.
 std::optional<PictureFormat> FormatOfEnding(std::string ending);
@@ -26,7 +32,7 @@ struct PictureSettings {
     PictureFormat Format = PictureFormat::Png;
     penlode::SizeF Page; ///< mm
     double Dpi = 96.0;   ///< of a PNG
-    /// White, if there is none, under a PNG or SVG; a PDF's paper is left as it is.
+    /// White, if there is none, under a PNG or SVG; the paper of a page, PDF or EMF, is left as it is.
     std::optional<penlode::Color> Background;
     std::string Title;           ///< of an SVG
     std::string Description;     ///< of an SVG
@@ -42,7 +48,7 @@ public:
     virtual std::string Finish() = 0;
 };
 
-/// Null when the page has more pixels or millimetres than the format can hold.
+/// Null when the page has more pixels or millimetres than the format can hold. For formats that are drawn.
 std::unique_ptr<Picture> MakePicture(const PictureSettings& settings);
 
 } // namespace cli

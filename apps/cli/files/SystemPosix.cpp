@@ -1,5 +1,6 @@
 #include "files/System.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <climits>
@@ -22,6 +23,10 @@ extern "C" void EndCleanly(int signal) {
 }
 
 } // namespace
+
+std::vector<std::string> Arguments(int argc, char** argv) {
+    return {argv + std::min(argc, 1), argv + argc};
+}
 
 bool ErrorsGoToTerminal() {
     return isatty(STDERR_FILENO) != 0;

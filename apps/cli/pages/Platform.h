@@ -1,0 +1,22 @@
+#pragma once
+
+#include "pages/Picture.h"
+#include "penlode/GraphicsEngine.h"
+
+namespace cli {
+
+/// What differs from platform to platform: which pages its engine draws beside pictures, and what its user
+/// must know.
+struct Platform {
+    PictureFormat Page;
+    const char* PageName; ///< "PDF"
+    /// What to do for a page that only other platforms draw.
+    const char* OtherPage;
+    const char* ChineseFonts; ///< some to install
+    std::unique_ptr<penlode::CGraphicsEngine> (*Begin)(penlode::SizeF page);
+    std::string (*Finish)(penlode::CGraphicsEngine& page);
+};
+
+extern const Platform kPlatform;
+
+} // namespace cli

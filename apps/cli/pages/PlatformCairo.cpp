@@ -1,0 +1,14 @@
+#include "pages/Platform.h"
+
+namespace cli {
+
+using penlode::CGraphicsEngine;
+
+const Platform kPlatform{PictureFormat::Pdf,
+                         "PDF",
+                         "an EMF is drawn on Windows only, expected .svg or .pdf, which are as sharp",
+                         "fonts-noto-cjk or fonts-wqy-zenhei",
+                         CGraphicsEngine::ForPdf,
+                         [](CGraphicsEngine& page) { return page.FinishPdf(); }};
+
+} // namespace cli

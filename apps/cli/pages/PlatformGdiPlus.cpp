@@ -1,0 +1,15 @@
+#include "pages/Platform.h"
+
+namespace cli {
+
+using penlode::CGraphicsEngine;
+
+const Platform kPlatform{PictureFormat::Emf,
+                         "EMF",
+                         "a PDF is printed on Windows, expected .svg or .emf, which a PDF printer such as "
+                         "Microsoft Print to PDF makes one of",
+                         "SimSun or Microsoft YaHei",
+                         CGraphicsEngine::ForMetafile,
+                         [](CGraphicsEngine& page) { return page.FinishMetafile(); }};
+
+} // namespace cli
