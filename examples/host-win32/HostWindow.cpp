@@ -272,7 +272,7 @@ std::wstring HostWindow::SelectionText() const {
     const penlode::PointF moved = part->Moved + m_model->Movement();
     const std::wstring name =
         part->What == MovablePart::Kind::Label ? L"标签 " + std::to_wstring(part->Index + 1) : L"图例";
-    return name + L"　右 " + SignedMillimetres(moved.X) + L"　下 " + SignedMillimetres(moved.Y) + L" 毫米";
+    return name + L"　" + MovementText(moved);
 }
 
 int HostWindow::Tell(const std::wstring& text, UINT style) const {

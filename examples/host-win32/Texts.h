@@ -1,5 +1,7 @@
 #pragma once
 
+#include "penlode/Geometry.h"
+
 #include <string>
 #include <string_view>
 
@@ -12,7 +14,7 @@ std::string Utf8(std::wstring_view wide);
 /// "C:\图表\sales.chart.json" -> "sales.chart.json"
 std::wstring FileNameOf(const std::wstring& path);
 
-/// A length with its sign and one decimal: "+0.5"
-std::wstring SignedMillimetres(float millimetres);
+/// How far something was moved, in words: "向右 3.0、向上 0.5 毫米"
+std::wstring MovementText(penlode::PointF millimetres);
 
 } // namespace host

@@ -49,9 +49,25 @@ template <class Chart> ChildPlaces PlacesOf(const Chart& chart) {
     return places;
 }
 
+bool HasTwoHalves(const ChildOffsets& offsets) {
+    const std::vector<PointF>& labels = offsets.Labels;
+    return std::find(labels.begin(), labels.end(), millichart::kHalvesSeparator) != labels.end();
+}
+
 template <class Chart> ChildOffsets OffsetsOf(const Chart& chart) {
     ChildOffsets offsets;
     chart.GetChildOffset(offsets.Labels, offsets.Legend);
+    return offsets;
+}
+
+/// One for each label: a chart has as many as its document says, and moves no others.
+template <class Chart> ChildOffsets CompletedOffsets(const Chart& chart, const ChildPlaces& places) {
+    ChildOffsets offsets = OffsetsOf(chart);
+    if (!HasTwoHalves(offsets)) {
+        offsets.Labels.resize(std::max(offsets.Labels.size(), places.Labels.size()));
+    } else if (offsets.Labels.size() != places.Labels.size()) {
+        offsets.Labels.clear(); // a half without all its names: the lists do not go together
+    }
     return offsets;
 }
 
@@ -109,7 +125,7 @@ std::vector<MovablePart> MovablePartsOf(const LaidOutChart& laidOut) {
     std::vector<MovablePart> parts;
     WithMovableChart(laidOut.Chart, [&parts](const auto& chart) {
         ChildPlaces places = PlacesOf(chart);
-        ChildOffsets offsets = OffsetsOf(chart);
+        ChildOffsets offsets = CompletedOffsets(chart, places);
         AddParts(parts, MovablePart::Kind::Label, places, offsets);
         AddParts(parts, MovablePart::Kind::Legend, places, offsets);
     });
@@ -131,6 +147,8 @@ std::optional<std::size_t> PartAt(const std::vector<MovablePart>& parts, PointF 
 void MovePart(millichart::ChartDocument& document, LaidOutChart laidOut, const MovablePart& part, PointF by) {
     WithMovableChart(laidOut.Chart, [&](auto& chart) {
         ChildPlaces places = PlacesOf(chart);
+        const ChildOffsets before = CompletedOffsets(chart, places);
+        chart.SetChildOffset(before.Labels, before.Legend);
         RectF& place = places.Of(part.What).at(part.Index);
         place = penlode::Translated(place, by);
         chart.SetChildPosition({}, places.Labels, places.Legend);
