@@ -26,7 +26,8 @@ constexpr wchar_t kKeys[] = L"鼠标\n"
                             L"　方向键：移动 0.5 毫米；加 Shift：5 毫米\n"
                             L"　Enter：放下；Esc：放弃移动，取消选择\n"
                             L"　Ctrl+Z、Ctrl+Y：撤消、重做\n"
-                            L"　Ctrl++、Ctrl+-、Ctrl+0：放大、缩小、实际大小";
+                            L"　Ctrl++、Ctrl+-：放大、缩小\n"
+                            L"　Ctrl+0：实际大小";
 
 /// What cannot be shown has its reasons here, one a line; no more than a person reads.
 std::wstring Errors(const std::vector<penlode::Diagnostic>& diagnostics) {
@@ -141,8 +142,8 @@ void HostWindow::OnCommand(int command) {
 }
 
 void HostWindow::OnSize() {
-    if (m_canvas == nullptr) {
-        return;
+    if (m_model == nullptr) {
+        return; // not all there yet
     }
     SendMessageW(m_status, WM_SIZE, 0, 0);
     RECT client;
@@ -153,6 +154,7 @@ void HostWindow::OnSize() {
     const std::array parts{(std::max)(0, static_cast<int>(client.right) - zoomWidth), -1};
     SendMessageW(m_status, SB_SETPARTS, parts.size(), reinterpret_cast<LPARAM>(parts.data()));
     MoveWindow(m_canvas->Handle(), 0, 0, client.right, client.bottom - (status.bottom - status.top), TRUE);
+    ShowState();
 }
 
 /// The window came to a screen of other pixels: it keeps its size to the eye, and so does the chart.
@@ -270,8 +272,9 @@ std::wstring HostWindow::SelectionText() const {
                                         : L"拖动标签或图例，或按 Tab 选择";
     }
     const penlode::PointF moved = part->Moved + m_model->Movement();
+    const auto number = part - m_model->Parts().data() + 1;
     const std::wstring name =
-        part->What == MovablePart::Kind::Label ? L"标签 " + std::to_wstring(part->Index + 1) : L"图例";
+        part->What == MovablePart::Kind::Label ? L"标签 " + std::to_wstring(number) : L"图例";
     return name + L"　" + MovementText(moved);
 }
 
