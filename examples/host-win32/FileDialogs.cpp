@@ -9,6 +9,7 @@ namespace {
 
 constexpr wchar_t kDocuments[] = L"图表文档 (*.chart.json; *.json)\0*.chart.json;*.json\0所有文件\0*.*\0";
 constexpr wchar_t kMetafiles[] = L"增强型图元文件 (*.emf)\0*.emf\0";
+constexpr wchar_t kPrintFiles[] = L"打印机文件 (*.prn)\0*.prn\0";
 
 /// Room for the longest path that the system has.
 using NameBuffer = std::array<wchar_t, 32768>;
@@ -46,6 +47,10 @@ std::optional<std::wstring> AskSaveName(HWND owner, const std::wstring& suggeste
 
 std::optional<std::wstring> AskPageName(HWND owner, const std::wstring& suggested) {
     return Ask({owner, kMetafiles, L"emf", suggested}, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
+}
+
+std::optional<std::wstring> AskPrintName(HWND owner, const std::wstring& suggested) {
+    return Ask({owner, kPrintFiles, L"prn", suggested}, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
 }
 
 } // namespace host

@@ -10,6 +10,9 @@ namespace host {
 std::optional<std::wstring> AskOpenName(HWND owner);
 /// `suggested` may be a path.
 std::optional<std::wstring> AskSaveName(HWND owner, const std::wstring& suggested);
+/// For a page as a metafile.
 std::optional<std::wstring> AskPageName(HWND owner, const std::wstring& suggested);
+/// For what is sent to a printer.
+std::optional<std::wstring> AskPrintName(HWND owner, const std::wstring& suggested);
 
 } // namespace host

@@ -1,10 +1,12 @@
 #include "Printing.h"
 
+#include "FileDialogs.h"
 #include "Metafile.h"
 #include "model/PrintedPage.h"
 #include "penlode/Units.h"
 
 #include <commdlg.h>
+#include <optional>
 
 namespace host {
 namespace {
@@ -31,11 +33,13 @@ bool DrawOnPrinter(HDC printer, const millichart::LaidOutChart& chart) {
     return engine != nullptr;
 }
 
-Printed PrintOn(HDC printer, bool toFile, const millichart::LaidOutChart& chart, const std::wstring& title) {
+/// Into `file`, if there is one, in place of paper.
+Printed PrintOn(HDC printer, const millichart::LaidOutChart& chart, const std::wstring& title,
+                const std::optional<std::wstring>& file) {
     DOCINFOW document{};
     document.cbSize = sizeof document;
     document.lpszDocName = title.c_str();
-    document.lpszOutput = toFile ? L"FILE:" : nullptr; // the system asks for its name
+    document.lpszOutput = file ? file->c_str() : nullptr;
     if (StartDocW(printer, &document) <= 0) {
         return GetLastError() == ERROR_CANCELLED ? Printed::Cancelled : Printed::Failed;
     }
@@ -59,11 +63,16 @@ Printed PrintChart(HWND owner, const millichart::LaidOutChart& chart, const std:
     const KeptMemory names(dialog.hDevNames);
     const KeptContext printer(dialog.hDC);
     if (!isChosen) {
-        // The dialog itself told why it did not come up.
-        return Printed::Cancelled;
+        return Printed::Cancelled; // if the dialog did not come up, the system has told why
     }
-    return printer ? PrintOn(printer.get(), (dialog.Flags & PD_PRINTTOFILE) != 0, chart, title)
-                   : Printed::Failed;
+    std::optional<std::wstring> file;
+    if ((dialog.Flags & PD_PRINTTOFILE) != 0) {
+        file = AskPrintName(owner, title + L".prn");
+        if (!file) {
+            return Printed::Cancelled;
+        }
+    }
+    return printer ? PrintOn(printer.get(), chart, title, file) : Printed::Failed;
 }
 
 bool PrintChartToFile(const millichart::LaidOutChart& chart, const std::wstring& file) {
