@@ -169,14 +169,16 @@ void HostWindow::OnDropFiles(HDROP drop) {
     std::wstring file(DragQueryFileW(drop, 0, nullptr, 0), L'\0');
     DragQueryFileW(drop, 0, file.data(), static_cast<UINT>(file.size()) + 1);
     DragFinish(drop);
-    if (MayClose()) {
+    if (!file.empty() && MayClose()) {
         Open(file);
     }
 }
 
 void HostWindow::Open(const std::wstring& file) {
     auto document = millichart::ChartDocument::Load(Utf8(file));
-    const std::wstring errors = Errors(document.Diagnostics()) + Errors(document.LayOut().Diagnostics);
+    // What is wrong with a document makes a layout that means nothing.
+    const std::wstring errors =
+        Errors(document.IsSound() ? document.LayOut().Diagnostics : document.Diagnostics());
     if (!errors.empty()) {
         Tell(L"不能打开“" + FileNameOf(file) + L"”：\n" + errors, MB_ICONERROR);
         return;

@@ -27,16 +27,27 @@ void DrawFrame(HDC context, const penlode::RectF& place, const PageView& view, D
     Rectangle(context, frame.Left - beside, frame.Top - beside, frame.Right + beside, frame.Bottom + beside);
 }
 
+/// What the part looks like, where it would come to stand: its ink darkens what is there already.
+void DrawShadow(HDC context, const penlode::RectF& part, const penlode::RectF& outline,
+                const PageView& view) {
+    const PixelRect from = view.ToWindow(part);
+    const PixelRect to = view.ToWindow(outline);
+    BitBlt(context, to.Left, to.Top, from.Width(), from.Height(), context, from.Left, from.Top, SRCAND);
+}
+
 } // namespace
 
 void DrawOverlay(HDC context, const ChartModel& model, const PageView& view) {
-    if (const MovablePart* const part = model.Selected()) {
-        SetBkMode(context, TRANSPARENT);
-        DrawFrame(context, part->Place, view, PS_DOT, 1.0);
-        if (const auto outline = model.Outline()) {
-            DrawFrame(context, *outline, view, PS_SOLID, 2.0);
-        }
+    const MovablePart* const part = model.Selected();
+    if (part == nullptr) {
+        return;
     }
+    SetBkMode(context, TRANSPARENT);
+    if (const auto outline = model.Outline()) {
+        DrawShadow(context, part->Place, *outline, view);
+        DrawFrame(context, *outline, view, PS_SOLID, 2.0);
+    }
+    DrawFrame(context, part->Place, view, PS_DOT, 1.0);
 }
 
 } // namespace host

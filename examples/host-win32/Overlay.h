@@ -7,7 +7,8 @@
 
 namespace host {
 
-/// Over the page: a dotted frame round the selected part, and a firm one where it would come to stand.
+/// Over the page: a dotted frame round the selected part; while it moves, a firm one where it would come to
+/// stand.
 void DrawOverlay(HDC context, const ChartModel& model, const PageView& view);
 
 } // namespace host
