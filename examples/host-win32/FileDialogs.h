@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <windows.h>
+
+/// The system's dialogs that ask for a file's name; none when they are cancelled.
+namespace host {
+
+std::optional<std::wstring> AskOpenName(HWND owner);
+/// `suggested` may be a path.
+std::optional<std::wstring> AskSaveName(HWND owner, const std::wstring& suggested);
+/// For a page as a metafile.
+std::optional<std::wstring> AskPageName(HWND owner, const std::wstring& suggested);
+/// For what is sent to a printer.
+std::optional<std::wstring> AskPrintName(HWND owner, const std::wstring& suggested);
+
+} // namespace host
