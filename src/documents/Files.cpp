@@ -135,7 +135,6 @@ InputText ReadStream(std::istream& stream, const std::string& name) {
 std::string WriteFile(const std::string& name, std::string_view bytes,
                       const std::function<void(const std::string&)>& begin) {
     const fs::path path = PathFromUtf8(name);
-    std::error_code error;
     if (IsDeviceOrPipe(path)) {
         return WriteBytes(path, bytes) ? "" : std::string("cannot be written: ") + std::strerror(errno);
     }
