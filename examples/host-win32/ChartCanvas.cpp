@@ -3,6 +3,8 @@
 #include "Overlay.h"
 
 #include <cmath>
+#include <cstdlib>
+#include <utility>
 #include <windowsx.h>
 
 namespace host {

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <commctrl.h>
 #include <shellapi.h>
+#include <utility>
 
 namespace host {
 namespace {
@@ -103,6 +104,7 @@ LRESULT HostWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void HostWindow::OnCommand(int command) {
+    ReleaseCapture(); // a key that comes while the mouse drags ends that
     switch (command) {
     case ID_FILE_OPEN:
         return AskAndOpen();

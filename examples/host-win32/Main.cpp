@@ -2,8 +2,8 @@
 #include "Resource.h"
 
 #include <commctrl.h>
-#include <memory>
 #include <shellapi.h>
+#include <string>
 
 namespace {
 

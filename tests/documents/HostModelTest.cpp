@@ -3,6 +3,7 @@
 #include "model/PageView.h"
 #include "model/PrintedPage.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 
