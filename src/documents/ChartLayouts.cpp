@@ -133,6 +133,12 @@ void LoadData(ChartStream& stream, const DataSource& source, HalfPieHistogramDoc
     document.Largest = LoadLargestValue(stream, *source.Diagnostics);
 }
 
+/// With one for each label, so that a user may move it, whether or not the document has one.
+std::vector<PointF> ForEachLabel(std::vector<PointF> offsets, const SliceData& data) {
+    offsets.resize(std::max(offsets.size(), data.Values.size()));
+    return offsets;
+}
+
 /// Of those charts that have parts to be moved.
 template <class Chart>
 void LayOutAt(PointF location, Chart& chart, const std::vector<PointF>& labelOffsets,
@@ -146,7 +152,8 @@ CBasicPie LayOut(const PieDocument& document, LayoutTask& task, const Slices& sl
     CBasicPie chart;
     chart.SetPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
-    LayOutAt(task.Location, chart, document.LabelOffsets, {document.LegendOffset});
+    LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Data),
+             {document.LegendOffset});
     slices.Check(chart, task.Diagnostics);
     if (const float start = document.Prop.Basic.StartAngle; start < 0.0F || start >= kFullTurn) {
         task.Diagnostics.push_back(penlode::Warning("property/PieBasicProp/StartAngle", NumberText(start),
@@ -162,7 +169,7 @@ CBasicHalfPie LayOut(const HalfPieDocument& document, LayoutTask& task, const Sl
     CBasicHalfPie chart;
     chart.SetHalfPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
-    LayOutAt(task.Location, chart, document.LabelOffsets);
+    LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Data));
     slices.Check(chart, task.Diagnostics);
     return chart;
 }
@@ -173,8 +180,8 @@ bool IsUpper(const HalfPieProp& prop) {
 
 CBasicHalfPieHalfPie LayOut(const HalfPieHalfPieDocument& document, LayoutTask& task, const Slices& first,
                             const Slices& second) {
-    const std::vector<PointF>& ofSecond = document.SecondLabelOffsets;
-    std::vector<PointF> offsets = document.FirstLabelOffsets;
+    const std::vector<PointF> ofSecond = ForEachLabel(document.SecondLabelOffsets, document.Second);
+    std::vector<PointF> offsets = ForEachLabel(document.FirstLabelOffsets, document.First);
     offsets.push_back(kHalvesSeparator);
     offsets.insert(offsets.end(), ofSecond.begin(), ofSecond.end());
 
@@ -183,7 +190,7 @@ CBasicHalfPieHalfPie LayOut(const HalfPieHalfPieDocument& document, LayoutTask& 
     chart.SetComponentValue(document.First.Values, document.Second.Values);
     LayOutAt(task.Location, chart, offsets);
     first.Check(chart.GetFirstHalf(), task.Diagnostics, document.FirstLabelOffsets.size());
-    second.Check(chart.GetSecondHalf(), task.Diagnostics, ofSecond.size());
+    second.Check(chart.GetSecondHalf(), task.Diagnostics, document.SecondLabelOffsets.size());
     if (IsUpper(document.Prop.First) == IsUpper(document.Prop.Second)) {
         task.Diagnostics.push_back(
             penlode::Warning("property/LowerHalf/HalfPieBasicProp/WhichPart",
@@ -198,7 +205,7 @@ CBasicHalfPieHistogram LayOut(const HalfPieHistogramDocument& document, LayoutTa
     chart.SetHalfPieHistogramProp(document.Prop);
     chart.SetComponentValue(document.Slices.Values, document.Bars.Values,
                             document.Largest.value_or(bars.Largest()));
-    LayOutAt(task.Location, chart, document.LabelOffsets);
+    LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Slices));
     slices.Check(chart.GetHalfPie(), task.Diagnostics, document.LabelOffsets.size());
     if (IsUpper(document.Prop.HalfPie)) {
         task.Diagnostics.push_back(
