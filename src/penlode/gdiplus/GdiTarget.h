@@ -61,6 +61,7 @@ struct CGraphicsEngine::Target {
 
     Kind What;
     double Dpi;
+    std::optional<double> DpiDown;   ///< of a device that counts otherwise from top to bottom
     HDC Context = nullptr;           ///< saved, to be restored
     GdipImage Surface;               ///< a picture, or a metafile of both kinds of records
     HDC PlainMetafile = nullptr;     ///< one of GDI's records, while it is recorded

@@ -146,7 +146,7 @@ bool RecordsBoth(HDC screen) {
 } // namespace
 
 CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
-    : CTrackingEngine(target->Dpi, target->Dpi), m_target(std::move(target)) {}
+    : CTrackingEngine(target->Dpi, target->DpiDown.value_or(target->Dpi)), m_target(std::move(target)) {}
 
 CGraphicsEngine::~CGraphicsEngine() = default;
 
@@ -181,7 +181,8 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForDeviceContext(HDC context, 
     if (context == nullptr || !(dpi == 0.0 || IsWithin(dpi, 1.0, 9600.0)) || !StartGdiplus()) {
         return nullptr;
     }
-    if (dpi == 0.0) {
+    const bool asDevice = dpi == 0.0;
+    if (asDevice) {
         dpi = GetDeviceCaps(context, LOGPIXELSX);
     }
     SaveDC(context);
@@ -193,6 +194,9 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForDeviceContext(HDC context, 
     const DeviceSetting setting{!IsPage(context), dpi, SeenArea(context), {}, {}};
     auto target = std::make_unique<Target>(Target::Kind::Context, std::move(graphics), setting, dpi);
     target->Context = context;
+    if (asDevice) {
+        target->DpiDown = GetDeviceCaps(context, LOGPIXELSY);
+    }
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
 }
 
