@@ -44,10 +44,6 @@ BoxD SeenWorld(const Painter& painter) {
     return Mapped(painter.ToDevice().Inverted(), painter.GuardBand());
 }
 
-Rgb Between(const Rgb& a, const Rgb& b, double t) {
-    return {a[0] + t * (b[0] - a[0]), a[1] + t * (b[1] - a[1]), a[2] + t * (b[2] - a[2])};
-}
-
 /// A blend along one axis, in world coordinates, cut to what can be seen.
 CairoPattern AxisBlend(const ColoredPoint& from, const ColoredPoint& to, bool vertical, const BoxD& seen) {
     const auto along = [&](PointD p) { return vertical ? p.Y : p.X; };

@@ -48,13 +48,6 @@ public:
         }
     }
 
-    /// A stroke along the whole line whose middle lies `height` ems above the baseline.
-    void AddDecoration(double width, double height) {
-        const double top = -(height + kDecorationThickness / 2.0) * kShapingEm;
-        m_outline.AddRectangle({0.0F, static_cast<float>(top * m_scale), static_cast<float>(width * m_scale),
-                                static_cast<float>(kDecorationThickness * kShapingEm * m_scale)});
-    }
-
     GraphicsPath Take() { return std::move(m_outline); }
 
 private:
@@ -79,13 +72,9 @@ GraphicsPath OutlineOfLine(std::wstring_view line, const Font& font) {
     for (int i = 0; i < path->num_data; i += path->data[i].header.length) {
         builder.Add(path->data + i);
     }
-    if (font.Has(FontStyle::Underline)) {
-        builder.AddDecoration(set.Width, kUnderline);
-    }
-    if (font.Has(FontStyle::Strikeout)) {
-        builder.AddDecoration(set.Width, kStrikeout);
-    }
-    return builder.Take();
+    GraphicsPath outline = builder.Take();
+    AddDecorations(outline, {kShapingEm, set.Width}, font);
+    return outline;
 }
 
 } // namespace penlode

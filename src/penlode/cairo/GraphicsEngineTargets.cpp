@@ -1,7 +1,7 @@
 #include "penlode/Units.h"
 #include "penlode/cairo/CairoTarget.h"
 #include "penlode/cairo/PngWriter.h"
-#include "penlode/engine/Finite.h"
+#include "penlode/engine/RasterSize.h"
 
 #include <cairo-pdf.h>
 #include <cstring>
@@ -9,18 +9,6 @@
 
 namespace penlode {
 namespace {
-
-constexpr double kMaxSide = 32767.0;
-constexpr double kMaxPixels = 500e6;
-constexpr double kMaxPageSide = 5080.0;
-
-double WholePixels(double millimetres, double dpi) {
-    return std::max(1.0, std::round(millimetres * dpi / kMillimetresPerInch));
-}
-
-bool IsWithin(double value, double least, double most) {
-    return value >= least && value <= most;
-}
 
 cairo_status_t AppendTo(void* file, const unsigned char* bytes, unsigned int count) {
     try {
@@ -80,15 +68,11 @@ CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
 CGraphicsEngine::~CGraphicsEngine() = default;
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, double dpi, Color background) {
-    if (!AreFinite(millimetres.Width, millimetres.Height) || millimetres.Width <= 0.0F ||
-        millimetres.Height <= 0.0F || !IsWithin(dpi, 1.0, 9600.0)) {
+    const std::optional<RasterSize> size = RasterSizeOf(millimetres, dpi);
+    if (!size) {
         return nullptr;
     }
-    const double width = WholePixels(millimetres.Width, dpi);
-    const double height = WholePixels(millimetres.Height, dpi);
-    if (width > kMaxSide || height > kMaxSide || width * height > kMaxPixels) {
-        return nullptr;
-    }
+    const auto [width, height] = *size;
     const CairoSurface surface(
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(width), static_cast<int>(height)));
     CairoContext context(cairo_create(surface.get()));
@@ -102,8 +86,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
 }
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
-    if (!(millimetres.Width > 0.0F && millimetres.Height > 0.0F && millimetres.Width <= kMaxPageSide &&
-          millimetres.Height <= kMaxPageSide)) {
+    if (!IsPageSize(millimetres)) {
         return nullptr;
     }
     const double width = millimetres.Width * kPointsPerInch / kMillimetresPerInch;
@@ -122,7 +105,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
 }
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForCairo(_cairo* context, double dpi) {
-    if (context == nullptr || cairo_status(context) != CAIRO_STATUS_SUCCESS || !IsWithin(dpi, 1.0, 9600.0)) {
+    if (context == nullptr || cairo_status(context) != CAIRO_STATUS_SUCCESS || !IsResolution(dpi)) {
         return nullptr;
     }
     cairo_matrix_t m;

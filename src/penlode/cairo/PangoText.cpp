@@ -2,6 +2,7 @@
 
 #include "penlode/engine/EngineArguments.h"
 #include "penlode/engine/FaceMetrics.h"
+#include "penlode/engine/LineKey.h"
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
 
@@ -27,25 +28,6 @@ struct PangoDeleter {
 };
 
 template <class T> using Held = std::unique_ptr<T, PangoDeleter>;
-
-/// The style bits that choose a face.
-constexpr std::int32_t kFaceStyles = FontStyle::Bold | FontStyle::Italic;
-
-/// What a set line depends on.
-struct LineKey {
-    std::wstring Family;
-    std::int32_t Style;
-    std::wstring Text;
-
-    friend bool operator==(const LineKey&, const LineKey&) = default;
-};
-
-struct LineKeyHash {
-    std::size_t operator()(const LineKey& key) const {
-        const std::hash<std::wstring> hash;
-        return hash(key.Text) * 31U + hash(key.Family) * 7U + static_cast<std::size_t>(key.Style);
-    }
-};
 
 Held<PangoFontMap> MakeFontMap() {
     Held<PangoFontMap> map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));

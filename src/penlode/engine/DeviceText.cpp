@@ -9,6 +9,12 @@ constexpr double kMinEm = 0.1;
 /// Cairo's coordinates wrap around at twice this distance.
 constexpr double kMaxDistance = 4194304.0;
 
+/// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
+/// for every face, clear of ideographs as of Latin letters.
+constexpr double kUnderline = -0.18;
+constexpr double kStrikeout = 0.3;
+constexpr double kDecorationThickness = 0.05;
+
 /// A box round the line in device units, with room for glyphs that leave their line.
 BoxD Surroundings(const SetText& line, const Matrix& toDevice) {
     const double room = 2.0 * line.Em;
@@ -37,17 +43,21 @@ BoxD WholePixelStroke(const BoxD& stroke) {
     return box;
 }
 
-/// A stroke along the whole line whose middle lies `height` ems above the baseline.
-void StrokeAlong(const ShapePainter& painter, const SetText& line, const Matrix& toDevice, double height,
-                 Color color) {
+/// A stroke along the whole line whose middle lies `height` ems above the baseline, in the line's own units.
+BoxD Decoration(const SetText& line, double height) {
     const double top = -(height + kDecorationThickness / 2.0) * line.Em;
-    const double bottom = top + kDecorationThickness * line.Em;
-    const std::vector<PointD> corners = MappedAll(toDevice, CornersOf(BoxD{0.0, top, line.Width, bottom}));
-    if (painter.Snaps()) {
-        painter.FillPolygon(CornersOf(WholePixelStroke(BoxBetween(corners[0], corners[2]))), color);
-    } else {
-        painter.FillPolygon(corners, color);
+    return {0.0, top, line.Width, top + kDecorationThickness * line.Em};
+}
+
+std::vector<BoxD> DecorationsOf(const SetText& line, const Font& font) {
+    std::vector<BoxD> decorations;
+    if (font.Has(FontStyle::Underline)) {
+        decorations.push_back(Decoration(line, kUnderline));
     }
+    if (font.Has(FontStyle::Strikeout)) {
+        decorations.push_back(Decoration(line, kStrikeout));
+    }
+    return decorations;
 }
 
 } // namespace
@@ -70,11 +80,21 @@ bool CanBeSeen(const DeviceView& view, const SetText& line, const Matrix& toDevi
 
 void Decorate(const ShapePainter& painter, const SetText& line, const Matrix& toDevice, const Font& font,
               Color color) {
-    if (font.Has(FontStyle::Underline)) {
-        StrokeAlong(painter, line, toDevice, kUnderline, color);
+    for (const BoxD& decoration : DecorationsOf(line, font)) {
+        const std::vector<PointD> corners = MappedAll(toDevice, CornersOf(decoration));
+        if (painter.Snaps()) {
+            painter.FillPolygon(CornersOf(WholePixelStroke(BoxBetween(corners[0], corners[2]))), color);
+        } else {
+            painter.FillPolygon(corners, color);
+        }
     }
-    if (font.Has(FontStyle::Strikeout)) {
-        StrokeAlong(painter, line, toDevice, kStrikeout, color);
+}
+
+void AddDecorations(GraphicsPath& outline, const SetText& line, const Font& font) {
+    const double scale = font.Size / line.Em;
+    for (const BoxD& d : DecorationsOf(line, font)) {
+        outline.AddRectangle({0.0F, static_cast<float>(d.Top * scale), static_cast<float>(d.Right * scale),
+                              static_cast<float>(kDecorationThickness * line.Em * scale)});
     }
 }
 

@@ -6,12 +6,6 @@
 /// How lines of text that were set in units of their own lie on a device: the same on all of them.
 namespace penlode {
 
-/// Underline and strikeout by the middle of the line above the baseline, and its thickness, in ems: the same
-/// for every face, clear of ideographs as of Latin letters.
-inline constexpr double kUnderline = -0.18;
-inline constexpr double kStrikeout = 0.3;
-inline constexpr double kDecorationThickness = 0.05;
-
 /// A line that was set at an em size of its own, its baseline beginning at (0, 0).
 struct SetText {
     double Em;
@@ -30,5 +24,8 @@ bool CanBeSeen(const DeviceView& view, const SetText& line, const Matrix& toDevi
 /// they fall on the grid.
 void Decorate(const ShapePainter& painter, const SetText& line, const Matrix& toDevice, const Font& font,
               Color color);
+
+/// The same as part of the outline of a line that begins at the origin, in units of the font's size.
+void AddDecorations(GraphicsPath& outline, const SetText& line, const Font& font);
 
 } // namespace penlode

@@ -14,6 +14,11 @@ namespace penlode {
 /// Red, green and blue from 0 to 255.
 using Rgb = std::array<double, 3>;
 
+/// The colour at a part of the way from one to the other.
+inline Rgb Between(const Rgb& a, const Rgb& b, double t) {
+    return {a[0] + t * (b[0] - a[0]), a[1] + t * (b[1] - a[1]), a[2] + t * (b[2] - a[2])};
+}
+
 struct ColoredPoint {
     PointD Place;
     Rgb Colour;

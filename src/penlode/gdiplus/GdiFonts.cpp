@@ -1,6 +1,7 @@
 #include "penlode/gdiplus/GdiFonts.h"
 
 #include "penlode/engine/EngineArguments.h"
+#include "penlode/engine/LineKey.h"
 #include "penlode/text/FontFace.h"
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
@@ -13,9 +14,6 @@
 
 namespace penlode {
 namespace {
-
-/// The style bits that choose a face.
-constexpr std::int32_t kFaceStyles = FontStyle::Bold | FontStyle::Italic;
 
 /// As many lines as a dense chart has, and few enough to forget.
 constexpr std::size_t kMaxKeptWidths = 8192;
@@ -72,21 +70,6 @@ GdiFace MadeFace(const std::wstring& name, INT wanted) {
     }
     return face;
 }
-
-struct LineKey {
-    std::wstring Family;
-    std::int32_t Style;
-    std::wstring Text;
-
-    friend bool operator==(const LineKey&, const LineKey&) = default;
-};
-
-struct LineKeyHash {
-    std::size_t operator()(const LineKey& key) const {
-        const std::hash<std::wstring> hash;
-        return hash(key.Text) * 31U + hash(key.Family) * 7U + static_cast<std::size_t>(key.Style);
-    }
-};
 
 /// Measures texts on a bitmap of one pixel. One a thread: GDI+'s objects serve one at a time.
 class Measurer {

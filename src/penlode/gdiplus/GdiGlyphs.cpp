@@ -35,13 +35,6 @@ public:
         }
     }
 
-    /// A stroke along the whole line whose middle lies `height` ems above the baseline.
-    void AddDecoration(double width, double height) {
-        const double top = -(height + kDecorationThickness / 2.0) * kShapingEm;
-        m_outline.AddRectangle(Narrowed(
-            {0.0, top * m_scale, width * m_scale, (top + kDecorationThickness * kShapingEm) * m_scale}));
-    }
-
     GraphicsPath Take() { return std::move(m_outline); }
 
 private:
@@ -138,14 +131,9 @@ GraphicsPath OutlineOfLine(std::wstring_view line, const Font& font) {
     }
     OutlineReader reader(font.Size / kShapingEm);
     AddGlyphs(reader, Printable(line), *face);
-    const double width = LineWidth(line, font);
-    if (font.Has(FontStyle::Underline)) {
-        reader.AddDecoration(width, kUnderline);
-    }
-    if (font.Has(FontStyle::Strikeout)) {
-        reader.AddDecoration(width, kStrikeout);
-    }
-    return reader.Take();
+    GraphicsPath outline = reader.Take();
+    AddDecorations(outline, {kShapingEm, LineWidth(line, font)}, font);
+    return outline;
 }
 
 /// Characters beyond the Basic Multilingual Plane are not looked for: GDI does not tell who has them.

@@ -17,10 +17,6 @@ Gdiplus::PointF Narrow(PointD p) {
     return {static_cast<float>(p.X), static_cast<float>(p.Y)};
 }
 
-Rgb Between(const Rgb& a, const Rgb& b, double t) {
-    return {a[0] + t * (b[0] - a[0]), a[1] + t * (b[1] - a[1]), a[2] + t * (b[2] - a[2])};
-}
-
 /// The bounds that nothing leaves, in force while it lives.
 class BoundsClip {
 public:

@@ -1,5 +1,5 @@
 #include "penlode/Units.h"
-#include "penlode/engine/Finite.h"
+#include "penlode/engine/RasterSize.h"
 #include "penlode/gdiplus/GdiTarget.h"
 
 #include <cmath>
@@ -8,18 +8,7 @@
 namespace penlode {
 namespace {
 
-constexpr double kMaxSide = 32767.0;
-constexpr double kMaxPixels = 500e6;
-constexpr double kMaxPageSide = 5080.0;
 constexpr double kHundredths = 100.0;
-
-double WholePixels(double millimetres, double dpi) {
-    return std::max(1.0, std::round(millimetres * dpi / kMillimetresPerInch));
-}
-
-bool IsWithin(double value, double least, double most) {
-    return value >= least && value <= most;
-}
 
 bool IsPage(HDC context) {
     const int technology = GetDeviceCaps(context, TECHNOLOGY);
@@ -151,15 +140,11 @@ CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
 CGraphicsEngine::~CGraphicsEngine() = default;
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, double dpi, Color background) {
-    if (!AreFinite(millimetres.Width, millimetres.Height) || millimetres.Width <= 0.0F ||
-        millimetres.Height <= 0.0F || !IsWithin(dpi, 1.0, 9600.0) || !StartGdiplus()) {
+    const std::optional<RasterSize> size = RasterSizeOf(millimetres, dpi);
+    if (!size || !StartGdiplus()) {
         return nullptr;
     }
-    const double width = WholePixels(millimetres.Width, dpi);
-    const double height = WholePixels(millimetres.Height, dpi);
-    if (width > kMaxSide || height > kMaxSide || width * height > kMaxPixels) {
-        return nullptr;
-    }
+    const auto [width, height] = *size;
     GdipBitmap bitmap = Created<GdipBitmap>(flat::GdipCreateBitmapFromScan0, static_cast<INT>(width),
                                             static_cast<INT>(height), 0, PixelFormat32bppPARGB, nullptr);
     if (bitmap == nullptr) {
@@ -178,7 +163,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
 }
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForDeviceContext(HDC context, double dpi) {
-    if (context == nullptr || !(dpi == 0.0 || IsWithin(dpi, 1.0, 9600.0)) || !StartGdiplus()) {
+    if (context == nullptr || !(dpi == 0.0 || IsResolution(dpi)) || !StartGdiplus()) {
         return nullptr;
     }
     const bool asDevice = dpi == 0.0;
@@ -201,9 +186,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForDeviceContext(HDC context, 
 }
 
 std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForMetafile(SizeF millimetres) {
-    if (!(millimetres.Width > 0.0F && millimetres.Height > 0.0F && millimetres.Width <= kMaxPageSide &&
-          millimetres.Height <= kMaxPageSide) ||
-        !StartGdiplus()) {
+    if (!IsPageSize(millimetres) || !StartGdiplus()) {
         return nullptr;
     }
     const ScreenDc screen;
