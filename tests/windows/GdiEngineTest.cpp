@@ -145,6 +145,10 @@ TEST(GdiEngine, AMetafileHasItsRealSizeAndEnds) {
     EXPECT_EQ(picture.At(40, 30), kRed) << "programs without GDI+ see it too";
     EXPECT_EQ(picture.At(5, 30), 0U);
     EXPECT_EQ(picture.At(75, 30), 0U);
+    EXPECT_EQ(picture.At(40, 13), kRed);
+    EXPECT_EQ(picture.At(40, 47), kRed);
+    EXPECT_EQ(picture.At(40, 6), 0U) << "each way by its own resolution";
+    EXPECT_EQ(picture.At(40, 54), 0U);
     DeleteEnhMetaFile(metafile);
 }
 

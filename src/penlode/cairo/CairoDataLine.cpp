@@ -21,8 +21,6 @@ constexpr double kMaxSections = 1e7;
 constexpr double kMaxPasses = 8.0;
 constexpr std::size_t kMaxStrokedScribble = 10000;
 
-constexpr double kMaxTip = 0.75;
-
 bool Scribbles(const Painter& painter, std::span<const PointD> points) {
     const BoxD area = painter.Setting().Area;
     const auto seen = [&](PointD p) { return std::clamp(p.X, area.Left, area.Right); };
@@ -44,12 +42,6 @@ int SectionsFor(const std::vector<PolylineRun>& runs, double lineWidth, bool thi
     return static_cast<int>(std::clamp(kMaxSections / width, 1.0, finest));
 }
 
-/// The corners of a thinned line are not quite those of the full one: a tip that reaches more than a pixel
-/// beyond the line's edge might stand alone.
-double MiterLimitFor(double lineWidth, bool thinned) {
-    return thinned ? std::min(kMiterLimit, 1.0 + 2.0 * kMaxTip / lineWidth) : kMiterLimit;
-}
-
 /// The whole pixels on which the line can be seen.
 BoxD SeenArea(const Painter& painter, const std::vector<PolylineRun>& runs, double margin) {
     BoxD line = BoxBetween(runs.front().Points.front(), runs.front().Points.front());
@@ -68,7 +60,7 @@ void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<
         return;
     }
     const BoxD area = SeenArea(painter, runs, pen.Margin());
-    LineCoverage coverage(area, {pen.Width(), MiterLimitFor(pen.Width(), thinned)},
+    LineCoverage coverage(area, {pen.Width(), pen.ForThinned(thinned).MiterLimit()},
                           SectionsFor(runs, pen.Width(), thinned));
     for (const PolylineRun& run : runs) {
         coverage.Add(run.Points);

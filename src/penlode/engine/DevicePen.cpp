@@ -56,6 +56,15 @@ std::vector<double> DevicePen::Dashes() const {
     return lengths;
 }
 
+DevicePen DevicePen::ForThinned(bool isThinned) const {
+    constexpr double kMaxTip = 0.75;
+    DevicePen pen = *this;
+    if (isThinned) {
+        pen.m_miterLimit = std::min(kMiterLimit, 1.0 + 2.0 * kMaxTip / m_width);
+    }
+    return pen;
+}
+
 double DevicePen::Margin() const {
     return m_width * kMiterLimit;
 }

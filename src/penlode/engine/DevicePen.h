@@ -29,6 +29,13 @@ public:
     /// Dash and gap lengths in device units; none for a solid pen.
     std::vector<double> Dashes() const;
 
+    /// In half widths.
+    double MiterLimit() const { return m_miterLimit; }
+
+    /// The pen for a line of which points are left out: its corners are not quite those of the full one, and
+    /// a tip that reaches more than a pixel beyond the line's edge might stand alone.
+    DevicePen ForThinned(bool isThinned) const;
+
     /// How far its lines reach beyond their points, mitred corners included.
     double Margin() const;
 
@@ -36,6 +43,7 @@ private:
     Color m_color;
     DashStyle m_dashStyle;
     double m_width;
+    double m_miterLimit = kMiterLimit;
 };
 
 /// The transform without its scale, in which the pen's width counts: a circle but where axes are scaled

@@ -111,8 +111,9 @@ struct Filler {
     template <class Shape> Status operator()(const Shape& shape) const {
         if constexpr (requires { PathOf(shape); }) {
             return Surface.FillPath(PathOf(shape), Ink);
+        } else {
+            return Status::Ok; // lines have no area
         }
-        return Status::Ok; // lines have no area
     }
 };
 

@@ -1,5 +1,7 @@
 #include "penlode/gdiplus/GdiCanvas.h"
 
+#include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace penlode {
@@ -26,17 +28,25 @@ GdiCanvas::GdiCanvas(GdipGraphics graphics, const DeviceSetting& setting)
 }
 
 void GdiCanvas::Begin(const CSurfaceState& state) {
+    GoHome();
     UpdateClip(state);
-    SetTransform({});
     flat::GdipSetSmoothingMode(m_graphics.get(), SmoothingFor(state.GetSmoothingMode()));
 }
 
-void GdiCanvas::SetTransform(const Matrix& m) const {
+void GdiCanvas::GoHome() {
+    if (!m_isHome) {
+        SetTransform({});
+        m_isHome = true;
+    }
+}
+
+void GdiCanvas::SetTransform(const Matrix& m) {
     const double middle = m_setting.HasPixels ? -0.5 : 0.0;
     SetPlainTransform(m * Matrix::Translation(middle, middle));
 }
 
-void GdiCanvas::SetPlainTransform(const Matrix& m) const {
+void GdiCanvas::SetPlainTransform(const Matrix& m) {
+    m_isHome = false;
     if (const GdipMatrix matrix = MatrixOf(m)) {
         flat::GdipSetWorldTransform(m_graphics.get(), matrix.get());
     }
@@ -57,12 +67,16 @@ Gdiplus::GpPen* GdiCanvas::PenFor(const DevicePen& pen, double offset, bool dash
     if (m_penKey != key) {
         m_pen = Created<GdipPen>(flat::GdipCreatePen1, key.Ink.Argb, static_cast<float>(key.Width),
                                  Gdiplus::UnitWorld);
-        flat::GdipSetPenMiterLimit(m_pen.get(), static_cast<float>(kMiterLimit));
+        // A corner over the limit is cut as by a bevel: the plain join would leave it standing out.
+        flat::GdipSetPenLineJoin(m_pen.get(), Gdiplus::LineJoinMiterClipped);
         flat::GdipSetPenDashStyle(m_pen.get(), static_cast<Gdiplus::DashStyle>(key.Dashes));
         m_penKey = key;
     }
+    flat::GdipSetPenMiterLimit(m_pen.get(), static_cast<float>(pen.MiterLimit()));
     if (dashed) {
-        flat::GdipSetPenDashOffset(m_pen.get(), static_cast<float>(offset / key.Width));
+        const std::vector<double> dashes = pen.Dashes();
+        const double period = std::accumulate(dashes.begin(), dashes.end(), 0.0);
+        flat::GdipSetPenDashOffset(m_pen.get(), static_cast<float>(std::fmod(offset, period) / key.Width));
     }
     return m_pen.get();
 }
@@ -71,10 +85,9 @@ void GdiCanvas::UpdateClip(const CSurfaceState& state) {
     if (m_clipGeneration == state.ClipGeneration()) {
         return;
     }
-    m_clipGeneration = state.ClipGeneration();
-    SetTransform({});
     if (const GdipRegion region = ClipRegion(state.DeviceClips(), m_setting)) {
         flat::GdipSetClipRegion(m_graphics.get(), region.get(), Gdiplus::CombineModeReplace);
+        m_clipGeneration = state.ClipGeneration();
     }
 }
 

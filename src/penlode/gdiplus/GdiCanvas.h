@@ -10,8 +10,7 @@
 
 namespace penlode {
 
-/// A GDI+ surface on which drawings are bracketed and clipped. Everything is drawn in device units: a world
-/// transform of GDI+'s is in force for one drawing at most.
+/// A GDI+ surface on which drawings are bracketed and clipped, all in device units.
 class GdiCanvas {
 public:
     GdiCanvas(GdipGraphics graphics, const DeviceSetting& setting);
@@ -23,14 +22,17 @@ public:
     /// Brings clip, transform and smoothing up to date.
     void Begin(const CSurfaceState& state);
 
-    /// In device units, on top of what moves whole numbers to the edges of pixels. GDI+ has them in the
-    /// middle, and its own setting for that is not everywhere obeyed.
-    void SetTransform(const Matrix& m) const;
-    /// For texts and images, which GDI+ places by their edges as they are.
-    void SetPlainTransform(const Matrix& m) const;
+    /// Where nothing but whole numbers move, to the edges of pixels: GDI+ has them in the middle. Its own
+    /// setting for that is not obeyed by all that draws.
+    void GoHome();
+    /// Until the canvas goes home: a map in device units, on top of that move.
+    void SetTransform(const Matrix& m);
+    /// The same without it: for texts, which GDI+ places by their edges, and for images, of which it can be
+    /// told.
+    void SetPlainTransform(const Matrix& m);
 
-    /// A brush and a pen that are kept for the next drawing, which often has the same. Dashes begin `offset`
-    /// device units late. Null if memory runs out; GDI+ then draws nothing.
+    /// A brush and a pen that are kept for the next drawing, which often has the same. Dashes are as they are
+    /// `offset` device units along the line. Null if memory runs out; GDI+ then draws nothing.
     Gdiplus::GpBrush* BrushFor(Color color);
     Gdiplus::GpPen* PenFor(const DevicePen& pen, double offset, bool dashed);
 
@@ -47,6 +49,7 @@ private:
 
     GdipGraphics m_graphics;
     DeviceSetting m_setting;
+    bool m_isHome = false;
     GdipBrush m_brush;
     std::optional<Color> m_brushColor;
     GdipPen m_pen;

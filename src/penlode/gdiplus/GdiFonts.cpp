@@ -8,6 +8,8 @@
 
 #include <array>
 #include <map>
+#include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -20,20 +22,32 @@ constexpr std::size_t kMaxKeptWidths = 8192;
 constexpr std::size_t kMaxKeptCharacters = 1U << 20U;
 constexpr std::size_t kMaxKeptFaces = 256;
 
-GdipFontFamily FamilyNamed(const wchar_t* name) {
-    return Created<GdipFontFamily>(flat::GdipCreateFontFamilyFromName, name, nullptr);
-}
+/// Names of one face, Chinese and Latin: a system may know only one of them.
+constexpr std::array<std::pair<std::wstring_view, const wchar_t*>, 12> kOtherNames{{
+    {L"宋体", L"SimSun"},
+    {L"SimSun", L"宋体"},
+    {L"新宋体", L"NSimSun"},
+    {L"NSimSun", L"新宋体"},
+    {L"黑体", L"SimHei"},
+    {L"SimHei", L"黑体"},
+    {L"楷体", L"KaiTi"},
+    {L"KaiTi", L"楷体"},
+    {L"仿宋", L"FangSong"},
+    {L"FangSong", L"仿宋"},
+    {L"微软雅黑", L"Microsoft YaHei"},
+    {L"Microsoft YaHei", L"微软雅黑"},
+}};
 
 /// Where the system has no sans-serif of its own, any that it is likely to have.
 constexpr std::array kLastResorts{L"Microsoft YaHei", L"SimHei", L"SimSun", L"Segoe UI", L"Arial", L"Tahoma"};
 
-GdipFontFamily FamilyFor(const std::wstring& name) {
-    GdipFontFamily family = name.empty() ? nullptr : FamilyNamed(name.c_str());
-    if (family == nullptr) {
-        family = Created<GdipFontFamily>(flat::GdipGetGenericFontFamilySansSerif);
-    }
-    for (const wchar_t* resort : kLastResorts) {
-        family = family == nullptr ? FamilyNamed(resort) : std::move(family);
+GdipFontFamily FamilyNamed(const std::wstring& name) {
+    GdipFontFamily family =
+        Created<GdipFontFamily>(flat::GdipCreateFontFamilyFromName, name.c_str(), nullptr);
+    for (const auto& [known, other] : kOtherNames) {
+        if (family == nullptr && name == known) {
+            family = Created<GdipFontFamily>(flat::GdipCreateFontFamilyFromName, other, nullptr);
+        }
     }
     return family;
 }
@@ -49,15 +63,17 @@ INT StyleIn(const Gdiplus::GpFontFamily* family, INT wanted) {
     return wanted;
 }
 
-GdiFace MadeFace(const std::wstring& name, INT wanted) {
+/// Without a font if GDI+ cannot make one of the family: of faces with PostScript outlines, or of none at
+/// all.
+GdiFace FaceOf(GdipFontFamily family, INT wanted) {
     GdiFace face;
-    face.Family = FamilyFor(name);
-    if (face.Family == nullptr) {
+    if (family == nullptr) {
         return face;
     }
+    face.Family = std::move(family);
     face.Style = StyleIn(face.Family.get(), wanted);
     face.Face = Created<GdipFont>(flat::GdipCreateFont, face.Family.get(),
-                                  static_cast<Gdiplus::REAL>(kShapingEm), face.Style, Gdiplus::UnitPixel);
+                                  static_cast<Gdiplus::REAL>(kShapingEm), face.Style, Gdiplus::UnitWorld);
     UINT16 em = 0;
     UINT16 ascent = 0;
     UINT16 descent = 0;
@@ -69,6 +85,36 @@ GdiFace MadeFace(const std::wstring& name, INT wanted) {
         face.Line = WithoutExcessAir({face.CellAscent, static_cast<double>(descent) / em});
     }
     return face;
+}
+
+GdiFace MadeFace(const std::wstring& name, INT wanted) {
+    GdiFace face = FaceOf(name.empty() ? nullptr : FamilyNamed(name), wanted);
+    if (face.Face == nullptr) {
+        face = FaceOf(Created<GdipFontFamily>(flat::GdipGetGenericFontFamilySansSerif), wanted);
+    }
+    for (const wchar_t* resort : kLastResorts) {
+        if (face.Face == nullptr) {
+            face = FaceOf(FamilyNamed(resort), wanted);
+        }
+    }
+    return face;
+}
+
+/// GDI+'s typographic format, with what its makers left to the writer: blanks at an end count, nothing is
+/// wrapped or cut, and digits are those that were written.
+GdipStringFormat MadeFormat() {
+    GdipStringFormat typographic = Created<GdipStringFormat>(flat::GdipStringFormatGetGenericTypographic);
+    GdipStringFormat format = Created<GdipStringFormat>(flat::GdipCloneStringFormat, typographic.get());
+    (void)typographic.release(); // GDI+'s own
+    INT flags = 0;
+    flat::GdipGetStringFormatFlags(format.get(), &flags);
+    flags &= ~Gdiplus::StringFormatFlagsLineLimit;
+    flags |= Gdiplus::StringFormatFlagsMeasureTrailingSpaces | Gdiplus::StringFormatFlagsNoWrap |
+             Gdiplus::StringFormatFlagsNoClip;
+    flat::GdipSetStringFormatFlags(format.get(), flags);
+    flat::GdipSetStringFormatDigitSubstitution(format.get(), LANG_NEUTRAL,
+                                               Gdiplus::StringDigitSubstituteNone);
+    return format;
 }
 
 /// Measures texts on a bitmap of one pixel. One a thread: GDI+'s objects serve one at a time.
@@ -85,6 +131,8 @@ public:
             flat::GdipSetTextRenderingHint(m_graphics.get(), Gdiplus::TextRenderingHintAntiAlias);
         }
     }
+
+    const Gdiplus::GpStringFormat* Format() const { return m_format.get(); }
 
     const GdiFace* Face(const Font& font) {
         const auto key = std::pair(font.Family, font.Style & kFaceStyles);
@@ -108,27 +156,31 @@ public:
             m_characters = 0;
         }
         m_characters += key.Text.size();
-        const double width = Measured(key.Text, font);
-        m_widths.emplace(std::move(key), width);
-        return width;
+        const std::optional<double> width = Measured(key.Text, font);
+        if (width) {
+            m_widths.emplace(std::move(key), *width);
+        }
+        return width.value_or(0.0);
     }
 
 private:
-    double Measured(const std::wstring& text, const Font& font) {
+    /// Nothing, which is not kept, when it fails.
+    std::optional<double> Measured(const std::wstring& text, const Font& font) {
         const GdiFace* face = Face(font);
         if (face == nullptr || m_graphics == nullptr) {
-            return 0.0;
+            return std::nullopt;
         }
         const Gdiplus::RectF unbounded(0.0F, 0.0F, 0.0F, 0.0F);
         Gdiplus::RectF bounds;
         const auto status =
             flat::GdipMeasureString(m_graphics.get(), text.data(), static_cast<INT>(text.size()),
-                                    face->Face.get(), &unbounded, LineFormat(), &bounds, nullptr, nullptr);
-        return status == Gdiplus::Ok ? bounds.Width : 0.0;
+                                    face->Face.get(), &unbounded, m_format.get(), &bounds, nullptr, nullptr);
+        return status == Gdiplus::Ok ? std::optional<double>(bounds.Width) : std::nullopt;
     }
 
     GdipBitmap m_bitmap;
     GdipGraphics m_graphics;
+    GdipStringFormat m_format = MadeFormat();
     std::map<std::pair<std::wstring, INT>, GdiFace> m_faces;
     std::unordered_map<LineKey, double, LineKeyHash> m_widths;
     std::size_t m_characters = 0; ///< of the lines whose widths are kept
@@ -144,7 +196,7 @@ Measurer* ThreadMeasurer() {
 }
 
 bool IsInstalled(const std::wstring& family) {
-    return !family.empty() && StartGdiplus() && FamilyNamed(family.c_str()) != nullptr;
+    return !family.empty() && StartGdiplus() && FamilyNamed(family) != nullptr;
 }
 
 } // namespace
@@ -155,16 +207,8 @@ const GdiFace* FaceFor(const Font& font) {
 }
 
 const Gdiplus::GpStringFormat* LineFormat() {
-    static const Gdiplus::GpStringFormat* const kFormat = [] {
-        GdipStringFormat typographic = Created<GdipStringFormat>(flat::GdipStringFormatGetGenericTypographic);
-        GdipStringFormat format = Created<GdipStringFormat>(flat::GdipCloneStringFormat, typographic.get());
-        (void)typographic.release(); // GDI+'s own
-        flat::GdipSetStringFormatFlags(format.get(), Gdiplus::StringFormatFlagsMeasureTrailingSpaces |
-                                                         Gdiplus::StringFormatFlagsNoWrap |
-                                                         Gdiplus::StringFormatFlagsNoClip);
-        return format.release(); // like GDI+ itself it stays
-    }();
-    return kFormat;
+    Measurer* const measurer = ThreadMeasurer();
+    return measurer == nullptr ? nullptr : measurer->Format();
 }
 
 std::wstring Printable(std::wstring_view line) {

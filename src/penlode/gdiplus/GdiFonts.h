@@ -23,10 +23,12 @@ struct GdiFace {
 };
 
 /// The face for a font's family and style; the font's size does not count. A family that is not there is
-/// replaced by the system's generic sans-serif. Null where there is none at all. Kept until the thread ends.
+/// replaced by the system's generic sans-serif. Null where there is none at all. Stays valid until the
+/// thread asks for another.
 const GdiFace* FaceFor(const Font& font);
 
-/// The format in which all lines are measured and drawn: typographic, as long as they are, nothing cut.
+/// The format in which all lines are measured and drawn, this thread's own: typographic, as long as they are,
+/// nothing cut. Null where GDI+ does not start.
 const Gdiplus::GpStringFormat* LineFormat();
 
 /// A line as it is measured and drawn: up to the length that a line may have, and with a blank for each

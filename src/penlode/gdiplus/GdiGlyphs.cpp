@@ -3,7 +3,9 @@
 #include "penlode/gdiplus/GdiFonts.h"
 #include "penlode/text/FontFace.h"
 
+#include <bitset>
 #include <cstddef>
+#include <cstdint>
 #include <set>
 #include <vector>
 
@@ -66,6 +68,9 @@ void AddGlyphs(OutlineReader& reader, const std::wstring& text, const GdiFace& f
     }
 }
 
+/// Of the Basic Multilingual Plane.
+using CharacterSet = std::bitset<0x10000>;
+
 /// A device context without a device.
 class MemoryDc {
 public:
@@ -78,8 +83,8 @@ public:
 
     HDC Handle() const { return m_dc; }
 
-    /// Adds the characters of the Basic Multilingual Plane that a face has.
-    void AddCharacters(const LOGFONTW& face, std::set<wchar_t>& characters) const {
+    /// Adds the characters that a face has.
+    void AddCharacters(const LOGFONTW& face, CharacterSet& characters) const {
         HFONT font = CreateFontIndirectW(&face);
         HGDIOBJ before = SelectObject(m_dc, font);
         std::vector<std::byte> room(GetFontUnicodeRanges(m_dc, nullptr));
@@ -88,7 +93,7 @@ public:
             GetFontUnicodeRanges(m_dc, ranges);
             for (DWORD i = 0; i < ranges->cRanges; ++i) {
                 for (USHORT k = 0; k < ranges->ranges[i].cGlyphs; ++k) {
-                    characters.insert(static_cast<wchar_t>(ranges->ranges[i].wcLow + k));
+                    characters.set(static_cast<std::size_t>(ranges->ranges[i].wcLow) + k);
                 }
             }
         }
@@ -100,24 +105,27 @@ private:
     HDC m_dc;
 };
 
-/// What any installed face can show: GDI+ finds a glyph in another face where the font's own lacks it.
-const std::set<wchar_t>& ShownCharacters() {
-    static const std::set<wchar_t> kCharacters = [] {
+/// What any installed face of those that GDI+ draws can show: where a font lacks a glyph GDI+ looks for it in
+/// others, though perhaps not in all.
+const CharacterSet& ShownCharacters() {
+    static const CharacterSet kCharacters = [] {
         struct Search {
             MemoryDc Dc;
-            std::set<wchar_t> Found;
+            CharacterSet Found;
+            std::set<std::wstring> Seen; ///< a face comes once for each character set
         } search;
         LOGFONTW all{};
         all.lfCharSet = DEFAULT_CHARSET;
-        const auto look = [](const LOGFONTW* face, const TEXTMETRICW*, DWORD, LPARAM argument) -> int {
+        const auto look = [](const LOGFONTW* face, const TEXTMETRICW*, DWORD kind, LPARAM argument) -> int {
             auto& looked = *reinterpret_cast<Search*>(argument);
-            if (face->lfFaceName[0] != L'@') { // the same face for vertical lines
+            const bool isUpright = face->lfFaceName[0] != L'@'; // the other is for vertical lines
+            if (isUpright && kind == TRUETYPE_FONTTYPE && looked.Seen.insert(face->lfFaceName).second) {
                 looked.Dc.AddCharacters(*face, looked.Found);
             }
             return 1;
         };
         EnumFontFamiliesExW(search.Dc.Handle(), &all, look, reinterpret_cast<LPARAM>(&search), 0);
-        return std::move(search.Found);
+        return search.Found;
     }();
     return kCharacters;
 }
@@ -141,7 +149,8 @@ std::wstring MissingCharacters(std::wstring_view text, const Font&) {
     std::wstring missing;
     for (const wchar_t c : text) {
         const bool isUnit = c >= 0xD800 && c <= 0xDFFF;
-        if (c > L' ' && !isUnit && missing.find(c) == std::wstring::npos && !ShownCharacters().contains(c)) {
+        if (c > L' ' && !isUnit && missing.find(c) == std::wstring::npos &&
+            !ShownCharacters().test(static_cast<std::uint16_t>(c))) {
             missing += c;
         }
     }

@@ -22,6 +22,8 @@ class BoundsClip {
 public:
     BoundsClip(const GdiPainter& painter, const RectL& bounds) : m_graphics(painter.Graphics()) {
         flat::GdipSaveGraphics(m_graphics, &m_before);
+        // Soft edges of neighbours would let what lies below shine through between them.
+        flat::GdipSetSmoothingMode(m_graphics, Gdiplus::SmoothingModeNone);
         std::vector<PointD> corners = MappedAll(painter.ToDevice(), CornersOf(BoxOf(bounds)));
         if (painter.Snaps()) {
             corners = PixelGrid::Face(corners);

@@ -44,7 +44,12 @@ void FillVisible(const GdiPainter& painter, const PlacedImage& image, Color colo
 }
 
 void DrawVisible(const GdiPainter& painter, const PlacedImage& image, Gdiplus::GpBitmap* bitmap) {
-    const BoxD& v = image.Visible;
+    // Whole pixels, and one more, of what can be seen: GDI+ counts in single precision.
+    const BoxD seen = Mapped(image.PixelsToDevice.Inverted(), painter.GuardBand());
+    const BoxD v = Common(image.Visible, RoundedOut(seen).Grown(1.0));
+    if (v.Width() <= 0.0 || v.Height() <= 0.0) {
+        return;
+    }
     const auto corner = [&](double x, double y) {
         const PointD p = Mapped(image.PixelsToDevice, PointD{x, y});
         return Gdiplus::PointF(static_cast<float>(p.X), static_cast<float>(p.Y));
@@ -60,7 +65,7 @@ void DrawVisible(const GdiPainter& painter, const PlacedImage& image, Gdiplus::G
         static_cast<float>(v.Top - image.Part.Y), static_cast<float>(v.Width()),
         static_cast<float>(v.Height()), Gdiplus::UnitPixel, edges.get(), nullptr, nullptr);
     flat::GdipSetPixelOffsetMode(painter.Graphics(), Gdiplus::PixelOffsetModeNone);
-    painter.Canvas().SetTransform({});
+    painter.Canvas().GoHome();
 }
 
 } // namespace

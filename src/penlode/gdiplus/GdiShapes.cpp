@@ -70,10 +70,9 @@ void AddPolygon(Gdiplus::GpPath* path, std::vector<PointD> corners, const BoxD& 
 
 void AddLine(Gdiplus::GpPath* path, std::span<const PointD> line, bool closed) {
     const auto points = Narrowed(line);
+    flat::GdipAddPathLine2(path, points.data(), Count(points));
     if (closed) {
-        flat::GdipAddPathPolygon(path, points.data(), Count(points));
-    } else {
-        flat::GdipAddPathLine2(path, points.data(), Count(points));
+        flat::GdipClosePathFigure(path);
     }
 }
 
@@ -180,7 +179,7 @@ void GdiPainter::StrokeAsShaped(Gdiplus::GpPath* outline, const DevicePen& pen, 
         flat::GdipTransformPath(outline, back.get());
         m_canvas.SetTransform(shape);
         flat::GdipDrawPath(Graphics(), made, outline);
-        m_canvas.SetTransform({});
+        m_canvas.GoHome();
     }
 }
 
@@ -190,7 +189,7 @@ Status StrokeDataLine(const GdiPainter& painter, std::span<const PointF> points,
     if (!line) {
         return Status::InvalidParameter;
     }
-    painter.StrokePolyline(drawn, std::move(*line), false);
+    painter.StrokePolyline(drawn.ForThinned(line->size() < points.size()), std::move(*line), false);
     return Status::Ok;
 }
 

@@ -9,17 +9,23 @@
 
 namespace penlode {
 
+/// Dots per inch across and down.
+struct Resolution {
+    double X;
+    double Y;
+};
+
 /// What an engine draws on, and whatever belongs to its kind.
 struct CGraphicsEngine::Target {
     enum class Kind { Picture, Context, Metafile };
 
-    Target(Kind kind, GdipGraphics graphics, const DeviceSetting& setting, double dpi)
-        : What(kind), Dpi(dpi), Canvas(std::in_place, std::move(graphics), setting) {}
+    Target(Kind kind, GdipGraphics graphics, const DeviceSetting& setting, const Resolution& dpi)
+        : What(kind), PixelsPerInch(dpi), Canvas(std::in_place, std::move(graphics), setting) {}
 
     ~Target() {
         Canvas.reset(); // GDI+ holds the context as long as it draws on it
         if (Context != nullptr) {
-            RestoreDC(Context, -1);
+            RestoreDC(Context, SavedContext);
         }
         if (PlainMetafile != nullptr) {
             DeleteEnhMetaFile(CloseEnhMetaFile(PlainMetafile));
@@ -60,9 +66,9 @@ struct CGraphicsEngine::Target {
     }
 
     Kind What;
-    double Dpi;
-    std::optional<double> DpiDown;   ///< of a device that counts otherwise from top to bottom
-    HDC Context = nullptr;           ///< saved, to be restored
+    Resolution PixelsPerInch;
+    HDC Context = nullptr; ///< saved, to be restored
+    int SavedContext = 0;
     GdipImage Surface;               ///< a picture, or a metafile of both kinds of records
     HDC PlainMetafile = nullptr;     ///< one of GDI's records, while it is recorded
     std::optional<GdiCanvas> Canvas; ///< none when the metafile is finished

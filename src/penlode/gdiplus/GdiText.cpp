@@ -12,7 +12,7 @@ void DrawLine(const GdiPainter& painter, const std::wstring& text, const GdiFace
     painter.Canvas().SetPlainTransform(toDevice);
     flat::GdipDrawString(painter.Graphics(), text.data(), static_cast<INT>(text.size()), face.Face.get(),
                          &place, LineFormat(), painter.Canvas().BrushFor(color));
-    painter.Canvas().SetTransform({});
+    painter.Canvas().GoHome();
 }
 
 } // namespace

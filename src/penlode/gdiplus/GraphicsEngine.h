@@ -39,10 +39,11 @@ public:
     static std::unique_ptr<CGraphicsEngine> ForRaster(SizeF millimetres, double dpi, Color background);
 
     /// Draws on a device context of the host's (an HDC), in whose pixels it counts from the origin of its
-    /// viewport, at `dpi` dots per inch; 0 stands for the device's own. The mapping mode must be MM_TEXT. The
-    /// context must outlive the engine; when the engine goes, it is as it was found. A printer's context and
-    /// a metafile's are pages. Null for a null context or one that GDI+ cannot draw on, and for a `dpi` that
-    /// is neither 0 nor from 1 to 9600.
+    /// viewport, at `dpi` dots per inch; 0 stands for the device's
+    /// own, which is for a window the system's and not its monitor's (GetDpiForWindow). The mapping mode must
+    /// be MM_TEXT. The context must outlive the engine; when the engine goes, it is as it was found. A
+    /// printer's context and a metafile's are pages. Null for a null context or one that GDI+ cannot draw on,
+    /// and for a `dpi` that is neither 0 nor from 1 to 9600.
     static std::unique_ptr<CGraphicsEngine> ForDeviceContext(HDC__* context, double dpi = 0.0);
 
     /// An enhanced metafile of that many millimetres, up to 5080 (200 inches) along a side, for which the

@@ -10,22 +10,53 @@ namespace {
 
 constexpr double kHundredths = 100.0;
 
-bool IsPage(HDC context) {
-    const int technology = GetDeviceCaps(context, TECHNOLOGY);
+bool IsMetafile(HDC context) {
     const DWORD kind = GetObjectType(context);
-    return technology == DT_RASPRINTER || technology == DT_PLOTTER || kind == OBJ_ENHMETADC ||
-           kind == OBJ_METADC;
+    return kind == OBJ_ENHMETADC || kind == OBJ_METADC;
 }
 
-/// What of a context can be seen; a page's whole extent, since its clip may not be set yet.
-BoxD SeenArea(HDC context) {
-    RECT clip{};
-    if (IsPage(context) || GetClipBox(context, &clip) == ERROR) {
-        return {0.0, 0.0, static_cast<double>(GetDeviceCaps(context, HORZRES)),
-                static_cast<double>(GetDeviceCaps(context, VERTRES))};
+bool IsPage(HDC context) {
+    const int technology = GetDeviceCaps(context, TECHNOLOGY);
+    return technology == DT_RASPRINTER || technology == DT_PLOTTER || IsMetafile(context);
+}
+
+/// Metafiles count by the size that a driver gives its device, whatever size the user likes texts to have.
+double PixelsPerInch(HDC context, int pixels, int millimetres, int logical) {
+    const int size = GetDeviceCaps(context, millimetres);
+    return size > 0 ? GetDeviceCaps(context, pixels) * kMillimetresPerInch / size
+                    : GetDeviceCaps(context, logical);
+}
+
+Resolution MetafileResolution(HDC reference) {
+    return {PixelsPerInch(reference, HORZRES, HORZSIZE, LOGPIXELSX),
+            PixelsPerInch(reference, VERTRES, VERTSIZE, LOGPIXELSY)};
+}
+
+Resolution ResolutionOf(HDC context) {
+    if (IsMetafile(context)) {
+        return MetafileResolution(context);
     }
-    return {static_cast<double>(clip.left), static_cast<double>(clip.top), static_cast<double>(clip.right),
-            static_cast<double>(clip.bottom)};
+    return {static_cast<double>(GetDeviceCaps(context, LOGPIXELSX)),
+            static_cast<double>(GetDeviceCaps(context, LOGPIXELSY))};
+}
+
+/// What of a context can be seen, from its viewport's origin: of a page the whole, since its clip may not be
+/// set yet; of a host's metafile whatever it may be made to hold.
+BoxD SeenArea(HDC context, const Resolution& dpi) {
+    if (IsMetafile(context)) {
+        const double width = kMaxPageSide * dpi.X / kMillimetresPerInch;
+        const double height = kMaxPageSide * dpi.Y / kMillimetresPerInch;
+        return {-width, -height, width, height};
+    }
+    RECT seen{0, 0, GetDeviceCaps(context, HORZRES), GetDeviceCaps(context, VERTRES)};
+    if (IsPage(context)) {
+        DPtoLP(context, reinterpret_cast<POINT*>(&seen), 2);
+    } else {
+        RECT clip{};
+        seen = GetClipBox(context, &clip) == ERROR ? seen : clip;
+    }
+    return {static_cast<double>(seen.left), static_cast<double>(seen.top), static_cast<double>(seen.right),
+            static_cast<double>(seen.bottom)};
 }
 
 /// The screen's device context, given back when it goes.
@@ -39,12 +70,6 @@ public:
     ScreenDc& operator=(const ScreenDc&) = delete;
 
     HDC Handle() const { return m_dc; }
-
-    /// Pixels in an inch of the screen as its driver measures it: metafiles count by that, whatever size the
-    /// user likes texts to have.
-    double TrueDpi() const {
-        return GetDeviceCaps(m_dc, HORZRES) * kMillimetresPerInch / GetDeviceCaps(m_dc, HORZSIZE);
-    }
 
 private:
     HDC m_dc;
@@ -135,7 +160,7 @@ bool RecordsBoth(HDC screen) {
 } // namespace
 
 CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
-    : CTrackingEngine(target->Dpi, target->DpiDown.value_or(target->Dpi)), m_target(std::move(target)) {}
+    : CTrackingEngine(target->PixelsPerInch.X, target->PixelsPerInch.Y), m_target(std::move(target)) {}
 
 CGraphicsEngine::~CGraphicsEngine() = default;
 
@@ -157,7 +182,8 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
     }
     flat::GdipGraphicsClear(graphics.get(), background.Argb);
     const DeviceSetting setting{true, dpi, {0.0, 0.0, width, height}, {}, {width, height}};
-    auto target = std::make_unique<Target>(Target::Kind::Picture, std::move(graphics), setting, dpi);
+    auto target =
+        std::make_unique<Target>(Target::Kind::Picture, std::move(graphics), setting, Resolution{dpi, dpi});
     target->Surface.reset(bitmap.release());
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
 }
@@ -166,22 +192,20 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForDeviceContext(HDC context, 
     if (context == nullptr || !(dpi == 0.0 || IsResolution(dpi)) || !StartGdiplus()) {
         return nullptr;
     }
-    const bool asDevice = dpi == 0.0;
-    if (asDevice) {
-        dpi = GetDeviceCaps(context, LOGPIXELSX);
-    }
-    SaveDC(context);
-    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipCreateFromHDC, context);
-    if (graphics == nullptr) {
-        RestoreDC(context, -1);
+    const Resolution resolution = dpi == 0.0 ? ResolutionOf(context) : Resolution{dpi, dpi};
+    if (!IsResolution(resolution.X) || !IsResolution(resolution.Y)) {
         return nullptr;
     }
-    const DeviceSetting setting{!IsPage(context), dpi, SeenArea(context), {}, {}};
-    auto target = std::make_unique<Target>(Target::Kind::Context, std::move(graphics), setting, dpi);
-    target->Context = context;
-    if (asDevice) {
-        target->DpiDown = GetDeviceCaps(context, LOGPIXELSY);
+    const int saved = SaveDC(context);
+    GdipGraphics graphics = Created<GdipGraphics>(flat::GdipCreateFromHDC, context);
+    if (graphics == nullptr) {
+        RestoreDC(context, saved);
+        return nullptr;
     }
+    const DeviceSetting setting{!IsPage(context), resolution.X, SeenArea(context, resolution), {}, {}};
+    auto target = std::make_unique<Target>(Target::Kind::Context, std::move(graphics), setting, resolution);
+    target->Context = context;
+    target->SavedContext = saved;
     return std::unique_ptr<CGraphicsEngine>(new CGraphicsEngine(std::move(target)));
 }
 
@@ -202,10 +226,10 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForMetafile(SizeF millimetres)
         DeleteEnhMetaFile(CloseEnhMetaFile(plain));
         return nullptr;
     }
-    const double dpi = screen.TrueDpi();
-    const double pixels = dpi / kMillimetresPerInch;
-    const DeviceSetting setting{
-        false, dpi, {0.0, 0.0, millimetres.Width * pixels, millimetres.Height * pixels}, {}, {}};
+    const Resolution dpi = MetafileResolution(screen.Handle());
+    const BoxD page{0.0, 0.0, millimetres.Width * dpi.X / kMillimetresPerInch,
+                    millimetres.Height * dpi.Y / kMillimetresPerInch};
+    const DeviceSetting setting{false, dpi.X, page, {}, {}};
     auto target = std::make_unique<Target>(Target::Kind::Metafile, std::move(graphics), setting, dpi);
     target->Surface = std::move(dual);
     target->PlainMetafile = plain;
@@ -235,7 +259,7 @@ Image CGraphicsEngine::Pixels() const {
     const BoxD& area = m_target->Canvas->Setting().Area;
     image.Width = static_cast<std::int32_t>(area.Width());
     image.Height = static_cast<std::int32_t>(area.Height());
-    image.HorizontalDpi = image.VerticalDpi = static_cast<float>(m_target->Dpi);
+    image.HorizontalDpi = image.VerticalDpi = static_cast<float>(m_target->PixelsPerInch.X);
     image.Pixels.resize(static_cast<std::size_t>(image.Width) * static_cast<std::size_t>(image.Height));
     static_assert(sizeof(Color) == 4);
     Gdiplus::BitmapData rows{};

@@ -219,3 +219,22 @@ TEST(DataLine, OneBadPointAmongManyIsRefused) {
         }
     }
 }
+
+TEST(DataLine, ATipOfAThinnedLineKeepsToItsPoint) {
+    const PointF apex{300, 100};
+    std::vector<PointF> flanks;
+    for (int i = -5000; i <= 5000; ++i) {
+        const float along = static_cast<float>(i) / 50.0F;
+        flanks.push_back({apex.X + along * 0.364F, apex.Y + std::abs(along)}); // 40 degrees
+    }
+    const auto darkest = [&](const Ink& ink, int aboveApex) {
+        const auto row = ink.begin() + (static_cast<int>(apex.Y) - aboveApex) * kWidth;
+        return *std::max_element(row, row + kWidth);
+    };
+    const Pen pen(kBlack, 4.0F);
+    EXPECT_EQ(darkest(Drawn(flanks, pen), 4), 0)
+        << "a mitre of the few points that stay would reach 5.8 pixels up";
+    EXPECT_GT(darkest(Drawn(flanks, pen), 1), 0);
+    const std::vector<PointF> corner{flanks.front(), apex, flanks.back()};
+    EXPECT_GT(darkest(Drawn(corner, pen), 4), 100) << "the corner of a line that is no data has its mitre";
+}
