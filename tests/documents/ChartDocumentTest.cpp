@@ -95,10 +95,13 @@ bool Holds(const ChartDocument& document, const std::string& text) {
     return document.Text().find(text) != std::string::npos;
 }
 
-/// A folder that goes with the test, with a name that no code page has.
+/// A folder of the test's own, as tests run side by side, with a name that no code page has.
 class InFolder : public testing::Test {
 protected:
-    InFolder() : m_folder(std::filesystem::path(testing::TempDir()) / PathFromUtf8("millichart-文档📈")) {
+    InFolder()
+        : m_folder(std::filesystem::path(testing::TempDir()) /
+                   PathFromUtf8(std::string("millichart-文档📈-") +
+                                testing::UnitTest::GetInstance()->current_test_info()->name())) {
         std::filesystem::create_directories(m_folder);
     }
 
