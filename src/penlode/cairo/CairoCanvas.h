@@ -72,7 +72,7 @@ public:
     /// Long polylines go to Cairo piece by piece, since its cost grows with what crosses a scanline inside
     /// one path.
     void StrokePolyline(const DevicePen& pen, std::vector<PointD> points, bool closed) const override;
-    Status StrokePath(const GraphicsPath& path, const Pen& pen) const override;
+    bool StrokeNear(const GraphicsPath& path, const DevicePen& pen) const override;
 
     void SetColor(Color color) const;
     /// The context's matrix, as a map to device units.

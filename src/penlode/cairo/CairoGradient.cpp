@@ -117,18 +117,12 @@ void FillTriangle(const Painter& painter, const std::array<ColoredPoint, 3>& cor
 Status PaintGradient(const Painter& painter, const GradientMesh& mesh) {
     cairo_save(painter.Context());
     ClipToBounds(painter, mesh.Bounds);
-    for (const GradientRect& rect : mesh.Rects) {
-        FillRect(painter, Moved(mesh, rect.UpperLeft), Moved(mesh, rect.LowerRight),
-                 mesh.Mode == GradientMode::RectV);
-    }
-    for (const GradientTriangle& triangle : mesh.Triangles) {
-        std::array<ColoredPoint, 3> corners{Moved(mesh, triangle.Vertex1), Moved(mesh, triangle.Vertex2),
-                                            Moved(mesh, triangle.Vertex3)};
-        for (ColoredPoint& corner : corners) {
-            corner.Place = Mapped(painter.ToDevice(), corner.Place);
-        }
-        FillTriangle(painter, corners);
-    }
+    ForEachPatch(
+        mesh, painter.ToDevice(),
+        [&](const ColoredPoint& from, const ColoredPoint& to) {
+            FillRect(painter, from, to, mesh.Mode == GradientMode::RectV);
+        },
+        [&](const std::array<ColoredPoint, 3>& corners) { FillTriangle(painter, corners); });
     cairo_restore(painter.Context());
     return Status::Ok;
 }

@@ -33,25 +33,14 @@ Status Painter::FillPath(const GraphicsPath& path, Color color) const {
     return Status::Ok;
 }
 
-Status Painter::StrokePath(const GraphicsPath& path, const Pen& pen) const {
-    const DevicePen drawn(pen, *this, false);
-    const BoxD box = GuardBand(drawn.Margin());
-    const Reach reach = ReachOf(path, ToDevice(), box);
-    if (reach == Reach::NotFinite) {
-        return Status::ValueOverflow;
+bool Painter::StrokeNear(const GraphicsPath& path, const DevicePen& pen) const {
+    if (PiecesIn(path) > kMaxPieces) {
+        return false;
     }
-    if (reach == Reach::Inside && PiecesIn(path) <= kMaxPieces) {
-        CairoOutline outline(Context());
-        WalkOutline(path, ToDevice(), outline);
-        StrokeCurrentPath(*this, drawn);
-        return Status::Ok;
-    }
-    OutlineFlattener flattener(box);
-    WalkOutline(path, ToDevice(), flattener);
-    for (FlatFigure& figure : flattener.Take()) {
-        StrokePolyline(drawn, std::move(figure.Points), figure.Closed);
-    }
-    return Status::Ok;
+    CairoOutline outline(Context());
+    WalkOutline(path, ToDevice(), outline);
+    StrokeCurrentPath(*this, pen);
+    return true;
 }
 
 } // namespace penlode

@@ -127,4 +127,22 @@ Status ShapePainter::Fill(const Outline& outline, Color color) const {
     return std::visit(Filler{*this, color}, outline.Shape);
 }
 
+Status ShapePainter::StrokePath(const GraphicsPath& path, const Pen& pen) const {
+    const DevicePen drawn(pen, *this, false);
+    const BoxD box = GuardBand(drawn.Margin());
+    const Reach reach = ReachOf(path, ToDevice(), box);
+    if (reach == Reach::NotFinite) {
+        return Status::ValueOverflow;
+    }
+    if (reach == Reach::Inside && StrokeNear(path, drawn)) {
+        return Status::Ok;
+    }
+    OutlineFlattener flattener(box);
+    WalkOutline(path, ToDevice(), flattener);
+    for (FlatFigure& figure : flattener.Take()) {
+        StrokePolyline(drawn, std::move(figure.Points), figure.Closed);
+    }
+    return Status::Ok;
+}
+
 } // namespace penlode

@@ -24,7 +24,11 @@ public:
     virtual Status FillPath(const GraphicsPath& path, Color color) const = 0;
     /// However many points; far parts are cut off.
     virtual void StrokePolyline(const DevicePen& pen, std::vector<PointD> points, bool closed) const = 0;
-    virtual Status StrokePath(const GraphicsPath& path, const Pen& pen) const = 0;
+    /// A path that lies near, as it is; false if it is better stroked as straight lines.
+    virtual bool StrokeNear(const GraphicsPath& path, const DevicePen& pen) const = 0;
+
+    /// In world coordinates; never snapped.
+    Status StrokePath(const GraphicsPath& path, const Pen& pen) const;
 
 protected:
     ~ShapePainter() = default;

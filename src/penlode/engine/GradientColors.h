@@ -32,6 +32,23 @@ inline ColoredPoint Moved(const GradientMesh& mesh, std::uint32_t index) {
             {channel(v.Red), channel(v.Green), channel(v.Blue)}};
 }
 
+/// Hands on each entry of a mesh: rectangles by two corners in world coordinates, triangles in device units.
+template <class FillRect, class FillTriangle>
+void ForEachPatch(const GradientMesh& mesh, const Matrix& toDevice, const FillRect& fillRect,
+                  const FillTriangle& fillTriangle) {
+    for (const GradientRect& rect : mesh.Rects) {
+        fillRect(Moved(mesh, rect.UpperLeft), Moved(mesh, rect.LowerRight));
+    }
+    for (const GradientTriangle& triangle : mesh.Triangles) {
+        std::array<ColoredPoint, 3> corners{Moved(mesh, triangle.Vertex1), Moved(mesh, triangle.Vertex2),
+                                            Moved(mesh, triangle.Vertex3)};
+        for (ColoredPoint& corner : corners) {
+            corner.Place = Mapped(toDevice, corner.Place);
+        }
+        fillTriangle(corners);
+    }
+}
+
 inline BoxD BoxOf(const RectL& r) {
     return {static_cast<double>(r.Left), static_cast<double>(r.Top), static_cast<double>(r.Right),
             static_cast<double>(r.Bottom)};

@@ -72,7 +72,7 @@ public:
     void FillPolygon(std::span<const PointD> corners, Color color) const override;
     Status FillPath(const GraphicsPath& path, Color color) const override;
     void StrokePolyline(const DevicePen& pen, std::vector<PointD> points, bool closed) const override;
-    Status StrokePath(const GraphicsPath& path, const Pen& pen) const override;
+    bool StrokeNear(const GraphicsPath& path, const DevicePen& pen) const override;
 
 private:
     void StrokeRun(const DevicePen& pen, std::span<const PointD> points, bool closed, double before,

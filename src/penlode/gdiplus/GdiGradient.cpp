@@ -124,18 +124,12 @@ void FillTriangle(const GdiPainter& painter, const std::array<ColoredPoint, 3>& 
 
 Status PaintGradient(const GdiPainter& painter, const GradientMesh& mesh) {
     const BoundsClip clip(painter, mesh.Bounds);
-    for (const GradientRect& rect : mesh.Rects) {
-        FillRect(painter, Moved(mesh, rect.UpperLeft), Moved(mesh, rect.LowerRight),
-                 mesh.Mode == GradientMode::RectV);
-    }
-    for (const GradientTriangle& triangle : mesh.Triangles) {
-        std::array<ColoredPoint, 3> corners{Moved(mesh, triangle.Vertex1), Moved(mesh, triangle.Vertex2),
-                                            Moved(mesh, triangle.Vertex3)};
-        for (ColoredPoint& corner : corners) {
-            corner.Place = Mapped(painter.ToDevice(), corner.Place);
-        }
-        FillTriangle(painter, corners);
-    }
+    ForEachPatch(
+        mesh, painter.ToDevice(),
+        [&](const ColoredPoint& from, const ColoredPoint& to) {
+            FillRect(painter, from, to, mesh.Mode == GradientMode::RectV);
+        },
+        [&](const std::array<ColoredPoint, 3>& corners) { FillTriangle(painter, corners); });
     return Status::Ok;
 }
 

@@ -135,27 +135,13 @@ void GdiPainter::StrokePolyline(const DevicePen& pen, std::vector<PointD> points
     }
 }
 
-Status GdiPainter::StrokePath(const GraphicsPath& path, const Pen& pen) const {
-    const DevicePen drawn(pen, *this, false);
-    const BoxD box = GuardBand(drawn.Margin());
-    const Reach reach = ReachOf(path, ToDevice(), box);
-    if (reach == Reach::NotFinite) {
-        return Status::ValueOverflow;
+bool GdiPainter::StrokeNear(const GraphicsPath& path, const DevicePen& pen) const {
+    if (const GdipPath outline = EmptyPath()) {
+        OutlineWriter writer(outline.get());
+        WalkOutline(path, ToDevice(), writer);
+        StrokeAsShaped(outline.get(), pen, 0.0, !pen.IsSolid());
     }
-    if (reach == Reach::Inside) {
-        if (const GdipPath outline = EmptyPath()) {
-            OutlineWriter writer(outline.get());
-            WalkOutline(path, ToDevice(), writer);
-            StrokeAsShaped(outline.get(), drawn, 0.0, !drawn.IsSolid());
-        }
-        return Status::Ok;
-    }
-    OutlineFlattener flattener(box);
-    WalkOutline(path, ToDevice(), flattener);
-    for (FlatFigure& figure : flattener.Take()) {
-        StrokePolyline(drawn, std::move(figure.Points), figure.Closed);
-    }
-    return Status::Ok;
+    return true;
 }
 
 void GdiPainter::StrokeRun(const DevicePen& pen, std::span<const PointD> points, bool closed, double before,
