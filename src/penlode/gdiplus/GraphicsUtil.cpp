@@ -1,21 +1,11 @@
 #include "penlode/gdiplus/GraphicsUtil.h"
 
-#include "penlode/Units.h"
 #include "penlode/gdiplus/GdiPlus.h"
 
-#include <cmath>
+#include <algorithm>
+#include <cstdlib>
 
 namespace penlode {
-namespace {
-
-std::int32_t ScreenPixelsPerInch() {
-    const HDC screen = GetDC(nullptr);
-    const int pixels = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return pixels;
-}
-
-} // namespace
 
 struct CGraphicsUtil::Screen {
     Screen() : Context(GetDC(nullptr)) {
@@ -44,10 +34,10 @@ Gdiplus::GpGraphics* CGraphicsUtil::GetGraphics() const {
     return m_screen->Graphics.get();
 }
 
-Font CGraphicsUtil::FontOf(const LOGFONTW& logicalFont) {
+LogicalFont CGraphicsUtil::Read(const LOGFONTW& logicalFont) {
     const wchar_t* name = logicalFont.lfFaceName;
-    Font font{name[0] == L'@' ? name + 1 : name, // the same face for vertical lines
-              MillimetresFromLogicalHeight(logicalFont.lfHeight, ScreenPixelsPerInch()), FontStyle::Regular};
+    LogicalFont font{name[0] == L'@' ? name + 1 : name, // the same face for vertical lines
+                     std::abs(logicalFont.lfHeight), FontStyle::Regular};
     font.Style |= logicalFont.lfWeight >= FW_SEMIBOLD ? FontStyle::Bold : 0;
     font.Style |= logicalFont.lfItalic != 0 ? FontStyle::Italic : 0;
     font.Style |= logicalFont.lfUnderline != 0 ? FontStyle::Underline : 0;
@@ -55,18 +45,32 @@ Font CGraphicsUtil::FontOf(const LOGFONTW& logicalFont) {
     return font;
 }
 
-void CGraphicsUtil::ToLogicalFont(const Font& font, LOGFONTW& logicalFont) {
-    const double pixels =
-        static_cast<double>(font.Size) * kPointsPerMillimetre * ScreenPixelsPerInch() / kPointsPerInch;
+void CGraphicsUtil::Write(const LogicalFont& font, LOGFONTW& logicalFont) {
+    const auto has = [&font](std::int32_t style) { return (font.Style & style) != 0; };
     logicalFont = {};
-    logicalFont.lfHeight = -static_cast<LONG>(std::lround(std::clamp(pixels, 0.0, 32767.0)));
-    logicalFont.lfWeight = font.Has(FontStyle::Bold) ? FW_BOLD : FW_NORMAL;
-    logicalFont.lfItalic = font.Has(FontStyle::Italic) ? 1 : 0;
-    logicalFont.lfUnderline = font.Has(FontStyle::Underline) ? 1 : 0;
-    logicalFont.lfStrikeOut = font.Has(FontStyle::Strikeout) ? 1 : 0;
+    logicalFont.lfHeight = -font.Height;
+    logicalFont.lfWeight = has(FontStyle::Bold) ? FW_BOLD : FW_NORMAL;
+    logicalFont.lfItalic = has(FontStyle::Italic) ? 1 : 0;
+    logicalFont.lfUnderline = has(FontStyle::Underline) ? 1 : 0;
+    logicalFont.lfStrikeOut = has(FontStyle::Strikeout) ? 1 : 0;
     logicalFont.lfCharSet = DEFAULT_CHARSET;
     const std::size_t length = std::min<std::size_t>(font.Family.size(), LF_FACESIZE - 1);
     font.Family.copy(logicalFont.lfFaceName, length);
+}
+
+std::int32_t CGraphicsUtil::PixelsPerInch() {
+    const HDC screen = GetDC(nullptr);
+    const int pixels = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+Font CGraphicsUtil::FontOf(const LOGFONTW& logicalFont) {
+    return FromLogicalFont(Read(logicalFont), PixelsPerInch());
+}
+
+void CGraphicsUtil::ToLogicalFont(const Font& font, LOGFONTW& logicalFont) {
+    Write(penlode::ToLogicalFont(font, PixelsPerInch()), logicalFont);
 }
 
 } // namespace penlode

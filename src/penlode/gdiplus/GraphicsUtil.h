@@ -1,7 +1,7 @@
 #pragma once
 
 #include "penlode/Export.h"
-#include "penlode/Font.h"
+#include "penlode/LogicalFont.h"
 
 #include <memory>
 
@@ -26,10 +26,18 @@ public:
     /// Null where GDI+ does not start.
     Gdiplus::GpGraphics* GetGraphics() const;
 
+    /// The screen's vertical resolution.
+    static std::int32_t PixelsPerInch();
+
+    /// What charts know of a font of the system's dialog. From semi-bold on it is bold.
+    static LogicalFont Read(const tagLOGFONTW& logicalFont);
+    /// Its height becomes negative, as character heights are.
+    static void Write(const LogicalFont& font, tagLOGFONTW& logicalFont);
+
     /// A font that the user picked in the system's dialog: its height (in pixels, either sign) by the
-    /// screen's vertical resolution, points / 2.8368 to the millimetre. From semi-bold on it is bold.
+    /// screen's vertical resolution, points / 2.8368 to the millimetre.
     static Font FontOf(const tagLOGFONTW& logicalFont);
-    /// The same way back, the height rounded to whole pixels and negative, as character heights are.
+    /// The same way back, the height rounded to whole pixels.
     static void ToLogicalFont(const Font& font, tagLOGFONTW& logicalFont);
 
 private:

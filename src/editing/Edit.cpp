@@ -1,0 +1,113 @@
+#include "editing/Edit.h"
+
+#include "editing/DlgLinePenProp.h"
+#include "editing/DlgLogarithmValueRange.h"
+#include "editing/DlgNaturalValueRange.h"
+#include "editing/Preview.h"
+#include "editing/TextPropDlg.h"
+
+using namespace millichart;
+
+namespace {
+
+/// Opens a window on a copy of the record, which takes it back after OK.
+template <class Window, class Record> bool Edit(Record* record) {
+    if (record == nullptr) {
+        return false;
+    }
+    Window window(*record);
+    const bool isAccepted = RunModal(window);
+    if (isAccepted) {
+        *record = window.Edited();
+    }
+    return isAccepted;
+}
+
+template <class Window, class Record>
+bool Edit(Record* record, const std::function<void(const Record&)>& preview) {
+    if (record == nullptr) {
+        return false;
+    }
+    Previewed<Window> window(Window(*record), preview);
+    const bool isAccepted = RunModal(window);
+    if (isAccepted) {
+        *record = window.Edited();
+    } else {
+        preview(*record);
+    }
+    return isAccepted;
+}
+
+} // namespace
+
+bool EditPen(penlode::Pen* pen) {
+    if (pen == nullptr) {
+        return false;
+    }
+    CDlgLinePenProp dialog(ValuesOf(*pen));
+    const bool isAccepted = RunModal(dialog);
+    if (isAccepted) {
+        Apply(dialog.Edited(), *pen);
+    }
+    return isAccepted;
+}
+
+bool EditTextProperty(TextProperty* property) {
+    return Edit<CTextPropDlg>(property);
+}
+
+bool EditNaturalValueRange(double* minimum, double* maximum, double* majorStep, double* minorStep) {
+    if (minimum == nullptr || maximum == nullptr || majorStep == nullptr || minorStep == nullptr) {
+        return false;
+    }
+    NaturalValueRange range{*minimum, *maximum, *majorStep, *minorStep};
+    const bool isAccepted = Edit<CDlgNaturalValueRange>(&range);
+    if (isAccepted) {
+        *minimum = range.Minimum;
+        *maximum = range.Maximum;
+        *majorStep = range.MajorStep;
+        *minorStep = range.MinorStep;
+    }
+    return isAccepted;
+}
+
+bool EditLogarithmValueRange(double* minimum, double* maximum) {
+    if (minimum == nullptr || maximum == nullptr) {
+        return false;
+    }
+    LogarithmValueRange range{*minimum, *maximum};
+    const bool isAccepted = Edit<CDlgLogarithmValueRange>(&range);
+    if (isAccepted) {
+        *minimum = range.Minimum;
+        *maximum = range.Maximum;
+    }
+    return isAccepted;
+}
+
+namespace millichart {
+
+bool EditWithPreview(penlode::Pen* pen, const std::function<void(const penlode::Pen&)>& preview) {
+    if (pen == nullptr) {
+        return false;
+    }
+    const auto edited = [pen](const LinePenValues& values) {
+        penlode::Pen trial = *pen;
+        Apply(values, trial);
+        return trial;
+    };
+    Previewed<CDlgLinePenProp> dialog(CDlgLinePenProp(ValuesOf(*pen)),
+                                      [&](const LinePenValues& values) { preview(edited(values)); });
+    const bool isAccepted = RunModal(dialog);
+    if (isAccepted) {
+        *pen = edited(dialog.Edited());
+    } else {
+        preview(*pen);
+    }
+    return isAccepted;
+}
+
+bool EditWithPreview(TextProperty* property, const std::function<void(const TextProperty&)>& preview) {
+    return Edit<CTextPropDlg>(property, preview);
+}
+
+} // namespace millichart

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "editing/ValueRanges.h"
+#include "foundation/Export.h"
+
+#include <functional>
+
+/// Modal dialogs, in Chinese, in which a user edits a record.
+///
+/// Each opens on the host's active window and works on a copy. True after OK: the record then holds what the
+/// user made of it. False after Cancel, or for a null record: the record, its pens and fonts are untouched.
+/// Call them on the thread of the user interface. On Linux they are in libmillichart-editing.so, on Qt, and
+/// need no QApplication of the host's; false comes back on any other thread than a QApplication's.
+namespace penlode {
+class Pen;
+}
+
+namespace millichart {
+
+struct TextProperty;
+
+} // namespace millichart
+
+extern "C" {
+
+/// Colour, width and dash style. A translucent pen becomes opaque. A pen whose fill is no plain colour is
+/// shown as black, and WrongState is recorded in it.
+MILLICHART_API bool EditPen(penlode::Pen* pen);
+
+MILLICHART_API bool EditTextProperty(millichart::TextProperty* property);
+}
+
+namespace millichart {
+
+/// The same, for hosts that show what the user is doing: `preview` gets what OK would give now, after every
+/// change that OK would accept, at most once a frame, and on Cancel the record as it was.
+MILLICHART_API bool EditWithPreview(penlode::Pen* pen,
+                                    const std::function<void(const penlode::Pen&)>& preview);
+MILLICHART_API bool EditWithPreview(TextProperty* property,
+                                    const std::function<void(const TextProperty&)>& preview);
+
+} // namespace millichart
