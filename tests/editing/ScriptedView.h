@@ -1,0 +1,91 @@
+#pragma once
+
+#include "editing/Dialog.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace testing_support {
+
+/// A dialog's window without a screen, and the hands of its user: they reach only what is enabled.
+class ScriptedView final : public millichart::DialogView {
+public:
+    explicit ScriptedView(millichart::Dialog& dialog);
+
+    void Type(int id, const std::string& text);
+    void Click(int id);
+    void Pick(int id, int index);
+    void Step(int id, int delta);
+    bool PressOk();
+
+    bool IsEnabled(int id) const { return !m_disabled.contains(id); }
+
+    /// What the user does in the dialogs that the next clicks open, in turn; without an entry they are
+    /// cancelled.
+    std::deque<std::uint32_t> ColorsToPick;
+    std::deque<std::function<millichart::FontChoice(millichart::FontChoice)>> FontsToPick;
+    std::deque<millichart::Answer> Answers; ///< to questions; "OK" without an entry
+
+    /// What was shown to the user.
+    std::vector<std::string> Messages;
+    int Focused = millichart::kNoId;
+    int SelectedText = millichart::kNoId;
+    std::pair<int, int> StepRange;
+
+    std::string Text(int id) const override;
+    void SetText(int id, std::string_view text) override;
+    bool IsChecked(int id) const override;
+    void SetChecked(int id, bool checked) override;
+    void SetItems(int id, std::span<const std::string_view> items) override;
+    int Selection(int id) const override;
+    void Select(int id, int index) override;
+    std::uint32_t ShownColor(int id) const override;
+    void ShowColor(int id, std::uint32_t colorRef) override;
+    void SetEnabled(int id, bool enabled) override;
+    void SetStepRange(int id, int low, int high) override;
+    void Focus(int id) override;
+    void SelectText(int id) override;
+    millichart::Answer ShowMessage(std::string_view text, millichart::MessageButtons buttons) override;
+    std::optional<std::uint32_t> PickColor(std::uint32_t colorRef) override;
+    std::optional<millichart::FontChoice> PickFont(const millichart::FontChoice& shown) override;
+
+    int PixelsPerInch() const override { return 96; }
+
+    bool Run(millichart::Dialog& dialog) override { return RunModal(dialog); }
+
+private:
+    millichart::ControlKind KindOf(int id) const;
+    void UseByHand(int id) const;
+
+    millichart::Dialog& m_dialog;
+    std::map<int, std::string> m_texts;
+    std::set<int> m_checked;
+    std::set<int> m_disabled;
+    std::map<int, std::vector<std::string>> m_items;
+    std::map<int, int> m_selections;
+    std::map<int, std::uint32_t> m_colors;
+};
+
+/// Uses one dialog that is opened; true if it ends with OK.
+using Use = std::function<bool(ScriptedView&)>;
+
+/// What the user does with the dialogs that open from now on, in turn. Whatever is not used is a failure.
+class User {
+public:
+    explicit User(std::vector<Use> uses);
+    ~User();
+
+    User(const User&) = delete;
+    User& operator=(const User&) = delete;
+};
+
+/// Presses OK, or Cancel, without touching anything.
+bool Accept(ScriptedView& view);
+bool Cancel(ScriptedView& view);
+
+} // namespace testing_support
