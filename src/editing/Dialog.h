@@ -5,6 +5,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace millichart {
 
@@ -38,6 +39,12 @@ protected:
     Dialog& operator=(const Dialog&) = default;
 };
 
+/// A page of a sheet, and what its tab shows.
+struct SheetPage {
+    Dialog* Page; ///< the sheet's
+    std::string_view Title;
+};
+
 /// Pages behind tabs, with OK and Cancel for all of them. A page's window is made when it is first shown.
 class Sheet {
 public:
@@ -45,8 +52,8 @@ public:
 
     virtual std::string_view Title() const = 0;
 
-    /// In the order of their tabs, which show the titles of their templates. They are the sheet's.
-    virtual std::span<Dialog* const> Pages() = 0;
+    /// In the order of their tabs.
+    virtual std::vector<SheetPage> Pages() = 0;
 
     /// The user changed something since the last call. At most once a frame. `views` are the pages' windows,
     /// null for one that was never shown.

@@ -15,10 +15,12 @@ enum class ControlKind {
     Button,
     DefaultButton, ///< what Enter presses
     DropDownList,
-    LineStyles,  ///< a CLineStyleComboBox
-    ColorButton, ///< shows a colour and lets the user pick another
-    ColorPane,   ///< shows a colour
-    Stepper,     ///< a pair of arrows that steps the edit before it
+    LineStyles,     ///< a CLineStyleComboBox
+    ColorButton,    ///< shows a colour and lets the user pick another
+    ColorPane,      ///< shows a colour
+    EditableList,   ///< a CListCtrlEx
+    PositionPicker, ///< a small picture of a legend's twelve places, numbered as LegendPosition
+    Stepper,        ///< a pair of arrows that steps the edit before it
 };
 
 inline constexpr int kOkButton = 1;

@@ -7,10 +7,26 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace millichart {
 
 class Dialog;
+
+enum class CellKind { Text, Number, Color, Line, Choice };
+
+/// One column of a list. A colour's cell holds a Windows RGB value in decimal digits, a line's that, its
+/// width in mm and the number of its dash style, apart by blanks; the list shows both as samples.
+struct ListColumn {
+    std::string_view Title;
+    CellKind Kind;
+    int Width;                                      ///< in dialog units
+    std::string (*NewCell)(int row);                ///< of a row that the user adds
+    std::span<const std::string_view> Choices = {}; ///< of a choice
+};
+
+/// The texts of a row's cells (UTF-8), one a column.
+using ListRow = std::vector<std::string>;
 
 enum class MessageButtons { Ok, YesNo };
 
@@ -37,6 +53,10 @@ public:
     /// Checking a radio button unchecks the others of its group.
     virtual void SetChecked(int id, bool checked) = 0;
     virtual void SetItems(int id, std::span<const std::string_view> items) = 0;
+    virtual void SetColumns(int id, std::span<const ListColumn> columns) = 0;
+    virtual void SetRows(int id, std::vector<ListRow> rows) = 0;
+    /// As the user made them: cells edited, rows added, removed and moved.
+    virtual std::vector<ListRow> Rows(int id) const = 0;
     /// The selected item of a list, −1 if there is none.
     virtual int Selection(int id) const = 0;
     /// An index that the list has not selects nothing.

@@ -4,6 +4,7 @@
 #include "editing/DlgLogarithmValueRange.h"
 #include "editing/DlgNaturalValueRange.h"
 #include "editing/Preview.h"
+#include "editing/Sheets.h"
 #include "editing/TextPropDlg.h"
 
 using namespace millichart;
@@ -54,6 +55,30 @@ bool EditPen(penlode::Pen* pen) {
 
 bool EditTextProperty(TextProperty* property) {
     return Edit<CTextPropDlg>(property);
+}
+
+bool EditPieProp(PieProp* prop) {
+    return Edit<CSheetPie>(prop);
+}
+
+bool EditHalfPieProp(HalfPieProp* prop) {
+    return Edit<CSheetHalfPie>(prop);
+}
+
+bool EditHalfPieHalfPieProp(HalfPieHalfPieProp* prop) {
+    return Edit<CSheetHalfPieHalfPie>(prop);
+}
+
+bool EditHalfPieHistogramProp(HalfPieHistogramProp* prop) {
+    return Edit<CSheetHalfPieHistogram>(prop);
+}
+
+bool EditHistogramProp(HistogramProp* prop) {
+    return Edit<CSheetHistogram>(prop);
+}
+
+bool EditCurveProp(CurveProp* prop) {
+    return Edit<CSheetCurve>(prop);
 }
 
 bool EditNaturalValueRange(double* minimum, double* maximum, double* majorStep, double* minorStep) {
@@ -108,6 +133,32 @@ bool EditWithPreview(penlode::Pen* pen, const std::function<void(const penlode::
 
 bool EditWithPreview(TextProperty* property, const std::function<void(const TextProperty&)>& preview) {
     return Edit<CTextPropDlg>(property, preview);
+}
+
+bool EditWithPreview(PieProp* prop, const std::function<void(const PieProp&)>& preview) {
+    return Edit<CSheetPie>(prop, preview);
+}
+
+bool EditWithPreview(HalfPieProp* prop, const std::function<void(const HalfPieProp&)>& preview) {
+    return Edit<CSheetHalfPie>(prop, preview);
+}
+
+bool EditWithPreview(HalfPieHalfPieProp* prop,
+                     const std::function<void(const HalfPieHalfPieProp&)>& preview) {
+    return Edit<CSheetHalfPieHalfPie>(prop, preview);
+}
+
+bool EditWithPreview(HalfPieHistogramProp* prop,
+                     const std::function<void(const HalfPieHistogramProp&)>& preview) {
+    return Edit<CSheetHalfPieHistogram>(prop, preview);
+}
+
+bool EditWithPreview(HistogramProp* prop, const std::function<void(const HistogramProp&)>& preview) {
+    return Edit<CSheetHistogram>(prop, preview);
+}
+
+bool EditWithPreview(CurveProp* prop, const std::function<void(const CurveProp&)>& preview) {
+    return Edit<CSheetCurve>(prop, preview);
 }
 
 } // namespace millichart

@@ -17,6 +17,12 @@ class Pen;
 
 namespace millichart {
 
+struct CurveProp;
+struct HalfPieHalfPieProp;
+struct HalfPieHistogramProp;
+struct HalfPieProp;
+struct HistogramProp;
+struct PieProp;
 struct TextProperty;
 
 } // namespace millichart
@@ -28,6 +34,14 @@ extern "C" {
 MILLICHART_API bool EditPen(penlode::Pen* pen);
 
 MILLICHART_API bool EditTextProperty(millichart::TextProperty* property);
+
+/// A whole chart's properties, on a sheet of pages. A page that the user did not open changes nothing.
+MILLICHART_API bool EditPieProp(millichart::PieProp* prop);
+MILLICHART_API bool EditHalfPieProp(millichart::HalfPieProp* prop);
+MILLICHART_API bool EditHalfPieHalfPieProp(millichart::HalfPieHalfPieProp* prop);
+MILLICHART_API bool EditHalfPieHistogramProp(millichart::HalfPieHistogramProp* prop);
+MILLICHART_API bool EditHistogramProp(millichart::HistogramProp* prop);
+MILLICHART_API bool EditCurveProp(millichart::CurveProp* prop);
 }
 
 namespace millichart {
@@ -38,5 +52,15 @@ MILLICHART_API bool EditWithPreview(penlode::Pen* pen,
                                     const std::function<void(const penlode::Pen&)>& preview);
 MILLICHART_API bool EditWithPreview(TextProperty* property,
                                     const std::function<void(const TextProperty&)>& preview);
+MILLICHART_API bool EditWithPreview(PieProp* prop, const std::function<void(const PieProp&)>& preview);
+MILLICHART_API bool EditWithPreview(HalfPieProp* prop,
+                                    const std::function<void(const HalfPieProp&)>& preview);
+MILLICHART_API bool EditWithPreview(HalfPieHalfPieProp* prop,
+                                    const std::function<void(const HalfPieHalfPieProp&)>& preview);
+MILLICHART_API bool EditWithPreview(HalfPieHistogramProp* prop,
+                                    const std::function<void(const HalfPieHistogramProp&)>& preview);
+MILLICHART_API bool EditWithPreview(HistogramProp* prop,
+                                    const std::function<void(const HistogramProp&)>& preview);
+MILLICHART_API bool EditWithPreview(CurveProp* prop, const std::function<void(const CurveProp&)>& preview);
 
 } // namespace millichart

@@ -1,5 +1,7 @@
 #include "editing/TextPropDlg.h"
 
+#include "editing/NestedDialogs.h"
+
 #include <array>
 
 namespace millichart {
@@ -72,23 +74,8 @@ std::span<const Field<TextProperty>> CTextPropDlg::Fields() const {
 void CTextPropDlg::OnClicked(DialogView& view, int id) {
     RecordDialog::OnClicked(view, id);
     if (id == kFont) {
-        PickFont(view);
+        PickFontOn(view, m_record.Font, m_record.TextColor);
     }
-}
-
-/// A logical font in whole pixels is coarser than a size in millimetres: one that comes back as it was shown
-/// changes nothing.
-void CTextPropDlg::PickFont(DialogView& view) {
-    const FontChoice shown{ToLogicalFont(*m_record.Font, view.PixelsPerInch()),
-                           ToColorRef(m_record.TextColor)};
-    const std::optional<FontChoice> picked = view.PickFont(shown);
-    if (!picked) {
-        return;
-    }
-    if (picked->Font != shown.Font) {
-        m_record.Font = FromLogicalFont(picked->Font, view.PixelsPerInch());
-    }
-    m_record.TextColor = penlode::FromColorRef(picked->TextColor);
 }
 
 } // namespace millichart

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/Fields.h"
+#include "editing/RecordDialog.h"
 #include "foundation/TextProperty.h"
 
 namespace millichart {
@@ -16,7 +16,6 @@ public:
 
 private:
     std::span<const Field<TextProperty>> Fields() const override;
-    void PickFont(DialogView& view);
 };
 
 } // namespace millichart

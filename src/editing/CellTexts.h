@@ -1,0 +1,39 @@
+#pragma once
+
+#include "editing/DialogView.h"
+#include "penlode/Color.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Values as controls and cells show them, and back.
+namespace millichart {
+
+/// The shortest text that reads back the same.
+std::string ShortestText(float value);
+
+/// Without decimals.
+std::string WholeText(float value);
+
+/// The number that a text begins with, in single precision; beyond its range the largest.
+float TypedFloat(std::string_view text);
+
+/// What was typed (UTF-8) as a narrow text. One that was not touched keeps its bytes, whatever they mean.
+std::string TypedText(const std::string& typed, const std::string& before);
+
+/// A colour is a Windows RGB value in decimal digits; what comes back is opaque.
+std::string ColorCell(penlode::Color color);
+penlode::Color ColorOfCell(std::string_view cell);
+
+/// The colour of a row that was added: each unlike its neighbours.
+std::string NewColorCell(int row);
+
+/// The list "成分", "颜色": a row a name. Colours that are missing are black; both lists come back as long as
+/// there are rows.
+void ShowComponents(DialogView& view, int list, const std::vector<std::string>& names,
+                    const std::vector<penlode::Color>& colors);
+void ReadComponents(const DialogView& view, int list, std::vector<std::string>& names,
+                    std::vector<penlode::Color>& colors);
+
+} // namespace millichart

@@ -1,0 +1,135 @@
+#include "editing/CurveRows.h"
+
+#include "charts/curve/CurveStyle.h"
+#include "editing/CellTexts.h"
+#include "editing/NumberInput.h"
+#include "foundation/NumberText.h"
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <array>
+
+namespace millichart {
+namespace {
+
+using penlode::CStringUtil;
+
+enum Column : std::size_t { kName, kLine, kDot, kDotColor, kDotWidth, kNull, kColumnCount };
+
+constexpr std::array<std::string_view, 11> kDotNames{
+    "不显示",   "实心正方形",   "空心正方形",   "实心圆",       "空心圆",      "实心菱形",
+    "空心菱形", "实心正三角形", "空心正三角形", "实心倒三角形", "空心倒三角形"};
+constexpr std::array<std::string_view, 2> kNullNames{"断开", "当成0值"};
+
+/// "%d %f %d"
+std::string LineCell(const CurveStyle& style) {
+    return ColorCell(style.LineColor) + ' ' + FixedText(static_cast<double>(style.Width), 6) + ' ' +
+           std::to_string(style.Dash);
+}
+
+std::string NewName(int) {
+    return "曲线";
+}
+
+std::string NewLine(int row) {
+    return NewColorCell(row) + " 0.300000 0";
+}
+
+std::string NewDot(int) {
+    return std::string(kDotNames[0]);
+}
+
+std::string NewDotWidth(int) {
+    return "1.0";
+}
+
+std::string NewNull(int) {
+    return std::string(kNullNames[0]);
+}
+
+constexpr std::array kColumns{
+    ListColumn{"成分", CellKind::Text, 52, &NewName},
+    ListColumn{"线型", CellKind::Line, 44, &NewLine},
+    ListColumn{"点标志", CellKind::Choice, 58, &NewDot, kDotNames},
+    ListColumn{"点颜色", CellKind::Color, 34, &NewColorCell},
+    ListColumn{"点宽度（毫米）", CellKind::Number, 64, &NewDotWidth},
+    ListColumn{"空值处理", CellKind::Choice, 44, &NewNull, kNullNames},
+};
+static_assert(kColumns.size() == kColumnCount);
+
+/// Nothing for a value that has no name.
+std::string NameOf(std::span<const std::string_view> names, std::int32_t value) {
+    const auto index = static_cast<std::size_t>(value);
+    return std::string(value >= 0 && index < names.size() ? names[index] : std::string_view());
+}
+
+std::int32_t ValueOf(std::span<const std::string_view> names, std::string_view name, std::int32_t otherwise) {
+    const auto found = std::find(names.begin(), names.end(), name);
+    return found == names.end() ? otherwise : static_cast<std::int32_t>(found - names.begin());
+}
+
+/// What stands behind the next blank.
+std::string_view Rest(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    text.remove_prefix(std::min(text.find(' '), text.size()));
+    return text;
+}
+
+CurveStyle StyleOf(const ListRow& row, const CurveStyle& before) {
+    CurveStyle style = before;
+    const std::string_view width = Rest(row[kLine]);
+    style.LineColor = ColorOfCell(row[kLine]);
+    style.Width = TypedFloat(width);
+    style.Dash = ReadInteger(Rest(width));
+    style.Dot = ValueOf(kDotNames, row[kDot], before.Dot);
+    style.DotColor = ColorOfCell(row[kDotColor]);
+    const float dotWidth = TypedFloat(row[kDotWidth]);
+    style.DotWidth = dotWidth > 0.0F ? dotWidth : 1.0F;
+    style.NullValue = ValueOf(kNullNames, row[kNull], before.NullValue);
+    return style;
+}
+
+} // namespace
+
+std::span<const ListColumn> CurveColumns() {
+    return kColumns;
+}
+
+std::vector<ListRow> CurveRows(const CurvePlotProp& plot) {
+    std::vector<ListRow> rows;
+    rows.reserve(plot.CurveName.size());
+    for (std::size_t i = 0; i < plot.CurveName.size(); ++i) {
+        const CurveStyle style = StyleOf(plot, i);
+        rows.push_back({CStringUtil::AnsiToUtf8(plot.CurveName[i]), LineCell(style),
+                        NameOf(kDotNames, style.Dot), ColorCell(style.DotColor),
+                        FixedText(static_cast<double>(style.DotWidth), 1),
+                        NameOf(kNullNames, style.NullValue)});
+    }
+    return rows;
+}
+
+void ReadCurveRows(const std::vector<ListRow>& rows, CurvePlotProp& plot) {
+    const CurvePlotProp before = plot;
+    const std::size_t count = rows.size();
+    plot.CurveName.resize(count);
+    plot.CurveColor.resize(count);
+    plot.CurveWidth.resize(count);
+    plot.CurveDashStyle.resize(count);
+    plot.CurveDotStyle.resize(count);
+    plot.CurveDotColor.resize(count);
+    plot.CurveDotWidth.resize(count);
+    plot.NullValueStyle.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const CurveStyle style = StyleOf(rows[i], StyleOf(before, i));
+        plot.CurveName[i] = TypedText(rows[i][kName], plot.CurveName[i]);
+        plot.CurveColor[i] = style.LineColor;
+        plot.CurveWidth[i] = style.Width;
+        plot.CurveDashStyle[i] = style.Dash;
+        plot.CurveDotStyle[i] = style.Dot;
+        plot.CurveDotColor[i] = style.DotColor;
+        plot.CurveDotWidth[i] = style.DotWidth;
+        plot.NullValueStyle[i] = style.NullValue;
+    }
+}
+
+} // namespace millichart
