@@ -1,6 +1,9 @@
 #include "editing/ScriptedView.h"
 
+#include "editing/NumberInput.h"
+
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace millichart;
@@ -9,6 +12,7 @@ namespace testing_support {
 namespace {
 
 std::deque<Use> g_uses;
+std::deque<UseSheet> g_sheetUses;
 
 template <class Value> std::optional<Value> Next(std::deque<Value>& values) {
     if (values.empty()) {
@@ -26,6 +30,8 @@ ScriptedView::ScriptedView(Dialog& dialog) : m_dialog(dialog) {
         m_texts[control.Id] = control.Text;
         if (control.Kind == ControlKind::LineStyles) {
             m_items[control.Id] = {"0", "1", "2", "3", "4"};
+        } else if (control.Kind == ControlKind::PositionPicker) {
+            m_items[control.Id].resize(12);
         }
     }
     dialog.OnInitDialog(*this);
@@ -54,11 +60,31 @@ void ScriptedView::Click(int id) {
     UseByHand(id);
     if (KindOf(id) == ControlKind::CheckBox) {
         SetChecked(id, !IsChecked(id));
+    } else if (KindOf(id) == ControlKind::RadioButton) {
+        CheckRadio(id);
     } else if (KindOf(id) == ControlKind::ColorButton) {
         ShowColor(id, PickColor(ShownColor(id)).value_or(ShownColor(id)));
     }
     m_dialog.OnClicked(*this, id);
     m_dialog.OnChanged(*this);
+}
+
+/// Its neighbours in the template are its group.
+void ScriptedView::CheckRadio(int id) {
+    std::vector<int> group;
+    for (const Control& control : m_dialog.Template().Controls) {
+        if (control.Kind == ControlKind::RadioButton) {
+            group.push_back(control.Id);
+            continue;
+        }
+        if (std::find(group.begin(), group.end(), id) != group.end()) {
+            break;
+        }
+        group.clear();
+    }
+    for (const int other : group) {
+        SetChecked(other, other == id);
+    }
 }
 
 void ScriptedView::Pick(int id, int index) {
@@ -76,6 +102,86 @@ void ScriptedView::Step(int id, int delta) {
 
 bool ScriptedView::PressOk() {
     return m_dialog.OnOK(*this);
+}
+
+void ScriptedView::ChangeEverything() {
+    m_changesEverything = true;
+    std::vector<int> checked;
+    const auto controls = m_dialog.Template().Controls;
+    for (const Control& control : controls) {
+        if (control.Kind == ControlKind::CheckBox && IsChecked(control.Id)) {
+            checked.push_back(control.Id);
+        } else if (control.Kind == ControlKind::CheckBox) {
+            Click(control.Id);
+        }
+    }
+    for (const Control& control : controls) {
+        if (control.Id != kOkButton && control.Id != kCancelButton) {
+            Change(control);
+        }
+    }
+    for (const int id : checked) {
+        Click(id);
+    }
+}
+
+void ScriptedView::Change(const Control& control) {
+    const int id = control.Id;
+    switch (control.Kind) {
+    case ControlKind::Edit:
+        Type(id, ReadNumber(Text(id)) != 0.0 ? std::to_string(std::lround(ReadNumber(Text(id))) + 1) : "7新");
+        break;
+    case ControlKind::RadioButton:
+        if (!m_isRadioPicked && !IsChecked(id)) {
+            Click(id);
+            m_isRadioPicked = true;
+        }
+        return;
+    case ControlKind::DropDownList:
+    case ControlKind::LineStyles:
+    case ControlKind::PositionPicker:
+        Pick(id, Selection(id) + 1);
+        break;
+    case ControlKind::Button:
+    case ControlKind::ColorButton:
+        ColorsToPick = {0x030201U};
+        FontsToPick = {[](FontChoice font) {
+            font.Font.Height += 8;
+            font.TextColor = 0x060504U;
+            return font;
+        }};
+        Click(id);
+        break;
+    case ControlKind::EditableList:
+        ChangeRows(id);
+        break;
+    default:
+        break;
+    }
+    m_isRadioPicked = false;
+}
+
+void ScriptedView::ChangeRows(int id) {
+    for (ListRow& row : m_rows.at(id)) {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const ListColumn& column = m_columns.at(id)[i];
+            const bool isFirst = column.Kind == CellKind::Choice && row[i] == column.Choices[0];
+            row[i] = column.Kind == CellKind::Choice ? std::string(column.Choices[isFirst ? 1 : 0])
+                     : column.Kind == CellKind::Line ? "66051 1.500000 2"
+                     : column.Kind == CellKind::Text ? row[i] + "新"
+                                                     : "3";
+        }
+    }
+    m_dialog.OnChanged(*this);
+}
+
+bool ScriptedView::Run(Dialog& dialog) {
+    if (!m_changesEverything) {
+        return RunModal(dialog);
+    }
+    ScriptedView view(dialog);
+    view.ChangeEverything();
+    return view.PressOk();
 }
 
 std::string ScriptedView::Text(int id) const {
@@ -101,6 +207,18 @@ void ScriptedView::SetChecked(int id, bool checked) {
     } else {
         m_checked.erase(id);
     }
+}
+
+void ScriptedView::SetColumns(int id, std::span<const ListColumn> columns) {
+    m_columns[id] = columns;
+}
+
+void ScriptedView::SetRows(int id, std::vector<ListRow> rows) {
+    m_rows[id] = std::move(rows);
+}
+
+std::vector<ListRow> ScriptedView::Rows(int id) const {
+    return m_rows.at(id);
 }
 
 void ScriptedView::SetItems(int id, std::span<const std::string_view> items) {
@@ -158,13 +276,38 @@ std::optional<FontChoice> ScriptedView::PickFont(const FontChoice& shown) {
     return pick ? std::optional((*pick)(shown)) : std::nullopt;
 }
 
-User::User(std::vector<Use> uses) {
+ScriptedView& ScriptedSheet::Page(std::size_t index) {
+    if (m_views[index] == nullptr) {
+        m_views[index] = std::make_unique<ScriptedView>(*m_sheet.Pages()[index].Page);
+    }
+    return *m_views[index];
+}
+
+std::vector<DialogView*> ScriptedSheet::Views() const {
+    std::vector<DialogView*> views;
+    for (const auto& view : m_views) {
+        views.push_back(view.get());
+    }
+    return views;
+}
+
+bool ScriptedSheet::PressOk() {
+    return m_sheet.OnOK(Views());
+}
+
+void ScriptedSheet::Changed() {
+    m_sheet.OnChanged(Views());
+}
+
+User::User(std::vector<Use> uses, std::vector<UseSheet> sheets) {
     g_uses.assign(uses.begin(), uses.end());
+    g_sheetUses.assign(sheets.begin(), sheets.end());
 }
 
 User::~User() {
-    EXPECT_TRUE(g_uses.empty()) << g_uses.size() << " dialogs were not opened";
+    EXPECT_TRUE(g_uses.empty() && g_sheetUses.empty()) << "a window was not opened";
     g_uses.clear();
+    g_sheetUses.clear();
 }
 
 bool Accept(ScriptedView& view) {
@@ -184,6 +327,13 @@ bool RunModal(Dialog& dialog) {
     EXPECT_TRUE(use.has_value()) << "nobody expects " << dialog.Template().Title;
     testing_support::ScriptedView view(dialog);
     return use && (*use)(view);
+}
+
+bool RunModal(Sheet& sheet) {
+    const auto use = testing_support::Next(testing_support::g_sheetUses);
+    EXPECT_TRUE(use.has_value()) << "nobody expects " << sheet.Title();
+    testing_support::ScriptedSheet opened(sheet);
+    return use && (*use)(opened);
 }
 
 } // namespace millichart

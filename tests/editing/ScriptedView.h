@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -22,6 +23,9 @@ public:
     void Pick(int id, int index);
     void Step(int id, int delta);
     bool PressOk();
+
+    /// Changes whatever can be changed, also in the dialogs that buttons open; each is accepted.
+    void ChangeEverything();
 
     bool IsEnabled(int id) const { return !m_disabled.contains(id); }
 
@@ -41,6 +45,9 @@ public:
     void SetText(int id, std::string_view text) override;
     bool IsChecked(int id) const override;
     void SetChecked(int id, bool checked) override;
+    void SetColumns(int id, std::span<const millichart::ListColumn> columns) override;
+    void SetRows(int id, std::vector<millichart::ListRow> rows) override;
+    std::vector<millichart::ListRow> Rows(int id) const override;
     void SetItems(int id, std::span<const std::string_view> items) override;
     int Selection(int id) const override;
     void Select(int id, int index) override;
@@ -56,11 +63,14 @@ public:
 
     int PixelsPerInch() const override { return 96; }
 
-    bool Run(millichart::Dialog& dialog) override { return RunModal(dialog); }
+    bool Run(millichart::Dialog& dialog) override;
 
 private:
     millichart::ControlKind KindOf(int id) const;
     void UseByHand(int id) const;
+    void Change(const millichart::Control& control);
+    void ChangeRows(int id);
+    void CheckRadio(int id);
 
     millichart::Dialog& m_dialog;
     std::map<int, std::string> m_texts;
@@ -69,15 +79,40 @@ private:
     std::map<int, std::vector<std::string>> m_items;
     std::map<int, int> m_selections;
     std::map<int, std::uint32_t> m_colors;
+    std::map<int, std::span<const millichart::ListColumn>> m_columns;
+    std::map<int, std::vector<millichart::ListRow>> m_rows;
+    bool m_changesEverything = false;
+    bool m_isRadioPicked = false; ///< in the group that is being changed
+};
+
+/// A sheet without a screen, whose user turns to its pages.
+class ScriptedSheet {
+public:
+    explicit ScriptedSheet(millichart::Sheet& sheet) : m_sheet(sheet), m_views(sheet.Pages().size()) {}
+
+    /// A page's window, made when the user first turns to it.
+    ScriptedView& Page(std::size_t index);
+
+    std::size_t PageCount() const { return m_views.size(); }
+
+    bool PressOk();
+    void Changed();
+
+private:
+    std::vector<millichart::DialogView*> Views() const;
+
+    millichart::Sheet& m_sheet;
+    std::vector<std::unique_ptr<ScriptedView>> m_views;
 };
 
 /// Uses one dialog that is opened; true if it ends with OK.
 using Use = std::function<bool(ScriptedView&)>;
+using UseSheet = std::function<bool(ScriptedSheet&)>;
 
 /// What the user does with the dialogs that open from now on, in turn. Whatever is not used is a failure.
 class User {
 public:
-    explicit User(std::vector<Use> uses);
+    explicit User(std::vector<Use> uses, std::vector<UseSheet> sheets = {});
     ~User();
 
     User(const User&) = delete;

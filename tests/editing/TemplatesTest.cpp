@@ -1,6 +1,7 @@
 #include "editing/DlgLinePenProp.h"
 #include "editing/DlgLogarithmValueRange.h"
 #include "editing/DlgNaturalValueRange.h"
+#include "editing/Sheets.h"
 #include "editing/TextPropDlg.h"
 #include "penlode/text/StringUtil.h"
 
@@ -89,7 +90,6 @@ void CheckNames(const DialogTemplate& dialog) {
             EXPECT_TRUE(mnemonics.insert(control.Text[mark + 1]).second) << control.Text;
         }
     }
-    EXPECT_TRUE(ids.contains(kOkButton) && ids.contains(kCancelButton));
 }
 
 TEST(Templates, StandOnTheirGridWithRoomForTheirTexts) {
@@ -99,6 +99,21 @@ TEST(Templates, StandOnTheirGridWithRoomForTheirTexts) {
         CheckPlaces(*dialog);
         CheckTabOrder(*dialog);
         CheckNames(*dialog);
+        EXPECT_EQ(dialog->Controls[dialog->Controls.size() - 2].Id, kOkButton);
+        EXPECT_EQ(dialog->Controls.back().Id, kCancelButton);
+    }
+}
+
+TEST(Templates, AreTheSameForThePagesOfSheets) {
+    CSheetPie pie({});
+    CSheetHalfPieHistogram halfPieHistogram({});
+    CSheetCurve curve({});
+    for (Sheet* sheet : std::initializer_list<Sheet*>{&pie, &halfPieHistogram, &curve}) {
+        for (const SheetPage& page : sheet->Pages()) {
+            CheckPlaces(page.Page->Template());
+            CheckTabOrder(page.Page->Template());
+            CheckNames(page.Page->Template());
+        }
     }
 }
 
