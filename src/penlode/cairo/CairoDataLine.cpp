@@ -1,6 +1,7 @@
 #include "penlode/cairo/CairoOperations.h"
 #include "penlode/cairo/CairoStroke.h"
 #include "penlode/cairo/LineCoverage.h"
+#include "penlode/cairo/ScribbleCoverage.h"
 #include "penlode/engine/DataLine.h"
 
 #include <optional>
@@ -10,16 +11,14 @@ namespace penlode {
 namespace {
 
 /// Sections of a pixel in which coverage is looked for: as fine as Cairo's own rows, or coarser where the
-/// line is too dense to show it. A line that scribbles over the surface a million times gets fewer, so that
-/// it is drawn in a second or so.
+/// line is too dense to show it, or so wide that it would take long.
 constexpr double kSectionsPerPixel = 16.0;
 constexpr double kSectionsPerDensePixel = 6.0;
 constexpr double kMaxSections = 1e7;
 
 /// A line that goes to and fro over the surface's width more often than this scribbles: what its parts cover
-/// seldom meets. Up to so many points, strokes of a few segments each are the faster way.
+/// in a section seldom meets.
 constexpr double kMaxPasses = 8.0;
-constexpr std::size_t kMaxStrokedScribble = 10000;
 
 bool Scribbles(const Painter& painter, std::span<const PointD> points) {
     const BoxD area = painter.Setting().Area;
@@ -53,20 +52,29 @@ BoxD SeenArea(const Painter& painter, const std::vector<PolylineRun>& runs, doub
     return RoundedOut(Common(line.Grown(margin), painter.Setting().Area));
 }
 
+template <class Coverage>
+void Paint(const Painter& painter, const std::vector<PolylineRun>& runs, Coverage coverage) {
+    for (const PolylineRun& run : runs) {
+        coverage.Add(run.Points);
+    }
+    coverage.Paint(painter.Context());
+}
+
 void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<PointD> points,
                       bool thinned) {
+    const bool scribbles = Scribbles(painter, points);
     const std::vector<PolylineRun> runs = ClippedPolyline(std::move(points), painter.GuardBand(pen.Margin()));
     if (runs.empty()) {
         return;
     }
     const BoxD area = SeenArea(painter, runs, pen.Margin());
-    LineCoverage coverage(area, {pen.Width(), pen.ForThinned(thinned).MiterLimit()},
-                          SectionsFor(runs, pen.Width(), thinned));
-    for (const PolylineRun& run : runs) {
-        coverage.Add(run.Points);
-    }
+    const StrokeShapes shapes(pen.Width(), pen.ForThinned(thinned).MiterLimit());
     painter.SetColor(pen.GetColor());
-    coverage.Paint(painter.Context());
+    if (scribbles) {
+        Paint(painter, runs, ScribbleCoverage(area, shapes));
+    } else {
+        Paint(painter, runs, LineCoverage(area, shapes, SectionsFor(runs, pen.Width(), thinned)));
+    }
 }
 
 } // namespace
@@ -78,8 +86,7 @@ Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, co
         return Status::InvalidParameter;
     }
     const bool smooth = cairo_get_antialias(painter.Context()) != CAIRO_ANTIALIAS_NONE;
-    const bool isStroked = line->size() <= kMaxStrokedScribble && Scribbles(painter, *line);
-    if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter) && !isStroked) {
+    if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter)) {
         const bool thinned = line->size() < points.size();
         StrokeByCoverage(painter, drawn, std::move(*line), thinned);
     } else {

@@ -24,15 +24,6 @@ public:
 
     std::size_t Size() const { return m_latest.size(); }
 
-    /// Sections side by side of which it is known together what they cover.
-    static constexpr std::size_t kTileSections = 16;
-
-    /// Whether enough was added for anything to be known to be covered.
-    bool KnowsCovered() const { return !m_covered.empty(); }
-
-    /// False unless all from top to bottom in the sections of a tile is known to be covered.
-    bool IsCovered(std::size_t tile, Span span) const;
-
     /// A span in each section from `first` on; those without extent add nothing.
     void Add(std::size_t first, std::span<const std::int32_t> tops, std::span<const std::int32_t> bottoms) {
         Span* const latest = m_latest.data() + first;
@@ -78,12 +69,9 @@ private:
     static void Unite(std::vector<Span>& sorted, Span span);
     void Begin(std::size_t section, Span span);
     void Merge();
-    void FindCovered();
 
     std::vector<Span> m_latest; ///< of each section the span that grew last; mostly the only one
     std::vector<Earlier> m_earlier;
-    std::vector<bool> m_covered; ///< of each tile its rows, from the top
-    std::size_t m_tileRows = 0;
     std::size_t m_mergeAt = 1U << 18U; ///< so many earlier spans are worth looking for what overlaps
 };
 

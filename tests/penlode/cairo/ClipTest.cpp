@@ -66,6 +66,13 @@ TEST(Clip, EverythingAndNothingAreOperandsToo) {
     EXPECT_EQ(Clipped(*g), 200);
 }
 
+TEST(Clip, MasksBeginWithTheWholePlane) {
+    const auto g = PixelSurface(20, 10);
+    g->SetClip(kA, CombineMode::Exclude);
+    g->SetClip(kB, CombineMode::Union);
+    EXPECT_EQ(Clipped(*g), 200 - 36 + 9);
+}
+
 TEST(Clip, ContainersClipInsideTheOuterClip) {
     const auto g = PixelSurface(20, 10);
     g->SetClip(kA, CombineMode::Replace);

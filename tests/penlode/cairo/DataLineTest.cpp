@@ -147,7 +147,7 @@ TEST(DataLine, AScribbleCoversWhatItsStrokesCover) {
         std::transform(part.begin(), part.end(), parts.begin(), parts.begin(),
                        [](int a, int b) { return std::max(a, b); });
     }
-    EXPECT_LT(PerMilleApart(drawn, parts, 128), 1.0);
+    EXPECT_LT(PerMilleApart(drawn, parts, 64), 1.0);
     EXPECT_EQ(StrayPixels(drawn, parts), 0);
 }
 

@@ -235,6 +235,8 @@ TEST(Text, UnderlineIsAsThickTurnedAsItsOutlineAndUprightOneCrispLine) {
 
     const auto g = CGraphicsEngine::ForRaster({30, 10}, 96, kWhite);
     const Font font{L"宋体", 4.0F, FontStyle::Underline};
+    g->DrawString(L"\n\n", -1, &font, PointF{2, 2}, &kBrush);
+    EXPECT_EQ(InkOf(*g), 0);
     g->DrawString(L"一一一一", -1, &font, PointF{2, 2}, &kBrush);
     EXPECT_GE(CountOf(g->Pixels(), kBlack), 60);
 }
@@ -247,6 +249,10 @@ TEST(Text, TheUsualFamiliesResolveToInstalledFacesOfTheirKind) {
     EXPECT_NE(ResolvedFamily(L"Arial"), ResolvedFamily(L"黑体"));
     EXPECT_EQ(ResolvedFamily(L"No Such Family"), ResolvedFamily(L""));
     EXPECT_FALSE(ResolvedFamily(L"").empty());
+}
+
+TEST(Text, NamesEachCharacterThatNoFaceHas) {
+    EXPECT_EQ(MissingCharacters(L"国\xE123g\n\xE124 \xE123.", kSong), L"\xE123\xE124");
 }
 
 TEST(Text, ThreadsMeasureAlike) {
