@@ -26,8 +26,8 @@ template <class Window, class Record> bool Edit(Record* record) {
 
 template <class Window, class Record>
 bool Edit(Record* record, const std::function<void(const Record&)>& preview) {
-    if (record == nullptr) {
-        return false;
+    if (record == nullptr || !preview) {
+        return Edit<Window>(record);
     }
     Previewed<Window> window(Window(*record), preview);
     const bool isAccepted = RunModal(window);
@@ -112,8 +112,8 @@ bool EditLogarithmValueRange(double* minimum, double* maximum) {
 namespace millichart {
 
 bool EditWithPreview(penlode::Pen* pen, const std::function<void(const penlode::Pen&)>& preview) {
-    if (pen == nullptr) {
-        return false;
+    if (pen == nullptr || !preview) {
+        return EditPen(pen);
     }
     const auto edited = [pen](const LinePenValues& values) {
         penlode::Pen trial = *pen;
