@@ -42,6 +42,16 @@ QWidget* MakeLineStyles(QWidget& panel) {
     return list;
 }
 
+/// A frame that begins at the middle of its title, as its place reckons.
+QWidget* MakeGroupBox(const QString& title, QWidget& panel) {
+    auto* box = new QGroupBox(title, &panel);
+    box->setStyleSheet(
+        QStringLiteral("QGroupBox { border: 1px solid palette(mid); margin-top: %1px; }"
+                       "QGroupBox::title { subcontrol-origin: margin; left: 6px; padding: 0 2px; }")
+            .arg(panel.fontMetrics().height() / 2));
+    return box;
+}
+
 /// `before` is the widget of the control before it.
 QWidget* MakeControl(const Control& control, QWidget* before, QWidget& panel) {
     const QString text = ToQString(control.Text);
@@ -49,7 +59,7 @@ QWidget* MakeControl(const Control& control, QWidget* before, QWidget& panel) {
     case ControlKind::Label:
         return new QLabel(text, &panel);
     case ControlKind::GroupBox:
-        return new QGroupBox(text, &panel);
+        return MakeGroupBox(text, panel);
     case ControlKind::Edit:
         return new QLineEdit(&panel);
     case ControlKind::ReadOnlyEdit:
@@ -74,6 +84,13 @@ QWidget* MakeControl(const Control& control, QWidget* before, QWidget& panel) {
         return new Stepper(static_cast<QLineEdit*>(before), &panel);
     }
     return new QWidget(&panel);
+}
+
+/// A label's line may be higher than its place, whose middle it keeps.
+QRect PlaceOf(const Control& control, const QWidget& widget, const DialogUnits& units) {
+    const QRect place = units.PlaceOf(control);
+    const int more = control.Kind == ControlKind::Label ? widget.sizeHint().height() - place.height() : 0;
+    return more > 0 ? place.adjusted(0, -more / 2, 0, more - more / 2) : place;
 }
 
 /// Whose text names a control: its own, or its neighbour's.
@@ -117,7 +134,7 @@ std::vector<QWidget*> MakeControls(const DialogTemplate& shown, QWidget& panel) 
     for (std::size_t i = 0; i < shown.Controls.size(); ++i) {
         const Control& control = shown.Controls[i];
         QWidget* widget = MakeControl(control, before, panel);
-        widget->setGeometry(units.PlaceOf(control));
+        widget->setGeometry(PlaceOf(control, *widget, units));
         widget->setAccessibleName(AccessibleName(shown.Controls, i));
         Join(widget, before);
         widgets.push_back(widget);

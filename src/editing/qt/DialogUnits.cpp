@@ -10,6 +10,7 @@ namespace millichart {
 namespace {
 
 constexpr qreal kLeastPoints = 9.0;
+constexpr double kMaxLineHeight = 1.2; ///< em
 
 QString ChineseFamily() {
     const QStringList families = QFontDatabase::families(QFontDatabase::SimplifiedChinese);
@@ -33,13 +34,15 @@ QFont DialogFont() {
     return font;
 }
 
-/// A Chinese character is as wide as two letters of a Chinese font, and wider than two of some others.
+/// A Chinese character is as wide as two letters of a Chinese font, and wider than two of some others. Its
+/// font's lines may be half as high again as itself, which is for pages of text.
 DialogUnits::DialogUnits(const QFont& font) {
     const QFontMetricsF metrics(font);
     const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-    m_width = std::max(metrics.horizontalAdvance(letters) / static_cast<double>(letters.size()),
-                       metrics.horizontalAdvance(QStringLiteral("中")) / 2);
-    m_height = metrics.height();
+    const double letter = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
+    const double character = metrics.horizontalAdvance(QStringLiteral("中"));
+    m_width = std::max(letter, character / 2);
+    m_height = std::min(metrics.height(), character * kMaxLineHeight);
 }
 
 int DialogUnits::Across(int units) const {
@@ -56,7 +59,9 @@ QSize DialogUnits::SizeOf(const DialogTemplate& shown) const {
 
 QRect DialogUnits::PlaceOf(const Control& control) const {
     const int left = Across(control.X);
-    return {left, Down(control.Y), Across(control.X + control.Width) - left, Down(control.Height)};
+    const int height = Down(control.Height);
+    const double middle = (control.Y + control.Height / 2.0) * m_height / 8;
+    return {left, qRound(middle - height / 2.0), Across(control.X + control.Width) - left, height};
 }
 
 } // namespace millichart

@@ -16,7 +16,7 @@ public:
     explicit DialogUnits(const QFont& font);
 
     QSize SizeOf(const DialogTemplate& shown) const;
-    /// Equal heights stay equal, and right edges that are in line stay in line.
+    /// Equal heights stay equal, and middles and right edges that are in line stay in line.
     QRect PlaceOf(const Control& control) const;
 
 private:
