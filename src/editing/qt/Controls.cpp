@@ -136,6 +136,7 @@ std::vector<QWidget*> MakeControls(const DialogTemplate& shown, QWidget& panel) 
         QWidget* widget = MakeControl(control, before, panel);
         widget->setGeometry(PlaceOf(control, *widget, units));
         widget->setAccessibleName(AccessibleName(shown.Controls, i));
+        widget->show(); // a page may be on the screen already
         Join(widget, before);
         widgets.push_back(widget);
         before = widget;

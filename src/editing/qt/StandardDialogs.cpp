@@ -72,6 +72,7 @@ CColorButton* AddColorRow(QFontDialog& dialog) {
 
 Answer ShowMessage(QWidget* window, std::string_view text, MessageButtons buttons) {
     QMessageBox box(window);
+    box.setFont(window->font());
     box.setWindowTitle(window->windowTitle());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(text));
@@ -89,6 +90,7 @@ Answer ShowMessage(QWidget* window, std::string_view text, MessageButtons button
 
 std::optional<std::uint32_t> PickColor(QWidget* window, std::uint32_t colorRef) {
     QColorDialog dialog(ToQColor(colorRef), window);
+    dialog.setFont(window->font());
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
@@ -98,6 +100,7 @@ std::optional<std::uint32_t> PickColor(QWidget* window, std::uint32_t colorRef) 
 
 std::optional<FontChoice> PickFont(QWidget* window, const FontChoice& shown, int pixelsPerInch) {
     QFontDialog dialog(window);
+    dialog.setFont(window->font());
     dialog.setOption(QFontDialog::DontUseNativeDialog);
     dialog.setCurrentFont(ToQFont(shown.Font));
     CColorButton* color = AddColorRow(dialog);

@@ -16,7 +16,7 @@ void PaintSwatch(QWidget& widget, const QRect& box, std::uint32_t colorRef) {
     }
     painter.fillRect(box, ToQColor(colorRef));
     painter.setPen(frame);
-    painter.drawRect(box.adjusted(0, 0, -1, -1));
+    painter.drawRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void DescribeColor(QWidget& widget, std::uint32_t colorRef) {

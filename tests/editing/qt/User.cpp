@@ -74,12 +74,19 @@ QDialog& User::Front() {
 
 QString User::FocusName() {
     const QWidget* focus = QApplication::focusWidget();
-    return focus != nullptr ? focus->accessibleName() : QString();
+    return focus != nullptr ? NameOf(*focus) : QString();
+}
+
+/// What a screen reader reads out: a button that was given no name of its own has its text's.
+QString User::NameOf(const QWidget& widget) {
+    const auto* button = dynamic_cast<const QAbstractButton*>(&widget);
+    const QString name = widget.accessibleName();
+    return name.isEmpty() && button != nullptr ? button->text().remove('&') : name;
 }
 
 QWidget& User::Named(const char* name, const std::function<bool(QWidget*)>& isKind) {
     for (QWidget* widget : Front().findChildren<QWidget*>()) {
-        if (isKind(widget) && widget->accessibleName() == QString::fromUtf8(name)) {
+        if (isKind(widget) && NameOf(*widget) == QString::fromUtf8(name)) {
             return *widget;
         }
     }
@@ -108,7 +115,11 @@ void User::Tick() {
         const auto act = std::move(m_steps.front().Act);
         m_steps.pop_front();
         m_ticks = 0;
-        act();
+        try {
+            act();
+        } catch (const std::exception& failure) {
+            ADD_FAILURE() << failure.what();
+        }
     }
 }
 

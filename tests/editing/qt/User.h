@@ -49,6 +49,7 @@ private:
         std::function<void()> Act;
     };
 
+    static QString NameOf(const QWidget& widget);
     static QWidget& Named(const char* name, const std::function<bool(QWidget*)>& isKind);
     void Watch();
     void Tick();
