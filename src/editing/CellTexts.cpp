@@ -1,5 +1,6 @@
 #include "editing/CellTexts.h"
 
+#include "editing/DlgLinePenProp.h"
 #include "editing/NumberInput.h"
 #include "foundation/NumberText.h"
 #include "penlode/text/Digits.h"
@@ -18,9 +19,16 @@ std::string NoText(int) {
     return {};
 }
 
+/// What stands behind the next blank.
+std::string_view Rest(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    text.remove_prefix(std::min(text.find(' '), text.size()));
+    return text;
+}
+
 constexpr std::array kComponentColumns{
     ListColumn{"成分", CellKind::Text, 140, &NoText},
-    ListColumn{"颜色", CellKind::Color, 70, &NewColorCell},
+    ListColumn{"颜色", CellKind::Color, 70, &NewColorCell, {}, &EditColorCell},
 };
 
 } // namespace
@@ -48,6 +56,36 @@ std::string ColorCell(penlode::Color color) {
 
 penlode::Color ColorOfCell(std::string_view cell) {
     return penlode::FromColorRef(static_cast<std::uint32_t>(ReadInteger(cell)));
+}
+
+std::string LineCell(const LineCellValues& line) {
+    return std::to_string(line.ColorRef) + ' ' + FixedText(static_cast<double>(line.Width), 6) + ' ' +
+           std::to_string(line.DashStyle);
+}
+
+LineCellValues LineOfCell(std::string_view cell) {
+    const std::string_view width = Rest(cell);
+    return {ToColorRef(ColorOfCell(cell)), TypedFloat(width), ReadInteger(Rest(width))};
+}
+
+bool EditColorCell(DialogView& view, std::string& cell) {
+    const auto picked = view.PickColor(ToColorRef(ColorOfCell(cell)));
+    if (picked) {
+        cell = std::to_string(*picked);
+    }
+    return picked.has_value();
+}
+
+bool EditLineCell(DialogView& view, std::string& cell) {
+    const LineCellValues before = LineOfCell(cell);
+    CDlgLinePenProp dialog({before.ColorRef, static_cast<double>(before.Width), before.DashStyle});
+    if (!view.Run(dialog)) {
+        return false;
+    }
+    const LinePenValues& line = dialog.Edited();
+    cell = LineCell({line.ColorRef, static_cast<float>(line.Width),
+                     line.DashStyle < 0 ? before.DashStyle : line.DashStyle});
+    return true;
 }
 
 std::string NewColorCell(int row) {

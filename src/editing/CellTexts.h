@@ -26,6 +26,20 @@ std::string TypedText(const std::string& typed, const std::string& before);
 std::string ColorCell(penlode::Color color);
 penlode::Color ColorOfCell(std::string_view cell);
 
+/// The colour, width in mm and dash style of a line's cell: "255 0.300000 0".
+struct LineCellValues {
+    std::uint32_t ColorRef = 0;
+    float Width = 0.0F;
+    std::int32_t DashStyle = 0;
+};
+
+std::string LineCell(const LineCellValues& line);
+LineCellValues LineOfCell(std::string_view cell);
+
+/// Let the user pick another colour, or edit a line in the pen's dialog.
+bool EditColorCell(DialogView& view, std::string& cell);
+bool EditLineCell(DialogView& view, std::string& cell);
+
 /// The colour of a row that was added: each unlike its neighbours.
 std::string NewColorCell(int row);
 

@@ -21,12 +21,6 @@ constexpr std::array<std::string_view, 11> kDotNames{
     "空心菱形", "实心正三角形", "空心正三角形", "实心倒三角形", "空心倒三角形"};
 constexpr std::array<std::string_view, 2> kNullNames{"断开", "当成0值"};
 
-/// "%d %f %d"
-std::string LineCell(const CurveStyle& style) {
-    return ColorCell(style.LineColor) + ' ' + FixedText(static_cast<double>(style.Width), 6) + ' ' +
-           std::to_string(style.Dash);
-}
-
 std::string NewName(int) {
     return "曲线";
 }
@@ -49,9 +43,9 @@ std::string NewNull(int) {
 
 constexpr std::array kColumns{
     ListColumn{"成分", CellKind::Text, 52, &NewName},
-    ListColumn{"线型", CellKind::Line, 44, &NewLine},
+    ListColumn{"线型", CellKind::Line, 44, &NewLine, {}, &EditLineCell},
     ListColumn{"点标志", CellKind::Choice, 58, &NewDot, kDotNames},
-    ListColumn{"点颜色", CellKind::Color, 34, &NewColorCell},
+    ListColumn{"点颜色", CellKind::Color, 34, &NewColorCell, {}, &EditColorCell},
     ListColumn{"点宽度（毫米）", CellKind::Number, 64, &NewDotWidth},
     ListColumn{"空值处理", CellKind::Choice, 44, &NewNull, kNullNames},
 };
@@ -68,19 +62,12 @@ std::int32_t ValueOf(std::span<const std::string_view> names, std::string_view n
     return found == names.end() ? otherwise : static_cast<std::int32_t>(found - names.begin());
 }
 
-/// What stands behind the next blank.
-std::string_view Rest(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    text.remove_prefix(std::min(text.find(' '), text.size()));
-    return text;
-}
-
 CurveStyle StyleOf(const ListRow& row, const CurveStyle& before) {
     CurveStyle style = before;
-    const std::string_view width = Rest(row[kLine]);
-    style.LineColor = ColorOfCell(row[kLine]);
-    style.Width = TypedFloat(width);
-    style.Dash = ReadInteger(Rest(width));
+    const LineCellValues line = LineOfCell(row[kLine]);
+    style.LineColor = penlode::FromColorRef(line.ColorRef);
+    style.Width = line.Width;
+    style.Dash = line.DashStyle;
     style.Dot = ValueOf(kDotNames, row[kDot], before.Dot);
     style.DotColor = ColorOfCell(row[kDotColor]);
     const float dotWidth = TypedFloat(row[kDotWidth]);
@@ -100,7 +87,8 @@ std::vector<ListRow> CurveRows(const CurvePlotProp& plot) {
     rows.reserve(plot.CurveName.size());
     for (std::size_t i = 0; i < plot.CurveName.size(); ++i) {
         const CurveStyle style = StyleOf(plot, i);
-        rows.push_back({CStringUtil::AnsiToUtf8(plot.CurveName[i]), LineCell(style),
+        rows.push_back({CStringUtil::AnsiToUtf8(plot.CurveName[i]),
+                        LineCell({ToColorRef(style.LineColor), style.Width, style.Dash}),
                         NameOf(kDotNames, style.Dot), ColorCell(style.DotColor),
                         FixedText(static_cast<double>(style.DotWidth), 1),
                         NameOf(kNullNames, style.NullValue)});

@@ -12,6 +12,7 @@
 namespace millichart {
 
 class Dialog;
+class DialogView;
 
 enum class CellKind { Text, Number, Color, Line, Choice };
 
@@ -23,6 +24,8 @@ struct ListColumn {
     int Width;                                      ///< in dialog units
     std::string (*NewCell)(int row);                ///< of a row that the user adds
     std::span<const std::string_view> Choices = {}; ///< of a choice
+    /// Edits a cell in a dialog and tells whether it changed; null where it is edited in place.
+    bool (*EditInDialog)(DialogView& view, std::string& cell) = nullptr;
 };
 
 /// The texts of a row's cells (UTF-8), one a column.

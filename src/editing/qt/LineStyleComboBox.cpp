@@ -1,0 +1,70 @@
+#include "editing/qt/LineStyleComboBox.h"
+
+#include "editing/LineStyleItem.h"
+#include "editing/qt/SurfacePainter.h"
+
+#include <QStylePainter>
+#include <QStyledItemDelegate>
+
+namespace millichart {
+namespace {
+
+/// Draws the open list's items.
+class SampleDelegate final : public QStyledItemDelegate {
+public:
+    explicit SampleDelegate(CLineStyleComboBox& list) : QStyledItemDelegate(&list), m_list(list) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+        m_list.DrawItem(*painter, option.rect, index.row(), isSelected, isSelected);
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(), m_list.MeasureItem()};
+    }
+
+private:
+    CLineStyleComboBox& m_list;
+};
+
+} // namespace
+
+CLineStyleComboBox::CLineStyleComboBox(QWidget* parent) : QComboBox(parent) {
+    setItemDelegate(new SampleDelegate(*this));
+}
+
+void CLineStyleComboBox::Initialize() {
+    for (int style = 0; style < kLineStyleCount; ++style) {
+        addItem(QString::number(style));
+    }
+    setCurrentIndex(-1);
+}
+
+int CLineStyleComboBox::MeasureItem() const {
+    return kLineStyleHeight;
+}
+
+int CLineStyleComboBox::CompareItem(int, int) const {
+    return 0;
+}
+
+void CLineStyleComboBox::DrawItem(QPainter& painter, const QRect& box, int item, bool hasFocus,
+                                  bool isSelected) const {
+    PaintByEngine(painter, box, [&](penlode::IGraphicsEngine& engine) {
+        const penlode::RectF whole{0, 0, static_cast<float>(box.width()), static_cast<float>(box.height())};
+        DrawLineStyleItem(engine, whole, item, hasFocus, isSelected);
+    });
+}
+
+void CLineStyleComboBox::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    DrawItem(painter, field, currentIndex(), hasFocus(), hasFocus());
+}
+
+} // namespace millichart
