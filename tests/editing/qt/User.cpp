@@ -29,6 +29,7 @@ bool HasKeyboard(QWidget& front) {
 } // namespace
 
 User::User() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     EXPECT_TRUE(EditingCall().CanShow()); // makes the application, without which no timer runs
     Watch();
 }
