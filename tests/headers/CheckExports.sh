@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # Names every class and function of the public headers in one program and holds what the compiler saw declared against
 # what the libraries export: a host can link each function that a header shows him, and finds each that is exported in
-# a header. Called as CheckExports.sh COMPILER "FLAGS" FOLDER "LIBRARIES"
-# HEADERS...
+# a header. Called as CheckExports.sh COMPILER "FLAGS" FOLDER "LIBRARIES" HEADERS...
 set -euo pipefail
 export LC_ALL=C
 compiler=$1 flags=$2 folder=$3 libraries=$4

@@ -3,7 +3,9 @@
 
 #include "editing/qt/KeyPresses.h"
 
+#include <locale.h>
 #include <stdio.h>
+#include <string.h>
 
 static bool Check(const char* what, bool isRight) {
     if (!isRight) {
@@ -33,5 +35,6 @@ int main(void) {
     isRight &= Check("no OK of the logarithmic range", EditLogarithmValueRange(&minimum, &maximum));
     isRight &= Check("not the logarithmic range that was picked", minimum == 0.01 && maximum == 10000.0);
     isRight &= Check("a null pointer accepted", !EditLogarithmValueRange(&minimum, NULL));
+    isRight &= Check("the host's locale changed", strcmp(setlocale(LC_ALL, NULL), "C") == 0);
     return isRight ? 0 : 1;
 }
