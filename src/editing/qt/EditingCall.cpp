@@ -13,10 +13,10 @@ namespace {
 /// An application for a host without one. It stays to the end of the process: a second one cannot always be
 /// made, and destroying it among the static objects crashes. Without a screen it works on none.
 void MakeApplication() {
-    static std::string name = "millichart";
-    static std::string option = "-platform";
-    static std::string platform = "offscreen";
-    static std::array<char*, 4> arguments{name.data(), option.data(), platform.data(), nullptr};
+    static char name[] = "millichart";
+    static char option[] = "-platform";
+    static char platform[] = "offscreen";
+    static std::array<char*, 4> arguments{name, option, platform, nullptr};
     const bool hasScreen =
         qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     static int count = hasScreen || qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? 1 : 3;

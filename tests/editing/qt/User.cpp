@@ -29,6 +29,9 @@ bool HasKeyboard(QWidget& front) {
 } // namespace
 
 User::User() {
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     EXPECT_TRUE(EditingCall().CanShow()); // makes the application, without which no timer runs
     Watch();
 }

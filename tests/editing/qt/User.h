@@ -10,8 +10,7 @@ namespace millichart::test {
 /// after the other. A window that does not come fails the test and ends the call.
 ///
 ///     User user;
-///     user.In("线条属性", [&] { user.Type("20.5"); user.Press(Qt::Key_Return); });
-///     user.In("线条属性", ...)
+///     user.In("线条属性", [] { User::Press(Qt::Key_Return); });
 ///     EXPECT_TRUE(EditPen(&pen));
 class User {
 public:
@@ -28,13 +27,14 @@ public:
     /// Reads a message box and presses one of its buttons.
     void Answer(const char* title, const char* message, int button);
 
-    /// In the control that has the focus, which must be on a window of ours. "&S" as a text is Alt+S.
+    /// In the control that has the focus.
+    /// A button that a mnemonic presses is pressed for a moment first: wait for what it does.
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     static void Type(const char* text);
 
     static QDialog& Front();
 
-    /// The control with this accessible name in the front window, or the n-th of that name.
+    /// The control with this accessible name in the front window.
     template <class Widget> static Widget& Find(const char* name) {
         return dynamic_cast<Widget&>(
             Named(name, [](QWidget* w) { return dynamic_cast<Widget*>(w) != nullptr; }));
