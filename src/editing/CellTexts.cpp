@@ -34,7 +34,7 @@ constexpr std::array kComponentColumns{
 } // namespace
 
 std::string ShortestText(float value) {
-    return penlode::Digits(value);
+    return penlode::Digits(value, std::chars_format::fixed);
 }
 
 std::string WholeText(float value) {

@@ -10,7 +10,7 @@
 /// Values as controls and cells show them, and back.
 namespace millichart {
 
-/// The shortest text that reads back the same.
+/// The shortest text without an exponent that reads back the same.
 std::string ShortestText(float value);
 
 /// Without decimals.

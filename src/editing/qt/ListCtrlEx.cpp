@@ -149,6 +149,7 @@ CListCtrlEx::CListCtrlEx(QWidget* parent) : QTableView(parent), m_model(std::mak
     setEditTriggers(DoubleClicked | EditKeyPressed);
     setTabKeyNavigation(false);
     setContextMenuPolicy(Qt::ActionsContextMenu);
+    horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

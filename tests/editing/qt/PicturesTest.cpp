@@ -154,7 +154,9 @@ TEST(Pictures, PieSheets) {
     user.In("半饼图属性", [] { LookAtPages({"half-pie", "half-pie-label"}); });
     HalfPieProp half = SomeHalf();
     EXPECT_FALSE(EditHalfPieProp(&half));
-    user.In("半饼_半饼图属性", [] { LookAtPages({"two-halves-1", "two-halves-2", "two-halves-3", "two-halves-4"}); });
+    user.In("半饼_半饼图属性", [] {
+        LookAtPages({"two-halves-1", "two-halves-2", "two-halves-3", "two-halves-4"});
+    });
     HalfPieHalfPieProp halves{half, half};
     EXPECT_FALSE(EditHalfPieHalfPieProp(&halves));
 }

@@ -1,0 +1,106 @@
+// The list of components and the picture of a legend's places, by keyboard.
+#include "charts/curve/CurveProp.h"
+#include "charts/histogram/HistogramProp.h"
+#include "charts/pie/PieProp.h"
+#include "editing/Edit.h"
+#include "editing/qt/ListCtrlEx.h"
+#include "editing/qt/PositionPicker.h"
+#include "editing/qt/User.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <gtest/gtest.h>
+
+namespace millichart::test {
+namespace {
+
+CListCtrlEx& List() {
+    return *User::Front().findChild<CListCtrlEx*>();
+}
+
+void GoTo(int row, int column) {
+    List().setFocus();
+    List().setCurrentIndex(List().model()->index(row, column));
+}
+
+HistogramProp TwoComponents() {
+    HistogramProp prop;
+    prop.Plot.ComponentName = {"a", "b"};
+    prop.Plot.ComponentColor = {{0xFF010203U}, {0xFF040506U}};
+    return prop;
+}
+
+TEST(List, IsEditedByKeyboard) {
+    HistogramProp prop = TwoComponents();
+    std::vector<HistogramProp> told;
+    User user;
+    user.In("直方图属性", [] {
+        GoTo(0, 0);
+        User::Press(Qt::Key_F2);
+        User::Type("first");
+        User::Press(Qt::Key_Return);
+    });
+    user.In(
+        "直方图属性", [&] { return !told.empty(); },
+        [&] {
+            EXPECT_EQ(told.back().Plot.ComponentName[0], "first");
+            GoTo(1, 0);
+            User::Press(Qt::Key_Up, Qt::AltModifier);
+            User::Press(Qt::Key_Insert);
+            GoTo(2, 0);
+            User::Press(Qt::Key_Delete);
+            QApplication::clipboard()->setText("x\t255\ny\t#00FF00\n");
+            GoTo(1, 0);
+            User::Press(Qt::Key_V, Qt::ControlModifier);
+            GoTo(0, 1);
+            User::Press(Qt::Key_F2);
+        });
+    user.In("选择颜色", [] { User::Press(Qt::Key_Return); });
+    user.In("直方图属性", [] {
+        User::Press(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), "b\t394500\n");
+        User::Find<QPushButton>("确定").click();
+    });
+    EXPECT_TRUE(EditWithPreview(&prop, [&told](const HistogramProp& now) { told.push_back(now); }));
+    EXPECT_EQ(prop.Plot.ComponentName, (std::vector<std::string>{"b", "x", "y"}));
+    EXPECT_EQ(prop.Plot.ComponentColor,
+              (std::vector<penlode::Color>{{0xFF040506U}, {0xFFFF0000U}, {0xFF00FF00U}}));
+}
+
+TEST(List, OpensAPageOfAThousandCurvesAtOnce) {
+    CurveProp prop;
+    prop.Plot.CurveName.assign(1000, "curve");
+    User user;
+    user.In("曲线属性", [] {
+        EXPECT_EQ(List().model()->rowCount(), 1000);
+        GoTo(999, 2);
+        User::Press(Qt::Key_F2);
+        auto* choices = List().findChild<QComboBox*>();
+        ASSERT_NE(choices, nullptr);
+        choices->setCurrentIndex(3);
+        Q_EMIT choices->activated(3);
+        User::Find<QPushButton>("确定").click();
+    });
+    EXPECT_TRUE(EditCurveProp(&prop));
+    EXPECT_EQ(prop.Plot.CurveDotStyle[999], CurveDotStyle::SolidCircle);
+}
+
+TEST(LegendPage, PlacesTheLegendByArrowsAndClicks) {
+    PieProp prop;
+    User user;
+    user.In("饼图属性", [] {
+        User::Front().findChild<QTabWidget*>()->setCurrentIndex(2);
+        User::Front().findChild<PositionPicker*>()->setFocus();
+        User::Press(Qt::Key_Left);
+        User::Press(Qt::Key_Up);
+        User::Find<QPushButton>("确定").click();
+    });
+    EXPECT_TRUE(EditPieProp(&prop));
+    EXPECT_EQ(prop.Legend.LegendPos, LegendPosition::LeftTop);
+}
+
+} // namespace
+} // namespace millichart::test
