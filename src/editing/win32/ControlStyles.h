@@ -15,8 +15,8 @@ public:
     ControlStyles& operator=(const ControlStyles&) = delete;
 
 private:
-    bool m_isActive = false;
     ULONG_PTR m_cookie = 0;
+    bool m_isActive = false;
 };
 
 } // namespace millichart
