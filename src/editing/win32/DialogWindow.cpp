@@ -1,6 +1,7 @@
 #include "editing/win32/DialogWindow.h"
 
 #include "editing/win32/AccessibleName.h"
+#include "editing/win32/CentredEdit.h"
 #include "editing/win32/ColorButton.h"
 #include "editing/win32/ColorPane.h"
 #include "editing/win32/LineStyleComboBox.h"
@@ -93,6 +94,9 @@ void DialogWindow::Furnish(std::size_t index) {
         return color(std::make_unique<marrowkit::CColorButton>(window));
     case ControlKind::ColorPane:
         return color(std::make_unique<CColorPane>(window));
+    case ControlKind::Edit:
+    case ControlKind::ReadOnlyEdit:
+        return CentreText(window);
     case ControlKind::LineStyles: {
         auto styles = std::make_unique<CLineStyleComboBox>(window);
         styles->Initialize();
@@ -108,10 +112,19 @@ void DialogWindow::Furnish(std::size_t index) {
     }
 }
 
+/// The system puts a stepper into its edit's right end, and takes that from the edit: which gets the place of
+/// both first.
 void DialogWindow::FurnishStepper(HWND stepper, std::size_t index) {
     const std::span<const Control> controls = m_dialog.Template().Controls;
+    const HWND edit = Item(controls[index - 1].Id);
+    RECT whole;
+    RECT arrows;
+    GetWindowRect(edit, &whole);
+    GetWindowRect(stepper, &arrows);
+    SetWindowPos(edit, nullptr, 0, 0, arrows.right - whole.left, whole.bottom - whole.top,
+                 SWP_NOMOVE | SWP_NOZORDER);
     UDACCEL byOne{1, 1};
-    SendMessageW(stepper, UDM_SETBUDDY, reinterpret_cast<WPARAM>(Item(controls[index - 1].Id)), 0);
+    SendMessageW(stepper, UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit), 0);
     SendMessageW(stepper, UDM_SETACCEL, 1, reinterpret_cast<LPARAM>(&byOne));
     SetWindowTextW(stepper, CStringUtil::Utf8ToWideString(AccessibleName(controls, index)).c_str());
 }

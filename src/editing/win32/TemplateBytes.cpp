@@ -44,7 +44,7 @@ WindowKind KindOf(ControlKind kind) {
     case ControlKind::ColorPane:
         return {WC_STATICW, SS_OWNERDRAW};
     case ControlKind::Stepper:
-        return {UPDOWN_CLASSW, UDS_ARROWKEYS};
+        return {UPDOWN_CLASSW, UDS_ALIGNRIGHT | UDS_ARROWKEYS};
     }
     return {WC_STATICW, 0};
 }

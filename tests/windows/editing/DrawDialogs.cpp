@@ -59,6 +59,8 @@ RECT PlaceOf(HWND window) {
 
 /// The picture is taken a while after a window came, when all of it is drawn.
 void Take(Driver& user, const char* name, std::function<HWND()> window) {
+    user.Then(std::string(name) + " opens", [window] { return window() != nullptr; },
+              [window] { SetForegroundWindow(window()); });
     user.Then(name, [window, left = 12]() mutable { return window() != nullptr && --left < 0; },
               [name, window] { Save(name, PlaceOf(window())); });
 }
@@ -71,7 +73,7 @@ std::function<HWND()> Titled(const wchar_t* title) {
 std::function<HWND()> On(const wchar_t* title) {
     return [title]() -> HWND {
         const HWND top = GetActiveWindow();
-        return top != nullptr && GetWindow(top, GW_OWNER) == Dialog(title) ? top : nullptr;
+        return top != nullptr && TextOf(GetWindow(top, GW_OWNER)) == title ? top : nullptr;
     };
 }
 
@@ -156,6 +158,7 @@ int main(int count, char** arguments) {
         return 2;
     }
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    SetCursorPos(0, 0);
     g_folder = arguments[1];
     g_ending = count > 2 ? arguments[2] : "";
     DrawPen();

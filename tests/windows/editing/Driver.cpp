@@ -7,6 +7,8 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{8};
 
+constexpr int kMessage = 0xFFFF; // the text in a message box
+
 Driver* g_driver = nullptr; // a timer's function knows its number only
 
 BOOL CALLBACK CancelDialog(HWND window, LPARAM) {
@@ -23,9 +25,9 @@ BOOL CALLBACK IsSought(HWND window, LPARAM data) {
     auto& sought = *reinterpret_cast<Sought*>(data);
     std::array<wchar_t, 8> kind{};
     GetClassNameW(window, kind.data(), static_cast<int>(kind.size()));
-    if (std::wstring_view(kind.data()) == L"#32770" && IsWindowVisible(window) != FALSE &&
-        TextOf(window) == sought.Title) {
-        sought.Found = window; // the topmost of that title comes first
+    if (std::wstring_view(kind.data()) == L"#32770" && GetDlgItem(window, kMessage) == nullptr &&
+        IsWindowVisible(window) != FALSE && TextOf(window) == sought.Title) {
+        sought.Found = window;
         return FALSE;
     }
     return TRUE;

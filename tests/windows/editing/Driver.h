@@ -48,7 +48,7 @@ private:
     UINT_PTR m_timer;
 };
 
-/// The visible dialog of that title; null if there is none.
+/// The visible dialog of that title, not a message box; null if there is none.
 HWND Dialog(const wchar_t* title);
 
 std::wstring TextOf(HWND window);
