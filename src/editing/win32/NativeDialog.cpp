@@ -27,6 +27,12 @@ void NativeDialog::Close(bool isAccepted) {
     EndDialog(GetAncestor(m_window, GA_ROOT), isAccepted ? IDOK : IDCANCEL);
 }
 
+NativeDialog* NativeDialog::Of(HWND window) {
+    return reinterpret_cast<DLGPROC>(GetWindowLongPtrW(window, DWLP_DLGPROC)) == Procedure
+               ? reinterpret_cast<NativeDialog*>(GetWindowLongPtrW(window, DWLP_USER))
+               : nullptr;
+}
+
 INT_PTR CALLBACK NativeDialog::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         reinterpret_cast<NativeDialog*>(lParam)->m_window = window;

@@ -28,6 +28,9 @@ protected:
     /// Of a part, the whole dialog.
     void Close(bool isAccepted);
 
+    /// The object of a window; null if that is no dialog of this class.
+    static NativeDialog* Of(HWND window);
+
     /// True for a message that needs nothing more, as dialogs have it.
     virtual bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 

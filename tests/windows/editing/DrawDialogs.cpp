@@ -59,22 +59,20 @@ RECT PlaceOf(HWND window) {
 
 /// The picture is taken a while after a window came, when all of it is drawn.
 void Take(Driver& user, const char* name, std::function<HWND()> window) {
-    user.Then(std::string(name) + " opens", [window] { return window() != nullptr; },
-              [window] { SetForegroundWindow(window()); });
-    user.Then(name, [window, left = 12]() mutable { return window() != nullptr && --left < 0; },
+    user.Then(name, [window, left = 12]() mutable {
+                  const HWND shown = window();
+                  return shown != nullptr && SetForegroundWindow(shown) != FALSE && --left < 0;
+              },
               [name, window] { Save(name, PlaceOf(window())); });
 }
 
 std::function<HWND()> Titled(const wchar_t* title) {
-    return [title] { return Dialog(title); };
+    return [title] { return DialogTitled(title); };
 }
 
 /// A dialog of the system's, which stands on the titled one.
 std::function<HWND()> On(const wchar_t* title) {
-    return [title]() -> HWND {
-        const HWND top = GetActiveWindow();
-        return top != nullptr && TextOf(GetWindow(top, GW_OWNER)) == title ? top : nullptr;
-    };
+    return [title] { return DialogOn(title); };
 }
 
 template <class Edit> void Show(Driver& user, Edit edit) {
@@ -98,23 +96,23 @@ void DrawPen() {
     user.Then("pen-styles", [left = 12]() mutable { return --left < 0; }, [title] {
         COMBOBOXINFO info{};
         info.cbSize = sizeof info;
-        GetComboBoxInfo(GetDlgItem(Dialog(title), 18402), &info);
-        const RECT dialog = PlaceOf(Dialog(title));
+        GetComboBoxInfo(GetDlgItem(DialogTitled(title), 18402), &info);
+        const RECT dialog = PlaceOf(DialogTitled(title));
         const RECT list = PlaceOf(info.hwndList);
         RECT both;
         UnionRect(&both, &dialog, &list);
         Save("pen-styles", both);
-        SendDlgItemMessageW(Dialog(title), 18402, CB_SHOWDROPDOWN, FALSE, 0);
+        SendDlgItemMessageW(DialogTitled(title), 18402, CB_SHOWDROPDOWN, FALSE, 0);
     });
     user.In(title, [](HWND dialog) {
         Type(dialog, 18400, L"20.5");
         Press(dialog, IDOK);
     });
     Take(user, "message", On(title));
-    user.Then("the message closes", On(title), [] { PostMessageW(GetActiveWindow(), WM_COMMAND, IDOK, 0); });
+    user.On(title, [](HWND message) { PostMessageW(message, WM_COMMAND, IDOK, 0); });
     user.In(title, [](HWND dialog) { Press(dialog, 18403); });
     Take(user, "colour", On(title));
-    user.Then("the colours close", On(title), [] { PostMessageW(GetActiveWindow(), WM_COMMAND, IDCANCEL, 0); });
+    user.On(title, [](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
     user.In(title, [](HWND dialog) { Press(dialog, IDCANCEL); });
     Show(user, [&] { EditPen(&pen); });
 }
@@ -129,7 +127,7 @@ void DrawText() {
     Take(user, "text", Titled(title));
     user.In(title, [](HWND dialog) { Press(dialog, 18408); });
     Take(user, "font", On(title));
-    user.Then("the fonts close", On(title), [] { PostMessageW(GetActiveWindow(), WM_COMMAND, IDCANCEL, 0); });
+    user.On(title, [](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
     user.In(title, [](HWND dialog) { Press(dialog, IDCANCEL); });
     Show(user, [&] { EditTextProperty(&text); });
 }

@@ -63,8 +63,22 @@ void Driver::Then(std::string name, std::function<bool()> ready, std::function<v
 
 void Driver::In(const wchar_t* title, std::function<void(HWND)> act) {
     Then("step " + std::to_string(m_steps.size() + 1),
-         [title] { return Dialog(title) != nullptr && GetActiveWindow() == Dialog(title); },
-         [title, act = std::move(act)] { act(Dialog(title)); });
+         [title] { return DialogTitled(title) != nullptr && GetActiveWindow() == DialogTitled(title); },
+         [title, act = std::move(act)] { act(DialogTitled(title)); });
+}
+
+void Driver::Answer(std::wstring& text, WORD button) {
+    Then("message " + std::to_string(m_steps.size() + 1),
+         [] { return GetDlgItem(GetActiveWindow(), kMessage) != nullptr; },
+         [&text, button] {
+             text = TextOf(GetActiveWindow(), kMessage);
+             PostMessageW(GetActiveWindow(), WM_COMMAND, button, 0);
+         });
+}
+
+void Driver::On(const wchar_t* title, std::function<void(HWND)> act) {
+    Then("system dialog " + std::to_string(m_steps.size() + 1), [title] { return DialogOn(title) != nullptr; },
+         [title, act = std::move(act)] { act(DialogOn(title)); });
 }
 
 std::string Driver::Failure() const {
@@ -94,10 +108,15 @@ void Driver::Go() {
     }
 }
 
-HWND Dialog(const wchar_t* title) {
+HWND DialogTitled(const wchar_t* title) {
     Sought sought{title};
     EnumThreadWindows(GetCurrentThreadId(), IsSought, reinterpret_cast<LPARAM>(&sought));
     return sought.Found;
+}
+
+HWND DialogOn(const wchar_t* title) {
+    const HWND top = GetActiveWindow();
+    return top != nullptr && top != DialogTitled(title) && TextOf(GetWindow(top, GW_OWNER)) == title ? top : nullptr;
 }
 
 std::wstring TextOf(HWND window) {

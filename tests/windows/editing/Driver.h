@@ -11,8 +11,8 @@
 /// the code under test waits in its modal loop.
 ///
 ///     Driver user;
-///     user.Then("the dialog opens", [] { return Dialog(L"线条属性") != nullptr; });
-///     user.Then("OK", [] { return true; }, [] { Press(Dialog(L"线条属性"), IDOK); });
+///     user.Then("the dialog opens", [] { return DialogTitled(L"线条属性") != nullptr; });
+///     user.Then("OK", [] { return true; }, [] { Press(DialogTitled(L"线条属性"), IDOK); });
 ///     EXPECT_TRUE(EditPen(&pen));
 ///     EXPECT_EQ(user.Failure(), "");
 ///
@@ -28,6 +28,11 @@ public:
     void Then(std::string name, std::function<bool()> ready, std::function<void()> act = [] {});
     /// As soon as the dialog of that title is the active window.
     void In(const wchar_t* title, std::function<void(HWND)> act);
+
+    /// A message box: takes its text and presses a button.
+    void Answer(std::wstring& text, WORD button);
+    /// A dialog of the system's on the dialog of that title.
+    void On(const wchar_t* title, std::function<void(HWND)> act);
 
     /// The step that did not come, or the first that was left when it was asked. Empty if all were done.
     std::string Failure() const;
@@ -49,7 +54,10 @@ private:
 };
 
 /// The visible dialog of that title, not a message box; null if there is none.
-HWND Dialog(const wchar_t* title);
+HWND DialogTitled(const wchar_t* title);
+
+/// The active dialog of the system's that stands on the dialog of that title; null if there is none.
+HWND DialogOn(const wchar_t* title);
 
 std::wstring TextOf(HWND window);
 inline std::wstring TextOf(HWND dialog, int id) {
