@@ -5,11 +5,11 @@ namespace {
 
 /// The edit's own colours, as its parent has them too.
 HBRUSH BackgroundOf(HWND edit, HDC context) {
-    const bool isWritable = IsWindowEnabled(edit) != FALSE && (GetWindowLongW(edit, GWL_STYLE) & ES_READONLY) == 0;
-    return reinterpret_cast<HBRUSH>(SendMessageW(GetParent(edit),
-                                                 isWritable ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC,
-                                                 reinterpret_cast<WPARAM>(context),
-                                                 reinterpret_cast<LPARAM>(edit)));
+    const bool isWritable =
+        IsWindowEnabled(edit) != FALSE && (GetWindowLongW(edit, GWL_STYLE) & ES_READONLY) == 0;
+    return reinterpret_cast<HBRUSH>(
+        SendMessageW(GetParent(edit), isWritable ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC,
+                     reinterpret_cast<WPARAM>(context), reinterpret_cast<LPARAM>(edit)));
 }
 
 void FillPadding(HWND edit, int padding) {
@@ -56,7 +56,8 @@ LRESULT CALLBACK EditProcedure(HWND edit, UINT message, WPARAM wParam, LPARAM lP
 int LineHeight(HWND edit) {
     TEXTMETRICW metrics{};
     const HDC context = GetDC(edit);
-    const HGDIOBJ before = SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(edit, WM_GETFONT, 0, 0)));
+    const HGDIOBJ before =
+        SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(edit, WM_GETFONT, 0, 0)));
     GetTextMetricsW(context, &metrics);
     SelectObject(context, before);
     ReleaseDC(edit, context);

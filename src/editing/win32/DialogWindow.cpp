@@ -148,7 +148,8 @@ void DialogWindow::OnCommand(int id, int code) {
         return Close(false);
     }
     const auto controls = m_dialog.Template().Controls;
-    const auto control = std::find_if(controls.begin(), controls.end(), [id](const Control& c) { return c.Id == id; });
+    const auto control =
+        std::find_if(controls.begin(), controls.end(), [id](const Control& c) { return c.Id == id; });
     if (control == controls.end()) {
         return;
     }
@@ -193,7 +194,8 @@ bool DialogWindow::IsChecked(int id) const {
 
 void DialogWindow::SetChecked(int id, bool checked) {
     const auto controls = m_dialog.Template().Controls;
-    const auto at = std::find_if(controls.begin(), controls.end(), [id](const Control& c) { return c.Id == id; });
+    const auto at =
+        std::find_if(controls.begin(), controls.end(), [id](const Control& c) { return c.Id == id; });
     if (checked && at != controls.end() && at->Kind == ControlKind::RadioButton) {
         const auto isOther = [](const Control& c) { return c.Kind != ControlKind::RadioButton; };
         const auto last = std::find_if(at, controls.end(), isOther);

@@ -41,6 +41,7 @@ protected:
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     virtual void OnOK();
+
     /// The user changed something; at most once a frame.
     virtual void OnChanged() { m_dialog.OnChanged(*this); }
 
@@ -54,6 +55,7 @@ private:
     void OnCommand(int id, int code);
     void OnStep(const NMUPDOWN& step);
     void TellSoon();
+
     HWND Root() const { return GetAncestor(Handle(), GA_ROOT); }
 
     std::vector<std::unique_ptr<ReflectedControl>> m_reflected;

@@ -42,7 +42,8 @@ void CLineStyleComboBox::DrawItem(const DRAWITEMSTRUCT& item) {
     DrawLineStyleItem(
         *engine,
         {scaled(box.left), scaled(box.top), scaled(box.right - box.left), scaled(box.bottom - box.top)},
-        static_cast<int>(item.itemID), (item.itemState & ODS_FOCUS) != 0, (item.itemState & ODS_SELECTED) != 0);
+        static_cast<int>(item.itemID), (item.itemState & ODS_FOCUS) != 0,
+        (item.itemState & ODS_SELECTED) != 0);
 }
 
 std::optional<LRESULT> CLineStyleComboBox::OnReflected(UINT message, WPARAM, LPARAM lParam) {

@@ -18,8 +18,6 @@ constexpr UINT kTurnPage = WM_APP; ///< 1 for the next one, −1 for the one bef
 
 // In dialog units.
 constexpr int kMargin = 7;
-constexpr int kTabHeight = 18; ///< with the borders of a page
-constexpr int kTabBorder = 4;
 constexpr int kButtonWidth = 50;
 constexpr int kButtonHeight = 14;
 
@@ -39,11 +37,19 @@ int TabStep(const MSG& message) {
     }
 }
 
+void Resize(HWND window, int wider, int higher) {
+    RECT place;
+    GetWindowRect(window, &place);
+    SetWindowPos(window, nullptr, 0, 0, place.right - place.left + wider, place.bottom - place.top + higher,
+                 SWP_NOMOVE | SWP_NOZORDER);
+}
+
 } // namespace
 
 class SheetWindow::Page final : public DialogWindow {
 public:
-    Page(SheetWindow& sheet, Dialog& dialog, int index) : DialogWindow(dialog), m_sheet(sheet), m_index(index) {}
+    Page(SheetWindow& sheet, Dialog& dialog, int index)
+        : DialogWindow(dialog), m_sheet(sheet), m_index(index) {}
 
     /// Behind the tabs in the order of the Tab key, in the box that they leave free.
     void Open() {
@@ -85,10 +91,8 @@ SheetWindow::SheetWindow(Sheet& sheet) : m_sheet(sheet), m_pages(sheet.Pages().s
 }
 
 bool SheetWindow::Show(HWND owner) {
-    const int tabsWidth = m_pageSize.cx + kTabBorder;
-    const int tabsHeight = m_pageSize.cy + kTabHeight;
-    const int buttonsTop = kMargin + tabsHeight + kMargin;
-    const int right = kMargin + tabsWidth;
+    const int buttonsTop = kMargin + m_pageSize.cy + kMargin;
+    const int right = kMargin + m_pageSize.cx;
     const std::array buttons{
         Control{kOkButton, ControlKind::DefaultButton, "确定", right - 2 * kButtonWidth - 6, buttonsTop,
                 kButtonWidth, kButtonHeight},
@@ -96,8 +100,8 @@ bool SheetWindow::Show(HWND owner) {
                 kButtonHeight},
     };
     std::vector<WindowItem> items = ItemsOf(buttons);
-    items.insert(items.begin(), {kTabs, WC_TABCONTROLW, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP, 0,
-                                 L"", kMargin, kMargin, tabsWidth, tabsHeight});
+    items.insert(items.begin(), {kTabs, WC_TABCONTROLW, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP,
+                                 0, L"", kMargin, kMargin, m_pageSize.cx, m_pageSize.cy});
     const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, TurnPages, nullptr, GetCurrentThreadId());
     const bool isAccepted = ShowModal(
         TemplateBytes(DS_MODALFRAME | DS_CENTER | WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, m_sheet.Title(),
@@ -142,8 +146,28 @@ void SheetWindow::OnInitDialog() {
         tab.pszText = title.data();
         SendDlgItemMessageW(Handle(), kTabs, TCM_INSERTITEMW, m_pages.size(), reinterpret_cast<LPARAM>(&tab));
     }
+    MakeRoomForTabs();
     BringToFront(0);
     SetFocus(GetNextDlgTabItem(m_pages.front()->Handle(), nullptr, FALSE));
+}
+
+/// The template has room for the pages alone: how much tabs and borders need, only their window knows.
+void SheetWindow::MakeRoomForTabs() {
+    RECT page{0, 0, m_pageSize.cx, m_pageSize.cy};
+    MapDialogRect(Handle(), &page);
+    RECT whole = page;
+    TabCtrl_AdjustRect(Item(kTabs), TRUE, &whole);
+    const int wider = whole.right - whole.left - page.right;
+    const int higher = whole.bottom - whole.top - page.bottom;
+    Resize(Item(kTabs), wider, higher);
+    Resize(Handle(), wider, higher);
+    for (const int button : {kOkButton, kCancelButton}) {
+        RECT place;
+        GetWindowRect(Item(button), &place);
+        MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&place), 2);
+        SetWindowPos(Item(button), nullptr, place.left + wider, place.top + higher, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER);
+    }
 }
 
 void SheetWindow::OnOK() {

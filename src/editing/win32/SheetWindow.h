@@ -18,6 +18,7 @@ private:
 
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnInitDialog();
+    void MakeRoomForTabs();
     void OnOK();
     void OnChanged();
     void Open(int index);
@@ -28,7 +29,7 @@ private:
     static LRESULT CALLBACK TurnPages(int code, WPARAM wParam, LPARAM lParam);
 
     Sheet& m_sheet;
-    SIZE m_pageSize{}; ///< the largest page's, in dialog units
+    SIZE m_pageSize{};                          ///< the largest page's, in dialog units
     std::vector<std::unique_ptr<Page>> m_pages; ///< null for one that was not shown yet
     int m_front = -1;
 };

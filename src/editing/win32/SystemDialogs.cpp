@@ -52,7 +52,8 @@ std::int32_t KeptHeight(std::int32_t picked, std::int32_t shown) {
 
 Answer ShowMessage(HWND owner, std::string_view text, MessageButtons buttons) {
     const UINT type = buttons == MessageButtons::YesNo ? MB_YESNO : MB_OK;
-    switch (MessageBoxW(owner, CStringUtil::Utf8ToWideString(text).c_str(), WindowText(owner).c_str(), type)) {
+    switch (
+        MessageBoxW(owner, CStringUtil::Utf8ToWideString(text).c_str(), WindowText(owner).c_str(), type)) {
     case IDOK:
         return Answer::Ok;
     case IDYES:

@@ -55,7 +55,9 @@ bool IsList(ControlKind kind) {
 
 class Writer {
 public:
-    template <class... Numbers> void Words(Numbers... words) { (m_words.push_back(static_cast<WORD>(words)), ...); }
+    template <class... Numbers> void Words(Numbers... words) {
+        (m_words.push_back(static_cast<WORD>(words)), ...);
+    }
 
     template <class... Numbers> void DoubleWords(Numbers... numbers) {
         (Words(static_cast<DWORD>(numbers) & 0xFFFFU, static_cast<DWORD>(numbers) >> 16U), ...);

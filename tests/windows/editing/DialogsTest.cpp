@@ -128,11 +128,14 @@ TEST(Win32Dialogs, KeyboardAloneReachesEverything) {
     when(user, kLineStyle, [] { Strike('C', VK_MENU); });
     when(user, kColor, [] { Strike('W', VK_MENU); });
     when(user, kWidth, [] { Send(L"21"); });
-    user.Then("typed over", [] { return TextOf(GetFocus()) == L"21"; }, [] { Strike(VK_RETURN); });
+    user.Then(
+        "typed over", [] { return TextOf(GetFocus()) == L"21"; }, [] { Strike(VK_RETURN); });
     user.Answer(told, IDOK);
     when(user, kWidth, [] { Send(L"2"); });
-    user.Then("corrected", [] { return TextOf(GetFocus()) == L"2"; }, [] { Strike(VK_UP); });
-    user.Then("stepped", [] { return TextOf(GetFocus()) == L"2.1"; }, [] { Strike(VK_TAB); });
+    user.Then(
+        "corrected", [] { return TextOf(GetFocus()) == L"2"; }, [] { Strike(VK_UP); });
+    user.Then(
+        "stepped", [] { return TextOf(GetFocus()) == L"2.1"; }, [] { Strike(VK_TAB); });
     when(user, IDOK, [] { Strike(VK_TAB); });
     when(user, IDCANCEL, [] { Strike(VK_TAB); });
     when(user, kLineStyle, [] { Strike(VK_TAB, VK_SHIFT); });
@@ -150,7 +153,14 @@ TEST(Win32Dialogs, KeyboardAloneReachesEverything) {
 }
 
 TEST(Win32Dialogs, TextHasItsColorsAndTextsChanged) {
-    enum : int { kDrawEdge = 18404, kPrefix = 18406, kPickEdge = 18409, kPickBackground = 18410, kAngle = 18414 };
+    enum : int {
+        kDrawEdge = 18404,
+        kPrefix = 18406,
+        kPickEdge = 18409,
+        kPickBackground = 18410,
+        kAngle = 18414
+    };
+
     TextProperty text;
     text.DrawEdge = 0;
     text.DrawBackGround = 1;
@@ -171,9 +181,9 @@ TEST(Win32Dialogs, TextHasItsColorsAndTextsChanged) {
         SetFocus(GetDlgItem(dialog, kPrefix));
         Send(L"约𠮷a");
     });
-    user.Then("an input method's characters",
-              [] { return TextOf(DialogTitled(kTextTitle), kPrefix) == L"约𠮷a"; },
-              [] { Press(DialogTitled(kTextTitle), IDOK); });
+    user.Then(
+        "an input method's characters", [] { return TextOf(DialogTitled(kTextTitle), kPrefix) == L"约𠮷a"; },
+        [] { Press(DialogTitled(kTextTitle), IDOK); });
     EXPECT_TRUE(EditTextProperty(&text));
     EXPECT_EQ(user.Failure(), "");
     EXPECT_EQ(text.DrawEdge, 1);
@@ -286,17 +296,21 @@ TEST(Win32Dialogs, PreviewFollowsTheUserAndGoesBack) {
             Type(dialog, kWidth, text);
         }
     });
-    user.Then("told", [&] { return widths.size() == 1; }, [] { Type(DialogTitled(kPenTitle), kWidth, L"99"); });
+    user.Then(
+        "told", [&] { return widths.size() == 1; }, [] { Type(DialogTitled(kPenTitle), kWidth, L"99"); });
     user.In(kPenTitle, [](HWND dialog) { SendDlgItemMessageW(dialog, kWidth, WM_KEYDOWN, VK_UP, 0); });
-    user.Then("told of the step", [&] { return widths.size() == 2; }, [] { Press(DialogTitled(kPenTitle), IDCANCEL); });
-    EXPECT_FALSE(EditWithPreview(&pen, [&](const penlode::Pen& shown) { widths.push_back(shown.GetWidth()); }));
+    user.Then(
+        "told of the step", [&] { return widths.size() == 2; },
+        [] { Press(DialogTitled(kPenTitle), IDCANCEL); });
+    EXPECT_FALSE(
+        EditWithPreview(&pen, [&](const penlode::Pen& shown) { widths.push_back(shown.GetWidth()); }));
     EXPECT_EQ(user.Failure(), "");
     EXPECT_EQ(widths, (std::vector{12.5F, 0.1F, 0.25F}));
 }
 
 TEST(Win32Dialogs, OwnerIsTheActiveWindowAndGetsItsTurnBack) {
-    const HWND host = CreateWindowExW(0, L"Static", L"host", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
-                                      nullptr, nullptr);
+    const HWND host = CreateWindowExW(0, L"Static", L"host", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr,
+                                      nullptr, nullptr, nullptr);
     SetActiveWindow(host);
     double minimum = 1.0;
     double maximum = 10.0;

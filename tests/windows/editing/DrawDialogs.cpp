@@ -59,11 +59,13 @@ RECT PlaceOf(HWND window) {
 
 /// The picture is taken a while after a window came, when all of it is drawn.
 void Take(Driver& user, const char* name, std::function<HWND()> window) {
-    user.Then(name, [window, left = 12]() mutable {
-                  const HWND shown = window();
-                  return shown != nullptr && SetForegroundWindow(shown) != FALSE && --left < 0;
-              },
-              [name, window] { Save(name, PlaceOf(window())); });
+    user.Then(
+        name,
+        [window, left = 12]() mutable {
+            const HWND shown = window();
+            return shown != nullptr && SetForegroundWindow(shown) != FALSE && --left < 0;
+        },
+        [name, window] { Save(name, PlaceOf(window())); });
 }
 
 std::function<HWND()> Titled(const wchar_t* title) {
@@ -93,17 +95,19 @@ void DrawPen() {
         SendDlgItemMessageW(dialog, 18402, CB_SHOWDROPDOWN, TRUE, 0);
         SendDlgItemMessageW(dialog, 18402, WM_KEYDOWN, VK_DOWN, 0);
     });
-    user.Then("pen-styles", [left = 12]() mutable { return --left < 0; }, [title] {
-        COMBOBOXINFO info{};
-        info.cbSize = sizeof info;
-        GetComboBoxInfo(GetDlgItem(DialogTitled(title), 18402), &info);
-        const RECT dialog = PlaceOf(DialogTitled(title));
-        const RECT list = PlaceOf(info.hwndList);
-        RECT both;
-        UnionRect(&both, &dialog, &list);
-        Save("pen-styles", both);
-        SendDlgItemMessageW(DialogTitled(title), 18402, CB_SHOWDROPDOWN, FALSE, 0);
-    });
+    user.Then(
+        "pen-styles", [left = 12]() mutable { return --left < 0; },
+        [title] {
+            COMBOBOXINFO info{};
+            info.cbSize = sizeof info;
+            GetComboBoxInfo(GetDlgItem(DialogTitled(title), 18402), &info);
+            const RECT dialog = PlaceOf(DialogTitled(title));
+            const RECT list = PlaceOf(info.hwndList);
+            RECT both;
+            UnionRect(&both, &dialog, &list);
+            Save("pen-styles", both);
+            SendDlgItemMessageW(DialogTitled(title), 18402, CB_SHOWDROPDOWN, FALSE, 0);
+        });
     user.In(title, [](HWND dialog) {
         Type(dialog, 18400, L"20.5");
         Press(dialog, IDOK);

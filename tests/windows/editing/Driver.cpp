@@ -48,7 +48,8 @@ void Inject(INPUT input) {
 
 } // namespace
 
-Driver::Driver() : m_waitingSince(std::chrono::steady_clock::now()), m_timer(SetTimer(nullptr, 0, 30, OnTimer)) {
+Driver::Driver()
+    : m_waitingSince(std::chrono::steady_clock::now()), m_timer(SetTimer(nullptr, 0, 30, OnTimer)) {
     g_driver = this;
 }
 
@@ -62,23 +63,26 @@ void Driver::Then(std::string name, std::function<bool()> ready, std::function<v
 }
 
 void Driver::In(const wchar_t* title, std::function<void(HWND)> act) {
-    Then("step " + std::to_string(m_steps.size() + 1),
-         [title] { return DialogTitled(title) != nullptr && GetActiveWindow() == DialogTitled(title); },
-         [title, act = std::move(act)] { act(DialogTitled(title)); });
+    Then(
+        "step " + std::to_string(m_steps.size() + 1),
+        [title] { return DialogTitled(title) != nullptr && GetActiveWindow() == DialogTitled(title); },
+        [title, act = std::move(act)] { act(DialogTitled(title)); });
 }
 
 void Driver::Answer(std::wstring& text, WORD button) {
-    Then("message " + std::to_string(m_steps.size() + 1),
-         [] { return GetDlgItem(GetActiveWindow(), kMessage) != nullptr; },
-         [&text, button] {
-             text = TextOf(GetActiveWindow(), kMessage);
-             PostMessageW(GetActiveWindow(), WM_COMMAND, button, 0);
-         });
+    Then(
+        "message " + std::to_string(m_steps.size() + 1),
+        [] { return GetDlgItem(GetActiveWindow(), kMessage) != nullptr; },
+        [&text, button] {
+            text = TextOf(GetActiveWindow(), kMessage);
+            PostMessageW(GetActiveWindow(), WM_COMMAND, button, 0);
+        });
 }
 
 void Driver::On(const wchar_t* title, std::function<void(HWND)> act) {
-    Then("system dialog " + std::to_string(m_steps.size() + 1), [title] { return DialogOn(title) != nullptr; },
-         [title, act = std::move(act)] { act(DialogOn(title)); });
+    Then(
+        "system dialog " + std::to_string(m_steps.size() + 1), [title] { return DialogOn(title) != nullptr; },
+        [title, act = std::move(act)] { act(DialogOn(title)); });
 }
 
 std::string Driver::Failure() const {
@@ -116,18 +120,21 @@ HWND DialogTitled(const wchar_t* title) {
 
 HWND DialogOn(const wchar_t* title) {
     const HWND top = GetActiveWindow();
-    return top != nullptr && top != DialogTitled(title) && TextOf(GetWindow(top, GW_OWNER)) == title ? top : nullptr;
+    return top != nullptr && top != DialogTitled(title) && TextOf(GetWindow(top, GW_OWNER)) == title
+               ? top
+               : nullptr;
 }
 
 std::wstring TextOf(HWND window) {
     std::array<wchar_t, 256> text{};
-    return {text.data(), static_cast<std::size_t>(
-                             SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())))};
+    return {text.data(), static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(),
+                                                               reinterpret_cast<LPARAM>(text.data())))};
 }
 
 TextRange SelectionOf(HWND edit) {
     TextRange range;
-    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&range.Begin), reinterpret_cast<LPARAM>(&range.End));
+    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&range.Begin),
+                 reinterpret_cast<LPARAM>(&range.End));
     return range;
 }
 

@@ -25,7 +25,8 @@ public:
     Driver(const Driver&) = delete;
     Driver& operator=(const Driver&) = delete;
 
-    void Then(std::string name, std::function<bool()> ready, std::function<void()> act = [] {});
+    void Then(
+        std::string name, std::function<bool()> ready, std::function<void()> act = [] {});
     /// As soon as the dialog of that title is the active window.
     void In(const wchar_t* title, std::function<void(HWND)> act);
 
@@ -60,6 +61,7 @@ HWND DialogTitled(const wchar_t* title);
 HWND DialogOn(const wchar_t* title);
 
 std::wstring TextOf(HWND window);
+
 inline std::wstring TextOf(HWND dialog, int id) {
     return TextOf(GetDlgItem(dialog, id));
 }
@@ -69,6 +71,7 @@ struct TextRange {
     DWORD Begin = 0;
     DWORD End = 0;
 };
+
 TextRange SelectionOf(HWND edit);
 
 /// A click on a button, which comes back before its dialog opens.

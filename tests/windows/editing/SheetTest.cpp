@@ -16,10 +16,14 @@ enum : int { kName = 100, kFirst = 101, kSecond = 102, kThird = 103, kList = 104
 constexpr wchar_t kTitle[] = L"页";
 
 constexpr std::array kControls{
-    Control{kNoId, Label, "名称(&N):", 7, 10, 40, 8},     Control{kName, Edit, "", 50, 7, 60, 14},
-    Control{kFirst, RadioButton, "一(&1)", 7, 27, 40, 10}, Control{kSecond, RadioButton, "二(&2)", 50, 27, 40, 10},
-    Control{kThird, RadioButton, "三(&3)", 90, 27, 40, 10}, Control{kList, DropDownList, "", 7, 44, 60, 14},
-    Control{kAlone, RadioButton, "独(&4)", 70, 44, 40, 10}, Control{kMore, Button, "更多(&M)...", 70, 60, 50, 14},
+    Control{kNoId, Label, "名称(&N):", 7, 10, 40, 8},
+    Control{kName, Edit, "", 50, 7, 60, 14},
+    Control{kFirst, RadioButton, "一(&1)", 7, 27, 40, 10},
+    Control{kSecond, RadioButton, "二(&2)", 50, 27, 40, 10},
+    Control{kThird, RadioButton, "三(&3)", 90, 27, 40, 10},
+    Control{kList, DropDownList, "", 7, 44, 60, 14},
+    Control{kAlone, RadioButton, "独(&4)", 70, 44, 40, 10},
+    Control{kMore, Button, "更多(&M)...", 70, 60, 50, 14},
 };
 constexpr DialogTemplate kFirstPage{1, "第一页", 150, 80, kControls};
 constexpr DialogTemplate kSecondPage{2, "第二页", 120, 90, kControls};
@@ -144,12 +148,14 @@ TEST(Win32Sheet, RefusingPageComesToTheFront) {
         Type(Front(), kName, L"bad");
         Strike(VK_TAB, VK_CONTROL);
     });
-    user.Then("the second page", [] { return TextOf(Front(), kName) == L"x"; }, [] {
-        EXPECT_TRUE(FrontOf(kSecondPage) != nullptr);
-        EXPECT_TRUE(IsChild(Front(), GetFocus())) << "the focus is not on a hidden page";
-        Type(Front(), kName, L"good");
-        Strike(VK_RETURN);
-    });
+    user.Then(
+        "the second page", [] { return TextOf(Front(), kName) == L"x"; },
+        [] {
+            EXPECT_TRUE(FrontOf(kSecondPage) != nullptr);
+            EXPECT_TRUE(IsChild(Front(), GetFocus())) << "the focus is not on a hidden page";
+            Type(Front(), kName, L"good");
+            Strike(VK_RETURN);
+        });
     user.Answer(told, IDOK);
     user.In(kTitle, [](HWND) {
         EXPECT_EQ(TextOf(Front(), kName), L"bad");
