@@ -38,6 +38,25 @@ bool IsClick(ControlKind kind, int code) {
     }
 }
 
+/// In its dialog.
+RECT PlaceOf(HWND control) {
+    RECT place;
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+LONG WidthOf(HWND control) {
+    const RECT place = PlaceOf(control);
+    return place.right - place.left;
+}
+
+void Widen(HWND control, LONG shift, LONG wider) {
+    const RECT place = PlaceOf(control);
+    SetWindowPos(control, nullptr, place.left + shift, place.top, place.right - place.left + wider,
+                 place.bottom - place.top, SWP_NOZORDER);
+}
+
 } // namespace
 
 bool DialogWindow::Show(HWND owner) {
@@ -101,10 +120,10 @@ void DialogWindow::Furnish(std::size_t index) {
         auto styles = std::make_unique<CLineStyleComboBox>(window);
         styles->Initialize();
         m_reflected.push_back(std::move(styles));
-        return FitClosedList(window, control);
+        return PlaceClosedList(window, control);
     }
     case ControlKind::DropDownList:
-        return FitClosedList(window, control);
+        return PlaceClosedList(window, control);
     case ControlKind::Stepper:
         return FurnishStepper(window, index);
     default:
@@ -112,32 +131,41 @@ void DialogWindow::Furnish(std::size_t index) {
     }
 }
 
-/// The system puts a stepper into its edit's right end, and takes that from the edit: which gets the place of
-/// both first.
+/// The system puts a stepper into its edit's right end, as wide as it likes, and takes that from the edit:
+/// which gets the place of both first.
 void DialogWindow::FurnishStepper(HWND stepper, std::size_t index) {
     const std::span<const Control> controls = m_dialog.Template().Controls;
     const HWND edit = Item(controls[index - 1].Id);
-    RECT whole;
-    RECT arrows;
-    GetWindowRect(edit, &whole);
-    GetWindowRect(stepper, &arrows);
-    SetWindowPos(edit, nullptr, 0, 0, arrows.right - whole.left, whole.bottom - whole.top,
-                 SWP_NOMOVE | SWP_NOZORDER);
-    UDACCEL byOne{1, 1};
+    const LONG width = PixelsOf(controls[index]).right;
+    Widen(edit, 0, width);
     SendMessageW(stepper, UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit), 0);
+    const LONG wider = width - WidthOf(stepper);
+    Widen(edit, 0, -wider);
+    Widen(stepper, -wider, wider);
+    UDACCEL byOne{1, 1};
     SendMessageW(stepper, UDM_SETACCEL, 1, reinterpret_cast<LPARAM>(&byOne));
     SetWindowTextW(stepper, CStringUtil::Utf8ToWideString(AccessibleName(controls, index)).c_str());
 }
 
-/// The system makes a closed list as high as its font asks for.
-void DialogWindow::FitClosedList(HWND list, const Control& control) {
+/// The size that the template has for it, from 0.
+RECT DialogWindow::PixelsOf(const Control& control) const {
+    RECT size{0, 0, control.Width, control.Height};
+    MapDialogRect(Handle(), &size);
+    return size;
+}
+
+/// The system makes a closed list as high as its font asks for. A list of pictures fills its place; one of
+/// texts, which stand at its top, goes to the middle.
+void DialogWindow::PlaceClosedList(HWND list, const Control& control) {
     constexpr WPARAM kClosed = static_cast<WPARAM>(-1);
-    RECT wanted{0, 0, 0, control.Height};
-    RECT made;
-    MapDialogRect(Handle(), &wanted);
-    GetWindowRect(list, &made);
-    const LRESULT height = SendMessageW(list, CB_GETITEMHEIGHT, kClosed, 0);
-    SendMessageW(list, CB_SETITEMHEIGHT, kClosed, height + wanted.bottom - (made.bottom - made.top));
+    const RECT made = PlaceOf(list);
+    const LONG higher = PixelsOf(control).bottom - (made.bottom - made.top);
+    if (control.Kind == ControlKind::LineStyles) {
+        const LRESULT height = SendMessageW(list, CB_GETITEMHEIGHT, kClosed, 0);
+        SendMessageW(list, CB_SETITEMHEIGHT, kClosed, height + higher);
+    } else {
+        SetWindowPos(list, nullptr, made.left, made.top + higher / 2, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    }
 }
 
 void DialogWindow::OnCommand(int id, int code) {

@@ -51,7 +51,8 @@ private:
     void OnInitDialog();
     void Furnish(std::size_t index);
     void FurnishStepper(HWND stepper, std::size_t index);
-    void FitClosedList(HWND list, const Control& control);
+    RECT PixelsOf(const Control& control) const;
+    void PlaceClosedList(HWND list, const Control& control);
     void OnCommand(int id, int code);
     void OnStep(const NMUPDOWN& step);
     void TellSoon();

@@ -161,6 +161,9 @@ int main(int count, char** arguments) {
     }
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     SetCursorPos(0, 0);
+    const HWND host = CreateWindowExW(0, L"Static", L"host", WS_POPUP | WS_VISIBLE, 0, 0, 1, 1, nullptr,
+                                      nullptr, nullptr, nullptr);
+    SetForegroundWindow(host);
     g_folder = arguments[1];
     g_ending = count > 2 ? arguments[2] : "";
     DrawPen();
