@@ -22,10 +22,10 @@ constexpr std::span<const std::string_view> kMaxima = std::span(kPowers).subspan
 using enum ControlKind;
 
 constexpr std::array kControls{
-    Control{kNoId, Label, "最小值:", 7, 10, 40, 8},
-    Control{kMinimum, DropDownList, "", 47, 7, 110, 14},
-    Control{kNoId, Label, "最大值:", 7, 30, 40, 8},
-    Control{kMaximum, DropDownList, "", 47, 27, 110, 14},
+    Control{kNoId, Label, "最小值:", 7, 10, 44, 8},
+    Control{kMinimum, DropDownList, "", 51, 7, 106, 14},
+    Control{kNoId, Label, "最大值:", 7, 30, 44, 8},
+    Control{kMaximum, DropDownList, "", 51, 27, 106, 14},
     Control{kOkButton, DefaultButton, "确定", 51, 52, 50, 14},
     Control{kCancelButton, Button, "取消", 107, 52, 50, 14},
 };
