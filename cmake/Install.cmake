@@ -6,19 +6,21 @@ include(cmake/PublicHeaders.cmake)
 if(MILLICHART_DOCUMENTS)
   set(documents millichart-documents)
 endif()
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/millichart)
 install(TARGETS penlode millichart millichart-core ${documents} EXPORT millichartTargets)
-install(
-  EXPORT millichartTargets
-  NAMESPACE millichart::
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/millichart
-  FILE millichartConfig.cmake)
+install(EXPORT millichartTargets NAMESPACE millichart:: DESTINATION ${package_folder})
+if(TARGET millichart-editing)
+  set(editing millichart-editing)
+  install(TARGETS millichart-editing EXPORT millichartEditingTargets)
+  install(EXPORT millichartEditingTargets NAMESPACE millichart:: DESTINATION ${package_folder})
+endif()
 write_basic_package_version_file(millichartConfigVersion.cmake COMPATIBILITY SameMinorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/millichart)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake packaging/millichartConfig.cmake
+        DESTINATION ${package_folder})
 
 # The file finds its prefix from where it lies, so that an installed tree may be moved.
 file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-foreach(package millichart ${documents})
+foreach(package millichart ${documents} ${editing})
   configure_file(packaging/${package}.pc.in ${package}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Names every class and function of the public headers in one program and holds what the compiler saw declared against
 # what the libraries export: a host can link each function that a header shows him, and finds each that is exported in
-# a header. Called as CheckExports.sh COMPILER SOURCES FOLDER "LIBRARIES" HEADERS...
+# a header. Called as CheckExports.sh COMPILER "FLAGS" FOLDER "LIBRARIES" HEADERS...
 set -euo pipefail
 export LC_ALL=C
-compiler=$1 sources=$2 folder=$3 libraries=$4
+compiler=$1 flags=$2 folder=$3 libraries=$4
 shift 4
 cd "$folder"
 
@@ -13,6 +13,7 @@ cd "$folder"
 awk '
   function last_word(text) { sub(/\(.*/, "", text); if (!sub(/.* operator/, "operator", text)) sub(/.*[ *&]/, "", text); return text }
   /^namespace (penlode|millichart) / { room = $2; next }
+  /^extern "C"/ { room = ""; next }
   /^template/ { skip = !/[;{}]$/; next }
   skip { skip = !/[;{}]$/; next }
   /^(class|struct) .*\{/ {
@@ -42,7 +43,8 @@ awk '
   awk '$1 == "function" { print "using " $2 ";" }' named
   echo '}'
 } >names.cpp
-"$compiler" -std=c++20 -I"$sources" -O0 -gdwarf-4 -femit-class-debug-always -fno-eliminate-unused-debug-types \
+# shellcheck disable=SC2086 # one flag a word
+"$compiler" -std=c++20 $flags -O0 -gdwarf-4 -femit-class-debug-always -fno-eliminate-unused-debug-types \
   -fkeep-inline-functions -c names.cpp -o names.o
 
 # A constructor or destructor counts once, whatever its variants.

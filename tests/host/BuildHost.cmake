@@ -34,6 +34,9 @@ run(${CMAKE_COMMAND} -S ${SOURCE}/tests/host -B ${WORK}/host -G Ninja -DCMAKE_CX
     -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_PREFIX_PATH=${WORK}/installed)
 run(${CMAKE_COMMAND} --build ${WORK}/host)
 run(${WORK}/host/host)
+if(EXISTS ${WORK}/host/editing-host)
+  run(${WORK}/host/editing-host)
+endif()
 
 run(${BUILD}/bin/millichart new pie -o ${WORK}/sales.chart.json)
 run(${CMAKE_COMMAND} -E chdir ${WORK} ${WORK}/host/document-host)
