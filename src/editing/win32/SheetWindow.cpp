@@ -148,7 +148,7 @@ void SheetWindow::OnInitDialog() {
     }
     MakeRoomForTabs();
     BringToFront(0);
-    SetFocus(GetNextDlgTabItem(m_pages.front()->Handle(), nullptr, FALSE));
+    FocusFirst();
 }
 
 /// The template has room for the pages alone: how much tabs and borders need, only their window knows.
@@ -199,9 +199,16 @@ void SheetWindow::BringToFront(int index) {
     Open(index);
     TabCtrl_SetCurSel(Item(kTabs), index);
     if (hadFocus) { // which a hidden page must not keep
-        SetFocus(GetNextDlgTabItem(m_pages[static_cast<std::size_t>(index)]->Handle(), nullptr, FALSE));
+        FocusFirst();
     }
     ShowWindow(before, SW_HIDE);
+}
+
+/// As the Tab key goes to it: an edit's text is selected.
+void SheetWindow::FocusFirst() {
+    const HWND page = m_pages[static_cast<std::size_t>(m_front)]->Handle();
+    const HWND first = GetNextDlgTabItem(page, nullptr, FALSE);
+    SendMessageW(Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
 }
 
 std::vector<DialogView*> SheetWindow::Views() const {

@@ -23,6 +23,7 @@ private:
     void OnChanged();
     void Open(int index);
     void BringToFront(int index);
+    void FocusFirst();
     std::vector<DialogView*> Views() const;
 
     /// The keys of the sheets of the system, Ctrl+Tab and Ctrl+Page Down, with Shift or Page Up for back.

@@ -4,7 +4,6 @@
 #include "windows/editing/Driver.h"
 
 #include <gtest/gtest.h>
-#include <stdexcept>
 #include <vector>
 
 using namespace millichart;

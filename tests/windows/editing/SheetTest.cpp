@@ -144,6 +144,7 @@ TEST(Win32Sheet, RefusingPageComesToTheFront) {
     user.In(kTitle, [](HWND dialog) {
         EXPECT_TRUE(FrontOf(kFirstPage) != nullptr) << "a page has the room of its template";
         EXPECT_EQ(GetDlgCtrlID(GetFocus()), kName);
+        EXPECT_EQ(SelectionOf(GetFocus()).End, 1U);
         EXPECT_EQ(TextOf(dialog, IDOK) + TextOf(dialog, IDCANCEL), L"确定取消");
         Type(Front(), kName, L"bad");
         Strike(VK_TAB, VK_CONTROL);
