@@ -16,7 +16,7 @@ names() {
 needed=$("$objdump" -p "$dll" | awk '/DLL Name:/ { print tolower($3) }' | sort -u)
 for library in $needed; do
   case $library in
-  kernel32.dll | user32.dll | gdi32.dll | gdiplus.dll | ole32.dll | msvcrt.dll | penlode.dll) ;;
+  kernel32.dll | user32.dll | gdi32.dll | gdiplus.dll | ole32.dll | comctl32.dll | comdlg32.dll | uxtheme.dll | msvcrt.dll | penlode.dll) ;;
   *)
     echo "$dll needs $library"
     exit 1

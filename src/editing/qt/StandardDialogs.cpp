@@ -105,6 +105,7 @@ std::optional<FontChoice> PickFont(QWidget* window, const FontChoice& shown, int
     dialog.setCurrentFont(ToQFont(shown.Font));
     CColorButton* color = AddColorRow(dialog);
     color->SetColor(shown.TextColor);
+    dialog.resize(dialog.width(), dialog.width()); // the lists keep more than a few lines
     const QFont opened = dialog.currentFont();
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;

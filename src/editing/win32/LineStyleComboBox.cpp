@@ -1,0 +1,64 @@
+#include "editing/win32/LineStyleComboBox.h"
+
+#include "editing/LineStyleItem.h"
+#include "penlode/GraphicsEngine.h"
+
+#include <string>
+
+namespace millichart {
+
+/// The system asked for an item's height when it made the combo box, before this object was there.
+CLineStyleComboBox::CLineStyleComboBox(HWND comboBox) : ReflectedControl(comboBox) {
+    SendMessageW(comboBox, CB_SETITEMHEIGHT, 0, Scaled(comboBox, kLineStyleHeight));
+}
+
+CLineStyleComboBox::~CLineStyleComboBox() = default;
+
+void CLineStyleComboBox::Initialize() {
+    for (int style = 0; style < kLineStyleCount; ++style) {
+        SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::to_wstring(style).c_str()));
+    }
+}
+
+void CLineStyleComboBox::MeasureItem(MEASUREITEMSTRUCT& item) {
+    item.itemHeight = static_cast<UINT>(Scaled(Handle(), kLineStyleHeight));
+}
+
+int CLineStyleComboBox::CompareItem(const COMPAREITEMSTRUCT&) {
+    return 0;
+}
+
+/// The engine counts in pixels of 96 dpi.
+void CLineStyleComboBox::DrawItem(const DRAWITEMSTRUCT& item) {
+    const auto engine = penlode::CGraphicsEngine::ForDeviceContext(item.hDC);
+    if (engine == nullptr) {
+        return;
+    }
+    const float scale = static_cast<float>(GetDpiForWindow(Handle())) / 96.0F;
+    engine->SetPageUnit(penlode::Unit::Pixel);
+    engine->SetPageScale(scale);
+    const auto scaled = [scale](LONG pixels) { return static_cast<float>(pixels) / scale; };
+    const RECT& box = item.rcItem;
+    DrawLineStyleItem(
+        *engine,
+        {scaled(box.left), scaled(box.top), scaled(box.right - box.left), scaled(box.bottom - box.top)},
+        static_cast<int>(item.itemID), (item.itemState & ODS_FOCUS) != 0,
+        (item.itemState & ODS_SELECTED) != 0);
+}
+
+std::optional<LRESULT> CLineStyleComboBox::OnReflected(UINT message, WPARAM, LPARAM lParam) {
+    switch (message) {
+    case WM_MEASUREITEM:
+        MeasureItem(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+        return TRUE;
+    case WM_COMPAREITEM:
+        return CompareItem(*reinterpret_cast<const COMPAREITEMSTRUCT*>(lParam));
+    case WM_DRAWITEM:
+        DrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        return TRUE;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace millichart

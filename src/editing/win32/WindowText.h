@@ -1,0 +1,15 @@
+#pragma once
+
+#include "editing/win32/Windows.h"
+
+#include <string>
+
+namespace millichart {
+
+inline std::wstring WindowText(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+} // namespace millichart
