@@ -93,7 +93,7 @@ TEST(LegendPage, PlacesTheLegendByArrowsAndClicks) {
     User user;
     user.In("饼图属性", [] {
         User::Front().findChild<QTabWidget*>()->setCurrentIndex(2);
-        User::Front().findChild<PositionPicker*>()->setFocus();
+        User::Find<PositionPicker>("位置").setFocus();
         User::Press(Qt::Key_Left);
         User::Press(Qt::Key_Up);
         User::Find<QPushButton>("确定").click();
