@@ -2,7 +2,7 @@
 # includes them all, that of the documents, and every header that one of these includes.
 function(public_headers result)
   set(waiting millichart.h documents/ChartDocument.h penlode/GraphicsEngine.h editing/ColorPane.h
-              editing/LineStyleComboBox.h)
+              editing/LineStyleComboBox.h editing/ListCtrlEx.h)
   if(WIN32)
     set(other "penlode/cairo/|editing/qt/")
   else()

@@ -1,6 +1,7 @@
 #include "editing/qt/ListCtrlEx.h"
 
 #include "editing/CellSamples.h"
+#include "editing/ListRows.h"
 #include "editing/qt/DialogUnits.h"
 #include "editing/qt/QtValues.h"
 #include "editing/qt/SurfacePainter.h"

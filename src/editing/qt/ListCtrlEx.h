@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/ListRows.h"
+#include "editing/DialogView.h"
 #include "foundation/Export.h"
 
 #include <QTableView>
