@@ -27,7 +27,7 @@ std::string_view Rest(std::string_view text) {
 }
 
 constexpr std::array kComponentColumns{
-    ListColumn{"成分", CellKind::Text, 140, &NoText},
+    ListColumn{"成分", CellKind::Text, 190, &NoText},
     ListColumn{"颜色", CellKind::Color, 70, &NewColorCell, {}, &EditColorCell},
 };
 

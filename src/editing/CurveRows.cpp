@@ -42,12 +42,12 @@ std::string NewNull(int) {
 }
 
 constexpr std::array kColumns{
-    ListColumn{"成分", CellKind::Text, 52, &NewName},
-    ListColumn{"线型", CellKind::Line, 44, &NewLine, {}, &EditLineCell},
-    ListColumn{"点标志", CellKind::Choice, 58, &NewDot, kDotNames},
+    ListColumn{"成分", CellKind::Text, 42, &NewName},
+    ListColumn{"线型", CellKind::Line, 36, &NewLine, {}, &EditLineCell},
+    ListColumn{"点标志", CellKind::Choice, 56, &NewDot, kDotNames},
     ListColumn{"点颜色", CellKind::Color, 34, &NewColorCell, {}, &EditColorCell},
     ListColumn{"点宽度（毫米）", CellKind::Number, 64, &NewDotWidth},
-    ListColumn{"空值处理", CellKind::Choice, 44, &NewNull, kNullNames},
+    ListColumn{"空值处理", CellKind::Choice, 40, &NewNull, kNullNames},
 };
 static_assert(kColumns.size() == kColumnCount);
 

@@ -7,7 +7,7 @@
 /// What the pages of all sheets have in common.
 namespace millichart {
 
-inline constexpr int kPageWidth = 260;
+inline constexpr int kPageWidth = 304;
 inline constexpr int kPageHeight = 254;
 
 inline constexpr std::array<std::string_view, 4> kScaleStyleTexts{"无", "外部", "内部", "交叉"};
@@ -17,7 +17,7 @@ constexpr Control ScaleRadio(const std::array<int, 4>& ids, std::size_t style, i
     return {ids[style],
             ControlKind::RadioButton,
             kScaleStyleTexts[style],
-            13 + 58 * static_cast<int>(style),
+            13 + 69 * static_cast<int>(style),
             y,
             50,
             10};

@@ -27,18 +27,18 @@ enum : int {
 constexpr std::array<Control, 17> CommonControls(std::string_view look, std::string_view first,
                                                  std::string_view second) {
     return {{
-        {kNoId, GroupBox, "成分", 7, 7, 246, 110},
-        {kComponents, EditableList, "", 13, 18, 234, 92},
-        {kNoId, GroupBox, "大小", 7, 121, 246, 52},
+        {kNoId, GroupBox, "成分", 7, 7, 290, 110},
+        {kComponents, EditableList, "", 13, 18, 278, 92},
+        {kNoId, GroupBox, "大小", 7, 121, 290, 52},
         {kFixedSize, CheckBox, "固定大小", 13, 137, 52, 10},
-        {kNoId, Label, "直径:", 125, 137, 40, 8},
-        {kFixedWidth, Edit, "", 165, 134, 48, 14},
-        {kNoId, Label, "毫米", 217, 137, 20, 8},
+        {kNoId, Label, "直径:", 147, 137, 40, 8},
+        {kFixedWidth, Edit, "", 187, 134, 48, 14},
+        {kNoId, Label, "毫米", 239, 137, 20, 8},
         {kNoId, Label, "基准值:", 13, 155, 36, 8},
         {kBaseValue, Edit, "", 49, 152, 64, 14},
-        {kNoId, Label, "基准直径:", 125, 155, 40, 8},
-        {kBaseWidth, Edit, "", 165, 152, 48, 14},
-        {kNoId, Label, "毫米", 217, 155, 20, 8},
+        {kNoId, Label, "基准直径:", 147, 155, 40, 8},
+        {kBaseWidth, Edit, "", 187, 152, 48, 14},
+        {kNoId, Label, "毫米", 239, 155, 20, 8},
         {kShowLines, CheckBox, "显示分隔线", 7, 182, 60, 10},
         {kLinePen, Button, "分隔线线型...", 77, 180, 76, 14},
         {kNoId, GroupBox, look, 7, 200, 116, 34},
@@ -70,8 +70,8 @@ constexpr std::array<T, N + sizeof...(More)> Joined(const std::array<T, N>& list
 }
 
 constexpr std::array kPieControls =
-    Joined(CommonControls("显示样式", "2维", "3维"), Control{kNoId, Label, "起始角度:", 133, 215, 40, 8},
-           Control{kStartAngle, Edit, "", 173, 212, 40, 14}, Control{kNoId, Label, "度", 217, 215, 12, 8});
+    Joined(CommonControls("显示样式", "2维", "3维"), Control{kNoId, Label, "起始角度:", 155, 215, 40, 8},
+           Control{kStartAngle, Edit, "", 195, 212, 40, 14}, Control{kNoId, Label, "度", 239, 215, 12, 8});
 constexpr std::array kPieFields =
     Joined(kCommonFields<PieBasicProp>,
            Field<PieBasicProp>(
@@ -87,14 +87,14 @@ constexpr std::array kHalfPieFields =
 constexpr DialogTemplate kHalfPieTemplate{14214, "半饼图", kPageWidth, kPageHeight, kHalfPieControls};
 
 constexpr std::array kLabelControls{
-    Control{kNoId, GroupBox, "标签包括", 7, 7, 246, 34},
+    Control{kNoId, GroupBox, "标签包括", 7, 7, 290, 34},
     Control{18590, CheckBox, "成分名称", 13, 22, 48, 10},
     Control{18591, CheckBox, "值", 75, 22, 24, 10},
     Control{18592, CheckBox, "百分比", 113, 22, 40, 10},
-    Control{18593, Button, "标签文本属性...", 173, 20, 74, 14},
+    Control{18593, Button, "标签文本属性...", 217, 20, 74, 14},
     Control{18594, CheckBox, "单行显示", 7, 50, 60, 10},
-    Control{kNoId, Label, "分隔符:", 125, 51, 36, 8},
-    Control{18595, Edit, "", 161, 48, 40, 14},
+    Control{kNoId, Label, "分隔符:", 147, 51, 36, 8},
+    Control{18595, Edit, "", 183, 48, 40, 14},
     Control{kNoId, Label, "标签与饼图的距离:", 7, 73, 76, 8},
     Control{18596, Edit, "", 83, 70, 40, 14},
     Control{kNoId, Label, "毫米", 127, 73, 20, 8},

@@ -9,9 +9,9 @@ using enum ControlKind;
 
 constexpr std::array kCaptionControls{
     Control{18560, CheckBox, "显示标题", 7, 9, 80, 10},
-    Control{18562, Button, "标题属性...", 183, 7, 70, 14},
+    Control{18562, Button, "标题属性...", 227, 7, 70, 14},
     Control{kNoId, Label, "标题文本:", 7, 33, 44, 8},
-    Control{18561, Edit, "", 51, 30, 202, 14},
+    Control{18561, Edit, "", 51, 30, 246, 14},
 };
 
 constexpr std::array<Field<CaptionProp>, 3> kCaptionFields{
@@ -26,14 +26,14 @@ constexpr int kPosition = 18571;
 
 constexpr std::array kLegendControls{
     Control{18570, CheckBox, "显示图例", 7, 9, 80, 10},
-    Control{18572, Button, "字体...", 183, 7, 70, 14},
-    Control{kNoId, GroupBox, "位置", 7, 27, 246, 124},
-    Control{kPosition, PositionPicker, "", 55, 40, 150, 104},
+    Control{18572, Button, "字体...", 227, 7, 70, 14},
+    Control{kNoId, GroupBox, "位置", 7, 27, 290, 124},
+    Control{kPosition, PositionPicker, "", 77, 40, 150, 104},
     Control{18573, CheckBox, "显示边框", 7, 160, 48, 10},
     Control{18574, Button, "边框线型...", 61, 158, 60, 14},
-    Control{18575, CheckBox, "填充背景", 133, 160, 48, 10},
-    Control{18576, ColorPane, "", 183, 158, 18, 14},
-    Control{18577, Button, "背景色...", 205, 158, 48, 14},
+    Control{18575, CheckBox, "填充背景", 155, 160, 48, 10},
+    Control{18576, ColorPane, "", 227, 158, 18, 14},
+    Control{18577, Button, "背景色...", 249, 158, 48, 14},
     Control{kNoId, Label, "图例项间距:", 7, 181, 50, 8},
     Control{18578, Edit, "", 61, 178, 40, 14},
     Control{kNoId, Label, "毫米", 105, 181, 20, 8},

@@ -51,10 +51,11 @@ QPixmap PictureOf(QWidget& window) {
     return picture;
 }
 
+/// Without a name, no picture: it would look like another one's.
 void Look(const std::string& name) {
     QWidget& window = User::Front();
     ExpectWholeTexts(window);
-    if (const char* folder = std::getenv("MILLICHART_DIALOG_PICTURES")) {
+    if (const char* folder = std::getenv("MILLICHART_DIALOG_PICTURES"); folder && !name.empty()) {
         const QPixmap picture = PictureOf(window);
         const std::string scale = picture.devicePixelRatio() > 1 ? "-200" : "";
         EXPECT_TRUE(picture.save(QString::fromStdString(folder + ("/" + name) + scale + ".png")));
@@ -139,24 +140,20 @@ TEST(Pictures, BarAndLineSheets) {
     });
     HistogramProp bars = SomeHistogram();
     EXPECT_FALSE(EditHistogramProp(&bars));
-    user.In("曲线属性", [] {
-        LookAtPages({"curve-plot", "curve-vertical", "curve-horizontal", "curve-caption", "curve-legend"});
-    });
+    user.In("曲线属性", [] { LookAtPages({"curve-plot", "curve-vertical", "curve-horizontal", "", ""}); });
     CurveProp curves = SomeCurves();
     EXPECT_FALSE(EditCurveProp(&curves));
 }
 
 TEST(Pictures, PieSheets) {
     User user;
-    user.In("饼图属性", [] { LookAtPages({"pie", "pie-label", "pie-legend"}); });
+    user.In("饼图属性", [] { LookAtPages({"pie", "pie-label", ""}); });
     PieProp pie = SomePie();
     EXPECT_FALSE(EditPieProp(&pie));
-    user.In("半饼图属性", [] { LookAtPages({"half-pie", "half-pie-label"}); });
+    user.In("半饼图属性", [] { LookAtPages({"half-pie", ""}); });
     HalfPieProp half = SomeHalf();
     EXPECT_FALSE(EditHalfPieProp(&half));
-    user.In("半饼_半饼图属性", [] {
-        LookAtPages({"two-halves-1", "two-halves-2", "two-halves-3", "two-halves-4"});
-    });
+    user.In("半饼_半饼图属性", [] { LookAtPages({"two-halves", "", "", ""}); });
     HalfPieHalfPieProp halves{half, half};
     EXPECT_FALSE(EditHalfPieHalfPieProp(&halves));
 }
