@@ -98,20 +98,10 @@ constexpr DialogTemplate kCurveTemplate{14209, "横坐标轴", kPageWidth, kPage
 
 } // namespace
 
-const DialogTemplate& CPageHistogramHorAxis::Template() const {
-    return kHistogramTemplate;
-}
+CPageHistogramHorAxis::CPageHistogramHorAxis(const HistogramHorAxisProp& prop)
+    : RecordDialog(prop, kHistogramTemplate, kHistogramFields) {}
 
-std::span<const Field<HistogramHorAxisProp>> CPageHistogramHorAxis::Fields() const {
-    return kHistogramFields;
-}
-
-const DialogTemplate& CPageCurveHorAxis::Template() const {
-    return kCurveTemplate;
-}
-
-std::span<const Field<CurveHorAxisProp>> CPageCurveHorAxis::Fields() const {
-    return kCurveFields;
-}
+CPageCurveHorAxis::CPageCurveHorAxis(const CurveHorAxisProp& prop)
+    : RecordDialog(prop, kCurveTemplate, kCurveFields) {}
 
 } // namespace millichart

@@ -9,23 +9,13 @@ namespace millichart {
 /// The group axis of a bar chart.
 class CPageHistogramHorAxis : public RecordDialog<HistogramHorAxisProp> {
 public:
-    using RecordDialog::RecordDialog;
-
-    const DialogTemplate& Template() const override;
-
-private:
-    std::span<const Field<HistogramHorAxisProp>> Fields() const override;
+    explicit CPageHistogramHorAxis(const HistogramHorAxisProp& prop);
 };
 
 /// The horizontal axis of a line chart. Its steps are at least 1.
 class CPageCurveHorAxis : public RecordDialog<CurveHorAxisProp> {
 public:
-    using RecordDialog::RecordDialog;
-
-    const DialogTemplate& Template() const override;
-
-private:
-    std::span<const Field<CurveHorAxisProp>> Fields() const override;
+    explicit CPageCurveHorAxis(const CurveHorAxisProp& prop);
 };
 
 } // namespace millichart

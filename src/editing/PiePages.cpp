@@ -121,28 +121,11 @@ constexpr DialogTemplate kLabelTemplate{14215, "标签", kPageWidth, kPageHeight
 
 } // namespace
 
-const DialogTemplate& CPagePie::Template() const {
-    return kPieTemplate;
-}
+CPagePie::CPagePie(const PieBasicProp& prop) : RecordDialog(prop, kPieTemplate, kPieFields) {}
 
-std::span<const Field<PieBasicProp>> CPagePie::Fields() const {
-    return kPieFields;
-}
+CPageHalfPie::CPageHalfPie(const HalfPieBasicProp& prop)
+    : RecordDialog(prop, kHalfPieTemplate, kHalfPieFields) {}
 
-const DialogTemplate& CPageHalfPie::Template() const {
-    return kHalfPieTemplate;
-}
-
-std::span<const Field<HalfPieBasicProp>> CPageHalfPie::Fields() const {
-    return kHalfPieFields;
-}
-
-const DialogTemplate& CPagePieLabel::Template() const {
-    return kLabelTemplate;
-}
-
-std::span<const Field<PieLabelProp>> CPagePieLabel::Fields() const {
-    return kLabelFields;
-}
+CPagePieLabel::CPagePieLabel(const PieLabelProp& prop) : RecordDialog(prop, kLabelTemplate, kLabelFields) {}
 
 } // namespace millichart

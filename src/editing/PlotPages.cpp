@@ -99,13 +99,8 @@ constexpr DialogTemplate kCurveTemplate{14208, "绘图区", kPageWidth, kPageHei
 
 } // namespace
 
-const DialogTemplate& CPageHistogramPlot::Template() const {
-    return kHistogramTemplate;
-}
-
-std::span<const Field<HistogramPlotProp>> CPageHistogramPlot::Fields() const {
-    return kHistogramFields;
-}
+CPageHistogramPlot::CPageHistogramPlot(const HistogramPlotProp& prop)
+    : RecordDialog(prop, kHistogramTemplate, kHistogramFields) {}
 
 void CPageHistogramPlot::OnInitDialog(DialogView& view) {
     RecordDialog::OnInitDialog(view);
@@ -120,13 +115,8 @@ bool CPageHistogramPlot::OnOK(DialogView& view) {
     return true;
 }
 
-const DialogTemplate& CPageCurvePlot::Template() const {
-    return kCurveTemplate;
-}
-
-std::span<const Field<CurvePlotProp>> CPageCurvePlot::Fields() const {
-    return kCurveFields;
-}
+CPageCurvePlot::CPageCurvePlot(const CurvePlotProp& prop)
+    : RecordDialog(prop, kCurveTemplate, kCurveFields) {}
 
 void CPageCurvePlot::OnInitDialog(DialogView& view) {
     view.SetColumns(kCurves, CurveColumns());

@@ -55,21 +55,9 @@ constexpr DialogTemplate kLegendTemplate{14212, "图例", kPageWidth, kPageHeigh
 
 } // namespace
 
-const DialogTemplate& CPageCaption::Template() const {
-    return kCaptionTemplate;
-}
+CPageCaption::CPageCaption(const CaptionProp& prop) : RecordDialog(prop, kCaptionTemplate, kCaptionFields) {}
 
-std::span<const Field<CaptionProp>> CPageCaption::Fields() const {
-    return kCaptionFields;
-}
-
-const DialogTemplate& CPageLegend::Template() const {
-    return kLegendTemplate;
-}
-
-std::span<const Field<LegendProp>> CPageLegend::Fields() const {
-    return kLegendFields;
-}
+CPageLegend::CPageLegend(const LegendProp& prop) : RecordDialog(prop, kLegendTemplate, kLegendFields) {}
 
 void CPageLegend::OnInitDialog(DialogView& view) {
     RecordDialog::OnInitDialog(view);

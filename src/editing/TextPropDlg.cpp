@@ -57,18 +57,10 @@ constexpr std::array<Field<TextProperty>, 7> kFields{
 
 } // namespace
 
-CTextPropDlg::CTextPropDlg(TextProperty property) : RecordDialog(std::move(property)) {
+CTextPropDlg::CTextPropDlg(const TextProperty& prop) : RecordDialog(prop, kTemplate, kFields) {
     if (!m_record.Font) {
         m_record.Font = penlode::Font{};
     }
-}
-
-const DialogTemplate& CTextPropDlg::Template() const {
-    return kTemplate;
-}
-
-std::span<const Field<TextProperty>> CTextPropDlg::Fields() const {
-    return kFields;
 }
 
 void CTextPropDlg::OnClicked(DialogView& view, int id) {

@@ -9,13 +9,9 @@ namespace millichart {
 /// default one.
 class CTextPropDlg : public RecordDialog<TextProperty> {
 public:
-    explicit CTextPropDlg(TextProperty property);
+    explicit CTextPropDlg(const TextProperty& prop);
 
-    const DialogTemplate& Template() const override;
     void OnClicked(DialogView& view, int id) override;
-
-private:
-    std::span<const Field<TextProperty>> Fields() const override;
 };
 
 } // namespace millichart

@@ -90,20 +90,10 @@ constexpr DialogTemplate kCurveTemplate{14210, "纵坐标轴", kPageWidth, kPage
 
 } // namespace
 
-const DialogTemplate& CPageHistogramVerAxis::Template() const {
-    return kHistogramTemplate;
-}
+CPageHistogramVerAxis::CPageHistogramVerAxis(const VerAxisProp& prop)
+    : RecordDialog(prop, kHistogramTemplate, kHistogramFields) {}
 
-std::span<const Field<VerAxisProp>> CPageHistogramVerAxis::Fields() const {
-    return kHistogramFields;
-}
-
-const DialogTemplate& CPageCurveVerAxis::Template() const {
-    return kCurveTemplate;
-}
-
-std::span<const Field<VerAxisProp>> CPageCurveVerAxis::Fields() const {
-    return kCurveFields;
-}
+CPageCurveVerAxis::CPageCurveVerAxis(const VerAxisProp& prop)
+    : RecordDialog(prop, kCurveTemplate, kCurveFields) {}
 
 } // namespace millichart

@@ -8,23 +8,13 @@ namespace millichart {
 /// The value axis of a bar chart.
 class CPageHistogramVerAxis : public RecordDialog<VerAxisProp> {
 public:
-    using RecordDialog::RecordDialog;
-
-    const DialogTemplate& Template() const override;
-
-private:
-    std::span<const Field<VerAxisProp>> Fields() const override;
+    explicit CPageHistogramVerAxis(const VerAxisProp& prop);
 };
 
 /// The value axis of a line chart: the same fields under other ids.
 class CPageCurveVerAxis : public RecordDialog<VerAxisProp> {
 public:
-    using RecordDialog::RecordDialog;
-
-    const DialogTemplate& Template() const override;
-
-private:
-    std::span<const Field<VerAxisProp>> Fields() const override;
+    explicit CPageCurveVerAxis(const VerAxisProp& prop);
 };
 
 } // namespace millichart
