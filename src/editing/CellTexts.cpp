@@ -15,8 +15,8 @@ namespace {
 
 using penlode::CStringUtil;
 
-std::string NoText(int) {
-    return {};
+std::string NewName(int) {
+    return "成分";
 }
 
 /// What stands behind the next blank.
@@ -27,9 +27,20 @@ std::string_view Rest(std::string_view text) {
 }
 
 constexpr std::array kComponentColumns{
-    ListColumn{"成分", CellKind::Text, 190, &NoText},
+    ListColumn{"成分", CellKind::Text, 190, &NewName},
     ListColumn{"颜色", CellKind::Color, 70, &NewColorCell, {}, &EditColorCell},
 };
+
+std::vector<ListRow> ComponentRows(const std::vector<std::string>& names,
+                                   const std::vector<penlode::Color>& colors) {
+    std::vector<ListRow> rows;
+    rows.reserve(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        rows.push_back(
+            {CStringUtil::AnsiToUtf8(names[i]), ColorCell(i < colors.size() ? colors[i] : penlode::kBlack)});
+    }
+    return rows;
+}
 
 } // namespace
 
@@ -96,24 +107,22 @@ std::string NewColorCell(int row) {
 
 void ShowComponents(DialogView& view, int list, const std::vector<std::string>& names,
                     const std::vector<penlode::Color>& colors) {
-    std::vector<ListRow> rows;
-    rows.reserve(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        rows.push_back(
-            {CStringUtil::AnsiToUtf8(names[i]), ColorCell(i < colors.size() ? colors[i] : penlode::kBlack)});
-    }
     view.SetColumns(list, kComponentColumns);
-    view.SetRows(list, std::move(rows));
+    view.SetRows(list, ComponentRows(names, colors));
 }
 
 void ReadComponents(const DialogView& view, int list, std::vector<std::string>& names,
                     std::vector<penlode::Color>& colors) {
     const std::vector<ListRow> rows = view.Rows(list);
-    names.resize(rows.size());
-    colors.resize(rows.size());
+    if (rows != ComponentRows(names, colors)) {
+        names.resize(rows.size());
+        colors.resize(rows.size());
+    }
     for (std::size_t i = 0; i < rows.size(); ++i) {
         names[i] = TypedText(rows[i][0], names[i]);
-        colors[i] = ColorOfCell(rows[i][1]);
+        if (i < colors.size()) {
+            colors[i] = ColorOfCell(rows[i][1]);
+        }
     }
 }
 

@@ -40,11 +40,11 @@ LineCellValues LineOfCell(std::string_view cell);
 bool EditColorCell(DialogView& view, std::string& cell);
 bool EditLineCell(DialogView& view, std::string& cell);
 
-/// The colour of a row that was added: each unlike its neighbours.
+/// The colour of a row that was added, of six in turn.
 std::string NewColorCell(int row);
 
-/// The list "成分", "颜色": a row a name. Colours that are missing are black; both lists come back as long as
-/// there are rows.
+/// The list "成分", "颜色": a row a name. Colours that are missing are shown as black; both lists come back
+/// as long as there are rows, once the user has changed one.
 void ShowComponents(DialogView& view, int list, const std::vector<std::string>& names,
                     const std::vector<penlode::Color>& colors);
 void ReadComponents(const DialogView& view, int list, std::vector<std::string>& names,

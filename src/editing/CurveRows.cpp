@@ -51,29 +51,35 @@ constexpr std::array kColumns{
 };
 static_assert(kColumns.size() == kColumnCount);
 
-/// Nothing for a value that has no name.
+/// The number of a value that has no name.
 std::string NameOf(std::span<const std::string_view> names, std::int32_t value) {
     const auto index = static_cast<std::size_t>(value);
-    return std::string(value >= 0 && index < names.size() ? names[index] : std::string_view());
+    return value >= 0 && index < names.size() ? std::string(names[index]) : std::to_string(value);
 }
 
-std::int32_t ValueOf(std::span<const std::string_view> names, std::string_view name, std::int32_t otherwise) {
+std::int32_t ValueOf(std::span<const std::string_view> names, std::string_view name) {
     const auto found = std::find(names.begin(), names.end(), name);
-    return found == names.end() ? otherwise : static_cast<std::int32_t>(found - names.begin());
+    return found == names.end() ? ReadInteger(name) : static_cast<std::int32_t>(found - names.begin());
 }
 
-CurveStyle StyleOf(const ListRow& row, const CurveStyle& before) {
-    CurveStyle style = before;
+CurveStyle StyleOf(const ListRow& row) {
+    CurveStyle style;
     const LineCellValues line = LineOfCell(row[kLine]);
     style.LineColor = penlode::FromColorRef(line.ColorRef);
     style.Width = line.Width;
     style.Dash = line.DashStyle;
-    style.Dot = ValueOf(kDotNames, row[kDot], before.Dot);
+    style.Dot = ValueOf(kDotNames, row[kDot]);
     style.DotColor = ColorOfCell(row[kDotColor]);
     const float dotWidth = TypedFloat(row[kDotWidth]);
     style.DotWidth = dotWidth > 0.0F ? dotWidth : 1.0F;
-    style.NullValue = ValueOf(kNullNames, row[kNull], before.NullValue);
+    style.NullValue = ValueOf(kNullNames, row[kNull]);
     return style;
+}
+
+template <class T> void Put(std::vector<T>& list, std::size_t index, const T& value) {
+    if (index < list.size()) {
+        list[index] = value;
+    }
 }
 
 } // namespace
@@ -97,26 +103,27 @@ std::vector<ListRow> CurveRows(const CurvePlotProp& plot) {
 }
 
 void ReadCurveRows(const std::vector<ListRow>& rows, CurvePlotProp& plot) {
-    const CurvePlotProp before = plot;
-    const std::size_t count = rows.size();
-    plot.CurveName.resize(count);
-    plot.CurveColor.resize(count);
-    plot.CurveWidth.resize(count);
-    plot.CurveDashStyle.resize(count);
-    plot.CurveDotStyle.resize(count);
-    plot.CurveDotColor.resize(count);
-    plot.CurveDotWidth.resize(count);
-    plot.NullValueStyle.resize(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        const CurveStyle style = StyleOf(rows[i], StyleOf(before, i));
+    if (rows != CurveRows(plot)) {
+        const std::size_t count = rows.size();
+        plot.CurveName.resize(count);
+        plot.CurveColor.resize(count);
+        plot.CurveWidth.resize(count);
+        plot.CurveDashStyle.resize(count);
+        plot.CurveDotStyle.resize(count);
+        plot.CurveDotColor.resize(count);
+        plot.CurveDotWidth.resize(count);
+        plot.NullValueStyle.resize(count);
+    }
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const CurveStyle style = StyleOf(rows[i]);
         plot.CurveName[i] = TypedText(rows[i][kName], plot.CurveName[i]);
-        plot.CurveColor[i] = style.LineColor;
-        plot.CurveWidth[i] = style.Width;
-        plot.CurveDashStyle[i] = style.Dash;
-        plot.CurveDotStyle[i] = style.Dot;
-        plot.CurveDotColor[i] = style.DotColor;
-        plot.CurveDotWidth[i] = style.DotWidth;
-        plot.NullValueStyle[i] = style.NullValue;
+        Put(plot.CurveColor, i, style.LineColor);
+        Put(plot.CurveWidth, i, style.Width);
+        Put(plot.CurveDashStyle, i, style.Dash);
+        Put(plot.CurveDotStyle, i, style.Dot);
+        Put(plot.CurveDotColor, i, style.DotColor);
+        Put(plot.CurveDotWidth, i, style.DotWidth);
+        Put(plot.NullValueStyle, i, style.NullValue);
     }
 }
 

@@ -8,11 +8,12 @@ namespace millichart {
 
 std::span<const ListColumn> CurveColumns();
 
-/// Settings that a curve has not are shown as they count.
+/// Settings that a curve has not are shown as they count, and a marker or a treatment of nulls without a name
+/// as its number.
 std::vector<ListRow> CurveRows(const CurvePlotProp& plot);
 
-/// Each list becomes as long as there are rows. A marker's width that is not above 0 becomes 1, and a name of
-/// no marker and no treatment of nulls leaves them as they were.
+/// Each list becomes as long as there are rows, once the user has changed one. A marker's width that is not
+/// above 0 becomes 1.
 void ReadCurveRows(const std::vector<ListRow>& rows, CurvePlotProp& plot);
 
 } // namespace millichart

@@ -22,7 +22,7 @@ struct ListColumn {
     std::string_view Title;
     CellKind Kind;
     int Width;                                      ///< in dialog units
-    std::string (*NewCell)(int row);                ///< of a row that the user adds
+    std::string (*NewCell)(int row);                ///< of a row that the user adds; may be null
     std::span<const std::string_view> Choices = {}; ///< of a choice
     /// Edits a cell in a dialog and tells whether it changed; null where it is edited in place.
     bool (*EditInDialog)(DialogView& view, std::string& cell) = nullptr;

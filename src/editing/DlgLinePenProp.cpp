@@ -1,6 +1,7 @@
 #include "editing/DlgLinePenProp.h"
 
 #include "editing/NumberInput.h"
+#include "editing/Refusal.h"
 #include "foundation/NumberText.h"
 
 #include <array>
@@ -79,13 +80,8 @@ bool CDlgLinePenProp::OnOK(DialogView& view) {
     m_values.ColorRef = view.ShownColor(kColor);
     m_values.DashStyle = view.Selection(kLineStyle);
     m_values.Width = ReadNumber(view.Text(kWidth));
-    if (m_values.Width < 0.0 || m_values.Width > kMaxWidth) {
-        view.ShowMessage("线宽应 >= 0, 且 <= 20。");
-        view.Focus(kWidth);
-        view.SelectText(kWidth);
-        return false;
-    }
-    return true;
+    const bool isInRange = m_values.Width >= 0.0 && m_values.Width <= kMaxWidth;
+    return isInRange || Refuse(view, "线宽应 >= 0, 且 <= 20。", kWidth);
 }
 
 } // namespace millichart

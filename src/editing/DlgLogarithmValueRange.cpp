@@ -1,6 +1,7 @@
 #include "editing/DlgLogarithmValueRange.h"
 
 #include "editing/NumberInput.h"
+#include "editing/Refusal.h"
 
 #include <array>
 #include <cmath>
@@ -43,7 +44,7 @@ template <class Number> int IndexOf(std::span<const std::string_view> entries, d
     return -1;
 }
 
-bool Refuse(DialogView& view, std::string_view message, int list) {
+bool AskFor(DialogView& view, int list, std::string_view message) {
     view.ShowMessage(message);
     view.Focus(list);
     return false;
@@ -65,16 +66,15 @@ void CDlgLogarithmValueRange::OnInitDialog(DialogView& view) {
 bool CDlgLogarithmValueRange::OnOK(DialogView& view) {
     const int minimum = view.Selection(kMinimum);
     if (minimum < 0) {
-        return Refuse(view, "请选择最小值。", kMinimum);
+        return AskFor(view, kMinimum, "请选择最小值。");
     }
     m_range.Minimum = ReadNumber(view.Text(kMinimum));
     if (view.Selection(kMaximum) < 0) {
-        return Refuse(view, "请选择最大值。", kMaximum);
+        return AskFor(view, kMaximum, "请选择最大值。");
     }
     m_range.Maximum = ReadNumber(view.Text(kMaximum));
     if (m_range.Maximum <= m_range.Minimum) {
-        view.ShowMessage("最大值应大于最小值。");
-        return false;
+        return Refuse(view, "最大值应大于最小值。");
     }
     return true;
 }

@@ -1,6 +1,7 @@
 #include "editing/DlgNaturalValueRange.h"
 
 #include "editing/NumberInput.h"
+#include "editing/Refusal.h"
 #include "foundation/NumberText.h"
 
 #include <array>
@@ -29,12 +30,6 @@ constexpr std::array kControls{
 };
 
 constexpr DialogTemplate kTemplate{14206, "自然坐标设置", 164, 113, kControls};
-
-/// Tells the user; false, as whoever asks refuses.
-bool Refuse(DialogView& view, std::string_view message) {
-    view.ShowMessage(message);
-    return false;
-}
 
 } // namespace
 

@@ -19,7 +19,8 @@ template <class Window, class Record> bool Edit(Record* record) {
     Window window(*record);
     const bool isAccepted = RunModal(window);
     if (isAccepted) {
-        *record = window.Edited();
+        Record edited = window.Edited(); // may run out of memory, and then leaves the record whole
+        *record = std::move(edited);
     }
     return isAccepted;
 }
@@ -32,7 +33,8 @@ bool Edit(Record* record, const std::function<void(const Record&)>& preview) {
     Previewed<Window> window(Window(*record), preview);
     const bool isAccepted = RunModal(window);
     if (isAccepted) {
-        *record = window.Edited();
+        Record edited = window.Edited();
+        *record = std::move(edited);
     } else {
         preview(*record);
     }

@@ -5,6 +5,7 @@
 #include "editing/DialogView.h"
 #include "editing/NestedDialogs.h"
 #include "editing/NumberInput.h"
+#include "editing/Refusal.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
@@ -23,6 +24,9 @@ template <class Record> struct FlagField {
     int CheckBox;
     std::int32_t Record::*Flag;
     std::array<int, 2> Enables{kNoId, kNoId};
+    bool IsSetByOneAlone = false; ///< any number but 1 counts as 0
+
+    bool IsSet(const Record& record) const { return IsSetByOneAlone ? record.*Flag == 1 : record.*Flag != 0; }
 };
 
 /// An edit for a narrow text.
@@ -91,14 +95,6 @@ using Field = std::variant<FlagField<Record>, TextField<Record>, IntegerField<Re
                            ChoiceField<Record>, ColorField<Record>, PenField<Record>,
                            TextPropertyField<Record>, FontField<Record>, ComponentsField<Record>>;
 
-/// A bad number stays in view until it is mended.
-inline bool Refuse(DialogView& view, std::string_view message, int edit) {
-    view.ShowMessage(message);
-    view.Focus(edit);
-    view.SelectText(edit);
-    return false;
-}
-
 template <class Record> void Enable(DialogView& view, const FlagField<Record>& field) {
     for (const int id : field.Enables) {
         if (id != kNoId) {
@@ -110,7 +106,7 @@ template <class Record> void Enable(DialogView& view, const FlagField<Record>& f
 // Showing.
 
 template <class Record> void Show(DialogView& view, const FlagField<Record>& field, const Record& record) {
-    view.SetChecked(field.CheckBox, record.*field.Flag != 0);
+    view.SetChecked(field.CheckBox, field.IsSet(record));
     Enable(view, field);
 }
 
@@ -189,8 +185,12 @@ template <class Record> void Click(DialogView& view, int id, const FontField<Rec
 
 // Reading.
 
+/// A number that counts the same stays.
 template <class Record> bool Read(DialogView& view, const FlagField<Record>& field, Record& record) {
-    record.*field.Flag = view.IsChecked(field.CheckBox) ? 1 : 0;
+    const bool isChecked = view.IsChecked(field.CheckBox);
+    if (isChecked != field.IsSet(record)) {
+        record.*field.Flag = isChecked ? 1 : 0;
+    }
     return true;
 }
 

@@ -50,7 +50,7 @@ void DrawBox(penlode::IGraphicsEngine& engine, const penlode::RectF& box, const 
 /// Four pale bars stand for the chart.
 void DrawBars(penlode::IGraphicsEngine& engine, const penlode::RectF& plot, penlode::Color line) {
     constexpr std::array kHeights{0.35F, 0.7F, 0.5F, 0.85F};
-    const penlode::SolidBrush pale(penlode::Color::FromArgb(0x50U, line.R(), line.G(), line.B()));
+    const penlode::SolidBrush pale{penlode::Color::FromArgb(0x50U, line.R(), line.G(), line.B())};
     const float width = plot.Width / 9;
     for (std::size_t i = 0; i < kHeights.size(); ++i) {
         const float height = std::round(kHeights[i] * (plot.Height - 4));
@@ -106,8 +106,8 @@ const char* LegendPlaceName(int place) {
 void DrawLegendPlaces(penlode::IGraphicsEngine& engine, penlode::SizeF picture, int selected,
                       const LegendPlaceColors& colors) {
     const penlode::Pen pen(colors.Line, 1.0F);
-    const penlode::SolidBrush ground(colors.Ground);
-    const penlode::SolidBrush chosen(colors.Selected);
+    const penlode::SolidBrush ground{colors.Ground};
+    const penlode::SolidBrush chosen{colors.Selected};
     const penlode::RectF plot = BoxOf(1, 1, 3, 3, picture);
     DrawBox(engine, plot, ground, pen);
     DrawBars(engine, plot, colors.Line);

@@ -6,7 +6,7 @@ namespace {
 constexpr penlode::Color kFocused{0xFFA0A0A0U};
 
 void Fill(penlode::IGraphicsEngine& engine, const penlode::RectF& box, penlode::Color color) {
-    const penlode::SolidBrush brush(color);
+    const penlode::SolidBrush brush{color};
     engine.FillRectangle(&brush, box.X, box.Y, box.Width, box.Height);
 }
 

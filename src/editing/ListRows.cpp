@@ -1,6 +1,7 @@
 #include "editing/ListRows.h"
 
 #include "editing/CellTexts.h"
+#include "editing/LineStyleItem.h"
 #include "penlode/streams/TextForms.h"
 
 #include <algorithm>
@@ -23,6 +24,13 @@ std::string_view TakeUntil(std::string_view& text, char end) {
     return taken;
 }
 
+/// Three numbers that the dialog of lines would accept?
+bool IsLine(std::string_view text) {
+    const LineCellValues line = LineOfCell(text);
+    return std::count(text.begin(), text.end(), ' ') >= 2 && line.Width >= 0.0F && line.Width <= 20.0F &&
+           line.DashStyle >= 0 && line.DashStyle < kLineStyleCount;
+}
+
 /// A text as a column's cells hold it; nothing if it is none for them. A colour may come as #RRGGBB.
 std::optional<std::string> Taken(const ListColumn& column, std::string text) {
     const bool beginsWithDigit = !text.empty() && text.front() >= '0' && text.front() <= '9';
@@ -38,7 +46,7 @@ std::optional<std::string> Taken(const ListColumn& column, std::string text) {
         }
         return beginsWithDigit ? std::optional(text) : std::nullopt;
     case CellKind::Line:
-        return beginsWithDigit ? std::optional(text) : std::nullopt;
+        return beginsWithDigit && IsLine(text) ? std::optional(text) : std::nullopt;
     default:
         return text;
     }
@@ -64,7 +72,7 @@ bool ListRows::SetCell(std::size_t row, std::size_t column, std::string_view tex
 ListRow ListRows::NewRow(std::size_t index) const {
     ListRow row;
     for (const ListColumn& column : m_columns) {
-        row.push_back(column.NewCell(static_cast<int>(index)));
+        row.push_back(column.NewCell == nullptr ? "" : column.NewCell(static_cast<int>(index)));
     }
     return row;
 }

@@ -52,11 +52,10 @@ template <class R>
 constexpr std::array<Field<R>, 7> kCommonFields{
     ComponentsField<R>{kComponents, &R::ComponentName, &R::ComponentColor},
     FlagField<R>{kFixedSize, &R::FixedSize},
-    NumberField<R>{kFixedWidth, &R::FixedWidth, kAboveNothing, 1000.0, "直径应大于0, 且不超过1000毫米。"},
+    NumberField<R>{kFixedWidth, &R::FixedWidth, kAboveNothing, 1000.0, "直径应大于0且不超过1000毫米。"},
     NumberField<R>{kBaseValue, &R::BaseValue, kAboveNothing, kUnbounded, "基准值应大于0。"},
-    NumberField<R>{kBaseWidth, &R::BasePieWidth, kAboveNothing, 1000.0,
-                   "基准直径应大于0, 且不超过1000毫米。"},
-    FlagField<R>{kShowLines, &R::DrawSepLine, {kLinePen, kNoId}},
+    NumberField<R>{kBaseWidth, &R::BasePieWidth, kAboveNothing, 1000.0, "基准直径应大于0且不超过1000毫米。"},
+    FlagField<R>{kShowLines, &R::DrawSepLine, {kLinePen, kNoId}, true},
     PenField<R>{kLinePen, &R::PenSepLine},
 };
 
@@ -105,9 +104,9 @@ constexpr std::array kLabelControls{
 using P = PieLabelProp;
 
 constexpr std::array<Field<P>, 9> kLabelFields{
-    FlagField<P>{18590, &P::ShowNameLabel},
-    FlagField<P>{18591, &P::ShowValueLabel},
-    FlagField<P>{18592, &P::ShowPercentLabel},
+    FlagField<P>{18590, &P::ShowNameLabel, {kNoId, kNoId}, true},
+    FlagField<P>{18591, &P::ShowValueLabel, {kNoId, kNoId}, true},
+    FlagField<P>{18592, &P::ShowPercentLabel, {kNoId, kNoId}, true},
     TextPropertyField<P>{18593, &P::PieLabelTextProperty},
     FlagField<P>{18594, &P::LabelsInSingleRow},
     TextField<P>{18595, &P::LabelSeparator},

@@ -125,6 +125,18 @@ void ScriptedView::ChangeEverything() {
     }
 }
 
+void ScriptedView::ChangeOne(int id) {
+    m_changesEverything = true;
+    m_disabled.erase(id);
+    for (const Control& control : m_dialog.Template().Controls) {
+        if (control.Id == id && control.Kind == ControlKind::CheckBox) {
+            Click(id);
+        } else if (control.Id == id) {
+            Change(control);
+        }
+    }
+}
+
 void ScriptedView::Change(const Control& control) {
     const int id = control.Id;
     switch (control.Kind) {

@@ -27,6 +27,9 @@ public:
     /// Changes whatever can be changed, also in the dialogs that buttons open; each is accepted.
     void ChangeEverything();
 
+    /// The same for one control, even if it is disabled now.
+    void ChangeOne(int id);
+
     bool IsEnabled(int id) const { return !m_disabled.contains(id); }
 
     /// What the user does in the dialogs that the next clicks open, in turn; without an entry they are

@@ -16,22 +16,34 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// Each field of a record on a line of its own, by the record's own list of them.
-template <class Prop, class Serialize> Texts FieldsOf(const Prop& prop, const Serialize& serialize) {
+/// Each field of a record, by the record's own list of them: where it stands ("CaptionProp/ShowCaption") and
+/// its text.
+using FieldTexts = std::vector<std::pair<std::string, std::string>>;
+
+template <class Prop, class Serialize> FieldTexts FieldsOf(const Prop& prop, const Serialize& serialize) {
     Prop saved = prop;
     CJsonSerializeStream stream;
     serialize(stream, saved, "property");
-    Texts lines;
+    FieldTexts fields;
+    Texts groups;
     std::istringstream text(stream.Text());
     for (std::string line; std::getline(text, line);) {
-        const bool isInList = !lines.empty() && lines.back().ends_with('[');
-        if (isInList) {
-            lines.back() += line + (line.find(']') == std::string::npos ? "[" : "");
-        } else if (!line.ends_with('{') && line.find('}') == std::string::npos) {
-            lines.push_back(line);
+        const std::size_t quote = line.find('"');
+        const std::string key =
+            quote == std::string::npos ? "" : line.substr(quote + 1, line.find('"', quote + 1) - quote - 1);
+        if (line.ends_with('{')) {
+            groups.push_back(groups.size() < 2 ? "" : groups.back() + key + '/');
+        } else if (line.ends_with('[')) {
+            fields.emplace_back(groups.back() + key, "");
+        } else if (line.find("\": ") != std::string::npos) {
+            fields.emplace_back(groups.back() + key, line);
+        } else if (line.find('}') != std::string::npos) {
+            groups.pop_back();
+        } else {
+            fields.back().second += line; // of a list
         }
     }
-    return lines;
+    return fields;
 }
 
 /// Turns to every page of the sheet that `edit` opens, changes all of it or nothing, and presses OK.
@@ -52,76 +64,193 @@ template <class Prop> Prop Edited(Prop prop, bool (*edit)(Prop*), bool changesEv
     return prop;
 }
 
-/// The keys whose values are alike, or not, in two lists of the same fields.
-Texts Keys(const Texts& a, const Texts& b, bool alike) {
+/// Where two lists of the same fields are alike, or not.
+Texts Places(const FieldTexts& a, const FieldTexts& b, bool alike) {
     EXPECT_EQ(a.size(), b.size());
-    Texts keys;
+    Texts places;
     for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
-        if ((a[i] == b[i]) == alike) {
-            const std::size_t begin = a[i].find('"') + 1;
-            keys.push_back(a[i].substr(begin, a[i].find('"', begin) - begin));
+        if ((a[i].second == b[i].second) == alike) {
+            places.push_back(a[i].first);
         }
     }
-    return keys;
+    return places;
 }
 
-/// `normalised` are the fields that OK alone changes, such as a flag of 2; `withoutControl` those that no
-/// control changes. A new field is either's, or has a control.
+/// `normalised` are the fields that OK alone changes: colours become opaque, and numbers what their texts
+/// say. `withoutControl` are those that no control changes. A new field is either's, or has a control.
 template <class Prop, class Serialize>
 void ExpectEveryFieldHasAControl(const Prop& prop, bool (*edit)(Prop*), const Serialize& serialize,
                                  const Texts& normalised, const Texts& withoutControl = {}) {
     const Prop plain = Edited(prop, edit, false);
-    EXPECT_EQ(Keys(FieldsOf(prop, serialize), FieldsOf(plain, serialize), false), normalised);
+    EXPECT_EQ(Places(FieldsOf(prop, serialize), FieldsOf(plain, serialize), false), normalised);
     EXPECT_EQ(Edited(plain, edit, false), plain);
     const Prop changed = Edited(plain, edit, true);
-    EXPECT_EQ(Keys(FieldsOf(plain, serialize), FieldsOf(changed, serialize), true), withoutControl);
+    EXPECT_EQ(Places(FieldsOf(plain, serialize), FieldsOf(changed, serialize), true), withoutControl);
 }
 
-const Texts kBarsNormalised{"ShowVerAxis",        "ShowHorMinorGrid", "ShowVerCaption", "ShowHorAxis",
-                            "ShowGroupName",      "ShowHorCaption",   "ShowEdge",       "ShowComponentName",
-                            "ShowComponentValue", "ComponentColor",   "LogarithmScale", "ShowLegend"};
-/// The bar chart's sheet leaves these to the host.
-const Texts kBarsWithoutControl{"ConponentInfoInSingleRow", "ConponentInfoSeparator"};
-
-Texts operator+(Texts a, const Texts& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
+const auto kPie = [](auto& s, auto& p, auto* tag) { CPiePropSerialize::SerializePieProp(s, p, tag); };
+const auto kHalfPie = [](auto& s, auto& p, auto* tag) {
+    CHalfPiePropSerialize::SerializeHalfPieProp(s, p, tag);
+};
+const auto kBars = [](auto& s, auto& p, auto* tag) {
+    CHistogramPropSerialize::SerializeHistogramProp(s, p, tag);
+};
+const auto kCurves = [](auto& s, auto& p, auto* tag) { CCurvePropSerialize::SerializeCurveProp(s, p, tag); };
 
 TEST(PieSheets, HaveAControlForEveryField) {
     PieProp pie = SomePie();
     pie.Legend = SomeLegend();
-    ExpectEveryFieldHasAControl(
-        pie, &EditPieProp,
-        [](auto& s, auto& p, auto* tag) { CPiePropSerialize::SerializePieProp(s, p, tag); },
-        {"ComponentColor", "ShowValueLabel"});
-    const auto half = [](auto& s, auto& p, auto* tag) {
-        CHalfPiePropSerialize::SerializeHalfPieProp(s, p, tag);
-    };
-    ExpectEveryFieldHasAControl(SomeHalf(), &EditHalfPieProp, half, {"ComponentColor"});
+    ExpectEveryFieldHasAControl(pie, &EditPieProp, kPie, {"PieBasicProp/ComponentColor"});
+    ExpectEveryFieldHasAControl(SomeHalf(), &EditHalfPieProp, kHalfPie, {});
     ExpectEveryFieldHasAControl(HalfPieHalfPieProp{SomeHalf(), SomeHalf()}, &EditHalfPieHalfPieProp,
                                 [](auto& s, auto& p, auto* tag) {
                                     CHalfPieHalfPiePropSerialize::SerializeHalfPieHalfPieProp(s, p, tag);
                                 },
-                                {"ComponentColor", "ComponentColor"});
-    ExpectEveryFieldHasAControl(
-        HalfPieHistogramProp{SomeHistogram(), SomeHalf()}, &EditHalfPieHistogramProp,
-        [](auto& s, auto& p, auto* tag) {
-            CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(s, p, tag);
-        },
-        Texts{"ComponentColor"} + kBarsNormalised, kBarsWithoutControl);
+                                {});
+    ExpectEveryFieldHasAControl(HalfPieHistogramProp{SomeHistogram(), SomeHalf()}, &EditHalfPieHistogramProp,
+                                [](auto& s, auto& p, auto* tag) {
+                                    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(s, p, tag);
+                                },
+                                {"Histogram/HistogramPlotProp/ComponentColor"},
+                                {"Histogram/HistogramPlotProp/ConponentInfoInSingleRow",
+                                 "Histogram/HistogramPlotProp/ConponentInfoSeparator"});
 }
 
 TEST(BarAndLineSheets, HaveAControlForEveryField) {
     ExpectEveryFieldHasAControl(
-        SomeHistogram(), &EditHistogramProp,
-        [](auto& s, auto& p, auto* tag) { CHistogramPropSerialize::SerializeHistogramProp(s, p, tag); },
-        kBarsNormalised, kBarsWithoutControl);
-    ExpectEveryFieldHasAControl(
-        SomeCurves(), &EditCurveProp,
-        [](auto& s, auto& p, auto* tag) { CCurvePropSerialize::SerializeCurveProp(s, p, tag); },
-        {"ShowHorAxis", "ShowVerGrid", "ShowHorCaption", "ShowEdge", "CurveColor", "CurveDotWidth",
-         "PlotWidth", "PlotHeight", "LogarithmScale"});
+        SomeHistogram(), &EditHistogramProp, kBars, {"HistogramPlotProp/ComponentColor"},
+        {"HistogramPlotProp/ConponentInfoInSingleRow", "HistogramPlotProp/ConponentInfoSeparator"});
+    ExpectEveryFieldHasAControl(SomeCurves(), &EditCurveProp, kCurves,
+                                {"CurvePlotProp/CurveColor", "CurvePlotProp/CurveDotWidth",
+                                 "CurvePlotProp/PlotWidth", "CurvePlotProp/PlotHeight"});
+}
+
+/// Whose control is whose: each of these changes its field, or its group of fields, and no other.
+struct Bound {
+    std::size_t Page;
+    int Id;
+    const char* Field;
+};
+
+template <class Window, class Prop, class Serialize>
+void ExpectBound(const Prop& prop, const Serialize& serialize, const std::vector<Bound>& bounds) {
+    Window untouched(prop);
+    ScriptedSheet sheetUntouched(untouched);
+    for (std::size_t i = 0; i < sheetUntouched.PageCount(); ++i) {
+        sheetUntouched.Page(i);
+    }
+    ASSERT_TRUE(sheetUntouched.PressOk());
+    const Prop plain = untouched.Edited();
+    for (const auto& [page, id, field] : bounds) {
+        Window window(plain);
+        ScriptedSheet sheet(window);
+        sheet.Page(page).ChangeOne(id);
+        EXPECT_TRUE(sheet.PressOk());
+        const Texts changed = Places(FieldsOf(plain, serialize), FieldsOf(window.Edited(), serialize), false);
+        EXPECT_FALSE(changed.empty()) << id;
+        for (const std::string& place : changed) {
+            EXPECT_TRUE(place.starts_with(field)) << id << " changes " << place;
+        }
+    }
+}
+
+TEST(HistogramSheet, BindsEachControlToItsField) {
+    ExpectBound<CSheetHistogram>(SomeHistogram(), kBars,
+                                 {{0, 18460, "HistogramPlotProp/Component"},
+                                  {0, 18477, "HistogramPlotProp/Juxtaposition"},
+                                  {0, 18425, "HistogramPlotProp/LogarithmScale"},
+                                  {0, 18450, "HistogramPlotProp/PlotWidth"},
+                                  {0, 18429, "HistogramPlotProp/PlotHeight"},
+                                  {0, 18461, "HistogramPlotProp/ShowEdge"},
+                                  {0, 18462, "HistogramPlotProp/EdgePen"},
+                                  {0, 18463, "HistogramPlotProp/ShowBackground"},
+                                  {0, 18465, "HistogramPlotProp/PlotBackgroundColor"},
+                                  {0, 18456, "HistogramPlotProp/GroupDistane"},
+                                  {0, 18478, "HistogramPlotProp/PieStyle"},
+                                  {0, 18421, "HistogramPlotProp/ShowComponentName"},
+                                  {0, 18422, "HistogramPlotProp/ShowComponentValue"},
+                                  {0, 18423, "HistogramPlotProp/ComponentInfoTextProperty/"},
+                                  {1, 18428, "HistogramVerAxisProp/ShowVerAxis"},
+                                  {1, 18430, "HistogramVerAxisProp/VerAxisPen"},
+                                  {1, 18441, "HistogramVerAxisProp/ShowVerCaption"},
+                                  {1, 18467, "HistogramVerAxisProp/VerCaption"},
+                                  {1, 18442, "HistogramVerAxisProp/VerCaptionTextProperty/"},
+                                  {1, 18431, "HistogramVerAxisProp/MajorScaleStyle"},
+                                  {1, 18435, "HistogramVerAxisProp/MinorScaleStyle"},
+                                  {1, 18439, "HistogramVerAxisProp/ShowVerAxisLabel"},
+                                  {1, 18440, "HistogramVerAxisProp/VerAxisLabelTextProperty/"},
+                                  {1, 18443, "HistogramVerAxisProp/ShowHorMajorGrid"},
+                                  {1, 18444, "HistogramVerAxisProp/HorMajorGridPen"},
+                                  {1, 18445, "HistogramVerAxisProp/ShowHorMinorGrid"},
+                                  {1, 18446, "HistogramVerAxisProp/HorMinorGridPen"},
+                                  {2, 18447, "HistogramHorAxisProp/ShowHorAxis"},
+                                  {2, 18451, "HistogramHorAxisProp/HorAxisPen"},
+                                  {2, 18448, "HistogramHorAxisProp/ShowHorCaption"},
+                                  {2, 18468, "HistogramHorAxisProp/HorCaption"},
+                                  {2, 18449, "HistogramHorAxisProp/HorCaptionTextProperty/"},
+                                  {2, 18426, "HistogramHorAxisProp/ShowGroupName"},
+                                  {2, 18457, "HistogramHorAxisProp/GroupNameTextProperty/"},
+                                  {2, 18453, "HistogramHorAxisProp/ScaleStyle"},
+                                  {2, 18458, "HistogramHorAxisProp/ShowVerGrid"},
+                                  {2, 18459, "HistogramHorAxisProp/VerGridPen"}});
+}
+
+TEST(CurveSheet, BindsEachControlToItsField) {
+    ExpectBound<CSheetCurve>(SomeCurves(), kCurves,
+                             {{0, 18490, "CurvePlotProp/"},
+                              {0, 18489, "CurvePlotProp/LogarithmScale"},
+                              {0, 18491, "CurvePlotProp/PlotWidth"},
+                              {0, 18492, "CurvePlotProp/PlotHeight"},
+                              {0, 18493, "CurvePlotProp/ShowEdge"},
+                              {0, 18494, "CurvePlotProp/EdgePen"},
+                              {0, 18495, "CurvePlotProp/ShowBackground"},
+                              {0, 18497, "CurvePlotProp/PlotBackgroundColor"},
+                              {1, 18511, "CurveVerAxisProp/ShowVerAxis"},
+                              {1, 18512, "CurveVerAxisProp/VerAxisPen"},
+                              {1, 18513, "CurveVerAxisProp/ShowVerCaption"},
+                              {1, 18514, "CurveVerAxisProp/VerCaption"},
+                              {1, 18515, "CurveVerAxisProp/VerCaptionTextProperty/"},
+                              {1, 18519, "CurveVerAxisProp/MajorScaleStyle"},
+                              {1, 18520, "CurveVerAxisProp/MinorScaleStyle"},
+                              {1, 18524, "CurveVerAxisProp/ShowVerAxisLabel"},
+                              {1, 18525, "CurveVerAxisProp/VerAxisLabelTextProperty/"},
+                              {1, 18526, "CurveVerAxisProp/ShowHorMajorGrid"},
+                              {1, 18528, "CurveVerAxisProp/HorMajorGridPen"},
+                              {1, 18527, "CurveVerAxisProp/ShowHorMinorGrid"},
+                              {1, 18529, "CurveVerAxisProp/HorMinorGridPen"},
+                              {2, 18498, "CurveHorAxisProp/ShowHorAxis"},
+                              {2, 18499, "CurveHorAxisProp/HorAxisPen"},
+                              {2, 18500, "CurveHorAxisProp/ShowHorCaption"},
+                              {2, 18501, "CurveHorAxisProp/HorCaption"},
+                              {2, 18502, "CurveHorAxisProp/HorCaptionTextProperty/"},
+                              {2, 18503, "CurveHorAxisProp/ShowLabel"},
+                              {2, 18546, "CurveHorAxisProp/LabelStep"},
+                              {2, 18504, "CurveHorAxisProp/HorLabelTextProperty/"},
+                              {2, 18505, "CurveHorAxisProp/ScaleStyle"},
+                              {2, 18548, "CurveHorAxisProp/ScaleStep"},
+                              {2, 18509, "CurveHorAxisProp/ShowVerGrid"},
+                              {2, 18547, "CurveHorAxisProp/VerGridStep"},
+                              {2, 18510, "CurveHorAxisProp/VerGridPen"}});
+}
+
+TEST(Sheets, StylesAreNoneOuterInnerAndCrossInTheirOrder) {
+    const auto styleOf = [](auto window, int radio) {
+        ScriptedSheet sheet(window);
+        sheet.Page(1).Click(radio);
+        EXPECT_TRUE(sheet.PressOk());
+        return window.Edited().VerAxis.MajorScaleStyle;
+    };
+    HistogramProp bars;
+    bars.VerAxis.MajorScaleStyle = 9;
+    const CSheetHistogram histogram(bars);
+    EXPECT_EQ(styleOf(histogram, 18431), ScaleStyle::None);
+    EXPECT_EQ(styleOf(histogram, 18433), ScaleStyle::Outer);
+    EXPECT_EQ(styleOf(histogram, 18432), ScaleStyle::Inner);
+    EXPECT_EQ(styleOf(histogram, 18434), ScaleStyle::Cross);
+    EXPECT_EQ(styleOf(histogram, 18436), 9) << "another group's: the style that none of the four is stays";
+    const CSheetCurve curve{CurveProp()};
+    EXPECT_EQ(styleOf(curve, 18517), ScaleStyle::Outer);
+    EXPECT_EQ(styleOf(curve, 18518), ScaleStyle::Inner);
 }
 
 TEST(Sheets, LeaveEverythingAfterCancelAndPagesThatWereNotOpened) {
@@ -181,10 +310,10 @@ TEST(Sheets, RefuseNumbersOutsideTheirRanges) {
                                               {2, 18548, "-1", "刻度的显示间隔应大于等于1。"},
                                               {2, 18547, "x", "纵向网格线的显示间隔应大于等于1。"},
                                               {2, 18547, "2", nullptr}});
-    ExpectRefusals<CSheetPie>(PieProp(), {{0, 18582, "0", "直径应大于0, 且不超过1000毫米。"},
+    ExpectRefusals<CSheetPie>(PieProp(), {{0, 18582, "0", "直径应大于0且不超过1000毫米。"},
                                           {0, 18583, "1e30", nullptr},
                                           {0, 18583, "-1", "基准值应大于0。"},
-                                          {0, 18584, "1000.5", "基准直径应大于0, 且不超过1000毫米。"},
+                                          {0, 18584, "1000.5", "基准直径应大于0且不超过1000毫米。"},
                                           {1, 18596, "-1000.5", "标签与饼图的距离应在-1000～1000毫米之间。"},
                                           {1, 18596, "-1000", nullptr}});
 }
@@ -199,7 +328,7 @@ TEST(CurveSheet, ListsCurvesAsTextsAndTakesThemBack) {
     std::vector<ListRow> rows = page.Rows(18490);
     ASSERT_EQ(rows.size(), 4U);
     EXPECT_EQ(rows[0], (ListRow{"东", "12874308 0.250000 0", "不显示", "327680", "1.5", "当成0值"}));
-    EXPECT_EQ(rows[1][2], "") << "no such marker";
+    EXPECT_EQ(rows[1][2], "99") << "no such marker";
     EXPECT_EQ(rows[3], (ListRow{"\xEF\xBF\xBD", "0 0.100000 0", "不显示", "0", "1.0", "断开"}));
     EXPECT_EQ(page.Text(18491), "120");
     rows[2] = {"新", " 255  0.75 3 ", "实心圆", "65280", "0", "断开"};

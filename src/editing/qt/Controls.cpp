@@ -111,8 +111,8 @@ std::string_view NamingText(Controls controls, std::size_t index) {
     return before.Kind != ControlKind::Label && isBeforeButton ? controls[index + 1].Text : before.Text;
 }
 
-QString AccessibleName(Controls controls, std::size_t index) {
-    QString name = ToQString(NamingText(controls, index));
+/// Without the mark of its mnemonic and the colon.
+QString PlainName(QString name) {
     name.remove(QLatin1Char('&'));
     if (name.endsWith(QLatin1Char(':'))) {
         name.chop(1);
@@ -120,9 +120,14 @@ QString AccessibleName(Controls controls, std::size_t index) {
     return name;
 }
 
-/// A label hands its mnemonic to the control behind it, and a radio button joins the one before it.
+QString AccessibleName(Controls controls, std::size_t index) {
+    return PlainName(ToQString(NamingText(controls, index)));
+}
+
+/// A label hands its mnemonic to the control that it names, and a radio button joins the one before it.
 void Join(QWidget* control, QWidget* before) {
-    if (auto* label = dynamic_cast<QLabel*>(before)) {
+    auto* label = dynamic_cast<QLabel*>(before);
+    if (label != nullptr && control->accessibleName() == PlainName(label->text())) {
         label->setBuddy(control);
     }
     if (auto* radio = dynamic_cast<QRadioButton*>(control)) {

@@ -1,6 +1,7 @@
 #include "editing/qt/ListCtrlEx.h"
 
 #include "editing/CellSamples.h"
+#include "editing/CellTexts.h"
 #include "editing/ListRows.h"
 #include "editing/qt/DialogUnits.h"
 #include "editing/qt/QtValues.h"
@@ -38,6 +39,9 @@ public:
     }
 
     QVariant data(const QModelIndex& index, int role) const override {
+        if (role == Qt::AccessibleTextRole && ColumnOf(index).Kind == CellKind::Color) {
+            return ToQColor(ToColorRef(ColorOfCell(CellAt(index)))).name();
+        }
         const bool isText = role == Qt::DisplayRole || role == Qt::EditRole || role == Qt::AccessibleTextRole;
         return isText ? QVariant(ToQString(CellAt(index))) : QVariant();
     }
@@ -116,7 +120,7 @@ public:
 
     void setEditorData(QWidget* editor, const QModelIndex& index) const override {
         if (auto* choices = dynamic_cast<QComboBox*>(editor)) {
-            choices->setCurrentText(index.data(Qt::EditRole).toString());
+            choices->setCurrentIndex(choices->findText(index.data(Qt::EditRole).toString()));
         } else {
             QStyledItemDelegate::setEditorData(editor, index);
         }
@@ -275,6 +279,9 @@ void CListCtrlEx::Move(int step) {
 
 void CListCtrlEx::Copy() {
     const auto [first, count] = SelectedRows();
+    if (count == 0) {
+        return;
+    }
     QApplication::clipboard()->setText(ToQString(m_model->Rows.Copied(first, count)));
 }
 

@@ -10,8 +10,9 @@
 namespace millichart {
 
 /// A list with cells to edit: texts and numbers in place, choices from a list, colours and lines in a dialog,
-/// all by double click or F2. The user adds rows (Insert), removes (Delete), moves (Alt and an arrow), copies
-/// and pastes them, by key or by the menu of the right button.
+/// the latter by what
+/// EditInDialog does, all by double click or F2. The user adds rows (Insert), removes (Delete), moves (Alt
+/// and an arrow), copies and pastes them, by key or by the menu of the right button.
 class MILLICHART_API CListCtrlEx : public QTableView {
 public:
     explicit CListCtrlEx(QWidget* parent = nullptr);

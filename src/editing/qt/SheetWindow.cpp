@@ -3,8 +3,6 @@
 #include "editing/qt/DialogUnits.h"
 #include "editing/qt/QtValues.h"
 
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace millichart {
@@ -27,13 +25,14 @@ SheetWindow::SheetWindow(Sheet& sheet, QWidget* owner)
 }
 
 void SheetWindow::AddButtons() {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("确定"));
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("取消"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &SheetWindow::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &SheetWindow::reject);
-    layout()->addWidget(buttons);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(&m_ok);
+    row->addWidget(&m_cancel);
+    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+    m_ok.setDefault(true);
+    connect(&m_ok, &QPushButton::clicked, this, &SheetWindow::accept);
+    connect(&m_cancel, &QPushButton::clicked, this, &SheetWindow::reject);
 }
 
 void SheetWindow::Fill(int index) {
@@ -41,6 +40,12 @@ void SheetWindow::Fill(int index) {
     if (index >= 0 && !m_views[page]) {
         m_views[page] =
             std::make_unique<TemplateView>(*m_sheet.Pages()[page].Page, *m_tabs.widget(index), *this);
+        // A control joins the end of the order when it is made: the buttons come behind the page again.
+        if (const auto controls = m_tabs.widget(index)->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+            !controls.isEmpty()) {
+            setTabOrder(controls.last(), &m_ok);
+            setTabOrder(&m_ok, &m_cancel);
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "editing/qt/TemplateView.h"
 
+#include <QPushButton>
 #include <QTabWidget>
 #include <memory>
 #include <vector>
@@ -24,6 +25,8 @@ private:
 
     Sheet& m_sheet;
     QTabWidget m_tabs;
+    QPushButton m_ok{QStringLiteral("确定")};
+    QPushButton m_cancel{QStringLiteral("取消")};
     std::vector<std::unique_ptr<TemplateView>> m_views; ///< a page's, null until it is filled
 };
 

@@ -156,6 +156,9 @@ TEST(Pictures, PieSheets) {
     user.In("半饼_半饼图属性", [] { LookAtPages({"two-halves", "", "", ""}); });
     HalfPieHalfPieProp halves{half, half};
     EXPECT_FALSE(EditHalfPieHalfPieProp(&halves));
+    user.In("半饼_直方图属性", [] { LookAtPages({"", "", "", "", "", "", ""}); });
+    HalfPieHistogramProp both{SomeHistogram(), half};
+    EXPECT_FALSE(EditHalfPieHistogramProp(&both));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// A sheet of two made-up pages, with the kinds of control that no dialog of today has.
+// A sheet of two made-up pages, one of which fails.
 #include "editing/Dialog.h"
 #include "editing/qt/User.h"
 

@@ -1,4 +1,4 @@
-// The list of components and the picture of a legend's places, by keyboard.
+// The sheets of charts: their lists, the picture of a legend's places, and their pages, by keyboard.
 #include "charts/curve/CurveProp.h"
 #include "charts/histogram/HistogramProp.h"
 #include "charts/pie/PieProp.h"
@@ -10,7 +10,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <gtest/gtest.h>
 
@@ -77,6 +81,7 @@ TEST(List, OpensAPageOfAThousandCurvesAtOnce) {
     user.In("曲线属性", [] {
         EXPECT_EQ(List().model()->rowCount(), 1000);
         GoTo(999, 2);
+        EXPECT_GT(List().verticalScrollBar()->value(), 0);
         User::Press(Qt::Key_F2);
         auto* choices = List().findChild<QComboBox*>();
         ASSERT_NE(choices, nullptr);
@@ -100,6 +105,55 @@ TEST(LegendPage, PlacesTheLegendByArrowsAndClicks) {
     });
     EXPECT_TRUE(EditPieProp(&prop));
     EXPECT_EQ(prop.Legend.LegendPos, LegendPosition::LeftTop);
+}
+
+TEST(ChartSheet, GoesByTabOverAPageToItsButtons) {
+    HistogramProp prop;
+    User user;
+    user.In("直方图属性", [] {
+        auto& tabs = *User::Front().findChild<QTabWidget*>();
+        tabs.setCurrentIndex(3); // the caption's
+        tabs.tabBar()->setFocus();
+        QStringList names;
+        for (int i = 0; i < 3; ++i) {
+            User::Press(Qt::Key_Tab);
+            names += User::FocusName();
+        }
+        // The caption is not shown: its text and its button are disabled.
+        EXPECT_EQ(names, QStringList({"显示标题", "确定", "取消"}));
+        tabs.tabBar()->setFocus();
+        User::Press(Qt::Key_Tab);
+        User::Press(Qt::Key_Space);
+        User::Press(Qt::Key_Return);
+    });
+    EXPECT_TRUE(EditHistogramProp(&prop));
+    EXPECT_EQ(prop.Caption.ShowCaption, 1);
+}
+
+TEST(ChartSheet, ComesBackToThePageThatRefuses) {
+    CurveProp prop;
+    User user;
+    user.In("曲线属性", [] {
+        auto& tabs = *User::Front().findChild<QTabWidget*>();
+        User::Find<QLineEdit>("高度").setText("4");
+        tabs.setCurrentIndex(2);
+        User::Find<QPushButton>("线型...").click();
+    });
+    user.In("线条属性", [] {
+        User::Find<QLineEdit>("线宽(W)").setText("0.7");
+        User::Press(Qt::Key_Return);
+    });
+    user.In("曲线属性", [] { User::Press(Qt::Key_Return); });
+    user.Answer("曲线属性", "绘图区高度应在5～1000毫米之间。", QMessageBox::Ok);
+    user.In("曲线属性", [] {
+        EXPECT_EQ(User::Front().findChild<QTabWidget*>()->currentIndex(), 0);
+        EXPECT_EQ(User::FocusName(), "高度");
+        User::Type("44");
+        User::Press(Qt::Key_Return);
+    });
+    EXPECT_TRUE(EditCurveProp(&prop));
+    EXPECT_EQ(prop.Plot.PlotHeight, 44.0F);
+    EXPECT_EQ(prop.HorAxis.HorAxisPen->GetWidth(), 0.7F);
 }
 
 } // namespace
