@@ -13,7 +13,7 @@ places of a private-use character and of the real one that has replaced it.
 import pathlib
 import sys
 
-TARGET = pathlib.Path(__file__).resolve().parent.parent / "src" / "penlode" / "Gb18030Table.inc"
+TARGET = pathlib.Path(__file__).resolve().parent.parent / "src" / "penlode" / "text" / "Gb18030Table.inc"
 TRAILS = [*range(0x40, 0x7F), *range(0x80, 0xFF)]
 PAIRS = [bytes((lead, trail)) for lead in range(0x81, 0xFF) for trail in TRAILS]
 PER_LINE = 38
