@@ -3,10 +3,13 @@
 include(CMakePackageConfigHelpers)
 include(cmake/PublicHeaders.cmake)
 
+if(MILLICHART_ENGINES)
+  set(shared penlode millichart)
+endif()
 if(MILLICHART_DOCUMENTS)
   set(documents millichart-documents)
 endif()
-install(TARGETS penlode millichart millichart-core ${documents} EXPORT millichartTargets)
+install(TARGETS millichart-core ${shared} ${documents} EXPORT millichartTargets)
 install(
   EXPORT millichartTargets
   NAMESPACE millichart::
@@ -16,15 +19,21 @@ write_basic_package_version_file(millichartConfigVersion.cmake COMPATIBILITY Sam
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/millichart)
 
-# The file finds its prefix from where it lies, so that an installed tree may be moved.
-file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-foreach(package millichart ${documents})
-  configure_file(packaging/${package}.pc.in ${package}.pc @ONLY)
-  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-endforeach()
+# pkg-config has the shared libraries. Each file finds its prefix from where it lies, so that an installed tree may be
+# moved.
+if(MILLICHART_ENGINES)
+  file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+  foreach(package millichart ${documents})
+    configure_file(packaging/${package}.pc.in ${package}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  endforeach()
+endif()
 
 public_headers(millichart_headers)
 foreach(header IN LISTS millichart_headers)
   cmake_path(GET header PARENT_PATH folder)
-  install(FILES src/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/millichart/${folder})
+  install(
+    FILES src/${header}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/millichart/${folder}
+    COMPONENT headers)
 endforeach()

@@ -1,12 +1,6 @@
-# Installs the library aside, builds the README's programs on it with find_package and runs them; then compiles the
-# second one with what pkg-config says. Called as cmake -DBUILD=... -DSOURCE=... -DWORK=... -DCXX=... -DFLAGS=... -P.
-function(run)
-  execute_process(COMMAND ${ARGV} OUTPUT_VARIABLE told ERROR_VARIABLE told RESULT_VARIABLE status)
-  if(NOT status EQUAL 0)
-    message(FATAL_ERROR "${ARGV}\n${told}")
-  endif()
-  set(told "${told}" PARENT_SCOPE)
-endfunction()
+# Installs the library aside, builds the README's programs and a host of the core on it with find_package and runs them;
+# then compiles the second one with what pkg-config says. Called as cmake -DBUILD=... -DSOURCE=... -DWORK=... -DCXX=... -DFLAGS=... -P.
+include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/host)
@@ -34,6 +28,7 @@ run(${CMAKE_COMMAND} -S ${SOURCE}/tests/host -B ${WORK}/host -G Ninja -DCMAKE_CX
     -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_PREFIX_PATH=${WORK}/installed)
 run(${CMAKE_COMMAND} --build ${WORK}/host)
 run(${WORK}/host/host)
+run(${WORK}/host/core-host)
 
 run(${BUILD}/bin/millichart new pie -o ${WORK}/sales.chart.json)
 run(${CMAKE_COMMAND} -E chdir ${WORK} ${WORK}/host/document-host)
