@@ -32,16 +32,16 @@ constexpr wchar_t kKeys[] = L"鼠标\n"
 
 /// What cannot be shown has its reasons here, one a line; no more than a person reads.
 std::wstring Errors(const std::vector<penlode::Diagnostic>& diagnostics) {
-    constexpr int kMost = 5;
+    constexpr int kMaxShown = 5;
     std::wstring errors;
     int count = 0;
     for (const penlode::Diagnostic& diagnostic : diagnostics) {
-        if (diagnostic.Severity == penlode::Severity::Error && ++count <= kMost) {
+        if (diagnostic.Severity == penlode::Severity::Error && ++count <= kMaxShown) {
             errors +=
                 L"\n" + Wide(diagnostic.Place.empty() ? "" : diagnostic.Place + ": ") + Wide(diagnostic.Text);
         }
     }
-    return count > kMost ? errors + L"\n……共 " + std::to_wstring(count) + L" 处" : errors;
+    return count > kMaxShown ? errors + L"\n……共 " + std::to_wstring(count) + L" 处" : errors;
 }
 
 } // namespace

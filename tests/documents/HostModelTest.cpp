@@ -171,9 +171,9 @@ TEST(HostModelTest, WhatIsUnderTheMouseStaysThereInAZoom) {
         EXPECT_LT(std::hypot(view.ToPage(mouse).X - kept.X, view.ToPage(mouse).Y - kept.Y), 0.2);
     }
     view.SetZoom(99.0, mouse);
-    EXPECT_EQ(view.Zoom(), kMostZoom);
-    EXPECT_EQ(NextZoom(kMostZoom, 1), kMostZoom);
-    EXPECT_EQ(NextZoom(kLeastZoom, -1), kLeastZoom);
+    EXPECT_EQ(view.Zoom(), kMaxZoom);
+    EXPECT_EQ(NextZoom(kMaxZoom, 1), kMaxZoom);
+    EXPECT_EQ(NextZoom(kMinZoom, -1), kMinZoom);
     EXPECT_EQ(NextZoom(0.8, 1), 0.9);
     EXPECT_EQ(NextZoom(0.8, -1), 0.75);
 }

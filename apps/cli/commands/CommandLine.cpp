@@ -14,7 +14,7 @@ namespace cli {
 namespace {
 
 constexpr float kMaxPage = 5000.0F;
-constexpr double kLeastDpi = 10.0;
+constexpr double kMinDpi = 10.0;
 constexpr double kMaxDpi = 2400.0;
 constexpr const char* kDataHelp = "a CSV file (name, value) that replaces the document's data";
 
@@ -29,7 +29,7 @@ bool ParsePage(const std::string& text, penlode::SizeF& page) {
 }
 
 bool ParseDpi(std::string text, double& dpi) {
-    return penlode::ser_evaluate(dpi, text, false) && dpi >= kLeastDpi && dpi <= kMaxDpi;
+    return penlode::ser_evaluate(dpi, text, false) && dpi >= kMinDpi && dpi <= kMaxDpi;
 }
 
 bool ParseBackground(std::string text, penlode::Color& color) {

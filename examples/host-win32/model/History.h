@@ -23,7 +23,7 @@ public:
             m_saved.reset();
         }
         m_states.push_back(std::move(next));
-        if (m_states.size() > kMostStates) {
+        if (m_states.size() > kMaxStates) {
             m_states.erase(m_states.begin());
             m_saved = m_saved && *m_saved > 0 ? std::optional(*m_saved - 1) : std::nullopt;
         }
@@ -43,7 +43,7 @@ public:
     void MarkSaved() { m_saved = m_current; }
 
 private:
-    static constexpr std::size_t kMostStates = 100;
+    static constexpr std::size_t kMaxStates = 100;
 
     std::vector<State> m_states;
     std::size_t m_current = 0;

@@ -34,11 +34,11 @@ double NextZoom(double zoom, int direction) {
     if (direction > 0) {
         const auto next =
             std::find_if(kZooms.begin(), kZooms.end(), [zoom](double step) { return step > zoom + kSame; });
-        return next == kZooms.end() ? kMostZoom : *next;
+        return next == kZooms.end() ? kMaxZoom : *next;
     }
     const auto next =
         std::find_if(kZooms.rbegin(), kZooms.rend(), [zoom](double step) { return step < zoom - kSame; });
-    return next == kZooms.rend() ? kLeastZoom : *next;
+    return next == kZooms.rend() ? kMinZoom : *next;
 }
 
 double PageView::PixelsPerMillimetre() const {
@@ -55,7 +55,7 @@ void PageView::SetDpi(double dpi) {
 
 void PageView::SetZoom(double zoom, PixelPoint anchor) {
     const PointF kept = ToPage(anchor);
-    m_zoom = std::clamp(zoom, kLeastZoom, kMostZoom);
+    m_zoom = std::clamp(zoom, kMinZoom, kMaxZoom);
     m_scroll = {Nearest(kept.X * PixelsPerMillimetre()) - anchor.X,
                 Nearest(kept.Y * PixelsPerMillimetre()) - anchor.Y};
     Centre();

@@ -29,8 +29,8 @@ struct PixelRect {
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
-inline constexpr double kLeastZoom = 0.25;
-inline constexpr double kMostZoom = 8.0;
+inline constexpr double kMinZoom = 0.25;
+inline constexpr double kMaxZoom = 8.0;
 
 /// The next zoom of a person's steps (..., 75 %, 100 %, 125 %, ...) up, or with -1 down.
 double NextZoom(double zoom, int direction);

@@ -15,7 +15,7 @@ using penlode::SizeF;
 
 namespace {
 
-constexpr float kLeastGroupWidth = 1.0F;
+constexpr float kMinGroupWidth = 1.0F;
 constexpr float kDepthOfWidth = 0.5F;
 // 30 degrees; its digits are part of the bars' depth.
 constexpr float kDepthAngle = 0.5235988F;
@@ -119,8 +119,8 @@ void CBasicHistogram::CalcComponentWidth() {
     const auto groups = static_cast<float>(m_values.size());
     float groupWidth = (plot.PlotWidth - plot.GroupDistane * groups) / groups;
     m_layout.GroupGap = plot.GroupDistane;
-    if (groupWidth < kLeastGroupWidth) {
-        groupWidth = kLeastGroupWidth;
+    if (groupWidth < kMinGroupWidth) {
+        groupWidth = kMinGroupWidth;
         m_layout.GroupGap = (plot.PlotWidth - groups) / groups;
     }
     m_layout.ComponentWidth =
