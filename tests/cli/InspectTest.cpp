@@ -19,6 +19,12 @@ TEST_F(Inspect, ShowsLayoutAndCallsWhereTheLocationPutsThem) {
     "labelRects": [],
     "legendItemRects": []
   },
+  "texts": [],
+  "shapes": {
+    "face": [90,40,20,20],
+    "depth": 0,
+    "slices": [{"start":0,"sweep":120,"fill":"#FF336699","walls":[]},{"start":120,"sweep":240,"fill":null,"walls":[]}]
+  },
   "calls": [
     {"call":"FillPie","brush":"#FF336699","rect":[90,40,20,20],"start":0,"sweep":120},
     {"call":"DrawPie","pen":"#80000000 0.25 dash","rect":[90,40,20,20],"start":0,"sweep":120},
@@ -29,6 +35,31 @@ TEST_F(Inspect, ShowsLayoutAndCallsWhereTheLocationPutsThem) {
     EXPECT_NE(
         outcome.Errors.find("warning: property/PieBasicProp/ComponentColor: found 1 colour, expected 2"),
         std::string::npos);
+}
+
+TEST_F(Inspect, ShowsWhatIsDrawnAndWhatItBelongsTo) {
+    const auto shown = [this](const std::string& example) {
+        return Run("millichart inspect '" MILLICHART_EXAMPLES "/" + example + ".chart.json'").Output;
+    };
+    EXPECT_NE(shown("pie-china-age-2020")
+                  .find(R"(  "shapes": {
+    "face": [-32,-32,64,43.2],
+    "depth": 14.4,
+    "slices": [{"start":200,"sweep":64.612,"fill":"#FF3B6FB6","walls":[]},)"
+                        R"({"start":264.612,"sweep":228.064,"fill":"#FFE58A3C","walls":[[0,132.676]]},)"),
+              std::string::npos);
+    const std::string bars = shown("half-pie-histogram-space-shuttle");
+    EXPECT_NE(bars.find(R"("histogram": {"depth":[0,0],"bars":[)"
+                        R"({"group":0,"component":0,"front":[-49,-23,14,23],"fill":"#FFA9B4C2"},)"),
+              std::string::npos);
+    EXPECT_NE(bars.find(R"(    {"owner":{"role":"barLabel","index":0,"component":1,"part":1},"text":)"),
+              std::string::npos);
+    EXPECT_NE(shown("histogram-china-grain")
+                  .find(R"("role":"verCaption","index":0,"component":0,"part":0},"text":)"),
+              std::string::npos);
+    Write("c.json", R"({"kind": "curve", "property": {"CurvePlotProp": {"CurveName": ["A", "B"]}},
+        "data": {"curves": [{"values": [1, 2, null, 4, 5, 6]}, {"values": [1, 2]}]}})");
+    EXPECT_NE(Run("millichart inspect c.json").Output.find(R"("curves": [[2,3],[2]])"), std::string::npos);
 }
 
 TEST_F(Inspect, AFailureShowsNothing) {

@@ -1,6 +1,5 @@
 #include "commands/Json.h"
 #include "penlode/Owned.h"
-#include "penlode/streams/TextForms.h"
 #include "penlode/text/StringUtil.h"
 
 #include <array>
@@ -15,12 +14,6 @@ using namespace penlode;
 template <class E, std::size_t N> Json NameOf(const std::array<const char*, N>& names, E value) {
     const auto index = static_cast<std::size_t>(value);
     return index < N ? Json(names[index]) : Json(static_cast<std::int64_t>(value));
-}
-
-template <class T> std::string Form(T value) {
-    std::string text;
-    ser_evaluate(value, text, true);
-    return CStringUtil::AnsiToUtf8(text);
 }
 
 /// Joined lists of numbers.

@@ -24,6 +24,8 @@ bool Inspect(const InspectOptions& options) {
                          {"kind", millichart::KindOf(loaded.Document.Content)->Name},
                          {"extent", ToJson(loaded.Chart->InkExtent())},
                          {"layout", LayoutToJson(*loaded.Chart)},
+                         {"texts", DrawnTextsToJson(*loaded.Chart)},
+                         {"shapes", ShapesToJson(*loaded.Chart)},
                          {"calls", CallsToJson(recorder.Calls())}};
     WriteOutput(kStandardStream, Printed(inspected, kLevels));
     return true;

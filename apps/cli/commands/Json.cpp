@@ -1,7 +1,6 @@
 #include "commands/Json.h"
 
 #include "penlode/text/Digits.h"
-#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,8 @@
 
 #include "documents/ChartDocument.h"
 #include "penlode/recording/RecordingEngine.h"
+#include "penlode/streams/TextForms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -21,6 +23,13 @@ Json ToJson(const penlode::RectF& rect);
 /// Narrow texts.
 Json TextsToJson(const std::vector<std::string>& texts);
 
+/// The UTF-8 text in which documents write a colour, a pen or a font.
+template <class T> std::string Form(T value) {
+    std::string text;
+    penlode::ser_evaluate(value, text, true);
+    return penlode::CStringUtil::AnsiToUtf8(text);
+}
+
 template <class T> Json ListToJson(const std::vector<T>& items) {
     Json list = Json::array();
     for (const T& item : items) {
@@ -31,6 +40,13 @@ template <class T> Json ListToJson(const std::vector<T>& items) {
 
 /// The results of a chart's layout, in its own millimetres.
 Json LayoutToJson(const millichart::LaidOutChart& chart);
+
+/// The texts as they are drawn now, in their order, each with what it belongs to, its upright box, and its
+/// turn in degrees, counter-clockwise.
+Json DrawnTextsToJson(const millichart::LaidOutChart& chart);
+
+/// The slices and bars as they are drawn now, and of each curve how many points each of its lines has.
+Json ShapesToJson(const millichart::LaidOutChart& chart);
 
 /// One object a call: its operation under "call", and each argument under a name. Colours, pens and fonts are
 /// written as documents write them.
