@@ -124,8 +124,8 @@ void AddScribbles(Suite& suite) {
             suite.Compare(scribble + ", drawn / strokes", scribble + ", drawn", scribble + ", strokes", 1.1);
         }
     }
-    // Strokes of ten thousand take about a second.
-    suite.Compare("scribble 1e6 / strokes of 1e4", "scribble 1e6, drawn", "scribble 1e4, strokes", 1.5);
+    // Most of a million falls on tiles that are full.
+    suite.Compare("scribble 1e6 / strokes of 1e4", "scribble 1e6, drawn", "scribble 1e4, strokes", 1.0);
 }
 
 } // namespace
