@@ -104,7 +104,6 @@ LRESULT HostWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void HostWindow::OnCommand(int command) {
-    ReleaseCapture(); // a key that comes while the mouse drags ends that
     switch (command) {
     case ID_FILE_OPEN:
         return AskAndOpen();
@@ -123,10 +122,10 @@ void HostWindow::OnCommand(int command) {
         return;
     case ID_EDIT_UNDO:
         m_model->Undo();
-        return m_canvas->Update();
+        return EndMove();
     case ID_EDIT_REDO:
         m_model->Redo();
-        return m_canvas->Update();
+        return EndMove();
     case ID_EDIT_COPY:
         return Copy();
     case ID_VIEW_ZOOM_IN:
@@ -204,11 +203,23 @@ void HostWindow::AskAndOpen() {
     }
 }
 
+void HostWindow::PutDown() {
+    m_model->Drop();
+    EndMove();
+}
+
+void HostWindow::EndMove() {
+    ReleaseCapture(); // the mouse may be dragging still
+    m_canvas->Update();
+}
+
 bool HostWindow::Save() {
+    PutDown();
     return m_file.empty() ? SaveAs() : SaveTo(m_file);
 }
 
 bool HostWindow::SaveAs() {
+    PutDown();
     const auto file = AskSaveName(Handle(), m_file.empty() ? DocumentName() + L".chart.json" : m_file);
     return file && SaveTo(*file);
 }
@@ -225,6 +236,7 @@ bool HostWindow::SaveTo(const std::wstring& file) {
 }
 
 bool HostWindow::MayClose() {
+    PutDown();
     if (m_model->IsSaved()) {
         return true;
     }
@@ -233,12 +245,14 @@ bool HostWindow::MayClose() {
 }
 
 void HostWindow::Print() {
+    PutDown();
     if (PrintChart(Handle(), m_model->Chart(), DocumentName()) == Printed::Failed) {
         Tell(L"打印没有成功。请检查打印机。", MB_ICONERROR);
     }
 }
 
 void HostWindow::PrintToFile() {
+    PutDown();
     const auto file = AskPageName(Handle(), DocumentName() + L".emf");
     if (file && !PrintChartToFile(m_model->Chart(), *file)) {
         Tell(L"不能写入“" + FileNameOf(*file) + L"”。", MB_ICONERROR);
@@ -246,6 +260,7 @@ void HostWindow::PrintToFile() {
 }
 
 void HostWindow::Copy() {
+    PutDown();
     if (!CopyChart(Handle(), m_model->Chart())) {
         Tell(L"剪贴板正被其他程序使用，请稍后再试。", MB_ICONWARNING);
     }

@@ -25,6 +25,10 @@ private:
 
     void Show(millichart::ChartDocument document, const std::wstring& file);
     void AskAndOpen();
+    /// What is on its way, by mouse or keyboard, belongs to what is saved, printed or copied.
+    void PutDown();
+    /// Shows that nothing is on its way any more.
+    void EndMove();
     bool Save();
     bool SaveAs();
     bool SaveTo(const std::wstring& file);

@@ -119,6 +119,23 @@ TEST(HostModelTest, ChangesAreUndoneAndRedoneAndItIsKnownWhichStateIsSaved) {
     EXPECT_FALSE(model.IsSaved()) << "what was saved can no longer be reached";
 }
 
+TEST(HostModelTest, UndoGivesUpAMoveBeforeItUndoesAChange) {
+    ChartModel model(New("pie"));
+    Drag(model, model.Parts()[0].Place.Center(), {9.0F, 0.0F});
+    const std::vector<MovablePart> once = model.Parts();
+    model.Nudge({1.0F, 0.0F});
+    model.Undo();
+    EXPECT_FALSE(model.IsMoving());
+    EXPECT_EQ(model.Parts(), once);
+    ASSERT_TRUE(model.CanUndo());
+    model.Undo();
+    EXPECT_FALSE(model.CanUndo());
+    model.Nudge({1.0F, 0.0F});
+    EXPECT_TRUE(model.CanUndo()) << "the move";
+    model.Undo();
+    EXPECT_EQ(model.Parts(), ChartModel(New("pie")).Parts());
+}
+
 TEST(HostModelTest, TheOldestStatesAreForgotten) {
     History<int> history(0);
     for (int state = 1; state <= 150; ++state) {

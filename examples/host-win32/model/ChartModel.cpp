@@ -79,7 +79,9 @@ void ChartModel::Cancel() {
 }
 
 void ChartModel::Undo() {
-    Cancel();
+    if (IsMoving()) {
+        return Cancel();
+    }
     m_history.Undo();
     LayOut();
 }

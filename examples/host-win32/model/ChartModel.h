@@ -59,10 +59,11 @@ public:
     void Drop();
     void Cancel();
 
-    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanUndo() const { return IsMoving() || m_history.CanUndo(); }
 
     bool CanRedo() const { return m_history.CanRedo(); }
 
+    /// Gives up a move, if there is one, and else the last change.
     void Undo();
     void Redo();
 
