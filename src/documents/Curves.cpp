@@ -79,9 +79,7 @@ Times CountedTimes(std::size_t count) {
 }
 
 std::vector<double> WithGaps(std::vector<double> values) {
-    std::replace_if(
-        values.begin(), values.end(), [](double value) { return value < kCurveNullThreshold; },
-        std::numeric_limits<double>::quiet_NaN());
+    std::replace_if(values.begin(), values.end(), IsCurveNull, std::numeric_limits<double>::quiet_NaN());
     return values;
 }
 
@@ -236,7 +234,7 @@ double Curves::Largest() const {
             largest = std::max(largest, value);
         }
     }
-    return largest < kCurveNullThreshold ? -HUGE_VAL : largest;
+    return IsCurveNull(largest) ? -HUGE_VAL : largest;
 }
 
 void Curves::Check(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {
@@ -259,7 +257,7 @@ void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagn
             curve < plot.NullValueStyle.size() && plot.NullValueStyle[curve] != CurveNullValueStyle::Break;
         for (std::size_t i = 0; i < m_data.Values[curve].size(); ++i) {
             const double value = m_data.Values[curve][i];
-            const bool isNull = value < kCurveNullThreshold;
+            const bool isNull = IsCurveNull(value);
             if (!isNull || nullsAreZero) {
                 range.Look(isNull ? 0.0 : value, curve, i);
             }

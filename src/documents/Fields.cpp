@@ -113,10 +113,7 @@ std::vector<double> LoadNumbers(CSerializeStream& stream, const char* key, doubl
 }
 
 std::string NumberText(double number) {
-    if (penlode::IsPlainWhole(number)) {
-        return std::to_string(static_cast<std::int64_t>(number));
-    }
-    return TextOf(number);
+    return penlode::PlainDigits(number == 0.0 ? 0.0 : number); // nobody writes a negative zero
 }
 
 std::string NumberText(float number) {

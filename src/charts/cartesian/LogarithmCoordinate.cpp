@@ -1,9 +1,9 @@
 #include "charts/cartesian/LogarithmCoordinate.h"
 
 #include "foundation/NumberText.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -17,10 +17,8 @@ constexpr double kDecadesShown = 100.0;
 /// The same on every platform, which std::pow is not: of one that ends a bit lower, an axis would lose its
 /// last tick.
 double PowerOfTen(int exponent) {
-    double power = exponent < 0 ? 0.0 : std::numeric_limits<double>::infinity();
-    const std::string text = "1e" + std::to_string(exponent);
-    std::from_chars(text.data(), text.data() + text.size(), power);
-    return power;
+    return penlode::NumberOf<double>("1e" + std::to_string(exponent))
+        .value_or(exponent < 0 ? 0.0 : std::numeric_limits<double>::infinity());
 }
 
 /// The power of ten above a value of 1 or more: 9.99 gives 10, and 10 gives 100.

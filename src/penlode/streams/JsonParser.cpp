@@ -12,7 +12,6 @@ using SizeType = std::size_t;
 }
 
 #include <algorithm>
-#include <charconv>
 #include <cstdlib>
 #include <new>
 #include <optional>
@@ -48,12 +47,11 @@ using Reader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, Al
 bool IsHuge(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
     const std::size_t digits = std::min(number.find_first_not_of("eE+", mark), number.size());
-    int exponent = 0; // out of range if negative only
-    const auto parsed = std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
+    // Out of range if negative only.
+    const auto exponent = digits == number.size() ? std::optional(0) : NumberOf<int>(number.substr(digits));
     const std::size_t point = std::min(number.find('.'), mark);
     const std::size_t first = number.find_first_of("123456789");
-    return parsed.ec != std::errc::result_out_of_range &&
-           exponent + static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first) > 0;
+    return exponent && *exponent + static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first) > 0;
 }
 
 /// Nothing where the number is too large for any type.

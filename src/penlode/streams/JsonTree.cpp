@@ -7,14 +7,6 @@
 #include <bit>
 
 namespace penlode {
-namespace {
-
-/// A whole number is written out, so that it is an integer's text as well: 1e5 as 100000.
-std::string NumberText(double value) {
-    return IsPlainWhole(value) ? Digits(value, std::chars_format::fixed) : Digits(value);
-}
-
-} // namespace
 
 JsonNode JsonNode::Integer(std::int64_t value) {
     return {std::bit_cast<std::uint64_t>(value), kNowhere, JsonType::Integer};
@@ -114,7 +106,7 @@ std::optional<std::string> JsonTree::ScalarText(const JsonNode& node) const {
     case JsonType::Integer:
         return Digits(std::bit_cast<std::int64_t>(node.Bits));
     case JsonType::Real:
-        return NumberText(std::bit_cast<double>(node.Bits));
+        return PlainDigits(std::bit_cast<double>(node.Bits));
     default:
         return std::nullopt;
     }

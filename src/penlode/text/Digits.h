@@ -26,6 +26,12 @@ inline bool IsPlainWhole(double value) {
     return std::trunc(value) == value && std::abs(value) < kMaxPlain;
 }
 
+/// A whole number with all its digits, so that it is an integer's text as well: 1e5 as 100000. Any other as
+/// it reads back the same.
+inline std::string PlainDigits(double value) {
+    return IsPlainWhole(value) ? Digits(value, std::chars_format::fixed) : Digits(value);
+}
+
 /// Rounded to so many decimals, without needless zeros and without a negative zero.
 inline std::string RoundedDigits(double value, int decimals) {
     std::string text = Digits(value, std::chars_format::fixed, decimals);
