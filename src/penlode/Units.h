@@ -8,8 +8,8 @@
 /// Conversions between points, millimetres and pixels.
 namespace penlode {
 
-/// Points in a millimetre as this system has always counted them, slightly more than 72 / 25.4. Stored font
-/// sizes depend on it.
+/// Points in a millimetre, slightly more than 72 / 25.4: the sizes of the fonts that records hold were made
+/// of points with this number, and come back to the same points only by it.
 inline constexpr float kPointsPerMillimetre = 2.8368F;
 
 inline constexpr double kMillimetresPerInch = 25.4;
