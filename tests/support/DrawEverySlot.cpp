@@ -1,4 +1,4 @@
-#include "penlode/cairo/GraphicsEngine.h"
+#include "penlode/GraphicsEngine.h"
 #include "penlode/svg/SvgEngine.h"
 #include "support/EverySlot.h"
 
@@ -25,11 +25,23 @@ std::string Png() {
     return engine->EncodePng();
 }
 
-std::string Pdf() {
+#ifdef _WIN32
+constexpr const char* kPaper = "/every-slot.emf";
+
+std::string Paper() {
+    const auto engine = CGraphicsEngine::ForMetafile(kEverySlotPage);
+    DrawEverySlot(*engine);
+    return engine->FinishMetafile();
+}
+#else
+constexpr const char* kPaper = "/every-slot.pdf";
+
+std::string Paper() {
     const auto engine = CGraphicsEngine::ForPdf(kEverySlotPage);
     DrawEverySlot(*engine);
     return engine->FinishPdf();
 }
+#endif
 
 std::string Svg(bool textAsOutlines) {
     CSvgEngine engine(kEverySlotPage, {"Every operation", "", kWhite, textAsOutlines});
@@ -42,8 +54,7 @@ std::string Svg(bool textAsOutlines) {
 /// draw-every-slot FOLDER: the drawing that uses every operation, as each engine draws it, into that folder.
 int main(int argc, char** argv) {
     const std::string folder = argc == 2 ? argv[1] : ".";
-    const bool written = Write(folder + "/every-slot.png", Png()) &&
-                         Write(folder + "/every-slot.pdf", Pdf()) &&
+    const bool written = Write(folder + "/every-slot.png", Png()) && Write(folder + kPaper, Paper()) &&
                          Write(folder + "/every-slot.svg", Svg(false)) &&
                          Write(folder + "/every-slot-outlines.svg", Svg(true));
     if (!written) {

@@ -1,4 +1,6 @@
 #include "penlode/GraphicsEngine.h"
+#include "penlode/text/StringUtil.h"
+#include "support/EverySlot.h"
 #include "support/GoldenDrawings.h"
 #include "support/PngFile.h"
 
@@ -103,6 +105,16 @@ TEST_P(GdiPicture, IsCairosToWithinAPixelOfItsEdges) {
     EXPECT_LE(LargestBlockDifference(drawn, kept), kBlockTolerance);
     if (HasFailure()) {
         std::ofstream(std::string(GetParam().Name) + "-gdiplus.png", std::ios::binary) << engine->EncodePng();
+    }
+}
+
+TEST(GdiEverySlot, LeavesInkInEachCell) {
+    for (const SlotCell& cell : SlotCells()) {
+        const auto engine = CGraphicsEngine::ForRaster({24, 19}, 96, kWhite);
+        cell.Draw(*engine);
+        const Image picture = engine->Pixels();
+        const auto bare = std::count(picture.Pixels.begin(), picture.Pixels.end(), kWhite);
+        EXPECT_LT(bare, picture.Width * picture.Height * 49 / 50) << CStringUtil::WideToUtf8(cell.Caption);
     }
 }
 

@@ -68,6 +68,48 @@ TEST(GdiText, StandsInItsMeasuredBox) {
     EXPECT_NEAR(drawn.Bottom - drawn.Top, 38, 5);
 }
 
+TEST(GdiText, IsMeasuredByTheSurfaceWhereItDrawsIt) {
+    constexpr float kPixels = 10.0F; // in a millimetre
+    const Font font{L"Liberation Sans", 4.0F};
+    const SolidBrush ink{kBlack};
+    const wchar_t two[] = L"HIH\nH";
+    const StringFormat centred{0, 0, StringAlignment::Center, StringAlignment::Center};
+    const PointF at{20, 10};
+    const RectF box{5, 2, 30, 16};
+    const auto expectInk = [&](const char* what, const RectF& bounds, const auto& draw) {
+        const auto engine = CGraphicsEngine::ForRaster({40, 20}, 254, kWhite);
+        EXPECT_EQ(draw(*engine), Status::Ok) << what;
+        const Ink drawn = InkOf(engine->Pixels());
+        EXPECT_NEAR(drawn.Left, bounds.X * kPixels, 6) << what;
+        EXPECT_NEAR(drawn.Right, bounds.Right() * kPixels, 6) << what;
+        EXPECT_NEAR(drawn.Top, bounds.Y * kPixels, 12) << what;
+        EXPECT_NEAR(drawn.Bottom, bounds.Bottom() * kPixels, 14) << what;
+    };
+    const auto engine = CGraphicsEngine::ForRaster({40, 20}, 254, kWhite);
+    RectF bounds;
+    EXPECT_EQ(engine->MeasureString(two, -1, &font, at, &bounds), Status::Ok);
+    EXPECT_EQ(bounds.TopLeft(), at);
+    expectInk("at a point", bounds,
+              [&](IGraphicsEngine& g) { return g.DrawString(two, -1, &font, at, &ink); });
+    EXPECT_EQ(engine->MeasureString(two, -1, &font, at, &centred, &bounds), Status::Ok);
+    EXPECT_NEAR(bounds.Center().X, at.X, 1e-3F);
+    expectInk("about a point", bounds,
+              [&](IGraphicsEngine& g) { return g.DrawString(two, -1, &font, at, &centred, &ink); });
+    std::int32_t characters = 0;
+    std::int32_t lines = 0;
+    EXPECT_EQ(engine->MeasureString(two, -1, &font, box, &centred, &bounds, &characters, &lines), Status::Ok);
+    EXPECT_NEAR(bounds.Center().Y, box.Center().Y, 1e-3F);
+    EXPECT_EQ(characters, 5);
+    EXPECT_EQ(lines, 2);
+    expectInk("in a box", bounds,
+              [&](IGraphicsEngine& g) { return g.DrawString(two, -1, &font, box, &centred, &ink); });
+    const SizeF script = engine->MeasureScriptText(L"HIH", &font);
+    expectInk("as script", {at.X, at.Y, script.Width, script.Height}, [&](IGraphicsEngine& g) {
+        g.DrawScriptText(L"HIH", &font, at.X, at.Y, &ink);
+        return Status::Ok;
+    });
+}
+
 TEST(GdiText, TurnsWithItsTransform) {
     const Font font{L"Liberation Sans", 5.0F, FontStyle::Underline};
     const SolidBrush ink{kBlack};
