@@ -10,7 +10,8 @@ protected:
     std::string Shown(const std::string& document, const std::string& key,
                       const std::string& options = "") const {
         Write("c.json", document);
-        const Outcome outcome = Run("millichart inspect c.json " + options + " | grep '\"" + key + "\":'");
+        const Outcome outcome = Run("millichart inspect c.json " + options +
+                                    " | sed '/\"texts\":/,$d' | grep '\"" + key + "\":'");
         EXPECT_EQ(outcome.Errors, "");
         const std::size_t begin = outcome.Output.find(": ");
         return begin == std::string::npos ? outcome.Output : outcome.Output.substr(begin + 2);
@@ -20,7 +21,8 @@ protected:
     std::string Labels(const std::string& document) const {
         Write("c.json", document);
         std::istringstream calls(
-            Run("millichart inspect c.json | grep -o '\"text\":\"[^\"]*' | cut -d'\"' -f4").Output);
+            Run("millichart inspect c.json | grep '\"call\"' | grep -o '\"text\":\"[^\"]*' | cut -d'\"' -f4")
+                .Output);
         std::string all;
         for (std::string text; std::getline(calls, text);) {
             all += text + " ";
