@@ -84,9 +84,9 @@ private:
 };
 
 SheetWindow::SheetWindow(Sheet& sheet) : m_sheet(sheet), m_pages(sheet.Pages().size()) {
-    for (const Dialog* const page : sheet.Pages()) {
-        m_pageSize.cx = std::max<LONG>(m_pageSize.cx, page->Template().Width);
-        m_pageSize.cy = std::max<LONG>(m_pageSize.cy, page->Template().Height);
+    for (const SheetPage& page : sheet.Pages()) {
+        m_pageSize.cx = std::max<LONG>(m_pageSize.cx, page.Page->Template().Width);
+        m_pageSize.cy = std::max<LONG>(m_pageSize.cy, page.Page->Template().Height);
     }
 }
 
@@ -139,8 +139,8 @@ bool SheetWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void SheetWindow::OnInitDialog() {
-    for (const Dialog* const page : m_sheet.Pages()) {
-        std::wstring title = CStringUtil::Utf8ToWideString(page->Template().Title);
+    for (const SheetPage& page : m_sheet.Pages()) {
+        std::wstring title = CStringUtil::Utf8ToWideString(page.Title);
         TCITEMW tab{};
         tab.mask = TCIF_TEXT;
         tab.pszText = title.data();
@@ -171,6 +171,11 @@ void SheetWindow::MakeRoomForTabs() {
 }
 
 void SheetWindow::OnOK() {
+    for (const auto& page : m_pages) {
+        if (page != nullptr) {
+            page->FinishEdits();
+        }
+    }
     if (m_sheet.OnOK(Views())) {
         Close(true);
     }
@@ -183,7 +188,8 @@ void SheetWindow::OnChanged() {
 void SheetWindow::Open(int index) {
     auto& page = m_pages[static_cast<std::size_t>(index)];
     if (page == nullptr) {
-        page = std::make_unique<Page>(*this, *m_sheet.Pages()[static_cast<std::size_t>(index)], index);
+        Dialog& dialog = *m_sheet.Pages()[static_cast<std::size_t>(index)].Page;
+        page = std::make_unique<Page>(*this, dialog, index);
         page->Open();
     }
     ShowWindow(page->Handle(), SW_SHOW);

@@ -1,0 +1,424 @@
+#include "editing/win32/ListCtrlEx.h"
+
+#include "editing/CellSamples.h"
+#include "editing/win32/CellEditor.h"
+#include "editing/win32/ScaledDrawing.h"
+#include "editing/win32/TextClipboard.h"
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <windowsx.h>
+
+namespace millichart {
+namespace {
+
+using penlode::CStringUtil;
+
+constexpr int kRowHeight = 18; ///< pixels at 96 dpi
+
+constexpr UINT kOpenCell = WM_APP; ///< posted: a dialog must not open within a message that was sent
+
+bool IsSample(const ListColumn& column) {
+    return column.Kind == CellKind::Color || column.Kind == CellKind::Line;
+}
+
+/// The one that is held down, besides Shift.
+int Modifier() {
+    if (GetKeyState(VK_MENU) < 0) {
+        return VK_MENU;
+    }
+    return GetKeyState(VK_CONTROL) < 0 ? VK_CONTROL : 0;
+}
+
+POINT PointOf(LPARAM lParam) {
+    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+} // namespace
+
+/// What a key does, and for what changes rows its text in the menu.
+struct CListCtrlEx::Command {
+    const wchar_t* Text;
+    WPARAM Key;
+    int Modifier;
+    void (CListCtrlEx::*Act)();
+};
+
+const CListCtrlEx::Command CListCtrlEx::kCommands[]{
+    {L"添加(&A)\tInsert", VK_INSERT, 0, &CListCtrlEx::Add},
+    {L"删除(&D)\tDelete", VK_DELETE, 0, &CListCtrlEx::Remove},
+    {L"上移(&U)\tAlt+↑", VK_UP, VK_MENU, &CListCtrlEx::MoveUp},
+    {L"下移(&N)\tAlt+↓", VK_DOWN, VK_MENU, &CListCtrlEx::MoveDown},
+    {L"复制(&C)\tCtrl+C", 'C', VK_CONTROL, &CListCtrlEx::Copy},
+    {L"粘贴(&P)\tCtrl+V", 'V', VK_CONTROL, &CListCtrlEx::Paste},
+    {nullptr, VK_LEFT, 0, &CListCtrlEx::Left},
+    {nullptr, VK_RIGHT, 0, &CListCtrlEx::Right},
+    {nullptr, VK_F2, 0, &CListCtrlEx::OpenSoon},
+};
+
+/// Rows are as high as the images that they could show.
+CListCtrlEx::CListCtrlEx(HWND listView)
+    : ReflectedControl(listView), m_own(listView, [this](UINT message, WPARAM wParam, LPARAM lParam) {
+          return OnMessage(message, wParam, lParam);
+      }) {
+    constexpr DWORD kStyle = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyle, kStyle);
+    const HIMAGELIST images = ImageList_Create(1, Scaled(listView, kRowHeight), ILC_COLOR, 0, 0);
+    Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
+}
+
+CListCtrlEx::~CListCtrlEx() = default;
+
+int CListCtrlEx::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return static_cast<int>(SendMessageW(Handle(), message, wParam, lParam));
+}
+
+void CListCtrlEx::SetColumns(std::span<const ListColumn> columns) {
+    while (Send(LVM_DELETECOLUMN, 0, 0) != FALSE) {
+    }
+    m_rows.SetColumns(columns);
+    m_column = 0;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        std::wstring title = CStringUtil::Utf8ToWideString(columns[i].Title);
+        LVCOLUMNW column{};
+        column.mask = LVCF_TEXT | LVCF_WIDTH;
+        column.pszText = title.data();
+        column.cx = PixelsOf(columns[i]);
+        Send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    }
+    ShowRows();
+}
+
+void CListCtrlEx::SetRows(std::vector<ListRow> rows) {
+    if (m_editor != nullptr) {
+        m_editor->Finish(false);
+    }
+    m_rows.SetRows(std::move(rows));
+    ShowRows();
+}
+
+void CListCtrlEx::FinishEdit() {
+    if (m_editor != nullptr) {
+        m_editor->Finish(true);
+    }
+}
+
+std::optional<LRESULT> CListCtrlEx::OnReflected(UINT message, WPARAM, LPARAM lParam) {
+    if (message != WM_NOTIFY) {
+        return std::nullopt;
+    }
+    switch (reinterpret_cast<const NMHDR*>(lParam)->code) {
+    case LVN_GETDISPINFOW:
+        Tell(reinterpret_cast<NMLVDISPINFOW*>(lParam)->item);
+        return 0;
+    case NM_CUSTOMDRAW:
+        return OnDraw(*reinterpret_cast<const NMLVCUSTOMDRAW*>(lParam));
+    case NM_DBLCLK:
+        if (reinterpret_cast<const NMITEMACTIVATE*>(lParam)->iItem >= 0) {
+            OpenSoon();
+        }
+        return 0;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<LRESULT> CListCtrlEx::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+        return OnKey(wParam) ? std::optional<LRESULT>(0) : std::nullopt;
+    case WM_CHAR: // else the list would look for a row that begins with it
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+        OnButtonDown(PointOf(lParam));
+        return std::nullopt;
+    case WM_MOUSEWHEEL: // nor does a column's new width move what is over its cell
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_NOTIFY:
+        if (message != WM_NOTIFY || reinterpret_cast<const NMHDR*>(lParam)->code == HDN_BEGINTRACKW) {
+            FinishEdit();
+        }
+        return std::nullopt;
+    case WM_CONTEXTMENU:
+        ShowMenu(PointOf(lParam));
+        return 0;
+    case kOpenCell:
+        Open();
+        return 0;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// Samples have texts too, for screen readers.
+void CListCtrlEx::Tell(LVITEMW& item) const {
+    const auto row = static_cast<std::size_t>(item.iItem);
+    const auto column = static_cast<std::size_t>(item.iSubItem);
+    if ((item.mask & LVIF_TEXT) != 0 && row < m_rows.Count() && column < m_rows.Columns().size()) {
+        const std::wstring text = CStringUtil::Utf8ToWideString(m_rows.Cell(row, column));
+        lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+    }
+}
+
+LRESULT CListCtrlEx::OnDraw(const NMLVCUSTOMDRAW& draw) const {
+    switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+        return CDRF_NOTIFYSUBITEMDRAW;
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
+        if (!IsSample(m_rows.Columns()[static_cast<std::size_t>(draw.iSubItem)])) {
+            return IsCurrent(draw) ? CDRF_NOTIFYPOSTPAINT : CDRF_DODEFAULT;
+        }
+        DrawSample(draw);
+        break;
+    case CDDS_ITEMPOSTPAINT | CDDS_SUBITEM:
+        break;
+    default:
+        return CDRF_DODEFAULT;
+    }
+    if (IsCurrent(draw)) {
+        const RECT box = CellBox(CurrentRow(), m_column);
+        DrawFocusRect(draw.nmcd.hdc, &box);
+    }
+    return CDRF_SKIPDEFAULT;
+}
+
+void CListCtrlEx::DrawSample(const NMLVCUSTOMDRAW& draw) const {
+    const auto row = static_cast<std::size_t>(draw.nmcd.dwItemSpec);
+    const auto column = static_cast<std::size_t>(draw.iSubItem);
+    const RECT box = CellBox(static_cast<int>(row), column);
+    const bool isSelected = Send(LVM_GETITEMSTATE, row, LVIS_SELECTED) != 0;
+    const int selected = GetFocus() == Handle() ? COLOR_HIGHLIGHT : COLOR_BTNFACE;
+    FillRect(draw.nmcd.hdc, &box, GetSysColorBrush(isSelected ? selected : COLOR_WINDOW));
+    DrawScaled(
+        Handle(), draw.nmcd.hdc, box, [&](penlode::IGraphicsEngine& engine, const penlode::RectF& place) {
+            DrawCellSample(engine, place, m_rows.Columns()[column].Kind, m_rows.Cell(row, column), 96.0F);
+        });
+}
+
+bool CListCtrlEx::IsCurrent(const NMLVCUSTOMDRAW& draw) const {
+    return GetFocus() == Handle() && static_cast<std::size_t>(draw.iSubItem) == m_column &&
+           static_cast<int>(draw.nmcd.dwItemSpec) == CurrentRow();
+}
+
+bool CListCtrlEx::OnKey(WPARAM key) {
+    for (const Command& command : kCommands) {
+        if (command.Key == key && command.Modifier == Modifier()) {
+            (this->*command.Act)();
+            return true;
+        }
+    }
+    return false;
+}
+
+/// At the pointer, or at the current cell if a key asks for it (−1, −1).
+void CListCtrlEx::ShowMenu(POINT place) {
+    FinishEdit();
+    if (place.x == -1 && place.y == -1) {
+        const RECT box = CellBox(std::max(CurrentRow(), 0), m_column);
+        place = {box.left, box.bottom};
+        ClientToScreen(Handle(), &place);
+    }
+    const HMENU menu = CreatePopupMenu();
+    UINT_PTR number = 0;
+    for (const Command& command : kCommands) {
+        if (++number; command.Text != nullptr) {
+            AppendMenuW(menu, MF_STRING, number, command.Text);
+        }
+    }
+    const int picked =
+        TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, Handle(), nullptr);
+    DestroyMenu(menu);
+    if (picked > 0) {
+        (this->*kCommands[picked - 1].Act)();
+    }
+}
+
+/// The list takes the row itself.
+void CListCtrlEx::OnButtonDown(POINT place) {
+    LVHITTESTINFO hit{};
+    hit.pt = place;
+    if (Send(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)) >= 0) {
+        GoToColumn(static_cast<std::size_t>(hit.iSubItem));
+    }
+}
+
+/// Below the rows that are selected, or at the end.
+void CListCtrlEx::Add() {
+    const std::vector<std::size_t> selected = SelectedRows();
+    const std::size_t at = selected.empty() ? m_rows.Count() : selected.back() + 1;
+    m_rows.Add(at);
+    GoTo(at, 0);
+}
+
+void CListCtrlEx::Remove() {
+    const std::vector<std::size_t> selected = SelectedRows();
+    if (!selected.empty()) {
+        std::for_each(selected.rbegin(), selected.rend(), [this](std::size_t row) { m_rows.Remove(row, 1); });
+        GoTo(selected.front(), 0);
+    }
+}
+
+void CListCtrlEx::MoveUp() {
+    Move(-1);
+}
+
+void CListCtrlEx::MoveDown() {
+    Move(1);
+}
+
+void CListCtrlEx::Move(int step) {
+    if (const int row = CurrentRow(); row >= 0) {
+        GoTo(m_rows.Move(static_cast<std::size_t>(row), step), m_column);
+    }
+}
+
+void CListCtrlEx::Copy() {
+    std::string text;
+    for (const std::size_t row : SelectedRows()) {
+        text += m_rows.Copied(row, 1);
+    }
+    SetClipboardText(Handle(), text);
+}
+
+/// From the current cell on.
+void CListCtrlEx::Paste() {
+    const int current = CurrentRow();
+    const std::size_t row = current < 0 ? m_rows.Count() : static_cast<std::size_t>(current);
+    m_rows.Paste(row, m_column, ClipboardText(Handle()));
+    GoTo(row, m_column);
+}
+
+void CListCtrlEx::Left() {
+    GoToColumn(m_column == 0 ? 0 : m_column - 1);
+}
+
+void CListCtrlEx::Right() {
+    GoToColumn(m_column + 1);
+}
+
+void CListCtrlEx::OpenSoon() {
+    PostMessageW(Handle(), kOpenCell, 0, 0);
+}
+
+void CListCtrlEx::Open() {
+    FinishEdit();
+    const int current = CurrentRow();
+    if (current < 0) {
+        return;
+    }
+    const auto row = static_cast<std::size_t>(current);
+    const ListColumn& column = m_rows.Columns()[m_column];
+    std::string cell = m_rows.Cell(row, m_column);
+    if (column.EditInDialog != nullptr) {
+        if (EditInDialog && EditInDialog(column.EditInDialog, cell)) {
+            SetCell(row, m_column, cell);
+        }
+        return;
+    }
+    Send(LVM_ENSUREVISIBLE, row, FALSE);
+    ScrollTo(CellBox(current, m_column));
+    m_editor = std::make_unique<CellEditor>(
+        Handle(), CellBox(current, m_column), column, cell,
+        [this, row, at = m_column](const std::string& text) { SetCell(row, at, text); });
+}
+
+void CListCtrlEx::SetCell(std::size_t row, std::size_t column, const std::string& text) {
+    if (text != m_rows.Cell(row, column) && m_rows.SetCell(row, column, text)) {
+        Send(LVM_REDRAWITEMS, row, static_cast<LPARAM>(row));
+        TellChanged();
+    }
+}
+
+void CListCtrlEx::ShowRows() {
+    Send(LVM_SETITEMCOUNT, m_rows.Count(), 0);
+    StretchLastColumn();
+    InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+/// To the end of the list, if there is room.
+void CListCtrlEx::StretchLastColumn() {
+    const std::span<const ListColumn> columns = m_rows.Columns();
+    if (columns.empty()) {
+        return;
+    }
+    RECT client;
+    GetClientRect(Handle(), &client);
+    LONG room = client.right;
+    for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
+        room -= Send(LVM_GETCOLUMNWIDTH, i, 0);
+    }
+    Send(LVM_SETCOLUMNWIDTH, columns.size() - 1, std::max<LONG>(room, PixelsOf(columns.back())));
+}
+
+/// Selects a row, or the last, alone, after a change of rows.
+void CListCtrlEx::GoTo(std::size_t row, std::size_t column) {
+    LVITEMW state{};
+    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&state));
+    ShowRows();
+    if (m_rows.Count() > 0) {
+        const std::size_t shown = std::min(row, m_rows.Count() - 1);
+        state.state = state.stateMask;
+        Send(LVM_SETITEMSTATE, shown, reinterpret_cast<LPARAM>(&state));
+        Send(LVM_ENSUREVISIBLE, shown, FALSE);
+        GoToColumn(column);
+    }
+    TellChanged();
+}
+
+/// Or to the last.
+void CListCtrlEx::GoToColumn(std::size_t column) {
+    m_column = std::min(column, m_rows.Columns().size() - 1);
+    if (const int row = CurrentRow(); row >= 0) {
+        ScrollTo(CellBox(row, m_column));
+        Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+    }
+}
+
+/// Sideways, so that a cell shows, at least from its beginning.
+void CListCtrlEx::ScrollTo(const RECT& cell) {
+    RECT client;
+    GetClientRect(Handle(), &client);
+    const LONG hidden = std::min(cell.left, std::max<LONG>(cell.right - client.right, 0));
+    if (hidden != 0) {
+        Send(LVM_SCROLL, static_cast<WPARAM>(hidden), 0);
+    }
+}
+
+void CListCtrlEx::TellChanged() {
+    if (OnChanged) {
+        OnChanged();
+    }
+}
+
+std::vector<std::size_t> CListCtrlEx::SelectedRows() const {
+    std::vector<std::size_t> rows;
+    for (int row = -1; (row = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0;) {
+        rows.push_back(static_cast<std::size_t>(row));
+    }
+    return rows;
+}
+
+/// The list takes the first cell's for the row's.
+RECT CListCtrlEx::CellBox(int row, std::size_t column) const {
+    RECT box{};
+    box.left = LVIR_BOUNDS;
+    box.top = static_cast<LONG>(column);
+    Send(LVM_GETSUBITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&box));
+    box.right = box.left + Send(LVM_GETCOLUMNWIDTH, column, 0);
+    return box;
+}
+
+int CListCtrlEx::PixelsOf(const ListColumn& column) const {
+    RECT box{0, 0, column.Width, 0};
+    MapDialogRect(GetParent(Handle()), &box);
+    return box.right;
+}
+
+} // namespace millichart
