@@ -112,7 +112,7 @@ std::optional<LRESULT> CListCtrlEx::OnReflected(UINT message, WPARAM, LPARAM lPa
         Tell(reinterpret_cast<NMLVDISPINFOW*>(lParam)->item);
         return 0;
     case NM_CUSTOMDRAW:
-        return OnDraw(*reinterpret_cast<const NMLVCUSTOMDRAW*>(lParam));
+        return OnDraw(*reinterpret_cast<NMLVCUSTOMDRAW*>(lParam));
     case NM_DBLCLK:
         if (reinterpret_cast<const NMITEMACTIVATE*>(lParam)->iItem >= 0) {
             OpenSoon();
@@ -128,6 +128,11 @@ std::optional<LRESULT> CListCtrlEx::OnMessage(UINT message, WPARAM wParam, LPARA
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
         return OnKey(wParam) ? std::optional<LRESULT>(0) : std::nullopt;
+    case WM_SETFOCUS:
+        if (CurrentRow() < 0) {
+            SetState(0, LVIS_FOCUSED);
+        }
+        return std::nullopt;
     case WM_CHAR: // else the list would look for a row that begins with it
         return 0;
     case WM_LBUTTONDOWN:
@@ -164,11 +169,12 @@ void CListCtrlEx::Tell(LVITEMW& item) const {
     }
 }
 
-LRESULT CListCtrlEx::OnDraw(const NMLVCUSTOMDRAW& draw) const {
+LRESULT CListCtrlEx::OnDraw(NMLVCUSTOMDRAW& draw) const {
     switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
         return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
+        draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_FOCUS); // a cell has it, not the row
         return CDRF_NOTIFYSUBITEMDRAW;
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
         if (!IsSample(m_rows.Columns()[static_cast<std::size_t>(draw.iSubItem)])) {
@@ -182,8 +188,11 @@ LRESULT CListCtrlEx::OnDraw(const NMLVCUSTOMDRAW& draw) const {
         return CDRF_DODEFAULT;
     }
     if (IsCurrent(draw)) {
-        const RECT box = CellBox(CurrentRow(), m_column);
-        DrawFocusRect(draw.nmcd.hdc, &box);
+        RECT box = CellBox(CurrentRow(), m_column);
+        for (int line = 0; line < 2; ++line) {
+            InflateRect(&box, -1, -1);
+            DrawFocusRect(draw.nmcd.hdc, &box);
+        }
     }
     return CDRF_SKIPDEFAULT;
 }
@@ -358,18 +367,23 @@ void CListCtrlEx::StretchLastColumn() {
 
 /// Selects a row, or the last, alone, after a change of rows.
 void CListCtrlEx::GoTo(std::size_t row, std::size_t column) {
-    LVITEMW state{};
-    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&state));
+    constexpr auto kAll = static_cast<std::size_t>(-1);
+    SetState(kAll, 0);
     ShowRows();
     if (m_rows.Count() > 0) {
         const std::size_t shown = std::min(row, m_rows.Count() - 1);
-        state.state = state.stateMask;
-        Send(LVM_SETITEMSTATE, shown, reinterpret_cast<LPARAM>(&state));
+        SetState(shown, LVIS_SELECTED | LVIS_FOCUSED);
         Send(LVM_ENSUREVISIBLE, shown, FALSE);
         GoToColumn(column);
     }
     TellChanged();
+}
+
+void CListCtrlEx::SetState(std::size_t row, UINT state) {
+    LVITEMW item{};
+    item.state = state;
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    Send(LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
 }
 
 /// Or to the last.
@@ -405,13 +419,11 @@ std::vector<std::size_t> CListCtrlEx::SelectedRows() const {
     return rows;
 }
 
-/// The list takes the first cell's for the row's.
 RECT CListCtrlEx::CellBox(int row, std::size_t column) const {
     RECT box{};
-    box.left = LVIR_BOUNDS;
+    box.left = LVIR_LABEL; // as the first cell's bounds are the row's
     box.top = static_cast<LONG>(column);
     Send(LVM_GETSUBITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&box));
-    box.right = box.left + Send(LVM_GETCOLUMNWIDTH, column, 0);
     return box;
 }
 

@@ -43,7 +43,7 @@ private:
     std::optional<LRESULT> OnReflected(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void Tell(LVITEMW& item) const;
-    LRESULT OnDraw(const NMLVCUSTOMDRAW& draw) const;
+    LRESULT OnDraw(NMLVCUSTOMDRAW& draw) const;
     void DrawSample(const NMLVCUSTOMDRAW& draw) const;
     bool OnKey(WPARAM key);
     void ShowMenu(POINT place);
@@ -65,6 +65,7 @@ private:
     void ShowRows();
     void StretchLastColumn();
     void GoTo(std::size_t row, std::size_t column);
+    void SetState(std::size_t row, UINT state);
     void GoToColumn(std::size_t column);
     void ScrollTo(const RECT& cell);
     void TellChanged();
