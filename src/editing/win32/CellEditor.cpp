@@ -5,6 +5,7 @@
 #include "editing/win32/WindowText.h"
 #include "penlode/text/StringUtil.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace millichart {
@@ -27,10 +28,15 @@ HWND MakeEdit(HWND list, const RECT& cell, const std::string& text) {
     return edit;
 }
 
-/// As high as the cell when it is closed, with room for all choices when it is open.
+/// As high as the cell when it is closed, with room for all choices when it is open; wider by its arrow, if
+/// the list has that room.
 HWND MakeChoices(HWND list, const RECT& cell, const ListColumn& column, const std::string& text) {
     constexpr WPARAM kClosed = static_cast<WPARAM>(-1);
+    RECT client;
+    GetClientRect(list, &client);
     RECT open = cell;
+    open.right =
+        std::max(cell.right, std::min<LONG>(cell.right + GetSystemMetrics(SM_CXVSCROLL), client.right));
     open.bottom += (cell.bottom - cell.top) * static_cast<LONG>(column.Choices.size() + 1);
     const HWND choices = MakeChild(list, WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL, open);
     for (const std::string_view choice : column.Choices) {

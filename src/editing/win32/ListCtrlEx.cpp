@@ -197,13 +197,12 @@ LRESULT CListCtrlEx::OnDraw(NMLVCUSTOMDRAW& draw) const {
     return CDRF_SKIPDEFAULT;
 }
 
+/// On the same ground in a selected row, whose colour could be the sample's own.
 void CListCtrlEx::DrawSample(const NMLVCUSTOMDRAW& draw) const {
     const auto row = static_cast<std::size_t>(draw.nmcd.dwItemSpec);
     const auto column = static_cast<std::size_t>(draw.iSubItem);
     const RECT box = CellBox(static_cast<int>(row), column);
-    const bool isSelected = Send(LVM_GETITEMSTATE, row, LVIS_SELECTED) != 0;
-    const int selected = GetFocus() == Handle() ? COLOR_HIGHLIGHT : COLOR_BTNFACE;
-    FillRect(draw.nmcd.hdc, &box, GetSysColorBrush(isSelected ? selected : COLOR_WINDOW));
+    FillRect(draw.nmcd.hdc, &box, GetSysColorBrush(COLOR_WINDOW));
     DrawScaled(
         Handle(), draw.nmcd.hdc, box, [&](penlode::IGraphicsEngine& engine, const penlode::RectF& place) {
             DrawCellSample(engine, place, m_rows.Columns()[column].Kind, m_rows.Cell(row, column), 96.0F);
