@@ -2,6 +2,7 @@
 
 #include "editing/CellSamples.h"
 #include "editing/win32/CellEditor.h"
+#include "editing/win32/ListView.h"
 #include "editing/win32/ScaledDrawing.h"
 #include "editing/win32/TextClipboard.h"
 #include "penlode/text/StringUtil.h"
@@ -62,21 +63,18 @@ CListCtrlEx::CListCtrlEx(HWND listView)
           return OnMessage(message, wParam, lParam);
       }) {
     constexpr DWORD kStyle = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER;
-    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyle, kStyle);
+    SendTo(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, kStyle, kStyle);
     const HIMAGELIST images = ImageList_Create(1, Scaled(listView, kRowHeight), ILC_COLOR, 0, 0);
-    Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
+    SendTo(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
 }
 
 CListCtrlEx::~CListCtrlEx() = default;
 
-int CListCtrlEx::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
-    return static_cast<int>(SendMessageW(Handle(), message, wParam, lParam));
-}
-
 void CListCtrlEx::SetColumns(std::span<const ListColumn> columns) {
-    while (Send(LVM_DELETECOLUMN, 0, 0) != FALSE) {
+    while (SendTo(Handle(), LVM_DELETECOLUMN, 0, 0) != FALSE) {
     }
     m_rows.SetColumns(columns);
+    SetRows(m_rows.Rows()); // with as many cells
     m_column = 0;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         std::wstring title = CStringUtil::Utf8ToWideString(columns[i].Title);
@@ -84,7 +82,7 @@ void CListCtrlEx::SetColumns(std::span<const ListColumn> columns) {
         column.mask = LVCF_TEXT | LVCF_WIDTH;
         column.pszText = title.data();
         column.cx = PixelsOf(columns[i]);
-        Send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+        SendTo(Handle(), LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
     }
     ShowRows();
 }
@@ -129,8 +127,8 @@ std::optional<LRESULT> CListCtrlEx::OnMessage(UINT message, WPARAM wParam, LPARA
     case WM_SYSKEYDOWN:
         return OnKey(wParam) ? std::optional<LRESULT>(0) : std::nullopt;
     case WM_SETFOCUS:
-        if (CurrentRow() < 0) {
-            SetState(0, LVIS_FOCUSED);
+        if (CurrentRow(Handle()) < 0) {
+            SetRowState(Handle(), 0, LVIS_FOCUSED);
         }
         return std::nullopt;
     case WM_CHAR: // else the list would look for a row that begins with it
@@ -140,11 +138,13 @@ std::optional<LRESULT> CListCtrlEx::OnMessage(UINT message, WPARAM wParam, LPARA
     case WM_RBUTTONDOWN:
         OnButtonDown(PointOf(lParam));
         return std::nullopt;
-    case WM_MOUSEWHEEL: // nor does a column's new width move what is over its cell
+    case WM_MOUSEWHEEL: // which moves the cell away below its edit
     case WM_VSCROLL:
     case WM_HSCROLL:
-    case WM_NOTIFY:
-        if (message != WM_NOTIFY || reinterpret_cast<const NMHDR*>(lParam)->code == HDN_BEGINTRACKW) {
+        FinishEdit();
+        return std::nullopt;
+    case WM_NOTIFY: // of the header
+        if (reinterpret_cast<const NMHDR*>(lParam)->code == HDN_BEGINTRACKW) {
             FinishEdit();
         }
         return std::nullopt;
@@ -188,11 +188,9 @@ LRESULT CListCtrlEx::OnDraw(NMLVCUSTOMDRAW& draw) const {
         return CDRF_DODEFAULT;
     }
     if (IsCurrent(draw)) {
-        RECT box = CellBox(CurrentRow(), m_column);
-        for (int line = 0; line < 2; ++line) {
-            InflateRect(&box, -1, -1);
-            DrawFocusRect(draw.nmcd.hdc, &box);
-        }
+        RECT box = CellBox(Handle(), CurrentRow(Handle()), m_column);
+        InflateRect(&box, -1, -1);
+        DrawFocusRect(draw.nmcd.hdc, &box);
     }
     return CDRF_SKIPDEFAULT;
 }
@@ -201,7 +199,7 @@ LRESULT CListCtrlEx::OnDraw(NMLVCUSTOMDRAW& draw) const {
 void CListCtrlEx::DrawSample(const NMLVCUSTOMDRAW& draw) const {
     const auto row = static_cast<std::size_t>(draw.nmcd.dwItemSpec);
     const auto column = static_cast<std::size_t>(draw.iSubItem);
-    const RECT box = CellBox(static_cast<int>(row), column);
+    const RECT box = CellBox(Handle(), static_cast<int>(row), column);
     FillRect(draw.nmcd.hdc, &box, GetSysColorBrush(COLOR_WINDOW));
     DrawScaled(
         Handle(), draw.nmcd.hdc, box, [&](penlode::IGraphicsEngine& engine, const penlode::RectF& place) {
@@ -211,7 +209,7 @@ void CListCtrlEx::DrawSample(const NMLVCUSTOMDRAW& draw) const {
 
 bool CListCtrlEx::IsCurrent(const NMLVCUSTOMDRAW& draw) const {
     return GetFocus() == Handle() && static_cast<std::size_t>(draw.iSubItem) == m_column &&
-           static_cast<int>(draw.nmcd.dwItemSpec) == CurrentRow();
+           static_cast<int>(draw.nmcd.dwItemSpec) == CurrentRow(Handle());
 }
 
 bool CListCtrlEx::OnKey(WPARAM key) {
@@ -228,7 +226,7 @@ bool CListCtrlEx::OnKey(WPARAM key) {
 void CListCtrlEx::ShowMenu(POINT place) {
     FinishEdit();
     if (place.x == -1 && place.y == -1) {
-        const RECT box = CellBox(std::max(CurrentRow(), 0), m_column);
+        const RECT box = CellBox(Handle(), std::max(CurrentRow(Handle()), 0), m_column);
         place = {box.left, box.bottom};
         ClientToScreen(Handle(), &place);
     }
@@ -251,21 +249,21 @@ void CListCtrlEx::ShowMenu(POINT place) {
 void CListCtrlEx::OnButtonDown(POINT place) {
     LVHITTESTINFO hit{};
     hit.pt = place;
-    if (Send(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)) >= 0) {
+    if (SendTo(Handle(), LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)) >= 0) {
         GoToColumn(static_cast<std::size_t>(hit.iSubItem));
     }
 }
 
 /// Below the rows that are selected, or at the end.
 void CListCtrlEx::Add() {
-    const std::vector<std::size_t> selected = SelectedRows();
+    const std::vector<std::size_t> selected = SelectedRows(Handle());
     const std::size_t at = selected.empty() ? m_rows.Count() : selected.back() + 1;
     m_rows.Add(at);
     GoTo(at, 0);
 }
 
 void CListCtrlEx::Remove() {
-    const std::vector<std::size_t> selected = SelectedRows();
+    const std::vector<std::size_t> selected = SelectedRows(Handle());
     if (!selected.empty()) {
         std::for_each(selected.rbegin(), selected.rend(), [this](std::size_t row) { m_rows.Remove(row, 1); });
         GoTo(selected.front(), 0);
@@ -281,14 +279,14 @@ void CListCtrlEx::MoveDown() {
 }
 
 void CListCtrlEx::Move(int step) {
-    if (const int row = CurrentRow(); row >= 0) {
+    if (const int row = CurrentRow(Handle()); row >= 0) {
         GoTo(m_rows.Move(static_cast<std::size_t>(row), step), m_column);
     }
 }
 
 void CListCtrlEx::Copy() {
     std::string text;
-    for (const std::size_t row : SelectedRows()) {
+    for (const std::size_t row : SelectedRows(Handle())) {
         text += m_rows.Copied(row, 1);
     }
     SetClipboardText(Handle(), text);
@@ -296,7 +294,7 @@ void CListCtrlEx::Copy() {
 
 /// From the current cell on.
 void CListCtrlEx::Paste() {
-    const int current = CurrentRow();
+    const int current = CurrentRow(Handle());
     const std::size_t row = current < 0 ? m_rows.Count() : static_cast<std::size_t>(current);
     m_rows.Paste(row, m_column, ClipboardText(Handle()));
     GoTo(row, m_column);
@@ -316,7 +314,7 @@ void CListCtrlEx::OpenSoon() {
 
 void CListCtrlEx::Open() {
     FinishEdit();
-    const int current = CurrentRow();
+    const int current = CurrentRow(Handle());
     if (current < 0) {
         return;
     }
@@ -329,78 +327,47 @@ void CListCtrlEx::Open() {
         }
         return;
     }
-    Send(LVM_ENSUREVISIBLE, row, FALSE);
-    ScrollTo(CellBox(current, m_column));
+    SendTo(Handle(), LVM_ENSUREVISIBLE, row, FALSE);
+    ScrollTo(Handle(), CellBox(Handle(), current, m_column));
     m_editor = std::make_unique<CellEditor>(
-        Handle(), CellBox(current, m_column), column, cell,
+        Handle(), CellBox(Handle(), current, m_column), column, cell,
         [this, row, at = m_column](const std::string& text) { SetCell(row, at, text); });
 }
 
 void CListCtrlEx::SetCell(std::size_t row, std::size_t column, const std::string& text) {
     if (text != m_rows.Cell(row, column) && m_rows.SetCell(row, column, text)) {
-        Send(LVM_REDRAWITEMS, row, static_cast<LPARAM>(row));
+        SendTo(Handle(), LVM_REDRAWITEMS, row, static_cast<LPARAM>(row));
         TellChanged();
     }
 }
 
 void CListCtrlEx::ShowRows() {
-    Send(LVM_SETITEMCOUNT, m_rows.Count(), 0);
-    StretchLastColumn();
+    SendTo(Handle(), LVM_SETITEMCOUNT, m_rows.Count(), 0);
+    if (const auto columns = m_rows.Columns(); !columns.empty()) {
+        StretchLastColumn(Handle(), columns.size(), PixelsOf(columns.back()));
+    }
     InvalidateRect(Handle(), nullptr, FALSE);
-}
-
-/// To the end of the list, if there is room.
-void CListCtrlEx::StretchLastColumn() {
-    const std::span<const ListColumn> columns = m_rows.Columns();
-    if (columns.empty()) {
-        return;
-    }
-    RECT client;
-    GetClientRect(Handle(), &client);
-    LONG room = client.right;
-    for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
-        room -= Send(LVM_GETCOLUMNWIDTH, i, 0);
-    }
-    Send(LVM_SETCOLUMNWIDTH, columns.size() - 1, std::max<LONG>(room, PixelsOf(columns.back())));
 }
 
 /// Selects a row, or the last, alone, after a change of rows.
 void CListCtrlEx::GoTo(std::size_t row, std::size_t column) {
-    constexpr auto kAll = static_cast<std::size_t>(-1);
-    SetState(kAll, 0);
+    ClearRowStates(Handle());
     ShowRows();
     if (m_rows.Count() > 0) {
         const std::size_t shown = std::min(row, m_rows.Count() - 1);
-        SetState(shown, LVIS_SELECTED | LVIS_FOCUSED);
-        Send(LVM_ENSUREVISIBLE, shown, FALSE);
+        SetRowState(Handle(), shown, LVIS_SELECTED | LVIS_FOCUSED);
+        SendTo(Handle(), LVM_ENSUREVISIBLE, shown, FALSE);
         GoToColumn(column);
     }
     TellChanged();
 }
 
-void CListCtrlEx::SetState(std::size_t row, UINT state) {
-    LVITEMW item{};
-    item.state = state;
-    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    Send(LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
-}
-
 /// Or to the last.
 void CListCtrlEx::GoToColumn(std::size_t column) {
     m_column = std::min(column, m_rows.Columns().size() - 1);
-    if (const int row = CurrentRow(); row >= 0) {
-        ScrollTo(CellBox(row, m_column));
-        Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
-    }
-}
-
-/// Sideways, so that a cell shows, at least from its beginning.
-void CListCtrlEx::ScrollTo(const RECT& cell) {
-    RECT client;
-    GetClientRect(Handle(), &client);
-    const LONG hidden = std::min(cell.left, std::max<LONG>(cell.right - client.right, 0));
-    if (hidden != 0) {
-        Send(LVM_SCROLL, static_cast<WPARAM>(hidden), 0);
+    if (const int row = CurrentRow(Handle()); row >= 0) {
+        ScrollTo(Handle(), CellBox(Handle(), row, m_column));
+        SendTo(Handle(), LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
     }
 }
 
@@ -408,22 +375,6 @@ void CListCtrlEx::TellChanged() {
     if (OnChanged) {
         OnChanged();
     }
-}
-
-std::vector<std::size_t> CListCtrlEx::SelectedRows() const {
-    std::vector<std::size_t> rows;
-    for (int row = -1; (row = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0;) {
-        rows.push_back(static_cast<std::size_t>(row));
-    }
-    return rows;
-}
-
-RECT CListCtrlEx::CellBox(int row, std::size_t column) const {
-    RECT box{};
-    box.left = LVIR_LABEL; // as the first cell's bounds are the row's
-    box.top = static_cast<LONG>(column);
-    Send(LVM_GETSUBITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&box));
-    return box;
 }
 
 int CListCtrlEx::PixelsOf(const ListColumn& column) const {

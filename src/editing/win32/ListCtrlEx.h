@@ -63,21 +63,11 @@ private:
 
     void SetCell(std::size_t row, std::size_t column, const std::string& text);
     void ShowRows();
-    void StretchLastColumn();
     void GoTo(std::size_t row, std::size_t column);
-    void SetState(std::size_t row, UINT state);
     void GoToColumn(std::size_t column);
-    void ScrollTo(const RECT& cell);
     void TellChanged();
 
-    int Send(UINT message, WPARAM wParam, LPARAM lParam) const;
-
-    /// −1 if there is none.
-    int CurrentRow() const { return Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED); }
-
     bool IsCurrent(const NMLVCUSTOMDRAW& draw) const;
-    std::vector<std::size_t> SelectedRows() const;
-    RECT CellBox(int row, std::size_t column) const;
     int PixelsOf(const ListColumn& column) const;
 
     ListRows m_rows;
