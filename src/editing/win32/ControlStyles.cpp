@@ -22,8 +22,8 @@ HANDLE Context() {
 
 ControlStyles::ControlStyles()
     : m_isActive(Context() != INVALID_HANDLE_VALUE && ActivateActCtx(Context(), &m_cookie) != FALSE) {
-    const INITCOMMONCONTROLSEX classes{sizeof classes,
-                                       ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS | ICC_TAB_CLASSES};
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS |
+                                                           ICC_TAB_CLASSES | ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&classes);
 }
 

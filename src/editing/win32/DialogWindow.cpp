@@ -33,6 +33,8 @@ bool IsClick(ControlKind kind, int code) {
     case ControlKind::DropDownList:
     case ControlKind::LineStyles:
         return code == CBN_SELCHANGE;
+    case ControlKind::PositionPicker:
+        return code == STN_CLICKED;
     default:
         return false;
     }
@@ -103,16 +105,25 @@ void DialogWindow::Furnish(std::size_t index) {
     const std::span<const Control> controls = m_dialog.Template().Controls;
     const Control& control = controls[index];
     const HWND window = Item(control.Id);
-    const auto color = [&]<class Class>(std::unique_ptr<Class> made) {
-        m_colors[control.Id] = made.get();
+    // What shows no text of its own is named for screen readers.
+    const auto keep = [&]<class Class>(std::unique_ptr<Class> made, auto& kept) {
+        kept[control.Id] = made.get();
         m_reflected.push_back(std::move(made));
         SetWindowTextW(window, CStringUtil::Utf8ToWideString(AccessibleName(controls, index)).c_str());
     };
     switch (control.Kind) {
     case ControlKind::ColorButton:
-        return color(std::make_unique<marrowkit::CColorButton>(window));
+        return keep(std::make_unique<marrowkit::CColorButton>(window), m_colors);
     case ControlKind::ColorPane:
-        return color(std::make_unique<CColorPane>(window));
+        return keep(std::make_unique<CColorPane>(window), m_colors);
+    case ControlKind::PositionPicker:
+        return keep(std::make_unique<PositionPicker>(window), m_pickers);
+    case ControlKind::EditableList: {
+        auto list = std::make_unique<CListCtrlEx>(window);
+        list->OnChanged = [this] { TellSoon(); };
+        list->EditInDialog = [this](auto edit, std::string& cell) { return EditCell(edit, cell); };
+        return keep(std::move(list), m_lists);
+    }
     case ControlKind::Edit:
     case ControlKind::ReadOnlyEdit:
         return CentreText(window);
@@ -189,7 +200,24 @@ void DialogWindow::OnCommand(int id, int code) {
     }
 }
 
+/// Called by a list, which lets nothing through that throws.
+bool DialogWindow::EditCell(bool (*edit)(DialogView&, std::string&), std::string& cell) {
+    try {
+        return edit(*this, cell);
+    } catch (...) {
+        Close(false);
+        return false;
+    }
+}
+
+void DialogWindow::FinishEdits() {
+    for (const auto& [id, list] : m_lists) {
+        list->FinishEdit();
+    }
+}
+
 void DialogWindow::OnOK() {
+    FinishEdits();
     if (m_dialog.OnOK(*this)) {
         KillTimer(Handle(), kChangeTimer);
         Close(true);
@@ -241,12 +269,30 @@ void DialogWindow::SetItems(int id, std::span<const std::string_view> items) {
     }
 }
 
+void DialogWindow::SetColumns(int id, std::span<const ListColumn> columns) {
+    m_lists.at(id)->SetColumns(columns);
+}
+
+void DialogWindow::SetRows(int id, std::vector<ListRow> rows) {
+    m_lists.at(id)->SetRows(std::move(rows));
+}
+
+std::vector<ListRow> DialogWindow::Rows(int id) const {
+    return m_lists.at(id)->Rows();
+}
+
 int DialogWindow::Selection(int id) const {
-    return static_cast<int>(SendMessageW(Item(id), CB_GETCURSEL, 0, 0));
+    const auto picker = m_pickers.find(id);
+    return picker != m_pickers.end() ? picker->second->Selection()
+                                     : static_cast<int>(SendMessageW(Item(id), CB_GETCURSEL, 0, 0));
 }
 
 void DialogWindow::Select(int id, int index) {
-    SendMessageW(Item(id), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    if (const auto picker = m_pickers.find(id); picker != m_pickers.end()) {
+        picker->second->Select(index);
+    } else {
+        SendMessageW(Item(id), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    }
 }
 
 std::uint32_t DialogWindow::ShownColor(int id) const {

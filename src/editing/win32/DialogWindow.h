@@ -2,7 +2,9 @@
 
 #include "editing/Dialog.h"
 #include "editing/win32/ColorControl.h"
+#include "editing/win32/ListCtrlEx.h"
 #include "editing/win32/NativeDialog.h"
+#include "editing/win32/PositionPicker.h"
 
 #include <map>
 #include <memory>
@@ -18,11 +20,17 @@ public:
     /// True after OK.
     bool Show(HWND owner);
 
+    /// Takes what is still being edited in a list's cell.
+    void FinishEdits();
+
     std::string Text(int id) const override;
     void SetText(int id, std::string_view text) override;
     bool IsChecked(int id) const override;
     void SetChecked(int id, bool checked) override;
     void SetItems(int id, std::span<const std::string_view> items) override;
+    void SetColumns(int id, std::span<const ListColumn> columns) override;
+    void SetRows(int id, std::vector<ListRow> rows) override;
+    std::vector<ListRow> Rows(int id) const override;
     int Selection(int id) const override;
     void Select(int id, int index) override;
     std::uint32_t ShownColor(int id) const override;
@@ -55,12 +63,15 @@ private:
     void PlaceClosedList(HWND list, const Control& control);
     void OnCommand(int id, int code);
     void OnStep(const NMUPDOWN& step);
+    bool EditCell(bool (*edit)(DialogView&, std::string&), std::string& cell);
     void TellSoon();
 
     HWND Root() const { return GetAncestor(Handle(), GA_ROOT); }
 
     std::vector<std::unique_ptr<ReflectedControl>> m_reflected;
     std::map<int, ColorControl*> m_colors;
+    std::map<int, CListCtrlEx*> m_lists;
+    std::map<int, PositionPicker*> m_pickers;
     bool m_isSetting = false; ///< the program changes an edit, not the user
 };
 

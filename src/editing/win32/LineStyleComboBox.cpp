@@ -1,7 +1,7 @@
 #include "editing/win32/LineStyleComboBox.h"
 
 #include "editing/LineStyleItem.h"
-#include "penlode/GraphicsEngine.h"
+#include "editing/win32/ScaledDrawing.h"
 
 #include <string>
 
@@ -28,22 +28,12 @@ int CLineStyleComboBox::CompareItem(const COMPAREITEMSTRUCT&) {
     return 0;
 }
 
-/// The engine counts in pixels of 96 dpi.
 void CLineStyleComboBox::DrawItem(const DRAWITEMSTRUCT& item) {
-    const auto engine = penlode::CGraphicsEngine::ForDeviceContext(item.hDC);
-    if (engine == nullptr) {
-        return;
-    }
-    const float scale = static_cast<float>(GetDpiForWindow(Handle())) / 96.0F;
-    engine->SetPageUnit(penlode::Unit::Pixel);
-    engine->SetPageScale(scale);
-    const auto scaled = [scale](LONG pixels) { return static_cast<float>(pixels) / scale; };
-    const RECT& box = item.rcItem;
-    DrawLineStyleItem(
-        *engine,
-        {scaled(box.left), scaled(box.top), scaled(box.right - box.left), scaled(box.bottom - box.top)},
-        static_cast<int>(item.itemID), (item.itemState & ODS_FOCUS) != 0,
-        (item.itemState & ODS_SELECTED) != 0);
+    DrawScaled(Handle(), item.hDC, item.rcItem,
+               [&item](penlode::IGraphicsEngine& engine, const penlode::RectF& box) {
+                   DrawLineStyleItem(engine, box, static_cast<int>(item.itemID),
+                                     (item.itemState & ODS_FOCUS) != 0, (item.itemState & ODS_SELECTED) != 0);
+               });
 }
 
 std::optional<LRESULT> CLineStyleComboBox::OnReflected(UINT message, WPARAM, LPARAM lParam) {

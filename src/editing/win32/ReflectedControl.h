@@ -1,8 +1,6 @@
 #pragma once
 
-#include "editing/win32/Windows.h"
-
-#include <optional>
+#include "editing/win32/MessageFilter.h"
 
 namespace millichart {
 
@@ -10,7 +8,7 @@ namespace millichart {
 /// parent about it comes here first. Object and window may go in either order.
 class ReflectedControl {
 public:
-    virtual ~ReflectedControl();
+    virtual ~ReflectedControl() = default;
 
     ReflectedControl(const ReflectedControl&) = delete;
     ReflectedControl& operator=(const ReflectedControl&) = delete;
@@ -24,13 +22,10 @@ protected:
     virtual std::optional<LRESULT> OnReflected(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
 private:
-    static LRESULT CALLBACK ParentProcedure(HWND parent, UINT message, WPARAM wParam, LPARAM lParam,
-                                            UINT_PTR id, DWORD_PTR object);
-
     bool IsAbout(UINT message, LPARAM lParam) const;
 
     HWND m_window;
-    HWND m_parent;
+    MessageFilter m_parent;
 };
 
 } // namespace millichart

@@ -37,11 +37,13 @@ int TabStep(const MSG& message) {
     }
 }
 
-void Resize(HWND window, int wider, int higher) {
+/// In its parent, or on the screen.
+void Grow(HWND window, int shiftX, int shiftY, int wider, int higher) {
     RECT place;
     GetWindowRect(window, &place);
-    SetWindowPos(window, nullptr, 0, 0, place.right - place.left + wider, place.bottom - place.top + higher,
-                 SWP_NOMOVE | SWP_NOZORDER);
+    MapWindowPoints(nullptr, GetAncestor(window, GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
+    SetWindowPos(window, nullptr, place.left + shiftX, place.top + shiftY, place.right - place.left + wider,
+                 place.bottom - place.top + higher, SWP_NOZORDER);
 }
 
 } // namespace
@@ -84,9 +86,9 @@ private:
 };
 
 SheetWindow::SheetWindow(Sheet& sheet) : m_sheet(sheet), m_pages(sheet.Pages().size()) {
-    for (const Dialog* const page : sheet.Pages()) {
-        m_pageSize.cx = std::max<LONG>(m_pageSize.cx, page->Template().Width);
-        m_pageSize.cy = std::max<LONG>(m_pageSize.cy, page->Template().Height);
+    for (const SheetPage& page : sheet.Pages()) {
+        m_pageSize.cx = std::max<LONG>(m_pageSize.cx, page.Page->Template().Width);
+        m_pageSize.cy = std::max<LONG>(m_pageSize.cy, page.Page->Template().Height);
     }
 }
 
@@ -139,8 +141,8 @@ bool SheetWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void SheetWindow::OnInitDialog() {
-    for (const Dialog* const page : m_sheet.Pages()) {
-        std::wstring title = CStringUtil::Utf8ToWideString(page->Template().Title);
+    for (const SheetPage& page : m_sheet.Pages()) {
+        std::wstring title = CStringUtil::Utf8ToWideString(page.Title);
         TCITEMW tab{};
         tab.mask = TCIF_TEXT;
         tab.pszText = title.data();
@@ -151,7 +153,8 @@ void SheetWindow::OnInitDialog() {
     FocusFirst();
 }
 
-/// The template has room for the pages alone: how much tabs and borders need, only their window knows.
+/// The template has room for the pages alone: how much tabs and borders need, only their window knows. The
+/// sheet stays in the middle of the screen.
 void SheetWindow::MakeRoomForTabs() {
     RECT page{0, 0, m_pageSize.cx, m_pageSize.cy};
     MapDialogRect(Handle(), &page);
@@ -159,18 +162,19 @@ void SheetWindow::MakeRoomForTabs() {
     TabCtrl_AdjustRect(Item(kTabs), TRUE, &whole);
     const int wider = whole.right - whole.left - page.right;
     const int higher = whole.bottom - whole.top - page.bottom;
-    Resize(Item(kTabs), wider, higher);
-    Resize(Handle(), wider, higher);
+    Grow(Item(kTabs), 0, 0, wider, higher);
+    Grow(Handle(), -wider / 2, -higher / 2, wider, higher);
     for (const int button : {kOkButton, kCancelButton}) {
-        RECT place;
-        GetWindowRect(Item(button), &place);
-        MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&place), 2);
-        SetWindowPos(Item(button), nullptr, place.left + wider, place.top + higher, 0, 0,
-                     SWP_NOSIZE | SWP_NOZORDER);
+        Grow(Item(button), wider, higher, 0, 0);
     }
 }
 
 void SheetWindow::OnOK() {
+    for (const auto& page : m_pages) {
+        if (page != nullptr) {
+            page->FinishEdits();
+        }
+    }
     if (m_sheet.OnOK(Views())) {
         Close(true);
     }
@@ -183,7 +187,8 @@ void SheetWindow::OnChanged() {
 void SheetWindow::Open(int index) {
     auto& page = m_pages[static_cast<std::size_t>(index)];
     if (page == nullptr) {
-        page = std::make_unique<Page>(*this, *m_sheet.Pages()[static_cast<std::size_t>(index)], index);
+        Dialog& dialog = *m_sheet.Pages()[static_cast<std::size_t>(index)].Page;
+        page = std::make_unique<Page>(*this, dialog, index);
         page->Open();
     }
     ShowWindow(page->Handle(), SW_SHOW);

@@ -43,6 +43,11 @@ WindowKind KindOf(ControlKind kind) {
         return {WC_BUTTONW, BS_OWNERDRAW | WS_TABSTOP};
     case ControlKind::ColorPane:
         return {WC_STATICW, SS_OWNERDRAW};
+    case ControlKind::EditableList:
+        return {WC_LISTVIEWW, LVS_REPORT | LVS_OWNERDATA | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER | WS_TABSTOP,
+                WS_EX_CLIENTEDGE};
+    case ControlKind::PositionPicker:
+        return {WC_STATICW, SS_OWNERDRAW | SS_NOTIFY | WS_TABSTOP};
     case ControlKind::Stepper:
         return {UPDOWN_CLASSW, UDS_ALIGNRIGHT | UDS_ARROWKEYS};
     }

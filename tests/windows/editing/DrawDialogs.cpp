@@ -3,6 +3,7 @@
 #include "foundation/TextProperty.h"
 #include "penlode/GraphicsEngine.h"
 #include "penlode/Pen.h"
+#include "support/SomeRecords.h"
 #include "windows/editing/Driver.h"
 
 #include <fstream>
@@ -152,6 +153,32 @@ void DrawRanges() {
     Show(user, [&] { EditLogarithmValueRange(&minimum, &maximum); });
 }
 
+/// The pages of the sheet that `edit` opens, one after the other.
+template <class Prop>
+void DrawSheet(const wchar_t* title, const std::vector<const char*>& names, Prop prop, bool (*edit)(Prop*)) {
+    Driver user;
+    for (const char* const name : names) {
+        Take(user, name, Titled(title));
+        user.In(title, [](HWND) { Strike(VK_TAB, VK_CONTROL); });
+    }
+    user.In(title, [](HWND sheet) { Press(sheet, IDCANCEL); });
+    Show(user, [&] { edit(&prop); });
+}
+
+void DrawSheets() {
+    using namespace millichart;
+    DrawSheet(L"直方图属性",
+              {"histogram-plot", "histogram-vertical", "histogram-horizontal", "caption", "legend"},
+              SomeHistogram(), &EditHistogramProp);
+    DrawSheet(L"曲线属性",
+              {"curve-plot", "curve-vertical", "curve-horizontal", "curve-caption", "curve-legend"},
+              SomeCurves(), &EditCurveProp);
+    DrawSheet(L"饼图属性", {"pie", "pie-label", "pie-legend"}, SomePie(), &EditPieProp);
+    DrawSheet(L"半饼图属性", {"half-pie", "half-pie-label"}, SomeHalf(), &EditHalfPieProp);
+    DrawSheet(L"半饼_半饼图属性", {"two-halves-1", "two-halves-2", "two-halves-3", "two-halves-4"},
+              HalfPieHalfPieProp{SomeHalf(), SomeHalf()}, &EditHalfPieHalfPieProp);
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
@@ -169,5 +196,6 @@ int main(int count, char** arguments) {
     DrawPen();
     DrawText();
     DrawRanges();
+    DrawSheets();
     return g_failed ? 1 : 0;
 }

@@ -118,6 +118,15 @@ HWND DialogTitled(const wchar_t* title) {
     return sought.Found;
 }
 
+HWND FrontPage(const wchar_t* title) {
+    const HWND sheet = DialogTitled(title);
+    HWND page = nullptr;
+    do {
+        page = FindWindowExW(sheet, page, L"#32770", nullptr);
+    } while (page != nullptr && IsWindowVisible(page) == FALSE);
+    return page;
+}
+
 HWND DialogOn(const wchar_t* title) {
     const HWND top = GetActiveWindow();
     return top != nullptr && top != DialogTitled(title) && TextOf(GetWindow(top, GW_OWNER)) == title

@@ -57,6 +57,9 @@ private:
 /// The visible dialog of that title, not a message box; null if there is none.
 HWND DialogTitled(const wchar_t* title);
 
+/// The page in front of the sheet of that title.
+HWND FrontPage(const wchar_t* title);
+
 /// The active dialog of the system's that stands on the dialog of that title; null if there is none.
 HWND DialogOn(const wchar_t* title);
 

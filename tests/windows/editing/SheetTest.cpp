@@ -92,13 +92,13 @@ class TestSheet final : public Sheet {
 public:
     std::string_view Title() const override { return "页"; }
 
-    std::span<Dialog* const> Pages() override { return m_pages; }
+    std::vector<SheetPage> Pages() override { return {{&First, "第一页"}, {&Second, "第二页"}}; }
 
     void OnChanged(std::span<DialogView* const>) override { ++Changes; }
 
     bool OnOK(std::span<DialogView* const> views) override {
         for (std::size_t i = 0; i < views.size(); ++i) {
-            if (views[i] != nullptr && !m_pages[i]->OnOK(*views[i])) {
+            if (views[i] != nullptr && !Pages()[i].Page->OnOK(*views[i])) {
                 return false;
             }
         }
@@ -108,18 +108,10 @@ public:
     TestPage First{kFirstPage};
     TestPage Second{kSecondPage};
     int Changes = 0;
-
-private:
-    std::array<Dialog*, 2> m_pages{&First, &Second};
 };
 
-/// The page that is seen.
 HWND Front() {
-    HWND page = nullptr;
-    do {
-        page = FindWindowExW(DialogTitled(kTitle), page, L"#32770", nullptr);
-    } while (page != nullptr && IsWindowVisible(page) == FALSE);
-    return page;
+    return FrontPage(kTitle);
 }
 
 HWND FrontOf(const DialogTemplate& page) {
