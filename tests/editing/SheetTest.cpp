@@ -86,6 +86,7 @@ void ExpectEveryFieldHasAControl(const Prop& prop, bool (*edit)(Prop*), const Se
     EXPECT_EQ(Edited(plain, edit, false), plain);
     const Prop changed = Edited(plain, edit, true);
     EXPECT_EQ(Places(FieldsOf(plain, serialize), FieldsOf(changed, serialize), true), withoutControl);
+    EXPECT_EQ(Edited(changed, edit, false), changed);
 }
 
 const auto kPie = [](auto& s, auto& p, auto* tag) { CPiePropSerialize::SerializePieProp(s, p, tag); };

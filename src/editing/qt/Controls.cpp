@@ -1,5 +1,6 @@
 #include "editing/qt/Controls.h"
 
+#include "editing/AccessibleName.h"
 #include "editing/qt/ColorButton.h"
 #include "editing/qt/ColorPane.h"
 #include "editing/qt/DialogUnits.h"
@@ -19,8 +20,6 @@
 
 namespace millichart {
 namespace {
-
-using Controls = std::span<const Control>;
 
 /// An edit that looks like what it is on, as its text cannot be changed.
 QWidget* MakeReadOnlyEdit(QWidget& panel) {
@@ -99,35 +98,9 @@ QRect PlaceOf(const Control& control, const QWidget& widget, const DialogUnits& 
     return more > 0 ? place.adjusted(0, -more / 2, 0, more - more / 2) : place;
 }
 
-/// Whose text names a control: its own, or its neighbour's.
-std::string_view NamingText(Controls controls, std::size_t index) {
-    if (!controls[index].Text.empty() || index == 0) {
-        return controls[index].Text;
-    }
-    const bool isStepper = controls[index].Kind == ControlKind::Stepper && index > 1;
-    const Control& before = controls[index - (isStepper ? 2 : 1)];
-    const bool isBeforeButton =
-        index + 1 < controls.size() && controls[index + 1].Kind == ControlKind::Button;
-    return before.Kind != ControlKind::Label && isBeforeButton ? controls[index + 1].Text : before.Text;
-}
-
-/// Without the mark of its mnemonic and the colon.
-QString PlainName(QString name) {
-    name.remove(QLatin1Char('&'));
-    if (name.endsWith(QLatin1Char(':'))) {
-        name.chop(1);
-    }
-    return name;
-}
-
-QString AccessibleName(Controls controls, std::size_t index) {
-    return PlainName(ToQString(NamingText(controls, index)));
-}
-
 /// A label hands its mnemonic to the control that it names, and a radio button joins the one before it.
-void Join(QWidget* control, QWidget* before) {
-    auto* label = dynamic_cast<QLabel*>(before);
-    if (label != nullptr && control->accessibleName() == PlainName(label->text())) {
+void Join(QWidget* control, bool hasText, QWidget* before) {
+    if (auto* label = dynamic_cast<QLabel*>(before); label != nullptr && !hasText) {
         label->setBuddy(control);
     }
     if (auto* radio = dynamic_cast<QRadioButton*>(control)) {
@@ -146,9 +119,9 @@ std::vector<QWidget*> MakeControls(const DialogTemplate& shown, QWidget& panel) 
         const Control& control = shown.Controls[i];
         QWidget* widget = MakeControl(control, before, panel);
         widget->setGeometry(PlaceOf(control, *widget, units));
-        widget->setAccessibleName(AccessibleName(shown.Controls, i));
+        widget->setAccessibleName(ToQString(AccessibleName(shown.Controls, i)));
         widget->show(); // a page may be on the screen already
-        Join(widget, before);
+        Join(widget, !control.Text.empty(), before);
         widgets.push_back(widget);
         before = widget;
     }

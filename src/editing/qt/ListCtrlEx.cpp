@@ -135,11 +135,12 @@ public:
     }
 
 private:
-    /// A cell's ground, selected or not, without its text.
+    /// A cell's ground without its text.
     void PaintEmpty(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
         QStyleOptionViewItem empty = option;
         initStyleOption(&empty, index);
         empty.text.clear();
+        empty.state.setFlag(QStyle::State_Selected, false); // on which a line might not be seen
         m_list.style()->drawControl(QStyle::CE_ItemViewItem, &empty, &painter, &m_list);
     }
 

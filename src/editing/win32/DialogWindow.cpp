@@ -1,6 +1,6 @@
 #include "editing/win32/DialogWindow.h"
 
-#include "editing/win32/AccessibleName.h"
+#include "editing/AccessibleName.h"
 #include "editing/win32/CentredEdit.h"
 #include "editing/win32/ColorButton.h"
 #include "editing/win32/ColorPane.h"

@@ -170,13 +170,12 @@ void DrawSheets() {
     DrawSheet(L"直方图属性",
               {"histogram-plot", "histogram-vertical", "histogram-horizontal", "caption", "legend"},
               SomeHistogram(), &EditHistogramProp);
-    DrawSheet(L"曲线属性",
-              {"curve-plot", "curve-vertical", "curve-horizontal", "curve-caption", "curve-legend"},
-              SomeCurves(), &EditCurveProp);
-    DrawSheet(L"饼图属性", {"pie", "pie-label", "pie-legend"}, SomePie(), &EditPieProp);
-    DrawSheet(L"半饼图属性", {"half-pie", "half-pie-label"}, SomeHalf(), &EditHalfPieProp);
-    DrawSheet(L"半饼_半饼图属性", {"two-halves-1", "two-halves-2", "two-halves-3", "two-halves-4"},
-              HalfPieHalfPieProp{SomeHalf(), SomeHalf()}, &EditHalfPieHalfPieProp);
+    DrawSheet(L"曲线属性", {"curve-plot", "curve-vertical", "curve-horizontal"}, SomeCurves(),
+              &EditCurveProp);
+    DrawSheet(L"饼图属性", {"pie", "pie-label"}, SomePie(), &EditPieProp);
+    DrawSheet(L"半饼图属性", {"half-pie"}, SomeHalf(), &EditHalfPieProp);
+    DrawSheet(L"半饼_半饼图属性", {"two-halves"}, HalfPieHalfPieProp{SomeHalf(), SomeHalf()},
+              &EditHalfPieHalfPieProp);
 }
 
 } // namespace

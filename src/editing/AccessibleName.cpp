@@ -1,4 +1,4 @@
-#include "editing/win32/AccessibleName.h"
+#include "editing/AccessibleName.h"
 
 #include <algorithm>
 
