@@ -253,10 +253,10 @@ void CListCtrlEx::Add() {
 }
 
 void CListCtrlEx::Remove() {
-    const auto [first, count] = SelectedRows();
-    if (count > 0) {
-        m_model->Reset([first, count](ListRows& rows) { rows.Remove(first, count); });
-        GoTo(first, 0);
+    const auto selected = SelectedRows();
+    if (selected.second > 0) {
+        m_model->Reset([selected](ListRows& rows) { rows.Remove(selected.first, selected.second); });
+        GoTo(selected.first, 0);
     }
 }
 
