@@ -73,7 +73,11 @@ TEST(PenDialog, IsUsedByKeyboardAlone) {
         User::Press(Qt::Key_C, Qt::AltModifier);
         User::Press(Qt::Key_Space);
     });
-    user.In("选择颜色", [] {
+    const auto hasFocus = [] {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus != nullptr && focus->window() == &User::Front();
+    };
+    user.In("选择颜色", hasFocus, [] {
         User::Press(Qt::Key_H, Qt::AltModifier);
         User::Type("#0a0b0c");
         User::Press(Qt::Key_Return);

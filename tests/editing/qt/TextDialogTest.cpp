@@ -39,11 +39,7 @@ TEST(TextDialog, EnablesAndPicksColors) {
     });
     user.In(
         kTitle, [] { return IsEnabled("边框颜色(D)..."); }, [] { User::Press(Qt::Key_D, Qt::AltModifier); });
-    user.In("选择颜色", [] {
-        User::Press(Qt::Key_H, Qt::AltModifier);
-        User::Type("#123456");
-        Accept();
-    });
+    user.In("选择颜色", [] { User::EnterColor("#123456"); });
     user.In(kTitle, [] {
         EXPECT_EQ(User::Find<CColorPane>("边框颜色(D)...").Color(), 0x563412U);
         User::Press(Qt::Key_K, Qt::AltModifier);
@@ -89,11 +85,7 @@ TEST(TextDialog, KeepsWhatTheFontDialogLeavesAsItIs) {
             User::Press(Qt::Key_C, Qt::AltModifier);
             User::Press(Qt::Key_Space);
         });
-        user.In("选择颜色", [] {
-            User::Press(Qt::Key_H, Qt::AltModifier);
-            User::Type("#0000ff");
-            Accept();
-        });
+        user.In("选择颜色", [] { User::EnterColor("#0000ff"); });
         user.In("选择字体", [] { User::Find<QPushButton>("确定").click(); });
         user.In(kTitle, [] { User::Find<QPushButton>("确定").click(); });
         TextProperty property;

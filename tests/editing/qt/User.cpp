@@ -3,6 +3,7 @@
 #include "editing/qt/EditingCall.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -69,6 +70,16 @@ void User::Type(const char* text) {
     QInputMethodEvent event;
     event.setCommitString(QString::fromUtf8(text));
     QApplication::sendEvent(QApplication::focusWidget(), &event);
+}
+
+void User::EnterColor(const char* color) {
+    for (QLineEdit* edit : Front().findChildren<QLineEdit*>()) {
+        if (edit->text().startsWith(QLatin1Char('#'))) {
+            edit->setText(QString::fromUtf8(color));
+            Q_EMIT edit->textEdited(edit->text());
+        }
+    }
+    Find<QPushButton>("确定").click();
 }
 
 QDialog& User::Front() {

@@ -32,6 +32,9 @@ public:
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     static void Type(const char* text);
 
+    /// In the colour dialog, "#rrggbb" and OK.
+    static void EnterColor(const char* color);
+
     static QDialog& Front();
 
     /// The control with this accessible name in the front window.
