@@ -40,8 +40,14 @@ TEST(NumberInput, ReadsAsCDoesButNoWordsAndNoHexadecimal) {
     EXPECT_EQ(ReadNumber("0x1F"), 0.0);
     EXPECT_EQ(ReadNumber("-1e999"), -std::numeric_limits<double>::max());
     EXPECT_EQ(ReadNumber("1e-999"), 0.0);
-    EXPECT_EQ(ReadNumber("0." + std::string(400, '0') + "1"), 0.0);
-    EXPECT_EQ(ReadNumber(std::string(400, '9') + "e-10"), std::numeric_limits<double>::max());
+    std::string tiny = "0.";
+    tiny.resize(400, '0');
+    tiny.push_back('1');
+    EXPECT_EQ(ReadNumber(tiny), 0.0);
+    std::string huge;
+    huge.resize(400, '9');
+    huge.append("e-10");
+    EXPECT_EQ(ReadNumber(huge), std::numeric_limits<double>::max());
     EXPECT_EQ(ReadInteger("45deg"), 45);
     EXPECT_EQ(ReadInteger(" -7.9"), -7);
     EXPECT_EQ(ReadInteger("abc"), 0);
