@@ -11,18 +11,22 @@ using namespace millichart;
 
 namespace {
 
-/// Opens a window on a copy of the record, which takes it back after OK.
+/// Shows a window on a copy of the record, which takes it back after OK.
+template <class Window, class Record> bool Run(Window& window, Record& record) {
+    const bool isAccepted = RunModal(window);
+    if (isAccepted) {
+        Record edited = window.Edited(); // may run out of memory, and then leaves the record whole
+        record = std::move(edited);
+    }
+    return isAccepted;
+}
+
 template <class Window, class Record> bool Edit(Record* record) {
     if (record == nullptr) {
         return false;
     }
     Window window(*record);
-    const bool isAccepted = RunModal(window);
-    if (isAccepted) {
-        Record edited = window.Edited(); // may run out of memory, and then leaves the record whole
-        *record = std::move(edited);
-    }
-    return isAccepted;
+    return Run(window, *record);
 }
 
 template <class Window, class Record>
@@ -31,11 +35,8 @@ bool Edit(Record* record, const std::function<void(const Record&)>& preview) {
         return Edit<Window>(record);
     }
     Previewed<Window> window(Window(*record), preview);
-    const bool isAccepted = RunModal(window);
-    if (isAccepted) {
-        Record edited = window.Edited();
-        *record = std::move(edited);
-    } else {
+    const bool isAccepted = Run(window, *record);
+    if (!isAccepted) {
         preview(*record);
     }
     return isAccepted;

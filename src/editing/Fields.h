@@ -6,7 +6,6 @@
 #include "editing/NestedDialogs.h"
 #include "editing/NumberInput.h"
 #include "editing/Refusal.h"
-#include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <array>
