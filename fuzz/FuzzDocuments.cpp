@@ -32,9 +32,9 @@ void Draw(const millichart::LaidOutChart& chart) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string_view input(reinterpret_cast<const char*>(bytes), size);
     const std::size_t end = input.find('\0');
-    std::optional<millichart::InputText> table;
+    std::optional<millichart::TableInput> table;
     if (end != std::string_view::npos) {
-        table = millichart::InputText{"table.csv", std::string(input.substr(end + 1))};
+        table = millichart::TableInput{{"table.csv", std::string(input.substr(end + 1))}};
     }
     const auto document =
         millichart::ChartDocument::FromText(std::string(input.substr(0, end)), "document.json", table);

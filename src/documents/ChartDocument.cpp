@@ -172,11 +172,11 @@ ChartDocument ChartDocument::Load(const std::string& file) {
 }
 
 ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
-                                      std::optional<InputText> table) {
+                                      std::optional<TableInput> table) {
     return FromInput({file, std::move(text)}, std::move(table));
 }
 
-ChartDocument ChartDocument::FromInput(InputText input, std::optional<InputText> table) {
+ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput> table) {
     ChartDocument document;
     auto loaded = std::make_shared<Loaded>();
     loaded->Name = input.Name;

@@ -8,6 +8,7 @@
 #include "charts/pie/BasicPie.h"
 #include "documents/ChartContent.h"
 #include "documents/Files.h"
+#include "documents/tables/TableInput.h"
 #include "penlode/streams/Diagnostic.h"
 
 #include <memory>
@@ -59,10 +60,10 @@ public:
     /// `text` is UTF-8. A table that the document names is looked for beside `file`; without one, in the
     /// current folder. `table` takes the place of the document's own data, names included.
     static ChartDocument FromText(std::string text, const std::string& file = {},
-                                  std::optional<InputText> table = std::nullopt);
+                                  std::optional<TableInput> table = std::nullopt);
 
     /// The same of a text that was read, or could not be.
-    static ChartDocument FromInput(InputText input, std::optional<InputText> table = std::nullopt);
+    static ChartDocument FromInput(InputText input, std::optional<TableInput> table = std::nullopt);
 
     std::string Title; ///< UTF-8, like the description and the source
     std::string Description;

@@ -108,7 +108,7 @@ DataSource WithoutTable(DataSource source) {
         source.Diagnostics->push_back(
             penlode::Error("", "this kind of chart needs two files; name them in the document, under "
                                "data/csv and data/groupsCsv"));
-        source.Diagnostics->back().File = source.Table->Name;
+        source.Diagnostics->back().File = source.Table->Input.Name;
     }
     source.Table = nullptr;
     return source;

@@ -52,7 +52,7 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     const std::string file =
         Utf8FromPath(source.Folder / PathFromUtf8(penlode::CStringUtil::AnsiToUtf8(named)));
     source.Files->push_back(file);
-    return ReadTable(ReadFile(file, NamedBy::Document), form, *source.Diagnostics);
+    return ReadTable({ReadFile(file, NamedBy::Document)}, form, *source.Diagnostics);
 }
 
 std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, const ListForm& form,

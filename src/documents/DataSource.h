@@ -1,7 +1,7 @@
 #pragma once
 
 #include "documents/ChartStream.h"
-#include "documents/Table.h"
+#include "documents/tables/Table.h"
 
 #include <filesystem>
 #include <functional>
@@ -14,7 +14,7 @@ namespace millichart::documents {
 /// Where a chart's data may come from besides its document, and where to tell what is wrong with it.
 struct DataSource {
     std::filesystem::path Folder; ///< the document's; a table that it names stands there
-    const InputText* Table;       ///< replaces the document's own data; null without one
+    const TableInput* Table;      ///< replaces the document's own data; null without one
     std::vector<penlode::Diagnostic>* Diagnostics;
     std::vector<std::string>* Files; ///< takes the name of each table that the document names
 };

@@ -1,5 +1,5 @@
 #include "documents/ChartStream.h"
-#include "documents/Table.h"
+#include "documents/tables/Table.h"
 
 #include <algorithm>
 #include <cctype>

@@ -2,7 +2,7 @@
 
 #include "charts/cartesian/Coordinate.h"
 #include "documents/Fields.h"
-#include "documents/Table.h"
+#include "documents/tables/Table.h"
 
 #include <algorithm>
 #include <cmath>

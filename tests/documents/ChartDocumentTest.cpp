@@ -130,7 +130,7 @@ TEST_F(InFolder, WhatIsSaidOfDocumentsIsAsListed) {
             const auto table = parts.find("table");
             const ChartDocument document = ChartDocument::FromText(
                 parts.at("b.json"), Name("b.json"),
-                table == parts.end() ? std::nullopt : std::optional(InputText{"table", table->second}));
+                table == parts.end() ? std::nullopt : std::optional(TableInput{{"table", table->second}}));
             EXPECT_EQ(Said(document), parts.at("said")) << list.path() << "\n" << parts.at("b.json");
             std::filesystem::remove(Path("d.csv"));
         }
@@ -260,7 +260,7 @@ TEST(ChartDocument, ATableInThePlaceOfItsDataIsSavedWithIt) {
     const ChartDocument document =
         ChartDocument::FromText(R"({"kind": "pie", "data": {"values": [1]},
         "property": {"PieBasicProp": {"ComponentName": ["mine"]}}})",
-                                "t.json", InputText{"d.csv", "theirs,1\nothers,2\n"});
+                                "t.json", TableInput{{"d.csv", "theirs,1\nothers,2\n"}});
     const ChartDocument again = Loaded(document.Text());
     const auto& pie = std::get<PieDocument>(again.Content);
     EXPECT_EQ(pie.Data.Values, (std::vector{1.0, 2.0}));

@@ -26,9 +26,12 @@ void LayOut(LoadedChart& loaded) {
 }
 
 LoadedChart Load(const std::string& input, const std::optional<std::string>& data) {
+    std::optional<millichart::TableInput> table;
+    if (data) {
+        table = millichart::TableInput{ReadInput(*data)};
+    }
     LoadedChart loaded;
-    loaded.Document = millichart::ChartDocument::FromInput(
-        ReadInput(input), data ? std::optional(ReadInput(*data)) : std::optional<millichart::InputText>());
+    loaded.Document = millichart::ChartDocument::FromInput(ReadInput(input), std::move(table));
     loaded.Diagnostics = loaded.Document.Diagnostics();
     if (loaded.Document.IsSound()) {
         LayOut(loaded);

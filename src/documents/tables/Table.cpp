@@ -1,7 +1,7 @@
-#include "documents/Table.h"
+#include "documents/tables/Table.h"
 
-#include "documents/Csv.h"
 #include "documents/Fields.h"
+#include "documents/tables/Csv.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -52,7 +52,7 @@ public:
             return;
         }
         CsvReader reader(m_input.Text);
-        for (CsvRow row; reader.Next(row) && !m_isOver;) {
+        for (TableRow row; reader.Next(row) && !m_isOver;) {
             ReadRow(row);
         }
         CheckQuotes(reader);
@@ -67,7 +67,7 @@ public:
     std::vector<Diagnostic>& Diagnostics() { return m_diagnostics; }
 
 private:
-    void ReadRow(const CsvRow& row) {
+    void ReadRow(const TableRow& row) {
         const bool isFirst = std::exchange(m_isFirst, false);
         const auto time = m_form.HasTimes ? penlode::NumberOf<std::int32_t>(row.Cells.front()) : std::nullopt;
         const bool isHeading = isFirst && IsHeading(row, time.has_value());
@@ -87,7 +87,7 @@ private:
         }
     }
 
-    bool IsHeading(const CsvRow& row, bool isTime) const {
+    bool IsHeading(const TableRow& row, bool isTime) const {
         switch (m_form.HeadedBy) {
         case Heading::OverNumber:
             return row.Cells.size() > 1 && IsWord(row.Cells[1]);
@@ -112,7 +112,7 @@ private:
         }
     }
 
-    void TakeHeading(const CsvRow& row) {
+    void TakeHeading(const TableRow& row) {
         for (std::size_t column = 1; column < m_width; ++column) {
             m_table.Heading.push_back(CStringUtil::Utf8ToAnsi(row.Cells[column]));
         }
@@ -126,7 +126,7 @@ private:
 
     /// A heading whose cells are numbers alone may have been meant for data, unless nothing stands over the
     /// first column.
-    void WarnOfNumbers(const CsvRow& row) {
+    void WarnOfNumbers(const TableRow& row) {
         const auto end = row.Cells.begin() + static_cast<std::ptrdiff_t>(FilledCells(row));
         if (!row.Cells.front().empty() && std::all_of(row.Cells.begin() + 1, end, IsNumber)) {
             Diagnostic warning =
@@ -140,7 +140,7 @@ private:
     }
 
     /// Empty cells beyond the width, as spreadsheet programs write them, do not count.
-    bool HasWidth(const CsvRow& row, std::size_t width, const std::string& expected) {
+    bool HasWidth(const TableRow& row, std::size_t width, const std::string& expected) {
         const std::size_t cells = std::max(FilledCells(row), std::min(row.Cells.size(), width));
         if (cells != width) {
             TellAt(row, penlode::Error("", Counted(cells, "cell"), expected));
@@ -148,7 +148,7 @@ private:
         return cells == width;
     }
 
-    void TakeFirstCell(const CsvRow& row, std::optional<std::int32_t> time) {
+    void TakeFirstCell(const TableRow& row, std::optional<std::int32_t> time) {
         const std::string& cell = row.Cells.front();
         const bool isFirst = m_table.Lines.empty();
         m_hasTimes = isFirst ? time.has_value() : m_hasTimes;
@@ -170,7 +170,7 @@ private:
         m_table.Lines.push_back(static_cast<std::uint32_t>(row.Line));
     }
 
-    void TakeNumbers(const CsvRow& row, bool mayBeHeading) {
+    void TakeNumbers(const TableRow& row, bool mayBeHeading) {
         for (std::size_t column = 1; column < m_width; ++column) {
             const bool isEmpty = column >= row.Cells.size() || row.Cells[column].empty();
             const bool isGap = m_form.Gap && isEmpty;
@@ -179,7 +179,7 @@ private:
     }
 
     /// Most are plain numbers without any blanks.
-    double NumberIn(const CsvRow& row, std::size_t column, bool mayBeHeading) {
+    double NumberIn(const TableRow& row, std::size_t column, bool mayBeHeading) {
         const std::string& cell = row.Cells[column];
         const std::optional<double> plain = penlode::NumberOf<double>(cell);
         const bool isPlain = plain && std::isfinite(*plain);
@@ -219,7 +219,7 @@ private:
         }
     }
 
-    void RefuseCell(const CsvRow& row, std::size_t column, const std::string& expected) {
+    void RefuseCell(const TableRow& row, std::size_t column, const std::string& expected) {
         const std::string& cell = row.Cells[column];
         const std::string shown = IsNumber(cell) ? cell
                                   : cell.empty() ? "nothing"
@@ -227,7 +227,7 @@ private:
         TellAt(row, penlode::Error(ColumnPlace(column), shown, expected));
     }
 
-    void TellAt(const CsvRow& row, Diagnostic fault) {
+    void TellAt(const TableRow& row, Diagnostic fault) {
         fault.Line = row.Line;
         Tell(std::move(fault));
     }
@@ -263,12 +263,12 @@ private:
 
 } // namespace
 
-Table ReadTable(const InputText& input, const TableForm& form,
+Table ReadTable(const TableInput& input, const TableForm& form,
                 std::vector<penlode::Diagnostic>& diagnostics) {
-    TableReader reader(input, form);
+    TableReader reader(input.Input, form);
     reader.Read();
     diagnostics.insert(diagnostics.end(), reader.Diagnostics().begin(), reader.Diagnostics().end());
-    reader.Result().File = input.Name;
+    reader.Result().File = input.Input.Name;
     return std::move(reader.Result());
 }
 

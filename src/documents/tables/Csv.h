@@ -1,17 +1,13 @@
 #pragma once
 
+#include "documents/tables/RowReader.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace millichart::documents {
-
-/// One record of a CSV text and the line on which it begins, from 1.
-struct CsvRow {
-    std::size_t Line = 1;
-    std::vector<std::string> Cells;
-};
 
 /// Reads comma, semicolon or tab separated text row by row, separated by whichever the first line with any
 /// has most of; the lines below decide between equals. A cell in double quotes may hold separators, line
@@ -23,7 +19,7 @@ public:
     explicit CsvReader(std::string_view text);
 
     /// The next row in the place of the old one; false when there is none.
-    bool Next(CsvRow& row);
+    bool Next(TableRow& row);
 
     /// The line of a quote that never closed, or 0.
     std::size_t OpenQuote() const { return m_openQuote; }
@@ -31,7 +27,7 @@ public:
 private:
     bool AtEnd() const { return m_at >= m_text.size(); }
 
-    void ReadRow(CsvRow& row);
+    void ReadRow(TableRow& row);
     void ReadCell(std::string& cell);
     void ReadQuoted(std::string& cell);
 
@@ -43,7 +39,7 @@ private:
 };
 
 /// How many cells a row has up to the last one that is not empty.
-std::size_t FilledCells(const CsvRow& row);
+std::size_t FilledCells(const TableRow& row);
 
 /// Is this well-formed UTF-8?
 bool IsUtf8(std::string_view text);

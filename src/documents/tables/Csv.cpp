@@ -1,4 +1,4 @@
-#include "documents/Csv.h"
+#include "documents/tables/Csv.h"
 
 #include "penlode/text/StringUtil.h"
 
@@ -82,7 +82,7 @@ CsvReader::CsvReader(std::string_view text)
     : m_text(text.substr(text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)),
       m_separator(SeparatorOf(m_text)) {}
 
-bool CsvReader::Next(CsvRow& row) {
+bool CsvReader::Next(TableRow& row) {
     while (!AtEnd()) {
         ReadRow(row);
         if (FilledCells(row) != 0) {
@@ -93,7 +93,7 @@ bool CsvReader::Next(CsvRow& row) {
 }
 
 /// Passes the line break too. Cells of the old row keep their memory.
-void CsvReader::ReadRow(CsvRow& row) {
+void CsvReader::ReadRow(TableRow& row) {
     row.Line = m_line;
     std::size_t cells = 0;
     for (bool hasMore = true; hasMore; ++cells) {
@@ -142,7 +142,7 @@ void CsvReader::ReadQuoted(std::string& cell) {
     m_openQuote = line;
 }
 
-std::size_t FilledCells(const CsvRow& row) {
+std::size_t FilledCells(const TableRow& row) {
     const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
                                    [](const std::string& cell) { return !cell.empty(); });
     return static_cast<std::size_t>(row.Cells.rend() - last);

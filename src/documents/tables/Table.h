@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/Files.h"
+#include "documents/tables/TableInput.h"
 #include "penlode/streams/Diagnostic.h"
 
 #include <cstddef>
@@ -47,7 +47,8 @@ struct Table {
 
 /// Reads a table and tells what is wrong with it, with line and column. One that could not be read, or has
 /// too many rows, is empty.
-Table ReadTable(const InputText& input, const TableForm& form, std::vector<penlode::Diagnostic>& diagnostics);
+Table ReadTable(const TableInput& input, const TableForm& form,
+                std::vector<penlode::Diagnostic>& diagnostics);
 
 /// "column 1" for 0, as a diagnostic's place.
 std::string ColumnPlace(std::size_t column);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace millichart::documents {
+
+/// A row of a table: the line on which it begins, from 1, and the texts of its cells, UTF-8.
+struct TableRow {
+    std::size_t Line = 1;
+    std::vector<std::string> Cells;
+};
+
+/// Gives the rows of a table one after the other.
+class RowReader {
+public:
+    RowReader() = default;
+    RowReader(const RowReader&) = delete;
+    RowReader& operator=(const RowReader&) = delete;
+    virtual ~RowReader() = default;
+
+    /// The next row in the place of the old one, whose cells may keep their memory; false when there is none,
+    /// or none can be read any more.
+    virtual bool Next(TableRow& row) = 0;
+
+    /// Why the rows ended before their end, as in "cannot be read: ..."; empty when they did not.
+    virtual std::string Fault() const = 0;
+
+    /// Are numbers written with a decimal point and without groups, and dates as 2024-03-15 or
+    /// 2024-03-15T14:30:00, since a program and no person wrote them?
+    virtual bool IsExact() const = 0;
+};
+
+} // namespace millichart::documents

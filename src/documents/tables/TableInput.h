@@ -1,0 +1,38 @@
+#pragma once
+
+#include "documents/Files.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace millichart {
+
+/// In which order a table's rows are shown.
+enum class TableOrder { AsItStands, Ascending, Descending, ByName };
+
+/// How a table is to be read, where it does not tell by itself.
+struct TableOptions {
+    std::string Sheet; ///< of a spreadsheet file, UTF-8; the first one if empty
+    std::string Query; ///< of a data base, UTF-8
+    /// The first is that of the names or times. Each by its heading (UTF-8) or its number from 1; all if
+    /// empty.
+    std::vector<std::string> Columns;
+    std::optional<bool> HasHeading; ///< without, the table tells
+    bool IsTransposed = false;      ///< a row of the table is a column here
+    TableOrder Order = TableOrder::AsItStands;
+    std::size_t Top = 0;               ///< so many of the largest rows, and the rest as one; 0: all
+    std::optional<char> DecimalMark{}; ///< '.' or ','; without, the table tells
+
+    friend bool operator==(const TableOptions&, const TableOptions&) = default;
+};
+
+/// A table and how it is to be read: the bytes of a text or spreadsheet file; or a data base, whose name,
+/// such as "sqlite:sales.db", is all that the input has.
+struct TableInput {
+    InputText Input;
+    TableOptions Options = {};
+};
+
+} // namespace millichart
