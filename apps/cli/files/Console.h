@@ -14,6 +14,9 @@ void Tell(const std::string& message);
 /// Errors and warnings, not too many; notes are left out.
 void TellProblems(const std::vector<Diagnostic>& diagnostics);
 
+/// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
+void ShowPassingLine(const std::string& line);
+
 /// Tells a person at a terminal which of several inputs is being worked on, on a line that the next message
 /// replaces.
 class Progress {
