@@ -47,6 +47,7 @@ void LoadVersion(ChartStream& stream) {
 ChartContent LoadKind(ChartStream& stream, std::vector<Diagnostic>& diagnostics) {
     const std::string name = LoadText(stream, "kind", "");
     if (const ChartKind* kind = FindChartKind(name)) {
+        stream.SetKind(kind->Name);
         return kind->Make();
     }
     if (stream.Has("kind")) {
