@@ -1,5 +1,5 @@
 # What a host gets: the libraries, the public headers under the paths by which they are included, a package file for
-# CMake and one for pkg-config.
+# CMake and one for pkg-config, the licence, and what says how a chart document is written.
 include(CMakePackageConfigHelpers)
 include(cmake/PublicHeaders.cmake)
 
@@ -39,3 +39,8 @@ foreach(header IN LISTS millichart_headers)
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/millichart/${folder}
     COMPONENT headers)
 endforeach()
+
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+if(MILLICHART_DOCUMENTS)
+  install(FILES docs/chart.schema.json docs/document-format.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+endif()

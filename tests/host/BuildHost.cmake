@@ -24,6 +24,11 @@ write_program(${WORK}/host/host.cpp)
 write_program(${WORK}/host/document-host.cpp)
 
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
+foreach(page LICENSE chart.schema.json document-format.md)
+  if(NOT EXISTS ${WORK}/installed/share/doc/millichart/${page})
+    message(FATAL_ERROR "${page} is not installed")
+  endif()
+endforeach()
 run(${CMAKE_COMMAND} -S ${SOURCE}/tests/host -B ${WORK}/host -G Ninja -DCMAKE_CXX_COMPILER=${CXX}
     -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_PREFIX_PATH=${WORK}/installed)
 run(${CMAKE_COMMAND} --build ${WORK}/host)
