@@ -36,7 +36,7 @@ void Tell(const std::string& sentence) {
 #endif
 }
 
-void TellIfMistaken(const std::string& text) {
+[[maybe_unused]] void TellIfMistaken(const std::string& text) {
     static Utf8Mistakes mistakes;
     if (const std::string sentence = mistakes.SentenceOn(text); !sentence.empty()) {
         Tell(sentence);
