@@ -43,7 +43,7 @@ inline constexpr penlode::Pen kDefaultPen{penlode::kBlack, 0.1F};
 
 /// One group of a keyed stream, open from construction to destruction. Each member saves the field under its
 /// key, or loads it: a missing key, or a text that means nothing, gives the default. A number that is not
-/// finite means nothing.
+/// finite means nothing. Texts are narrow (GBK; CStringUtil::Utf8ToAnsi).
 class MILLICHART_API KeyedRecord {
 public:
     KeyedRecord(penlode::CSerializeStream& stream, const char* tag);

@@ -163,8 +163,8 @@ TEST_F(Formats, APdfHoldsEveryLabelAsText) {
 
 TEST_F(Formats, EightyMillimetresAreEightyInEach) {
     const std::string document =
-        Write("80.json", R"({"kind": "pie", "data": {"values": [1]}, "property": {"PieBasicProp":
-        {"PieStyle": "2D", "FixedSize": 1, "FixedWidth": 70, "ComponentColor": ["#336699"]}}})");
+        Write("80.json", R"({"kind": "pie", "title": "Eighty", "data": {"values": [1]}, "property":
+        {"PieBasicProp": {"PieStyle": "2D", "FixedSize": 1, "FixedWidth": 70, "ComponentColor": ["#336699"]}}})");
 
     const std::string png = ReadAll(Drawn(document, "80.png"));
     EXPECT_NEAR(PngNumber(png, "IHDR", 0) * 1000.0 / PngNumber(png, "pHYs", 0), 80.0, 0.15)
@@ -178,6 +178,7 @@ TEST_F(Formats, EightyMillimetresAreEightyInEach) {
     }
     const std::string info = Shell("pdfinfo " + Drawn(document, "80.pdf")).Output;
     EXPECT_NEAR(NumberAfter(info, "Page size:"), 80.0 / 25.4 * 72.0, 0.01);
+    EXPECT_NE(info.find("Eighty\n"), std::string::npos);
 }
 
 TEST_F(Formats, TheSameBytesElsewhereAndAtAnotherTime) {
