@@ -62,6 +62,7 @@ constexpr Default kDefaults[] = {
     {"", "HorAxisProp", "VerGridPen", kGrey},
     {"half-pie-histogram", "/HistogramPlotProp", "ShowBackground", "0"},
     {"half-pie-histogram", "/HistogramPlotProp", "ShowEdge", "0"},
+    {"curve", "/CurvePlotProp", "ShowEdge", "0"}, // it would stand over the axes
     {"", "PlotProp", "EdgePen", kGrey},
     {"half-pie-histogram", "/HistogramPlotProp", "PlotWidth", "60"},
     {"half-pie-histogram", "/HistogramPlotProp", "PlotHeight", "30"},
