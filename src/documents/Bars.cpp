@@ -4,6 +4,7 @@
 #include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
+#include "documents/doubts/BarWording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -158,12 +159,19 @@ void Bars::CheckRange(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& 
     constexpr double kVisible = 0.01;
     const bool isLogarithmic = m_plot.LogarithmScale != 0;
     RangeCheck range(chart, isLogarithmic);
-    ForEachHeight([&range](double height, std::size_t group, std::size_t component) {
-        range.Look(height, group, component);
+    const bool isStack = m_plot.Juxtaposition == 0;
+    ForEachHeight([&](double height, std::size_t group, std::size_t component) {
+        const bool isNothing = std::isnan(height) || (isStack && isLogarithmic && height == 0.0);
+        if (!isNothing) {
+            range.Look(height, group, component);
+        }
     });
-    range.AddTo(diagnostics, [this](std::size_t group, std::size_t component) {
-        return AtValue(m_data.Origin, group, component + 1,
-                       "data/groups/" + std::to_string(group) + "/values/" + std::to_string(component));
+    range.AddTo(diagnostics, [&](std::size_t group, std::size_t component) {
+        Diagnostic at = AtBar(m_data.Origin, group, component);
+        at.Text = (isStack ? ", the sum up to the value" : "") +
+                  BarNamed(NameAt(m_plot.ComponentName, component), NameAt(m_data.GroupNames, group)) +
+                  (isStack ? "," : "");
+        return at;
     });
     const double part = range.PartOf(Largest());
     if (mayBeSet && !isLogarithmic && Largest() > 0.0 && part > 0.0 && part < kVisible) {

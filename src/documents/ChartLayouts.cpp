@@ -9,6 +9,7 @@
 #include "documents/Fields.h"
 #include "documents/Slices.h"
 #include "documents/ValueRange.h"
+#include "documents/doubts/Doubts.h"
 
 #include <cmath>
 #include <tuple>
@@ -289,7 +290,11 @@ void LayOutContent(ChartContent& content, LayoutTask& task, LaidOutChart& laidOu
             (part.Complete(task), ...);
             return LayOut(document, task, part...);
         };
-        laidOut.Chart = std::apply(layOut, parts);
+        auto chart = std::apply(layOut, parts);
+        if (!HasErrors(task.Diagnostics)) {
+            AddDoubts(document, chart, task.Diagnostics);
+        }
+        laidOut.Chart = std::move(chart);
         task.Emptiness = std::get<0>(parts).Emptiness();
     });
 }

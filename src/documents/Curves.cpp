@@ -4,6 +4,7 @@
 #include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
+#include "documents/doubts/Wording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -304,8 +305,11 @@ void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagn
     RangeCheck range(chart, m_prop.Plot.LogarithmScale != 0);
     ForEachValue([&range](double value, std::size_t curve, std::size_t i) { range.Look(value, curve, i); });
     range.AddTo(diagnostics, [this](std::size_t curve, std::size_t i) {
-        return AtValue(m_data.Origin, i, curve + 1,
-                       "data/curves/" + std::to_string(curve) + "/values/" + std::to_string(i));
+        Diagnostic at = AtValue(m_data.Origin, i, curve + 1,
+                                "data/curves/" + std::to_string(curve) + "/values/" + std::to_string(i));
+        const std::string name = NameAt(m_prop.Plot.CurveName, curve);
+        at.Text = name.empty() ? "" : " of " + Quoted(name);
+        return at;
     });
 }
 

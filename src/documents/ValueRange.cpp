@@ -199,25 +199,38 @@ Diagnostics PlotSizeFaults(const std::string& place, float width, float height) 
     return faults;
 }
 
+void RangeCheck::Note(const Item& item) {
+    const bool isHuge = item.Value < -kMaxValue || item.Value > kMaxValue;
+    const bool isUnplaced = std::isnan(item.Value) || (m_isLogarithmic && item.Value <= 0.0);
+    Items& items = isHuge ? m_huge : isUnplaced ? m_unplaced : m_outside;
+    items.First = items.Count++ == 0 ? item : items.First;
+}
+
 void RangeCheck::AddTo(Diagnostics& diagnostics,
                        const std::function<Diagnostic(std::size_t, std::size_t)>& locate) const {
-    const bool isError = m_huge != 0;
-    const std::size_t count = isError ? m_huge : m_outside;
-    if (count == 0) {
+    const auto add = [&](const Items& items, penlode::Severity severity, const char* one, const char* several,
+                         const std::string& rest) {
+        if (items.Count == 0) {
+            return;
+        }
+        diagnostics.push_back(locate(items.First.List, items.First.Index));
+        Diagnostic& told = diagnostics.back();
+        const bool isOne = items.Count == 1;
+        told.Severity = severity;
+        told.Text = NumberText(items.First.Value) + told.Text +
+                    (isOne ? "" : " and " + Counted(items.Count - 1, "other value")) + " " +
+                    (isOne ? one : several) + " " + rest;
+    };
+    if (m_huge.Count > 0) {
+        add(m_huge, penlode::Severity::Error, "is", "are",
+            "too large for a value axis, expected at most " + NumberText(kMaxValue));
         return;
     }
-    const Item& first = isError ? m_firstHuge : m_firstOutside;
-    const bool isOne = count == 1;
-    Diagnostic told = locate(first.List, first.Index);
-    told.Severity = isError ? penlode::Severity::Error : penlode::Severity::Warning;
-    told.Text = isOne ? "" : "this and " + Counted(count - 1, "other value") + " ";
-    if (isError) {
-        told.Text += (isOne ? "is" : "are") + std::string(" too large for a value axis, expected at most ") +
-                     NumberText(kMaxValue);
-    } else {
-        told.Text += (isOne ? "lies" : "lie") + std::string(" outside ") + Axis();
-    }
-    diagnostics.push_back(std::move(told));
+    add(m_unplaced, penlode::Severity::Warning, "has", "have",
+        m_isLogarithmic ? "no place on a logarithmic axis, expected numbers above 0, or a LogarithmScale of 0"
+                        : "no place on the value axis, expected numbers");
+    add(m_outside, penlode::Severity::Warning, "lies", "lie",
+        "outside " + Axis() + ", and so outside the plot; \"range\" sets another");
 }
 
 std::string RangeCheck::Axis() const {

@@ -51,7 +51,8 @@ std::vector<penlode::Diagnostic> PlotSizeFaults(const std::string& place, float 
 /// Looks for values that a value axis does not hold, one after the other.
 class RangeCheck {
 public:
-    template <class Chart> RangeCheck(const Chart& chart, bool isLogarithmic) {
+    template <class Chart>
+    RangeCheck(const Chart& chart, bool isLogarithmic) : m_isLogarithmic(isLogarithmic) {
         double step = 0.0;
         if (isLogarithmic) {
             chart.GetLogarithmValueRange(m_min, m_max);
@@ -61,16 +62,14 @@ public:
     }
 
     void Look(double value, std::size_t list, std::size_t item) {
-        if ((value < m_min || value > m_max) && m_outside++ == 0) {
-            m_firstOutside = {list, item};
-        }
-        if ((value < -kMaxValue || value > kMaxValue) && m_huge++ == 0) {
-            m_firstHuge = {list, item};
+        const bool isHeld = value >= m_min && value <= m_max;
+        if (!isHeld || value < -kMaxValue || value > kMaxValue) {
+            Note({value, list, item});
         }
     }
 
-    /// Adds nothing, a warning, or an error. `locate` gives a diagnostic of the file, line and place of an
-    /// item of a list.
+    /// Adds nothing, warnings, or an error. `locate` gives a diagnostic of the file, line and place of an
+    /// item of a list, and in its text what the item belongs to: ' of "Wheat" in "North"'.
     void AddTo(std::vector<penlode::Diagnostic>& diagnostics,
                const std::function<penlode::Diagnostic(std::size_t, std::size_t)>& locate) const;
 
@@ -82,16 +81,25 @@ public:
 
 private:
     struct Item {
+        double Value = 0.0;
         std::size_t List = 0;
         std::size_t Index = 0;
     };
 
+    /// Values that are alike, by the first of them.
+    struct Items {
+        std::size_t Count = 0;
+        Item First;
+    };
+
+    void Note(const Item& item);
+
+    bool m_isLogarithmic;
     double m_min = 0.0;
     double m_max = 0.0;
-    std::size_t m_outside = 0;
-    Item m_firstOutside;
-    std::size_t m_huge = 0; ///< those that no axis could hold
-    Item m_firstHuge;
+    Items m_outside;
+    Items m_unplaced; ///< no numbers, and on a logarithmic axis those not above 0: no range holds them
+    Items m_huge;     ///< those that no axis could hold
 };
 
 /// Of the value in a column of a row of the table, or else at that place in the document.

@@ -256,7 +256,8 @@ TEST_F(InFolder, DataOfATableStayThereUntilTheyAreChanged) {
 TEST_F(InFolder, ChangedCurvesTakeThePlaceOfTheirTable) {
     Write("d.csv", "year,a,b\n2001,1,\n2002,3,4\n2003,200,6\n");
     Write("t.json",
-          R"({"kind": "curve", "data": {"csv": "d.csv"}, "range": {"NaturalValueRange": [0, 10, 5, 1]}})");
+          R"({"kind": "curve", "data": {"csv": "d.csv"}, "range": {"NaturalValueRange": [0, 10, 5, 1]},
+          "property": {"CurvePlotProp": {"CurveDotStyle": ["solid_circle"]}}})");
     ChartDocument document = ChartDocument::Load(Name("t.json"));
     ASSERT_EQ(Told(document), "");
     std::vector<penlode::Diagnostic> warnings = document.LayOut().Diagnostics;

@@ -1,0 +1,25 @@
+#include "documents/doubts/BarWording.h"
+
+#include "documents/ValueRange.h"
+
+namespace millichart::documents {
+
+penlode::Diagnostic AtBar(const TableOrigin& origin, std::size_t group, std::size_t component) {
+    penlode::Diagnostic at =
+        AtValue(origin, group, component + 1,
+                "data/groups/" + std::to_string(group) + "/values/" + std::to_string(component));
+    at.Severity = penlode::Severity::Warning;
+    return at;
+}
+
+std::string BarNamed(const std::string& component, const std::string& group) {
+    return (component.empty() ? "" : " of " + Quoted(component)) +
+           (group.empty() ? "" : " in " + Quoted(group));
+}
+
+std::string BarNamed(const CBasicHistogram& chart, std::size_t group, std::size_t component) {
+    return BarNamed(NameAt(chart.GetHistogramProp().Plot.ComponentName, component),
+                    NameAt(chart.GetGroupName(), group));
+}
+
+} // namespace millichart::documents

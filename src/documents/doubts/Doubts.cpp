@@ -1,0 +1,137 @@
+#include "documents/doubts/Doubts.h"
+
+#include "documents/Fields.h"
+#include "documents/doubts/BarHeights.h"
+#include "documents/doubts/CurveSight.h"
+#include "documents/doubts/Ground.h"
+#include "documents/doubts/NumberTexts.h"
+#include "documents/doubts/RecordDoubts.h"
+#include "documents/doubts/TextContrast.h"
+#include "documents/doubts/TextOverlaps.h"
+
+#include <cmath>
+#include <utility>
+
+namespace millichart::documents {
+namespace {
+
+using penlode::RectF;
+
+constexpr const char* kRecord = "property";
+
+/// What the checks of a chart's texts look at.
+struct Scene {
+    PartRecords Records;
+    Ground Paints;
+    std::vector<LegendBox> Legends;
+};
+
+void AddLegend(const LegendProp& prop, const std::vector<RectF>& items, std::size_t part, Scene& scene) {
+    if (prop.ShowLegend == 0 || items.empty()) {
+        return;
+    }
+    scene.Legends.push_back({UnionOf(items), part});
+    if (prop.ShowBackground != 0) {
+        scene.Paints.push_back(PaintOf(UnionOf(items), prop.BackgroundColor));
+    }
+}
+
+template <class Chart> void AddTextDoubts(const Chart& chart, const Scene& scene, Diagnostics& diagnostics) {
+    std::vector<ChartText> texts = TextsOf(chart);
+    AddFontDoubts(texts, scene.Records, diagnostics);
+    const std::vector<SeenText> seen = SeenTexts(std::move(texts));
+    AddOverlapDoubts(seen, scene.Records, diagnostics);
+    AddLegendDoubts(seen, scene.Legends, scene.Records, diagnostics);
+    AddOutsideDoubts(seen, chart.InkExtent(), scene.Records, diagnostics);
+    AddContrastDoubts(seen, scene.Paints, scene.Records, diagnostics);
+}
+
+void AddHalf(const HalfPieProp& prop, const CBasicHalfPie& half, const std::string& place,
+             const std::string& data, Scene& scene, Diagnostics& diagnostics) {
+    AddRecordDoubts(prop, place, diagnostics);
+    AddSliceValueDoubts(half, prop.Label, data, diagnostics);
+    scene.Records.push_back({place, "Pie"});
+    scene.Paints.push_back(PaintOf(half.GetShapes()));
+}
+
+void AddBars(const CBasicHistogram& chart, const BarData& data, const std::string& place, Scene& scene,
+             Diagnostics& diagnostics) {
+    AddAxisLabelDoubts(chart, diagnostics);
+    AddBarValueDoubts(chart, data.Origin, diagnostics);
+    AddBarHeightDoubts(chart, data.Origin, diagnostics);
+    scene.Paints.push_back(PaintOf(chart));
+    AddLegend(chart.GetHistogramProp().Legend, chart.GetLayout().LegendItemRects, scene.Records.size(),
+              scene);
+    scene.Records.push_back({place, "Histogram"});
+}
+
+/// The bars stand in the middle of the half pie's line; a legend below or beside them takes them off it.
+void AddShiftDoubts(const CBasicHalfPieHistogram& chart, Diagnostics& diagnostics) {
+    constexpr float kUnnoticed = 0.1F;
+    const CBasicHistogram& bars = chart.GetHistogram();
+    const RectF& plot = bars.GetLayout().Plot;
+    const float depth = bars.GetShapes().Depth.X;
+    const float up = chart.GetLocation().Y - plot.Bottom();
+    const float aside = plot.Center().X + depth * 0.5F - chart.GetLocation().X;
+    const float moved = std::max(std::abs(up), std::abs(aside));
+    if (!bars.GetLayout().LegendItemRects.empty() && moved > kUnnoticed) {
+        diagnostics.push_back(penlode::Warning("property/Histogram/HistogramLegendProp/LegendPos",
+                                               "the legend takes the bars " +
+                                                   NumberText(std::round(moved * 10.0) / 10.0) +
+                                                   " mm off the middle of the half pie's line; \"TopCenter\" "
+                                                   "leaves them there if it is no wider than they are"));
+    }
+}
+
+} // namespace
+
+void AddDoubts(const PieDocument& document, const CBasicPie& chart, Diagnostics& diagnostics) {
+    Scene scene{{{kRecord, "Pie"}}, {PaintOf(chart.GetShapes())}, {}};
+    AddRecordDoubts(document.Prop, kRecord, diagnostics);
+    AddSliceValueDoubts(chart, document.Prop.Label, "data", diagnostics);
+    AddLegend(document.Prop.Legend, chart.GetLayout().LegendItemRects, 0, scene);
+    AddTextDoubts(chart, scene, diagnostics);
+}
+
+void AddDoubts(const HalfPieDocument& document, const CBasicHalfPie& chart, Diagnostics& diagnostics) {
+    Scene scene;
+    AddHalf(document.Prop, chart, kRecord, "data", scene, diagnostics);
+    AddTextDoubts(chart, scene, diagnostics);
+}
+
+void AddDoubts(const HalfPieHalfPieDocument& document, const CBasicHalfPieHalfPie& chart,
+               Diagnostics& diagnostics) {
+    Scene scene;
+    AddHalf(document.Prop.First, chart.GetFirstHalf(), "property/TopHalf", "data/first", scene, diagnostics);
+    AddHalf(document.Prop.Second, chart.GetSecondHalf(), "property/LowerHalf", "data/second", scene,
+            diagnostics);
+    AddTextDoubts(chart, scene, diagnostics);
+}
+
+void AddDoubts(const HalfPieHistogramDocument& document, const CBasicHalfPieHistogram& chart,
+               Diagnostics& diagnostics) {
+    Scene scene;
+    AddHalf(document.Prop.HalfPie, chart.GetHalfPie(), "property/HalfPie", "data", scene, diagnostics);
+    AddBarRecordDoubts(document.Prop.Histogram, "property/Histogram", diagnostics);
+    AddBars(chart.GetHistogram(), document.Bars, "property/Histogram", scene, diagnostics);
+    AddShiftDoubts(chart, diagnostics);
+    AddTextDoubts(chart, scene, diagnostics);
+}
+
+void AddDoubts(const HistogramDocument& document, const CBasicHistogram& chart, Diagnostics& diagnostics) {
+    Scene scene;
+    AddRecordDoubts(document.Prop, kRecord, diagnostics);
+    AddBars(chart, document.Data, kRecord, scene, diagnostics);
+    AddTextDoubts(chart, scene, diagnostics);
+}
+
+void AddDoubts(const CurveDocument& document, const CBasicCurve& chart, Diagnostics& diagnostics) {
+    Scene scene{{{kRecord, "Curve"}}, {PaintOf(chart)}, {}};
+    AddRecordDoubts(document.Prop, kRecord, diagnostics);
+    AddAxisLabelDoubts(chart, diagnostics);
+    AddCurveSightDoubts(chart, document.Data.Origin, diagnostics);
+    AddLegend(document.Prop.Legend, chart.GetLayout().LegendItemRects, 0, scene);
+    AddTextDoubts(chart, scene, diagnostics);
+}
+
+} // namespace millichart::documents
