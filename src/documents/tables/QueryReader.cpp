@@ -118,7 +118,8 @@ bool QueryReader::IsSound(TableRow& row) {
 
 bool QueryReader::Fail(std::string reason) {
     const bool isStopped = m_watched && m_watched->IsStopped();
-    std::replace(reason.begin(), reason.end(), '\n', ' ');
+    std::replace_if(
+        reason.begin(), reason.end(), [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
     m_fault = isStopped ? "stopped" : "cannot be read: " + WithoutPasswords(std::move(reason), m_source);
     return false;
 }
