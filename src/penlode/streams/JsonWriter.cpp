@@ -62,8 +62,12 @@ void JsonWriter::Save(const std::string& tag, const std::string& text) {
     }
 }
 
-/// A number stays one, as people write it, where it is read as the very text.
+/// A flag stays one, and a number, as people write it, where it is read as the very text.
 void JsonWriter::SaveText(JsonNode& node, const std::string& text) {
+    if (node.Is(JsonType::Boolean) && (text == "0" || text == "1")) {
+        node = JsonNode::Boolean(text == "1");
+        return;
+    }
     double number = 0.0;
     std::string form = text;
     if (node.Number() && ser_evaluate(number, form, false)) {
