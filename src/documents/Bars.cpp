@@ -1,6 +1,7 @@
 #include "documents/Bars.h"
 
 #include "documents/Fields.h"
+#include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
 
@@ -15,6 +16,7 @@ using penlode::Diagnostic;
 using Diagnostics = std::vector<Diagnostic>;
 
 constexpr const char* kGroups = "groups";
+constexpr const char* kGap = "/GroupDistane";
 constexpr const char* kTableNames = "names of the table's components";
 constexpr const char* kGroupsForm = "a list of groups, each with a name and values";
 
@@ -73,10 +75,15 @@ void Bars::Complete(const LayoutTask& task) {
     if (task.AreDataChanged) {
         m_data.Origin = {};
     }
-    CompleteNames(m_plot.ComponentName, m_data.ComponentNames, m_data.Components(),
-                  task.Open.contains(m_record + kNames));
+    m_named = CompleteNames(m_plot.ComponentName, m_data.ComponentNames, m_data.Components(),
+                            task.Open.contains(m_record + kNames));
     if (task.Open.contains(m_record + kColors)) {
-        m_plot.ComponentColor = PaletteColors(m_plot.ComponentName.size());
+        m_plot.ComponentColor.clear();
+    }
+    FillUp(m_plot.ComponentColor, m_plot.ComponentName.size());
+    if (task.Open.contains(m_record + kGap) && !m_data.Values.empty()) {
+        const float slot = m_plot.PlotWidth / static_cast<float>(m_data.Values.size());
+        m_plot.GroupDistane = std::min(m_plot.GroupDistane, slot * kUsualGap);
     }
     for (std::vector<double>& group : m_data.Values) {
         std::replace_if(
@@ -104,13 +111,13 @@ double Bars::Largest() const {
     return largest;
 }
 
-/// The depth is a part of a bar's width, which is the group's, shared by the names.
-bool Bars::LacksWidth() const {
-    return m_plot.ComponentName.empty() && m_plot.PieStyle != BarStyle::Flat;
+ValueRange Bars::FittedRange() const {
+    ValueSpan span;
+    ForEachHeight([&span](double height, std::size_t, std::size_t) { span.Take(height); });
+    return RangeFilledBy(span, m_plot.LogarithmScale != 0, true);
 }
 
 void Bars::Check(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& diagnostics) const {
-    const std::size_t names = m_plot.ComponentName.size();
     const std::size_t components = m_data.Components();
     if (AreOthers(m_plot.ComponentName, m_data.ComponentNames)) {
         diagnostics.push_back(OtherNames(m_record + kNames));
@@ -119,14 +126,11 @@ void Bars::Check(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& diagn
         diagnostics.push_back(Emptiness());
         diagnostics.back().Severity = penlode::Severity::Warning;
     }
-    if (names != components && !LacksWidth()) {
+    if (m_named != components) {
         diagnostics.push_back(
-            WrongCount(m_record + kNames, names, "name", components, "one a value of a group"));
+            WrongCount(m_record + kNames, m_named, "name", components, "one a value of a group"));
     }
-    if (const std::size_t colors = m_plot.ComponentColor.size(); colors < names) {
-        diagnostics.push_back(WrongCount(m_record + kColors, colors, "colour", names, "one a name"));
-    }
-    const Diagnostics faults = SizeFaults();
+    const Diagnostics faults = PlotSizeFaults(m_record, m_plot.PlotWidth, m_plot.PlotHeight);
     diagnostics.insert(diagnostics.end(), faults.begin(), faults.end());
     if (components > 0 && faults.empty()) {
         CheckWidths(chart.GetLayout(), diagnostics);
@@ -134,20 +138,10 @@ void Bars::Check(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& diagn
     CheckRange(chart, mayBeSet, diagnostics);
 }
 
-Diagnostics Bars::SizeFaults() const {
-    Diagnostics faults = PlotSizeFaults(m_record, m_plot.PlotWidth, m_plot.PlotHeight);
-    if (const std::size_t components = m_data.Components(); components > 0 && LacksWidth()) {
-        faults.push_back(
-            penlode::Error(m_record + kNames, "no names",
-                           std::to_string(components) + ", without which bars in 3D have no width"));
-    }
-    return faults;
-}
-
 void Bars::CheckWidths(const HistogramLayout& layout, Diagnostics& diagnostics) const {
     constexpr float kMinBarWidth = 0.1F;
     if (layout.GroupGap < 0.0F) {
-        const char* const key = m_plot.GroupDistane < 0.0F ? "/GroupDistane" : "/PlotWidth";
+        const char* const key = m_plot.GroupDistane < 0.0F ? kGap : "/PlotWidth";
         diagnostics.push_back(penlode::Warning(m_record + key, "the bars of neighbouring groups overlap"));
     }
     if (layout.ComponentWidth < kMinBarWidth) {
@@ -173,9 +167,9 @@ void Bars::CheckRange(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& 
     });
     const double part = range.PartOf(Largest());
     if (mayBeSet && !isLogarithmic && Largest() > 0.0 && part > 0.0 && part < kVisible) {
-        diagnostics.push_back(penlode::Warning("range", "the largest bar takes less than 1 % of " +
-                                                            range.Axis() +
-                                                            "; NaturalValueRange sets another"));
+        diagnostics.push_back(
+            penlode::Warning("range", "the largest bar takes less than 1 % of " + range.Axis() +
+                                          "; \"fit\" here, or NaturalValueRange, sets another"));
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/histogram/BasicHistogram.h"
-#include "documents/ChartData.h"
+#include "documents/ChartContent.h"
 #include "documents/DataSource.h"
 #include "documents/LayoutTask.h"
 #include "documents/SavingStream.h"
@@ -10,6 +10,9 @@
 #include <vector>
 
 namespace millichart::documents {
+
+/// Where nothing else is said, so much of what a group and its gap share is the gap.
+inline constexpr float kUsualGap = 0.3F;
 
 /// The bars of a document.
 class Bars {
@@ -34,6 +37,9 @@ public:
     /// The largest value, or the largest sum on the way up a stack. -infinity when there is none.
     double Largest() const;
 
+    /// The range that they fill.
+    ValueRange FittedRange() const;
+
     /// Warns of what was hardly meant in the chart that shows them; of a linear axis far too long for them
     /// too, if it may be set to another range.
     void Check(const CBasicHistogram& chart, bool mayBeSet,
@@ -43,8 +49,6 @@ public:
     penlode::Diagnostic Emptiness() const;
 
 private:
-    bool LacksWidth() const;
-    std::vector<penlode::Diagnostic> SizeFaults() const;
     void CheckWidths(const HistogramLayout& layout, std::vector<penlode::Diagnostic>& diagnostics) const;
     void CheckRange(const CBasicHistogram& chart, bool mayBeSet,
                     std::vector<penlode::Diagnostic>& diagnostics) const;
@@ -54,6 +58,7 @@ private:
     BarData& m_data;
     HistogramPlotProp& m_plot;
     const char* m_csvKey;
+    std::size_t m_named = 0; ///< components with a name of the document or its table
 };
 
 } // namespace millichart::documents

@@ -21,14 +21,15 @@
 /// colour a slice, is completed when the chart is laid out.
 namespace millichart {
 
-/// Of a value axis, by one of three; without any it is found from the largest value.
+/// Of a value axis, by one of four; without any it is found from the largest value.
 struct ValueRange {
-    std::optional<double> Largest;                  ///< is rounded up to a maximum with its steps
+    bool IsFitted = false;         ///< found from the least and the largest value, which fill the plot
+    std::optional<double> Largest; ///< is rounded up to a maximum with its steps
     std::optional<std::array<double, 4>> Natural;   ///< of a linear axis: minimum, maximum, step, minor step
     std::optional<std::array<double, 2>> Logarithm; ///< of a logarithmic axis: minimum, maximum
 
     friend bool operator==(const ValueRange& a, const ValueRange& b) {
-        return penlode::HaveEqualMembers<3>(a, b);
+        return penlode::HaveEqualMembers<4>(a, b);
     }
 };
 
@@ -69,11 +70,12 @@ struct HalfPieHistogramDocument {
     HalfPieHistogramProp Prop;
     SliceData Slices;
     BarData Bars;
+    bool IsFitted = false;         ///< the bars fill the plot, whatever `Largest` says
     std::optional<double> Largest; ///< of the bars' axis; without it that of their values
     std::vector<penlode::PointF> LabelOffsets;
 
     friend bool operator==(const HalfPieHistogramDocument& a, const HalfPieHistogramDocument& b) {
-        return penlode::HaveEqualMembers<5>(a, b);
+        return penlode::HaveEqualMembers<6>(a, b);
     }
 };
 

@@ -72,6 +72,7 @@ ChartContent LoadKind(ChartStream& stream, std::vector<Diagnostic>& diagnostics)
     const std::string narrow = LoadText(stream, "kind", "");
     const std::string name = CStringUtil::AnsiToUtf8(narrow);
     if (const ChartKind* kind = FindChartKind(name)) {
+        stream.SetKind(kind->Name);
         return kind->Make();
     }
     if (stream.Has("kind")) {

@@ -102,6 +102,13 @@ public:
     LaidOutChart LayOut() const&;
     LaidOutChart LayOut() &&;
 
+    /// Sizes the plot, of pies the circle, so that the whole figure, texts included, is so large, in mm. A
+    /// bar or line chart fills it in both directions, to a tenth of a millimetre, and gaps between groups
+    /// shrink with the plot; of pies and what is composed of them one direction is filled, and their parts
+    /// keep their proportions. False, and the document is as it was, when this cannot be: there is nothing to
+    /// draw, the texts leave no room for a plot of 5 mm, or one of them is longer than the figure by itself.
+    bool FitTo(penlode::SizeF figure);
+
     /// What is saved; of a document that cannot be saved, what was loaded, or nothing once that was taken.
     std::string Text() const;
     /// Writes it aside and then gives it the file's name, so that a failure leaves what was there before.

@@ -130,7 +130,9 @@ void LoadData(ChartStream& stream, const DataSource& source, HalfPieHalfPieDocum
 void LoadData(ChartStream& stream, const DataSource& source, HalfPieHistogramDocument& document) {
     const DataSource two = WithoutTable(source);
     ForEachPart(document, [&](auto& part) { part.Load(stream, two); });
-    document.Largest = LoadLargestValue(stream, *source.Diagnostics);
+    const ValueRange range = LoadLargestValue(stream, *source.Diagnostics);
+    document.IsFitted = range.IsFitted;
+    document.Largest = range.Largest;
 }
 
 /// With one for each label, so that a user may move it, whether or not the document has one.
@@ -148,7 +150,9 @@ void LayOutAt(PointF location, Chart& chart, const std::vector<PointF>& labelOff
     chart.Layout();
 }
 
-CBasicPie LayOut(const PieDocument& document, LayoutTask& task, const Slices& slices) {
+CBasicPie LayOut(PieDocument& document, LayoutTask& task, const Slices& slices) {
+    CompleteLegend(document.Prop.Legend, document.Prop.Basic.ComponentName,
+                   task.Open.contains(std::string("property/PieLegendProp") + kShowLegend));
     CBasicPie chart;
     chart.SetPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
@@ -206,6 +210,11 @@ CBasicHalfPieHistogram LayOut(const HalfPieHistogramDocument& document, LayoutTa
     chart.SetComponentValue(document.Slices.Values, document.Bars.Values,
                             document.Largest.value_or(bars.Largest()));
     LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Slices));
+    if (document.IsFitted) {
+        CBasicHistogram sharer = chart.GetHistogram(); // of the axis, which exists since the layout
+        SetValueRange(sharer, bars.FittedRange(), 0.0);
+        chart.Layout();
+    }
     slices.Check(chart.GetHalfPie(), task.Diagnostics, document.LabelOffsets.size());
     if (IsUpper(document.Prop.HalfPie)) {
         task.Diagnostics.push_back(
@@ -216,10 +225,12 @@ CBasicHalfPieHistogram LayOut(const HalfPieHistogramDocument& document, LayoutTa
     return chart;
 }
 
-CBasicHistogram LayOut(const HistogramDocument& document, LayoutTask& task, const Bars& bars) {
+CBasicHistogram LayOut(HistogramDocument& document, LayoutTask& task, const Bars& bars) {
+    CompleteLegend(document.Prop.Legend, document.Prop.Plot.ComponentName,
+                   task.Open.contains(std::string("property/HistogramLegendProp") + kShowLegend));
     CBasicHistogram chart;
     chart.SetHistogramProp(document.Prop);
-    SetValueRange(chart, document.Range, bars.Largest());
+    SetValueRange(chart, document.Range.IsFitted ? bars.FittedRange() : document.Range, bars.Largest());
     chart.SetComponentValue(document.Data.Values);
     chart.SetGroupName(document.Data.GroupNames);
     chart.SetLocation(task.Location);
@@ -231,7 +242,7 @@ CBasicHistogram LayOut(const HistogramDocument& document, LayoutTask& task, cons
 CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, const Curves& curves) {
     CBasicCurve chart;
     chart.SetCurveProp(document.Prop);
-    SetValueRange(chart, document.Range, curves.Largest());
+    SetValueRange(chart, document.Range.IsFitted ? curves.FittedRange() : document.Range, curves.Largest());
     curves.Check(chart, task.Diagnostics);
     chart.SetCurveData(std::move(document.Data.Values), std::move(document.Data.Times));
     chart.SetHorAxisLabel(std::move(document.Data.Labels));
@@ -258,7 +269,7 @@ void SaveContent(SavingStream& stream, ChartContent& content, PointF& location) 
         if constexpr (requires { document.Range; }) {
             SaveValueRange(stream, document.Range);
         } else if constexpr (requires { document.Largest; }) {
-            SaveValueRange(stream, {document.Largest, {}, {}});
+            SaveValueRange(stream, {document.IsFitted, document.Largest, {}, {}});
         }
         SerPoint(stream, "location", location);
         SerOffsets(stream, document);

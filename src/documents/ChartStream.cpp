@@ -1,13 +1,52 @@
 #include "documents/ChartStream.h"
 
+#include "documents/DocumentDefaults.h"
 #include "documents/Fields.h"
+#include "documents/Forms.h"
+#include "documents/LayoutTask.h"
 #include "documents/Palette.h"
 #include "foundation/SerializeFrame.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace millichart::documents {
+namespace {
+
+using Form = std::string (*)(const std::string&);
+
+bool IsOneOf(const std::string& tag, std::initializer_list<const char*> tags) {
+    return std::find(tags.begin(), tags.end(), tag) != tags.end();
+}
+
+/// What else people may write under a key, by the kind of its value; null for a kind of one form.
+Form FormOf(const std::string& tag, const std::string& defaultValue) {
+    if (tag == FontTag() || tag == kFontAlias) {
+        return FontForm;
+    }
+    if (defaultValue.starts_with("#")) {
+        return defaultValue.find(' ') == std::string::npos ? ColorForm : PenForm;
+    }
+    if (IsOneOf(tag, {"location", "legendOffset"})) {
+        return PointForm;
+    }
+    const bool isLength = IsOneOf(tag, {"FixedWidth", "BasePieWidth", "DistBetweenLabelCenterAndPieCenter",
+                                        "ItemDist", "PlotWidth", "PlotHeight", "GroupDistane"});
+    return isLength ? LengthForm : nullptr;
+}
+
+Form FormOfItems(const std::string& tag) {
+    if (IsOneOf(tag, {"ComponentColor", "CurveColor", "CurveDotColor"})) {
+        return ColorForm;
+    }
+    if (IsOneOf(tag, {kLabelOffsets, "first", "second"})) {
+        return PointForm;
+    }
+    return IsOneOf(tag, {"CurveWidth", "CurveDotWidth"}) ? LengthForm : nullptr;
+}
+
+} // namespace
 
 /// Gives the place of the key.
 std::string ChartStream::Ask(const std::string& tag) {
@@ -32,6 +71,9 @@ void ChartStream::Ser(const std::string& tag, std::vector<std::string>& values,
     }
     const bool areColors = tag == "ComponentColor" || tag == "CurveColor";
     m_json.Ser(tag, values, areColors ? PaletteTexts() : defaults);
+    if (const Form form = FormOfItems(tag)) {
+        std::transform(values.begin(), values.end(), values.begin(), form);
+    }
 }
 
 std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
@@ -40,18 +82,38 @@ std::vector<double> ChartStream::LoadNumbersAndGaps(const std::string& tag) {
 }
 
 void ChartStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
-    const std::string place = Ask(tag);
-    if (!m_json.Has(tag)) {
+    const std::string& key = NameGiven(tag);
+    const std::string place = Ask(key);
+    if (!m_json.Has(key)) {
         m_missing.insert(place);
     }
     if (tag == "ComponentName" && m_json.IsList(tag)) {
         value = JoinedList(tag);
         return;
     }
-    m_json.Ser(tag, value, defaultValue);
+    const char* const ofDocument =
+        DocumentDefault(m_kind, m_places.back(), penlode::CStringUtil::AnsiToUtf8(tag));
+    m_json.Ser(key, value, ofDocument == nullptr ? defaultValue : ofDocument);
     if (tag == "ComponentName") {
         WarnOfDroppedName(place, value);
     }
+    if (const Form form = FormOf(tag, defaultValue)) {
+        value = form(value);
+    }
+}
+
+/// The name under which the document has the key.
+const std::string& ChartStream::NameGiven(const std::string& tag) {
+    if (tag != FontTag() || !Has(kFontAlias)) {
+        return tag;
+    }
+    if (Has(tag)) {
+        std::string ignored;
+        m_json.Ser(kFontAlias, ignored, {});
+        Refuse(kFontAlias, ignored, "either it or " + tag);
+        return tag;
+    }
+    return kFontAlias;
 }
 
 void ChartStream::WarnOfDroppedName(const std::string& place, const std::string& joined) {

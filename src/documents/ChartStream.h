@@ -5,16 +5,22 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace millichart::documents {
 
 /// Loads a chart document: the keyed stream, and the short forms that people write, which the records' own
-/// serializers do not know: names that a record holds joined may be a list, and colours may be missing. It
-/// remembers which keys were asked for, to guess what an unknown key was meant to be.
+/// serializers do not know: names that a record holds joined may be a list, colours and lengths have more
+/// forms (Forms.h), a text's font may stand under "Font", and what is missing is what a document takes
+/// (DocumentDefaults.h). It remembers which keys were asked for, to guess what an unknown key was meant to
+/// be.
 class ChartStream final : public penlode::CSerializeStream {
 public:
     explicit ChartStream(penlode::CJsonSerializeStream& json) : m_json(json) {}
+
+    /// Defaults are those of documents of this kind from here on.
+    void SetKind(std::string_view kind) { m_kind = kind; }
 
     /// The places of the texts and lists that were asked for and not there, as in
     /// "property/PieBasicProp/ComponentColor".
@@ -30,6 +36,9 @@ public:
     std::string PlaceOf(const std::string& tag) const;
 
     bool IsList(const std::string& tag) const { return m_json.IsList(tag); }
+
+    /// A text, a number or a boolean.
+    bool IsText(const std::string& tag) const { return m_json.IsText(tag); }
 
     /// How many groups there are to push in a list of them; 0 for what is no list.
     std::size_t CountGroups(const std::string& tag) {
@@ -73,6 +82,7 @@ public:
 
 private:
     std::string Ask(const std::string& tag);
+    const std::string& NameGiven(const std::string& tag);
     std::string JoinedList(const std::string& tag);
     void WarnOfDroppedName(const std::string& place, const std::string& joined);
 
@@ -81,6 +91,7 @@ private:
     std::vector<penlode::Diagnostic> m_warnings;
     std::map<std::string, std::vector<std::string>> m_asked;
     std::vector<std::string> m_places{""};
+    std::string m_kind;
 };
 
 /// What a load met: errors, unknown keys as warnings with what they were probably meant to be, and missing

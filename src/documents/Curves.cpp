@@ -1,11 +1,13 @@
 #include "documents/Curves.h"
 
 #include "documents/Fields.h"
+#include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <numeric>
 #include <utility>
@@ -19,6 +21,7 @@ using Times = std::vector<std::int32_t>;
 constexpr const char* kCurves = "curves";
 constexpr const char* kCurvesForm = "a list of curves, each with values and their times";
 const std::string kPlot = "property/CurvePlotProp";
+const std::string kLegend = "property/CurveLegendProp";
 const std::string kNamesPlace = kPlot + "/CurveName";
 const std::string kHorAxis = "property/CurveHorAxisProp/";
 
@@ -137,6 +140,30 @@ void ForgetUnseen(std::vector<std::string>& labels, std::int32_t labelStep) {
     }
 }
 
+void FillUpLikeTheLast(std::vector<float>& widths, std::size_t count, float first) {
+    widths.resize(std::max(widths.size(), count), widths.empty() ? first : widths.back());
+}
+
+/// Lines whose last marker is none have none; after any other each has the next that no line has yet.
+void FillUpMarkers(std::vector<std::int32_t>& styles, std::size_t count) {
+    constexpr std::int32_t kMarkers[] = {
+        CurveDotStyle::SolidCircle,           CurveDotStyle::SolidSquare,
+        CurveDotStyle::SolidTriangle,         CurveDotStyle::SolidDiamond,
+        CurveDotStyle::SolidInvertedTriangle, CurveDotStyle::HollowCircle,
+        CurveDotStyle::HollowSquare,          CurveDotStyle::HollowTriangle,
+        CurveDotStyle::HollowDiamond,         CurveDotStyle::HollowInvertedTriangle};
+    if (styles.empty() || styles.back() == CurveDotStyle::None) {
+        return;
+    }
+    for (std::size_t i = styles.size(); i < count; ++i) {
+        const auto* const next =
+            std::find_if(std::begin(kMarkers), std::end(kMarkers), [&](std::int32_t marker) {
+                return std::find(styles.begin(), styles.end(), marker) == styles.end();
+            });
+        styles.push_back(next == std::end(kMarkers) ? kMarkers[i % std::size(kMarkers)] : *next);
+    }
+}
+
 } // namespace
 
 void Curves::Load(ChartStream& stream, const DataSource& source) {
@@ -188,9 +215,10 @@ void Curves::Complete(const LayoutTask& task) {
     if (task.AreDataChanged) {
         m_data.Origin = {};
     }
-    CompleteNames(m_prop.Plot.CurveName, m_data.CurveNames, m_data.Values.size(),
-                  task.Open.contains(kNamesPlace));
+    m_named = CompleteNames(m_prop.Plot.CurveName, m_data.CurveNames, m_data.Values.size(),
+                            task.Open.contains(kNamesPlace));
     CompleteLooks(task.Open);
+    CompleteLegend(m_prop.Legend, m_prop.Plot.CurveName, task.Open.contains(kLegend + kShowLegend));
     if (m_data.Labels.empty()) {
         m_data.Labels = TimeLabels(m_data.Times);
     }
@@ -198,22 +226,24 @@ void Curves::Complete(const LayoutTask& task) {
     ForgetUnseen(m_data.Labels, m_prop.HorAxis.LabelStep);
 }
 
-/// Where the document leaves the look of lines open, they can be told apart and seen.
+/// What the document leaves open of the look of lines, or names for too few of them, can be told apart and
+/// seen.
 void Curves::CompleteLooks(const OpenPlaces& open) {
     CurvePlotProp& plot = m_prop.Plot;
     const std::size_t count = plot.CurveName.size();
     if (open.contains(kPlot + "/CurveColor")) {
-        plot.CurveColor = PaletteColors(count);
+        plot.CurveColor.clear();
     }
+    FillUp(plot.CurveColor, count);
     if (open.contains(kPlot + "/CurveDotColor")) {
-        plot.CurveDotColor = plot.CurveColor;
+        plot.CurveDotColor.clear();
     }
-    if (open.contains(kPlot + "/CurveWidth")) {
-        plot.CurveWidth.assign(count, kLineWidth);
+    for (std::size_t i = plot.CurveDotColor.size(); i < count; ++i) {
+        plot.CurveDotColor.push_back(plot.CurveColor[i]);
     }
-    if (open.contains(kPlot + "/CurveDotWidth")) {
-        plot.CurveDotWidth.assign(count, kMarkerWidth);
-    }
+    FillUpLikeTheLast(plot.CurveWidth, count, kLineWidth);
+    FillUpLikeTheLast(plot.CurveDotWidth, count, kMarkerWidth);
+    FillUpMarkers(plot.CurveDotStyle, count);
 }
 
 void Curves::CompleteSteps(const OpenPlaces& open) {
@@ -244,25 +274,36 @@ void Curves::Check(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostic
         diagnostics.push_back(OtherNames(kNamesPlace));
     }
     CheckRange(chart, diagnostics);
-    if (const std::size_t curves = m_data.Values.size(); names.size() != curves) {
-        diagnostics.push_back(WrongCount(kNamesPlace, names.size(), "name", curves, "one a curve"));
+    if (const std::size_t curves = m_data.Values.size(); m_named != curves) {
+        diagnostics.push_back(WrongCount(kNamesPlace, m_named, "name", curves, "one a curve"));
     }
 }
 
-void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {
-    const CurvePlotProp& plot = m_prop.Plot;
-    RangeCheck range(chart, plot.LogarithmScale != 0);
+/// Calls `look` with each value through which a line runs, its curve and its index there.
+template <class Look> void Curves::ForEachValue(const Look& look) const {
+    const std::vector<std::int32_t>& nullStyles = m_prop.Plot.NullValueStyle;
     for (std::size_t curve = 0; curve < m_data.Values.size(); ++curve) {
         const bool nullsAreZero =
-            curve < plot.NullValueStyle.size() && plot.NullValueStyle[curve] != CurveNullValueStyle::Break;
+            curve < nullStyles.size() && nullStyles[curve] != CurveNullValueStyle::Break;
         for (std::size_t i = 0; i < m_data.Values[curve].size(); ++i) {
             const double value = m_data.Values[curve][i];
             const bool isNull = IsCurveNull(value);
             if (!isNull || nullsAreZero) {
-                range.Look(isNull ? 0.0 : value, curve, i);
+                look(isNull ? 0.0 : value, curve, i);
             }
         }
     }
+}
+
+ValueRange Curves::FittedRange() const {
+    ValueSpan span;
+    ForEachValue([&span](double value, std::size_t, std::size_t) { span.Take(value); });
+    return RangeFilledBy(span, m_prop.Plot.LogarithmScale != 0, false);
+}
+
+void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {
+    RangeCheck range(chart, m_prop.Plot.LogarithmScale != 0);
+    ForEachValue([&range](double value, std::size_t curve, std::size_t i) { range.Look(value, curve, i); });
     range.AddTo(diagnostics, [this](std::size_t curve, std::size_t i) {
         return AtValue(m_data.Origin, i, curve + 1,
                        "data/curves/" + std::to_string(curve) + "/values/" + std::to_string(i));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/curve/BasicCurve.h"
-#include "documents/ChartData.h"
+#include "documents/ChartContent.h"
 #include "documents/DataSource.h"
 #include "documents/LayoutTask.h"
 #include "documents/SavingStream.h"
@@ -29,6 +29,9 @@ public:
     /// The largest value that is not null. -infinity when there is none.
     double Largest() const;
 
+    /// The range that they fill.
+    ValueRange FittedRange() const;
+
     /// Warns of what was hardly meant. The chart has its range.
     void Check(const CBasicCurve& chart, std::vector<penlode::Diagnostic>& diagnostics) const;
 
@@ -38,10 +41,12 @@ public:
 private:
     void CompleteLooks(const OpenPlaces& open);
     void CompleteSteps(const OpenPlaces& open);
+    template <class Look> void ForEachValue(const Look& look) const;
     void CheckRange(const CBasicCurve& chart, std::vector<penlode::Diagnostic>& diagnostics) const;
 
     CurveData& m_data;
     CurveProp& m_prop;
+    std::size_t m_named = 0; ///< curves with a name of the document or its table
 };
 
 } // namespace millichart::documents

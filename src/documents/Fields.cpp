@@ -3,6 +3,7 @@
 #include "foundation/SerializeFrame.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/Digits.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <cmath>
@@ -126,6 +127,11 @@ bool ParseNumber(const std::string& text, double& number) {
 
 bool IsJoinable(const std::string& text) {
     return SplitJoinedTexts(text + std::string(kTextSeparator)) == std::vector{text};
+}
+
+const std::string& FontTag() {
+    static const std::string kTag = penlode::CStringUtil::WideToAnsiString(L"字体");
+    return kTag;
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

@@ -35,6 +35,10 @@ inline constexpr const char* kJoinableForm = "a text without || and without | at
 /// Does a narrow text come out again whole when it is joined to others?
 bool IsJoinable(const std::string& text);
 
+/// The key of the font in a text's look, narrow, and what else a document may call it.
+const std::string& FontTag();
+inline const std::string kFontAlias = "Font";
+
 /// "1 value", "2 values"
 std::string Counted(std::size_t count, const std::string& noun);
 

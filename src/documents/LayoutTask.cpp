@@ -2,14 +2,25 @@
 
 #include "documents/Fields.h"
 
+#include <algorithm>
+
 namespace millichart::documents {
 
-void CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,
-                   bool areOpen) {
+std::size_t CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData,
+                          std::size_t count, bool areOpen) {
     TakeNames(names, ofData, areOpen);
-    if (areOpen && ofData.empty()) {
-        names.assign(count, "");
+    const std::size_t named = areOpen && names.empty() ? count : names.size();
+    for (std::size_t i = names.size(); i < count; ++i) {
+        names.push_back(i < ofData.size() ? ofData[i] : std::string());
     }
+    return named;
+}
+
+void CompleteLegend(LegendProp& legend, const std::vector<std::string>& names, bool isOpen) {
+    const bool isOfUse =
+        names.size() > 1 &&
+        std::any_of(names.begin(), names.end(), [](const std::string& name) { return !name.empty(); });
+    legend.ShowLegend = isOpen && !isOfUse ? 0 : legend.ShowLegend;
 }
 
 void TakeNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, bool inPlaceOfOwn) {

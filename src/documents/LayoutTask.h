@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/ChartData.h"
+#include "foundation/Legend.h"
 #include "penlode/Geometry.h"
 #include "penlode/streams/Diagnostic.h"
 
@@ -15,6 +16,8 @@ inline constexpr const char* kLabelOffsets = "labelOffsets";
 inline constexpr const char* kNames = "/ComponentName"; ///< in a record's place
 inline constexpr const char* kColors = "/ComponentColor";
 
+inline constexpr const char* kShowLegend = "/ShowLegend";
+
 /// The places of keys that a document leaves open, so that what is taken for them follows the data.
 using OpenPlaces = std::set<std::string>;
 
@@ -27,10 +30,13 @@ struct LayoutTask {
     penlode::Diagnostic Emptiness;                ///< takes what is told when the chart has no extent
 };
 
-/// The document's own names stand, then those that came with the data; without any, so many are empty where
-/// the names are left open, that all is drawn.
-void CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, std::size_t count,
-                   bool areOpen);
+/// The document's own names stand, then those that came with the data, then empty ones, so that so many are
+/// drawn. Gives how many were named; where all is left open, so many.
+std::size_t CompleteNames(std::vector<std::string>& names, const std::vector<std::string>& ofData,
+                          std::size_t count, bool areOpen);
+
+/// A legend that the document neither asks for nor refuses is there when it tells several things apart.
+void CompleteLegend(LegendProp& legend, const std::vector<std::string>& names, bool isOpen);
 
 /// Puts the names that came with the data into the record: those that it lacks, or in the place of its own.
 void TakeNames(std::vector<std::string>& names, const std::vector<std::string>& ofData, bool inPlaceOfOwn);

@@ -2,6 +2,7 @@
 
 #include "penlode/streams/TextForms.h"
 
+#include <algorithm>
 #include <array>
 
 namespace millichart::documents {
@@ -28,6 +29,10 @@ Color Paler(Color color, std::uint32_t round) {
     return Color::FromArgb(color.A(), raised(color.R()), raised(color.G()), raised(color.B()));
 }
 
+bool Contains(const std::vector<Color>& colors, Color color) {
+    return std::find(colors.begin(), colors.end(), color) != colors.end();
+}
+
 } // namespace
 
 std::vector<Color> PaletteColors(std::size_t count) {
@@ -38,6 +43,19 @@ std::vector<Color> PaletteColors(std::size_t count) {
         colors.push_back(Paler(kHues[i % kHues.size()], round));
     }
     return colors;
+}
+
+void FillUp(std::vector<Color>& colors, std::size_t count) {
+    constexpr std::size_t kRound = kHues.size() * kPalerRounds;
+    const std::vector<Color> palette = PaletteColors(kRound);
+    for (std::size_t i = colors.size(); i < count; ++i) {
+        // Within the first round each colour is there once.
+        std::size_t hue = i % kRound;
+        for (std::size_t tried = 1; i < kRound && tried < kRound && Contains(colors, palette[hue]); ++tried) {
+            hue = (hue + 1) % kRound;
+        }
+        colors.push_back(palette[hue]);
+    }
 }
 
 std::vector<std::string> PaletteTexts() {

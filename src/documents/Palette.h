@@ -11,6 +11,10 @@ namespace millichart::documents {
 /// hues come again, paler.
 std::vector<penlode::Color> PaletteColors(std::size_t count);
 
+/// Fills a list of colours up to so many, each entry with the palette's at its position, or the next that is
+/// not in the list yet.
+void FillUp(std::vector<penlode::Color>& colors, std::size_t count);
+
 /// The ten hues, as documents write them.
 std::vector<std::string> PaletteTexts();
 

@@ -65,13 +65,19 @@ void SavingStream::Ser(const std::string& tag, std::vector<std::string>& values,
     Take(tag, HashOf(values), [&] { m_json->Ser(tag, values, defaults); });
 }
 
+/// A text's font stays under its other name.
+std::string SavingStream::KeyInDocument(const std::string& tag) const {
+    const bool isFont = tag == FontTag() && !m_json->Has(tag) && m_json->Has(kFontAlias);
+    return isFont ? kFontAlias : tag;
+}
+
 void SavingStream::Ser(const std::string& tag, std::string& value, const std::string& defaultValue) {
     Take(tag, HashOf(value), [&] {
         if (tag == "ComponentName" && m_json->IsList(tag)) {
             std::vector<std::string> names = SplitJoinedTexts(value);
             m_json->Ser(tag, names, {});
         } else {
-            m_json->Ser(tag, value, defaultValue);
+            m_json->Ser(KeyInDocument(tag), value, defaultValue);
         }
     });
 }

@@ -83,6 +83,7 @@ private:
     };
 
     std::string PlaceOf(const std::string& tag) const;
+    std::string KeyInDocument(const std::string& tag) const;
     bool IsChanged(const std::string& place) const;
     /// Calls `write` in the current group of the document.
     template <class Write> void InGroup(const Write& write);

@@ -148,10 +148,11 @@ void Slices::Save(SavingStream& stream) const {
 }
 
 void Slices::Complete(const LayoutTask& task) {
-    TakeNames(m_names, m_data.Names, false);
+    CompleteNames(m_names, m_data.Names, m_data.Names.size(), false);
     if (task.Open.contains(m_record + kColors)) {
-        m_colors = PaletteColors(m_data.Values.size());
+        m_colors.clear();
     }
+    FillUp(m_colors, m_data.Values.size());
 }
 
 std::string Slices::DataPlace() const {
@@ -181,16 +182,12 @@ void Slices::Check(const CSlicedCircle& circle, std::vector<Diagnostic>& diagnos
     if (!m_names.empty() && m_names.size() != values) {
         diagnostics.push_back(WrongCount(m_record + kNames, m_names.size(), "name", values, "one a value"));
     }
-    if (m_colors.size() < values) {
-        diagnostics.push_back(
-            WrongCount(m_record + kColors, m_colors.size(), "colour", values, "one a value"));
-    }
 }
 
 void Slices::CheckSize(float width, std::vector<Diagnostic>& diagnostics) const {
     if (Total() == 0.0) {
         diagnostics.push_back(penlode::Warning(DataPlace(), "no value above 0", "one for each slice"));
-    } else if (width < 0.0F) {
+    } else if (!(width > 0.0F)) {
         diagnostics.push_back(
             penlode::Error(m_record, "a pie of " + NumberText(width) + " mm", kSizesAboveZero));
     } else if (width < kMinPie) {

@@ -16,6 +16,7 @@ using penlode::Diagnostic;
 using Diagnostics = std::vector<Diagnostic>;
 
 constexpr const char* kRange = "range";
+constexpr const char* kFit = "fit";
 constexpr const char* kMax = "InitializeValueRange";
 constexpr const char* kNatural = "NaturalValueRange";
 constexpr const char* kLogarithm = "LogarithmValueRange";
@@ -41,18 +42,34 @@ bool IsLogarithmRange(const std::vector<double>& r) {
     return r.size() == 2 && r[0] > 0.0 && r[0] < r[1] && IsInReach(r[1]);
 }
 
-/// Visits the group, if there is one.
-template <class Visit> void InRange(ChartStream& stream, Diagnostics& diagnostics, Visit visit) {
+/// "fit", the only range that is one word.
+ValueRange LoadWord(ChartStream& stream) {
+    const std::string word = LoadText(stream, kRange, "");
+    if (word != kFit) {
+        stream.Refuse(kRange, word, "\"fit\" or a group");
+    }
+    ValueRange range;
+    range.IsFitted = word == kFit;
+    return range;
+}
+
+/// `load` loads from the group, if there is one.
+template <class Load> ValueRange LoadRangeBy(ChartStream& stream, Diagnostics& diagnostics, Load load) {
     constexpr const char* kFromLargest = "found from the largest value";
+    ValueRange range;
     if (!stream.Has(kRange)) {
         diagnostics.push_back(penlode::Note(kRange, std::string("missing, ") + kFromLargest));
         diagnostics.back().Expected = kFromLargest;
-        return;
+        return range;
+    }
+    if (stream.IsText(kRange)) {
+        return LoadWord(stream);
     }
     if (stream.Push(kRange, -1)) {
-        visit();
+        load(range);
     }
     stream.Pop();
+    return range;
 }
 
 double LoadLargest(ChartStream& stream) {
@@ -118,8 +135,7 @@ void SaveNumbers(SavingStream& stream, const char* key, const std::optional<Numb
 } // namespace
 
 ValueRange LoadValueRange(ChartStream& stream, bool isLogarithmic, Diagnostics& diagnostics) {
-    ValueRange range;
-    InRange(stream, diagnostics, [&] {
+    return LoadRangeBy(stream, diagnostics, [&](ValueRange& range) {
         if (stream.Has(kMax)) {
             range.Largest = LoadLargest(stream);
         }
@@ -131,22 +147,23 @@ ValueRange LoadValueRange(ChartStream& stream, bool isLogarithmic, Diagnostics& 
             diagnostics.push_back(*std::move(fault));
         }
     });
-    return range;
 }
 
-std::optional<double> LoadLargestValue(ChartStream& stream, Diagnostics& diagnostics) {
-    std::optional<double> largest;
-    InRange(stream, diagnostics, [&] {
+ValueRange LoadLargestValue(ChartStream& stream, Diagnostics& diagnostics) {
+    return LoadRangeBy(stream, diagnostics, [&](ValueRange& range) {
         if (stream.Has(kMax)) {
-            largest = LoadLargest(stream);
+            range.Largest = LoadLargest(stream);
         } else {
             diagnostics.push_back(penlode::Error(kRange, "no range", kMax));
         }
     });
-    return largest;
 }
 
 void SaveValueRange(SavingStream& stream, const ValueRange& range) {
+    if (range.IsFitted) {
+        stream.Text(kRange, kFit);
+        return;
+    }
     if (range == ValueRange()) {
         stream.Remove(kRange);
         return;
@@ -160,6 +177,16 @@ void SaveValueRange(SavingStream& stream, const ValueRange& range) {
     SaveNumbers(stream, kNatural, range.Natural);
     SaveNumbers(stream, kLogarithm, range.Logarithm);
     stream.Pop();
+}
+
+ValueRange RangeFilledBy(const ValueSpan& values, bool isLogarithmic, bool areBars) {
+    ValueRange range;
+    if (isLogarithmic) {
+        range.Logarithm = FittedDecades(values, areBars);
+    } else {
+        range.Natural = FittedRange(values, areBars);
+    }
+    return range;
 }
 
 Diagnostics PlotSizeFaults(const std::string& place, float width, float height) {

@@ -2,6 +2,7 @@
 
 #include "documents/ChartContent.h"
 #include "documents/ChartStream.h"
+#include "documents/FittedRange.h"
 #include "documents/SavingStream.h"
 #include "penlode/streams/Diagnostic.h"
 
@@ -10,8 +11,10 @@
 #include <string>
 #include <vector>
 
-/// The range of a value axis as a document gives it in its group "range", by the library's own words:
+/// The range of a value axis as a document gives it in its group "range", or in it by the library's own
+/// words:
 ///
+///     "range": "fit"
 ///     "range": {"InitializeValueRange": 37}
 ///     "range": {"NaturalValueRange": [0, 40, 10, 2]}
 ///     "range": {"LogarithmValueRange": [1, 1000]}
@@ -24,8 +27,8 @@ inline constexpr double kMaxValue = 1e300;
 ValueRange LoadValueRange(ChartStream& stream, bool isLogarithmic,
                           std::vector<penlode::Diagnostic>& diagnostics);
 
-/// The range of a chart that always finds its axis's range from a largest value.
-std::optional<double> LoadLargestValue(ChartStream& stream, std::vector<penlode::Diagnostic>& diagnostics);
+/// The range of a chart that else always finds its axis's range from a largest value.
+ValueRange LoadLargestValue(ChartStream& stream, std::vector<penlode::Diagnostic>& diagnostics);
 
 void SaveValueRange(SavingStream& stream, const ValueRange& range);
 
@@ -38,6 +41,9 @@ template <class Chart> void SetValueRange(Chart& chart, const ValueRange& range,
         chart.InitializeValueRange(range.Largest.value_or(largest));
     }
 }
+
+/// The range that the values fill on an axis, which bars stand on and lines do not.
+ValueRange RangeFilledBy(const ValueSpan& values, bool isLogarithmic, bool areBars);
 
 /// An error for each extent of the plot of a bar or line chart that is not above 0. `place` is its record's.
 std::vector<penlode::Diagnostic> PlotSizeFaults(const std::string& place, float width, float height);

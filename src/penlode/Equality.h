@@ -44,6 +44,9 @@ template <std::size_t Count, class Plain> auto MembersOf(const Plain& plain) {
     } else if constexpr (Count == 5) {
         const auto& [a, b, c, d, e] = plain;
         return std::tie(a, b, c, d, e);
+    } else if constexpr (Count == 6) {
+        const auto& [a, b, c, d, e, f] = plain;
+        return std::tie(a, b, c, d, e, f);
     } else if constexpr (Count == 3) {
         const auto& [a, b, c] = plain;
         return std::tie(a, b, c);

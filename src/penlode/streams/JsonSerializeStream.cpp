@@ -153,6 +153,11 @@ bool CJsonSerializeStream::IsList(const std::string& tag) const {
     return entry != nullptr && entry->Is(JsonType::List);
 }
 
+bool CJsonSerializeStream::IsText(const std::string& tag) const {
+    const JsonNode* const entry = m_document->Find(tag);
+    return entry != nullptr && entry->IsScalar() && !entry->Is(JsonType::Null);
+}
+
 std::size_t CJsonSerializeStream::CountGroups(const std::string& tag) {
     return m_document->Saving ? 0 : m_document->Reader.CountGroups(tag);
 }

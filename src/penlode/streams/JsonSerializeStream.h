@@ -70,6 +70,8 @@ public:
     bool Has(const std::string& tag) const;
     /// Is that entry a list? Asking does not count as loading it.
     bool IsList(const std::string& tag) const;
+    /// Is that entry a text, a number or a boolean? Asking does not count as loading it.
+    bool IsText(const std::string& tag) const;
     /// How many groups there are to load from a list of them; 0 for what is no list.
     std::size_t CountGroups(const std::string& tag);
 

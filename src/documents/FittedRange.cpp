@@ -1,0 +1,165 @@
+#include "documents/FittedRange.h"
+
+#include "documents/ValueRange.h"
+#include "penlode/text/Digits.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <tuple>
+
+namespace millichart::documents {
+namespace {
+
+/// Values nearer to each other than this part of themselves are all alike: there is no room for ticks between
+/// them in double precision.
+constexpr double kLeastSpan = 1e-11;
+constexpr double kLeastNumber = 1e-290;
+/// A quotient this near to a whole number is one.
+constexpr double kRounding = 1e-9;
+
+/// The same on every platform, which std::pow is not.
+double PowerOfTen(int exponent) {
+    return penlode::NumberOf<double>("1e" + std::to_string(exponent)).value_or(0.0);
+}
+
+int FloorOfLog(double positive) {
+    int exponent = static_cast<int>(std::floor(std::log10(positive)));
+    exponent += PowerOfTen(exponent + 1) <= positive ? 1 : 0;
+    return PowerOfTen(exponent) > positive ? exponent - 1 : exponent;
+}
+
+/// `Tenths` of ten times a power of ten.
+struct Step {
+    int Tenths;
+    int MinorTenths;
+    int Exponent; ///< of the tenths' unit
+
+    /// Rounded once, so that three steps of 0.1 are 0.3.
+    double Times(double count, int tenths) const {
+        const double tens = count * tenths;
+        return Exponent < 0 ? tens / PowerOfTen(-Exponent) : tens * PowerOfTen(Exponent);
+    }
+
+    double Times(double count) const { return Times(count, Tenths); }
+};
+
+constexpr Step kSteps[] = {{10, 2, 0}, {20, 5, 0}, {25, 5, 0}, {50, 10, 0}};
+
+/// An axis from so many steps to so many, which ends there or a little beyond.
+struct Axis {
+    Step Each;
+    double First;
+    double Last;
+    double End;
+
+    double Steps() const { return Last - First; }
+};
+
+/// One that would end at 1 for values below it ends before it, as a tick at 1 would have all labels written
+/// as whole numbers.
+Axis AxisRound(const Step& step, double min, double max) {
+    constexpr double kBelowOne = 0.99;
+    const double unit = step.Times(1.0);
+    Axis axis{step, std::floor(min / unit + kRounding), std::ceil(max / unit - kRounding), max};
+    if (step.Times(axis.Last) == 1.0 && max < 1.0) {
+        axis.Last -= 1.0;
+        axis.End = std::max(kBelowOne, max);
+    }
+    return axis;
+}
+
+/// Does each label say what it stands at?
+bool IsWrittenExactly(const Axis& axis) {
+    const bool isWhole = axis.Each.Times(axis.Last) >= 1.0;
+    const double steps = axis.Each.Times(1.0) * (isWhole ? 1.0 : 100.0);
+    return std::abs(steps - std::round(steps)) <= kRounding && std::round(steps) >= 1.0;
+}
+
+/// What is better comes first: labels that are right on an axis that is half filled or more; the number of
+/// steps; how much of the axis is filled.
+auto Rank(const Axis& axis, double min, double max) {
+    constexpr double kFewest = 5.0;
+    constexpr double kMost = 9.0;
+    constexpr double kHalf = 0.5;
+    const double filled =
+        (max - min) / (std::max(axis.End, axis.Each.Times(axis.Last)) - axis.Each.Times(axis.First));
+    const double beyond = std::max({kFewest - axis.Steps(), axis.Steps() - kMost, 0.0});
+    return std::tuple(!(IsWrittenExactly(axis) && filled >= kHalf), beyond, -filled);
+}
+
+Axis BestAxis(double min, double max) {
+    const int middle = FloorOfLog(max - min);
+    Axis best{};
+    bool isFirst = true;
+    for (int exponent = middle - 3; exponent <= middle; ++exponent) {
+        for (Step step : kSteps) {
+            step.Exponent = exponent;
+            const Axis axis = AxisRound(step, min, max);
+            if (isFirst || Rank(axis, min, max) < Rank(best, min, max)) {
+                best = axis;
+                isFirst = false;
+            }
+        }
+    }
+    return best;
+}
+
+/// An axis adds step on step, so that the sum may end a little beside the last multiple: the last tick
+/// counts.
+std::array<double, 4> RangeOf(const Axis& axis, double min) {
+    const double step = axis.Each.Times(1.0);
+    const double first = std::min(axis.Each.Times(axis.First), min);
+    double last = first;
+    for (double i = 0.0; i < axis.Steps(); i += 1.0) {
+        last += step;
+    }
+    return {first, std::max({last, axis.Each.Times(axis.Last), axis.End}), step,
+            axis.Each.Times(1.0, axis.Each.MinorTenths)};
+}
+
+double InReach(double value) {
+    return std::abs(value) < kLeastNumber ? 0.0 : std::clamp(value, -kMaxValue, kMaxValue);
+}
+
+} // namespace
+
+void ValueSpan::Take(double value) {
+    if (std::isfinite(value)) {
+        m_min = std::min(m_min, value);
+        m_max = std::max(m_max, value);
+        m_smallestPositive = value > 0.0 ? std::min(m_smallestPositive, value) : m_smallestPositive;
+    }
+}
+
+std::array<double, 4> FittedRange(const ValueSpan& values, bool standsOnZero) {
+    double min = values.IsEmpty() ? 0.0 : InReach(values.Min());
+    double max = values.IsEmpty() ? 0.0 : InReach(values.Max());
+    const bool areAlike = max - min <= std::max(std::abs(min), std::abs(max)) * kLeastSpan;
+    if (standsOnZero || areAlike || (min > 0.0 ? min : -max) <= max - min) {
+        min = std::min(min, 0.0);
+        max = std::max(max, 0.0);
+    }
+    max = min == max ? 1.0 : max;
+    return RangeOf(BestAxis(min, max), min);
+}
+
+std::array<double, 2> FittedDecades(const ValueSpan& values, bool standsOnMinimum) {
+    if (!std::isfinite(values.SmallestPositive())) {
+        return {1.0, 10.0};
+    }
+    const double least =
+        std::clamp(values.SmallestPositive() / (standsOnMinimum ? 2.0 : 1.0), kLeastNumber, kMaxValue);
+    const double largest = std::clamp(values.Max(), least, kMaxValue);
+    const int first = FloorOfLog(least);
+    int last = FloorOfLog(largest);
+    last += PowerOfTen(last) < largest || last == first ? 1 : 0;
+    // An axis multiplies by ten again and again: the last tick counts here too.
+    double end = PowerOfTen(first);
+    for (int i = first; i < last; ++i) {
+        end *= 10.0;
+    }
+    return {PowerOfTen(first), std::max(end, PowerOfTen(last))};
+}
+
+} // namespace millichart::documents
