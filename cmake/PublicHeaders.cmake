@@ -2,7 +2,7 @@
 # includes them all, that of the documents, and every header that one of these includes; but for those whose functions
 # are in no library of this build.
 function(public_headers result)
-  set(waiting millichart.h documents/ChartDocument.h penlode/GraphicsEngine.h editing/ColorPane.h
+  set(waiting millichart.h documents/ChartDocument.h documents/tables/QueryWatch.h penlode/GraphicsEngine.h editing/ColorPane.h
               editing/LineStyleComboBox.h editing/ListCtrlEx.h)
   if(NOT MILLICHART_ENGINES)
     set(absent penlode/GraphicsEngine.h penlode/RecordedCall.h penlode/cairo/ penlode/gdiplus/ penlode/recording/

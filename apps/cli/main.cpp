@@ -1,5 +1,6 @@
 #include "commands/CommandLine.h"
 #include "files/Console.h"
+#include "files/QueryProgress.h"
 #include "files/Streams.h"
 #include "files/System.h"
 
@@ -30,6 +31,7 @@ private:
 int main(int argc, char** argv) {
     try {
         cli::PrepareSystem();
+        cli::WatchQueries();
         return std::visit(Carry(), cli::ParseCommandLine(cli::Arguments(argc, argv)));
     } catch (const cli::UsageError& error) {
         cli::Tell(error.what());

@@ -1,6 +1,7 @@
 #include "documents/DataSource.h"
 
 #include "documents/Fields.h"
+#include "documents/tables/QuerySource.h"
 #include "penlode/text/StringUtil.h"
 
 namespace millichart::documents {
@@ -30,6 +31,29 @@ void LoadGroups(ChartStream& stream, const ListForm& form, std::vector<std::stri
     }
 }
 
+/// The data base that a document names, with its query. Nothing without one, or when the document names what
+/// it must not.
+std::optional<TableInput> LoadQuery(ChartStream& stream, const char* key, const DataSource& source) {
+    constexpr const char* kSource = "source";
+    if (!stream.Has(kSource)) {
+        return std::nullopt;
+    }
+    const std::string named = penlode::CStringUtil::AnsiToUtf8(LoadText(stream, kSource, ""));
+    TableInput input{{QuerySourceIn(source.Folder, named)}};
+    input.Options.Query = penlode::CStringUtil::AnsiToUtf8(LoadText(stream, "query", ""));
+    std::string expected = IsQuerySource(named) ? ExpectedOfDocument(named) : "sqlite:FILE or odbc:DSN";
+    if (stream.Has(key)) {
+        expected = std::string("either ") + key + " or " + kSource + ", not both";
+    }
+    if (!expected.empty()) {
+        // Not by the stream, which shows a value as it stands, with its password.
+        source.Diagnostics->push_back(penlode::Error(
+            stream.PlaceOf(kSource), '"' + penlode::Shortened(ShownSource(named)) + '"', expected));
+        return std::nullopt;
+    }
+    return input;
+}
+
 } // namespace
 
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
@@ -45,6 +69,12 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     }
     if (source.Table != nullptr) {
         return ReadTable(*source.Table, form, *source.Diagnostics);
+    }
+    if (const std::optional<TableInput> query = LoadQuery(stream, key, source)) {
+        if (const std::string base = FileOfQuerySource(query->Input.Name); !base.empty()) {
+            source.Files->push_back(base);
+        }
+        return ReadTable(*query, form, *source.Diagnostics);
     }
     if (!isName) {
         return std::nullopt;
@@ -62,7 +92,7 @@ std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, con
     std::optional<Table> table = LoadTable(stream, form.Key, source, form.Table, form.CsvKey);
     if (stream.Has(form.Key)) {
         LoadGroups(stream, form, names, load);
-    } else if (!table && !stream.Has(form.CsvKey) && (isGroup || isMissing)) {
+    } else if (!table && !stream.Has(form.CsvKey) && !stream.Has("source") && (isGroup || isMissing)) {
         source.Diagnostics->push_back(
             penlode::Error(std::string("data/") + form.Key, "no such key",
                            std::string(form.Expected) + ", or " + form.CsvKey + " with a file"));

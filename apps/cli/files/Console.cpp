@@ -11,15 +11,14 @@ constexpr const char* kClearLine = "\r\x1B[K";
 
 bool g_lineIsShown = false;
 
-/// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
+} // namespace
+
 void ShowPassingLine(const std::string& line) {
     if (g_lineIsShown || !line.empty()) {
         std::cerr << kClearLine << Printable(line) << std::flush;
     }
     g_lineIsShown = !line.empty();
 }
-
-} // namespace
 
 void Tell(const std::string& message) {
     ShowPassingLine("");

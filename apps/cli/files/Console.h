@@ -23,6 +23,9 @@ void TellProblems(const std::vector<Diagnostic>& diagnostics, const Voice& voice
 /// What is no problem: a line of its own, after the file's name.
 void TellFact(const Diagnostic& fact, const Voice& voice);
 
+/// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
+void ShowPassingLine(const std::string& line);
+
 /// Tells a person at a terminal which of several inputs is being worked on, on a line that the next message
 /// replaces.
 class Progress {

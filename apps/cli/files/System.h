@@ -27,4 +27,16 @@ public:
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 };
 
+/// While any of these lives, an interrupt (Ctrl+C) is only noted; a second one ends the program. The last one
+/// that goes ends it for the first, as an interrupt does at other times.
+class InterruptGuard {
+public:
+    InterruptGuard();
+    ~InterruptGuard();
+    InterruptGuard(const InterruptGuard&) = delete;
+    InterruptGuard& operator=(const InterruptGuard&) = delete;
+
+    static bool IsInterrupted();
+};
+
 } // namespace cli

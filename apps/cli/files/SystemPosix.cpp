@@ -5,6 +5,7 @@
 #include <atomic>
 #include <climits>
 #include <csignal>
+#include <mutex>
 #include <unistd.h>
 
 namespace cli {
@@ -20,6 +21,17 @@ extern "C" void EndCleanly(int signal) {
     }
     std::signal(signal, SIG_DFL);
     std::raise(signal);
+}
+
+std::mutex g_guarding;
+std::size_t g_guards = 0;
+void (*g_unguarded)(int) = SIG_DFL; ///< what an interrupt does without a guard
+std::atomic<bool> g_isInterrupted = false;
+
+extern "C" void NoteInterrupt(int signal) {
+    if (g_isInterrupted.exchange(true)) {
+        EndCleanly(signal);
+    }
 }
 
 } // namespace
@@ -56,6 +68,30 @@ UnfinishedFile::UnfinishedFile(const std::string& name) {
 
 UnfinishedFile::~UnfinishedFile() {
     g_isUnfinished = false;
+}
+
+InterruptGuard::InterruptGuard() {
+    const std::lock_guard lock(g_guarding);
+    if (++g_guards == 1) {
+        g_unguarded = std::signal(SIGINT, NoteInterrupt);
+        if (g_unguarded == SIG_IGN) {
+            std::signal(SIGINT, SIG_IGN);
+        }
+    }
+}
+
+InterruptGuard::~InterruptGuard() {
+    const std::lock_guard lock(g_guarding);
+    if (--g_guards == 0) {
+        std::signal(SIGINT, g_unguarded);
+        if (g_isInterrupted) {
+            std::raise(SIGINT);
+        }
+    }
+}
+
+bool InterruptGuard::IsInterrupted() {
+    return g_isInterrupted;
 }
 
 } // namespace cli

@@ -3,6 +3,7 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <fcntl.h>
 #include <io.h>
@@ -75,6 +76,15 @@ BOOL WINAPI EndCleanly(DWORD /*event*/) {
     return FALSE;
 }
 
+std::mutex g_guarding;
+std::size_t g_guards = 0;
+std::atomic<bool> g_isInterrupted = false;
+
+/// False leaves the event to the next handler, which ends the program.
+BOOL WINAPI NoteInterrupt(DWORD event) {
+    return event == CTRL_C_EVENT && !g_isInterrupted.exchange(true) ? TRUE : FALSE;
+}
+
 /// The files that a word with * or ? stands for, which shells leave to the program; the word itself if there
 /// are none, or if it has neither.
 std::vector<std::string> FilesOf(const std::wstring& word) {
@@ -132,6 +142,29 @@ UnfinishedFile::UnfinishedFile(const std::string& /*name*/) {
 
 UnfinishedFile::~UnfinishedFile() {
     g_writing.unlock();
+}
+
+InterruptGuard::InterruptGuard() {
+    const std::lock_guard lock(g_guarding);
+    if (++g_guards == 1) {
+        SetConsoleCtrlHandler(NoteInterrupt, TRUE);
+    }
+}
+
+InterruptGuard::~InterruptGuard() {
+    const std::lock_guard lock(g_guarding);
+    if (--g_guards == 0) {
+        SetConsoleCtrlHandler(NoteInterrupt, FALSE);
+        if (g_isInterrupted) {
+            constexpr UINT kEndedByInterrupt = 0xC000013A; // as the system's own handler
+            EndCleanly(CTRL_C_EVENT);
+            ExitProcess(kEndedByInterrupt);
+        }
+    }
+}
+
+bool InterruptGuard::IsInterrupted() {
+    return g_isInterrupted;
 }
 
 } // namespace cli

@@ -2,6 +2,8 @@
 
 #include "documents/Fields.h"
 #include "documents/tables/Csv.h"
+#include "documents/tables/Query.h"
+#include "documents/tables/QuerySource.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -39,7 +41,21 @@ bool IsWord(const std::string& cell) {
 
 class TableReader {
 public:
-    TableReader(const InputText& input, const TableForm& form) : m_input(input), m_form(form) {}
+    TableReader(const TableInput& input, const TableForm& form)
+        : m_input(input.Input), m_form(form), m_name(ShownSource(input.Input.Name)) {}
+
+    void ReadQuery(const TableInput& input) {
+        const std::unique_ptr<RowReader> reader = OpenQuery(input);
+        for (TableRow row; !m_isOver && reader->Next(row);) {
+            ReadRow(row);
+        }
+        if (const std::string fault = reader->Fault(); !fault.empty()) {
+            m_diagnostics.clear();
+            Tell(penlode::Error("", fault));
+            return;
+        }
+        CheckRows();
+    }
 
     void Read() {
         if (!m_input.Fault.empty()) {
@@ -134,7 +150,7 @@ private:
                                          ", though they are numbers; with an empty first cell it is no doubt "
                                          "one");
             warning.Line = row.Line;
-            warning.File = m_input.Name;
+            warning.File = m_name;
             m_diagnostics.push_back(std::move(warning));
         }
     }
@@ -234,7 +250,7 @@ private:
 
     /// One stands for all those that are not kept.
     void Tell(Diagnostic fault) {
-        fault.File = m_input.Name;
+        fault.File = m_name;
         if (++m_told <= penlode::kMaxDiagnostics) {
             m_diagnostics.push_back(std::move(fault));
             return;
@@ -244,13 +260,14 @@ private:
         }
         fault = penlode::Error("", "and " + std::to_string(m_told - penlode::kMaxDiagnostics) +
                                        " more, which are not told");
-        fault.File = m_input.Name;
+        fault.File = m_name;
         fault.IsRest = true;
         m_diagnostics.push_back(std::move(fault));
     }
 
     const InputText& m_input;
     const TableForm& m_form;
+    const std::string m_name; ///< as diagnostics call it
     Table m_table;
     std::vector<Diagnostic> m_diagnostics;
     std::size_t m_told = 0; ///< errors
@@ -265,10 +282,14 @@ private:
 
 Table ReadTable(const TableInput& input, const TableForm& form,
                 std::vector<penlode::Diagnostic>& diagnostics) {
-    TableReader reader(input.Input, form);
-    reader.Read();
+    TableReader reader(input, form);
+    if (IsQuerySource(input.Input.Name)) {
+        reader.ReadQuery(input);
+    } else {
+        reader.Read();
+    }
     diagnostics.insert(diagnostics.end(), reader.Diagnostics().begin(), reader.Diagnostics().end());
-    reader.Result().File = input.Input.Name;
+    reader.Result().File = ShownSource(input.Input.Name);
     return std::move(reader.Result());
 }
 

@@ -1,0 +1,54 @@
+#include "documents/tables/Query.h"
+
+#include "documents/tables/QuerySource.h"
+
+#if defined(MILLICHART_SQLITE)
+#include "documents/tables/Sqlite.h"
+#endif
+#if defined(MILLICHART_ODBC)
+#include "documents/tables/Odbc.h"
+#endif
+
+namespace millichart::documents {
+namespace {
+
+/// Gives no row but the reason why.
+class NoReader final : public RowReader {
+public:
+    explicit NoReader(std::string fault) : m_fault(std::move(fault)) {}
+
+    bool Next(TableRow& /*row*/) override { return false; }
+
+    std::string Fault() const override { return m_fault; }
+
+    bool IsExact() const override { return true; }
+
+private:
+    std::string m_fault;
+};
+
+constexpr const char* kNoQuery =
+    "no query, expected one such as \"select region, sum(value) from sales group by region\"";
+
+} // namespace
+
+std::unique_ptr<RowReader> OpenQuery(const TableInput& input) {
+    if (input.Options.Query.find_first_not_of(" \t\r\n") == std::string::npos) {
+        return std::make_unique<NoReader>(kNoQuery);
+    }
+    const bool isOdbc = !OdbcConnection(input.Input.Name).empty();
+#if defined(MILLICHART_SQLITE)
+    if (!isOdbc) {
+        return OpenSqlite(input);
+    }
+#endif
+#if defined(MILLICHART_ODBC)
+    if (isOdbc) {
+        return OpenOdbc(input);
+    }
+#endif
+    return std::make_unique<NoReader>(std::string("cannot be read: this build reads no data bases by ") +
+                                      (isOdbc ? "ODBC" : "SQLite"));
+}
+
+} // namespace millichart::documents
