@@ -20,10 +20,7 @@ struct Carry {
 
     int operator()(const cli::InspectOptions& options) const { return StatusOf(cli::Inspect(options)); }
 
-    int operator()(const cli::NewOptions& options) const {
-        cli::WriteNew(options);
-        return 0;
-    }
+    int operator()(const cli::NewOptions& options) const { return StatusOf(cli::WriteNew(options)); }
 
 private:
     static int StatusOf(bool good) { return good ? 0 : kInputFailed; }

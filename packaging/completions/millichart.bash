@@ -2,6 +2,7 @@
 
 _millichart() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
+  local kinds="pie half-pie half-pie-half-pie half-pie-histogram histogram curve"
   COMPREPLY=()
   if [ "$COMP_CWORD" -eq 1 ]; then
     COMPREPLY=($(compgen -W "draw new check inspect --help --version" -- "$current"))
@@ -24,18 +25,39 @@ _millichart() {
       COMPREPLY=($(compgen -W "none" -- "$current"))
       return
       ;;
+    --kind)
+      COMPREPLY=($(compgen -W "$kinds bar line" -- "$current"))
+      return
+      ;;
+    --legend)
+      COMPREPLY=($(compgen -W "none right left top bottom top-left top-right bottom-left bottom-right" -- "$current"))
+      return
+      ;;
+    --sort)
+      COMPREPLY=($(compgen -W "ascending descending name" -- "$current"))
+      return
+      ;;
+    --decimal)
+      COMPREPLY=($(compgen -W ". ," -- "$current"))
+      return
+      ;;
   esac
   if [[ $current == -* && $previous != -o && $previous != --output && $previous != --data ]]; then
     local options="--help"
+    options+=" --data --query --sheet --columns --header --no-header --transpose --sort --top --decimal"
+    options+=" --title --x-title --y-title --log --stacked --3d --legend --set"
     case $command in
-      draw) options+=" --output --format --data --dpi --page --background --outlines --verbose" ;;
+      draw)
+        options+=" --kind --output --format --dpi --page --background --outlines"
+        options+=" --strict --quiet --json --jobs --verbose"
+        ;;
       new) options+=" --output --force" ;;
-      check) options+=" --data --json" ;;
-      inspect) options+=" --data" ;;
+      check) options+=" --kind --strict --quiet --json" ;;
+      inspect) options+=" --kind" ;;
     esac
     COMPREPLY=($(compgen -W "$options" -- "$current"))
   elif [ "$command" = new ] && [ "$COMP_CWORD" -eq 2 ]; then
-    COMPREPLY=($(compgen -W "pie half-pie half-pie-half-pie half-pie-histogram histogram curve" -- "$current"))
+    COMPREPLY=($(compgen -W "$kinds bar line" -- "$current"))
   else
     local IFS=$'\n'
     compopt -o filenames 2>/dev/null

@@ -107,7 +107,8 @@ struct ChartKind {
 
 std::span<const ChartKind> ChartKinds();
 
-/// Null when there is no such kind.
+/// By its name or another that people use, in any case: "pie", "Bar chart", "折线图". UTF-8; null when there
+/// is no such kind.
 const ChartKind* FindChartKind(std::string_view name);
 
 /// Null for content of no kind.
@@ -115,5 +116,8 @@ const ChartKind* KindOf(const ChartContent& content);
 
 /// All kinds, for messages: "pie", "curve"
 std::string ChartKindNames();
+
+/// The same, and what `found`, which is none of them, was probably meant to be.
+std::string ExpectedKind(const std::string& found);
 
 } // namespace millichart

@@ -43,15 +43,40 @@ void LoadVersion(ChartStream& stream) {
     }
 }
 
+/// Tells of the settings for which the document has no place.
+void Apply(const std::vector<Setting>& settings, penlode::CJsonSerializeStream& json,
+           std::vector<Diagnostic>& diagnostics) {
+    for (const Setting& setting : settings) {
+        if (!json.Set(setting.Place, setting.Value)) {
+            diagnostics.push_back(penlode::Error(setting.Place, "no such place in the document"));
+        }
+    }
+}
+
+/// A key that was mistyped in a document does no harm; one that was set does nothing.
+void RefuseUnknown(const std::vector<Setting>& settings, std::vector<Diagnostic>& diagnostics) {
+    for (Diagnostic& unknown : diagnostics) {
+        const bool isSet = std::any_of(settings.begin(), settings.end(), [&unknown](const Setting& setting) {
+            return IsPlaceIn(setting.Place, unknown.Place);
+        });
+        if (isSet && unknown.Kind == penlode::DiagnosticKind::UnknownKey) {
+            const std::string guess = unknown.Expected;
+            unknown.Severity = penlode::Severity::Error;
+            unknown.Text = "no such key" + (guess.empty() ? "" : "; is \"" + guess + "\" meant?");
+        }
+    }
+}
+
 /// The content of the kind that the document tells, empty.
 ChartContent LoadKind(ChartStream& stream, std::vector<Diagnostic>& diagnostics) {
-    const std::string name = LoadText(stream, "kind", "");
+    const std::string narrow = LoadText(stream, "kind", "");
+    const std::string name = CStringUtil::AnsiToUtf8(narrow);
     if (const ChartKind* kind = FindChartKind(name)) {
         stream.SetKind(kind->Name);
         return kind->Make();
     }
     if (stream.Has("kind")) {
-        stream.Refuse("kind", name, ChartKindNames());
+        stream.Refuse("kind", narrow, CStringUtil::Utf8ToAnsi(ExpectedKind(name)));
     } else {
         diagnostics.push_back(penlode::Error("kind", "no such key", ChartKindNames()));
     }
@@ -99,6 +124,10 @@ std::vector<Diagnostic> WithFaultOfExtent(LayoutTask task, const penlode::RectF&
 }
 
 } // namespace
+
+bool IsPlaceIn(std::string_view place, std::string_view group) {
+    return place.starts_with(group) && (place.size() == group.size() || place[group.size()] == '/');
+}
 
 penlode::RectF LaidOutChart::Extent() const {
     penlode::RectF extent;
@@ -177,7 +206,8 @@ ChartDocument ChartDocument::FromText(std::string text, const std::string& file,
     return FromInput({file, std::move(text)}, std::move(table));
 }
 
-ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput> table) {
+ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput> table,
+                                       const std::vector<Setting>& settings) {
     ChartDocument document;
     auto loaded = std::make_shared<Loaded>();
     loaded->Name = input.Name;
@@ -189,8 +219,12 @@ ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput
         return document;
     }
     loaded->Json = penlode::CJsonSerializeStream(input.Text, input.Name);
-    document.m_text = std::make_shared<const std::string>(std::move(input.Text));
     loaded->IsUnread = loaded->Json.IsUnreadable();
+    if (!loaded->IsUnread && !settings.empty()) {
+        Apply(settings, loaded->Json, loaded->Diagnostics);
+        input.Text = loaded->Json.Text();
+    }
+    document.m_text = std::make_shared<const std::string>(std::move(input.Text));
     ChartStream stream(loaded->Json);
     if (!loaded->IsUnread) {
         LoadVersion(stream);
@@ -202,6 +236,7 @@ ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput
     }
     const std::vector<Diagnostic> met = LoadDiagnostics(loaded->Json, stream);
     loaded->Diagnostics.insert(loaded->Diagnostics.end(), met.begin(), met.end());
+    RefuseUnknown(settings, loaded->Diagnostics);
     loaded->Missing = stream.Missing();
     loaded->Hashes = HashesOf(document);
     if (table) {

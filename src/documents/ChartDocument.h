@@ -14,10 +14,23 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
 namespace millichart {
+
+/// What a document shall hold at a place, whatever its text has there. Keys and indexes are joined by "/";
+/// the value is JSON, or else a text. Both are UTF-8.
+///
+///     {"property/PieBasicProp/FixedWidth", "40"}, {"property/PieBasicProp/ComponentColor/0", "#CC3333"}
+struct Setting {
+    std::string Place;
+    std::string Value;
+};
+
+/// Is it that group, or a place in it?
+bool IsPlaceIn(std::string_view place, std::string_view group);
 
 /// A chart as its document has it laid out.
 struct LaidOutChart {
@@ -51,7 +64,7 @@ struct LaidOutChart {
 /// until they are changed.
 class ChartDocument {
 public:
-    /// An empty one, of no kind. A new one of a kind: ChartDocument::FromText(FindChartKind("pie")->Template)
+    /// An empty one, of no kind. A new one of a kind: NewDocument.h
     ChartDocument() = default;
 
     /// Whatever is wrong with it is among the diagnostics, a file that cannot be read too.
@@ -62,8 +75,10 @@ public:
     static ChartDocument FromText(std::string text, const std::string& file = {},
                                   std::optional<TableInput> table = std::nullopt);
 
-    /// The same of a text that was read, or could not be.
-    static ChartDocument FromInput(InputText input, std::optional<TableInput> table = std::nullopt);
+    /// The same of a text that was read, or could not be. Settings count as its text's own, without a line;
+    /// one of an unknown place is an error.
+    static ChartDocument FromInput(InputText input, std::optional<TableInput> table = std::nullopt,
+                                   const std::vector<Setting>& settings = {});
 
     std::string Title; ///< UTF-8, like the description and the source
     std::string Description;

@@ -1,5 +1,6 @@
 #include "documents/SavingStream.h"
 
+#include "documents/ChartDocument.h"
 #include "documents/Fields.h"
 #include "foundation/SerializeFrame.h"
 #include "penlode/text/StringUtil.h"
@@ -23,10 +24,6 @@ std::size_t HashOf(const std::vector<std::string>& texts) {
     return HashOf(all);
 }
 
-bool IsIn(const std::string& place, const std::string& group) {
-    return place.starts_with(group) && (place.size() == group.size() || place[group.size()] == '/');
-}
-
 } // namespace
 
 std::size_t HashOfNothing() {
@@ -41,7 +38,7 @@ std::string SavingStream::PlaceOf(const std::string& tag) const {
 bool SavingStream::IsChanged(const std::string& place) const {
     return m_changed->contains(place) ||
            std::any_of(m_rewritten.begin(), m_rewritten.end(),
-                       [&place](const std::string& group) { return IsIn(place, group); });
+                       [&place](const std::string& group) { return IsPlaceIn(place, group); });
 }
 
 template <class Write> void SavingStream::InGroup(const Write& write) {
@@ -144,7 +141,7 @@ void SavingStream::ReplaceTable(const std::string& csv, const std::vector<std::s
         m_json != nullptr && std::any_of(tags.begin(), tags.end(), [this](const std::string& tag) {
             const std::string place = PlaceOf(tag);
             return std::any_of(m_changed->begin(), m_changed->end(),
-                               [&place](const std::string& changed) { return IsIn(changed, place); });
+                               [&place](const std::string& changed) { return IsPlaceIn(changed, place); });
         });
     if (!isReplaced) {
         return;

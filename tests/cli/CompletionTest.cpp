@@ -21,7 +21,7 @@ protected:
 std::set<std::string> LongOptions(const std::string& text) {
     std::set<std::string> options;
     for (std::size_t at = text.find("--"); at != std::string::npos; at = text.find("--", at)) {
-        const std::size_t end = text.find_first_not_of("abcdefghijklmnopqrstuvwxyz-", at);
+        const std::size_t end = text.find_first_not_of("abcdefghijklmnopqrstuvwxyz3-", at);
         options.insert(text.substr(at, end - at));
         at = end;
     }
@@ -39,6 +39,7 @@ TEST_F(Completion, BashOffersWhatFits) {
     EXPECT_EQ(Offered("new h"), "half-pie half-pie-half-pie half-pie-histogram histogram ");
     EXPECT_EQ(Offered("draw a.json --format s"), "svg ");
     EXPECT_EQ(Offered("draw --ou"), "--outlines --output ");
+    EXPECT_EQ(Offered("draw --kind ha"), "half-pie half-pie-half-pie half-pie-histogram ");
     EXPECT_EQ(Offered("draw a"), "a.chart.json ");
     EXPECT_EQ(Offered("check b"), "b c.json ");
 }

@@ -27,9 +27,10 @@ TEST_F(New, LeavesAFileAloneThatIsThere) {
     EXPECT_EQ(Run("millichart new pie -o /dev/stdout | head -1").Output, "{\n");
 }
 
-TEST_F(New, OtherKindsAreRefused) {
-    const Outcome outcome = Run("millichart new bar -o n.json");
+TEST_F(New, OtherKindsAreRefusedWithAGuess) {
+    const Outcome outcome = Run("millichart new bra -o n.json");
     EXPECT_EQ(outcome.Status, 2);
-    EXPECT_EQ(outcome.Errors, "millichart: KIND: found \"bar\", expected " + cli_test::kKinds + "\n");
+    EXPECT_EQ(outcome.Errors, "millichart: KIND: found \"bra\", expected " + cli_test::kKinds +
+                                  "; is \"bar\" meant?; millichart --help tells more\n");
     EXPECT_FALSE(Exists("n.json"));
 }

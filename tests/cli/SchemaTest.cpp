@@ -75,7 +75,7 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
     for (const auto& [pattern, replacement, kind] : std::initializer_list<Change>{
              {"\"pie\"", "\"pye\""},
              {"\"2D\"", "\"4D\""},
-             {"\"60\"", "\"60 km\""},
+             {": 60,", ": \"60 km\","},
              {"#FF3B6FB6", "bluish"},
              {"#FFFFFFFF 0.3 solid", "#FFFFFFFF wavy"},
              {"Arial 3.4", "Arial"},
@@ -88,7 +88,7 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
              {"#FFFFFFFF 0.3 solid", "#FFFFFFFF . solid"},
              {"Arial 3.4", "Arial +"},
              {"\"0 0\"", "\"1.2.3 0\""},
-             {"\"Angle\": \"0\"", "\"Angle\": 2147483648"},
+             {"\"Angle\": 0", "\"Angle\": 2147483648"},
              {"\"North\"", "\"North|\""},
              {"\"values\"", "\"worth\": 1, \"values\""},
              {"\"source\"", "\"sauce\": \"\", \"source\""},

@@ -3,6 +3,7 @@
 #include "files/Streams.h"
 #include "pages/LoadedChart.h"
 
+#include <algorithm>
 #include <array>
 
 namespace cli {
@@ -23,7 +24,7 @@ std::string Summary(const std::string& input, const std::vector<Diagnostic>& dia
 
 std::string Lines(const std::vector<Diagnostic>& diagnostics) {
     std::string lines;
-    for (const std::string& line : ToLines(diagnostics, true)) {
+    for (const std::string& line : ToLines(diagnostics)) {
         lines += line + "\n";
     }
     return lines;
@@ -32,18 +33,22 @@ std::string Lines(const std::vector<Diagnostic>& diagnostics) {
 } // namespace
 
 bool Check(const CheckOptions& options) {
-    if (options.Data && options.Inputs.size() > 1) {
-        throw UsageError("--data: expected one FILE with it");
-    }
-    std::vector<Diagnostic> all;
     std::string text;
+    bool isGood = true;
     for (const std::string& input : options.Inputs) {
-        const std::vector<Diagnostic> found = LoadChart(input, options.Data).Diagnostics;
-        text += Lines(found) + Summary(input, found);
-        all.insert(all.end(), found.begin(), found.end());
+        std::vector<Diagnostic> found = LoadChart(input, options.Source).Diagnostics;
+        if (options.IsStrict) {
+            TakeWarningsForErrors(found);
+        }
+        isGood = isGood && !millichart::HasErrors(found);
+        std::vector<Diagnostic> told = found;
+        if (options.Voice.IsQuiet) {
+            std::erase_if(told, [](const Diagnostic& each) { return each.Severity != Severity::Error; });
+        }
+        text += options.Voice.AsJson ? ToJsonLines(told) : Lines(told) + Summary(input, found);
     }
-    WriteOutput(kStandardStream, options.AsJson ? ToJson(all) : text);
-    return !millichart::HasErrors(all);
+    WriteOutput(kStandardStream, text);
+    return isGood;
 }
 
 } // namespace cli

@@ -1,14 +1,17 @@
 #include "commands/CommandLine.h"
 
+#include "commands/ChartOptions.h"
+#include "commands/ParsedOption.h"
 #include "documents/ChartContent.h"
 #include "files/Console.h"
+#include "files/Streams.h"
 #include "pages/Platform.h"
 #include "penlode/streams/TextForms.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cctype>
-#include <string_view>
+#include <array>
+#include <charconv>
+#include <iostream>
 
 namespace cli {
 namespace {
@@ -16,7 +19,9 @@ namespace {
 constexpr float kMaxPage = 5000.0F;
 constexpr double kMinDpi = 10.0;
 constexpr double kMaxDpi = 2400.0;
-constexpr const char* kDataHelp = "a CSV file (name, value) that replaces the document's data";
+constexpr std::size_t kMaxJobs = 256;
+constexpr std::array kCommands{"draw", "new", "check", "inspect"};
+constexpr const char* kInputsHelp = "chart documents (JSON), or with --kind tables; - is the standard input";
 
 bool ParseSide(std::string text, float& side) {
     return penlode::ser_evaluate(side, text, false) && side > 0.0F && side <= kMaxPage;
@@ -40,57 +45,67 @@ bool ParseBackground(std::string text, penlode::Color& color) {
     return penlode::ser_evaluate(color, text, false);
 }
 
-/// An option whose text is read by `parse`; complains with the form that it should have.
-template <class T, class Target>
-void AddParsed(CLI::App& command, const std::string& name, Target& target, bool (*parse)(std::string, T&),
-               const std::string& form, const std::string& help) {
-    command.add_option_function<std::string>(
-        name,
-        [&target, parse, name, form](const std::string& text) {
-            T value{};
-            if (!parse(text, value)) {
-                throw CLI::ValidationError(name, "found \"" + text + "\", expected " + form);
-            }
-            target = value;
-        },
-        help);
+bool ParseJobs(const std::string& text, std::size_t& jobs) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), jobs);
+    return error == std::errc() && end == text.data() + text.size() && jobs >= 1 && jobs <= kMaxJobs;
 }
 
-void AddDraw(CLI::App& app, DrawOptions& options) {
+void AddSource(CLI::App& command, ChartSource& source) {
+    AddKindOption(command, source);
+    AddTableOptions(command, source);
+    AddLookOptions(command, source);
+}
+
+void AddPicture(CLI::App& draw, DrawOptions& options) {
     const std::string formats = FormatList();
     const std::string pageName = kPlatform.PageName;
-    CLI::App& draw = *app.add_subcommand("draw", "Draw chart documents as PNG, SVG or " + pageName);
-    draw.add_option("FILE", options.Inputs, "chart documents (JSON); - is the standard input")->required();
     draw.add_option("-o,--output", options.Output,
-                    "the picture, a folder for the pictures, or - for the standard output; without it "
-                    "NAME.chart.json becomes NAME.png beside it");
+                    "the picture, such as pictures/{name}.png for several; a folder for the pictures; or - for "
+                    "the standard output; without it NAME.chart.json becomes NAME.png beside it");
     AddParsed<PictureFormat>(
         draw, "--format", options.Format,
-        [](std::string text, PictureFormat& format) {
+        [](const std::string& text, PictureFormat& format) {
             const auto known = FormatOfEnding("." + text);
             format = known.value_or(format);
             return known.has_value();
         },
         formats, formats + ", where the name of -o does not tell");
-    draw.add_option("--data", options.Data, kDataHelp);
     AddParsed<double>(draw, "--dpi", options.Dpi, ParseDpi, "a number from 10 to 2400",
                       "dots per inch of a PNG, from 10 to 2400; without it 96");
     AddParsed<penlode::SizeF>(
-        draw, "--page", options.Page,
-        [](std::string text, penlode::SizeF& page) { return ParsePage(text, page); },
+        draw, "--page", options.Page, ParsePage,
         "WIDTHxHEIGHT in mm, each at most 5000, such as 210x297",
         "WIDTHxHEIGHT in mm, with the chart in its middle; without it the chart and a margin of 5 mm");
     AddParsed<penlode::Color>(
         draw, "--background", options.Background, ParseBackground, "a colour such as #FF336699, or none",
         "#RRGGBB, #AARRGGBB or none; without it white, for " + pageName + " the bare paper");
     draw.add_flag("--outlines", options.TextAsOutlines, "write an SVG's texts as glyph outlines");
+}
+
+void AddVoice(CLI::App& command, bool& isStrict, Voice& voice) {
+    command.add_flag("--strict", isStrict, "take warnings for errors");
+    command.add_flag("--quiet", voice.IsQuiet, "no warnings");
+    command.add_flag("--json", voice.AsJson, "messages as JSON objects, one a line, for programs");
+}
+
+void AddDraw(CLI::App& app, DrawOptions& options) {
+    CLI::App& draw = *app.add_subcommand("draw", std::string("Draw charts as PNG, SVG or ") + kPlatform.PageName);
+    draw.add_option("FILE", options.Inputs, kInputsHelp);
+    AddSource(draw, options.Source);
+    AddPicture(draw, options);
+    AddVoice(draw, options.IsStrict, options.Voice);
     draw.add_flag("-v,--verbose", options.Verbose, "tell which faces the fonts are drawn in");
+    AddParsed<std::size_t>(draw, "--jobs", options.Jobs, ParseJobs, "a whole number from 1 to 256",
+                           "how many are drawn at once; without it one after the other");
 }
 
 void AddNew(CLI::App& app, NewOptions& options) {
     CLI::App& command = *app.add_subcommand("new", "Write a complete document to start from");
-    command.add_option("KIND", options.Kind, "the kind of chart: " + millichart::ChartKindNames())
+    AddKind(command, "KIND", options.Source,
+            "the kind of chart: " + millichart::ChartKindNames() + ", or bar, line and the like")
         ->required();
+    AddTableOptions(command, options.Source);
+    AddLookOptions(command, options.Source);
     command.add_option("-o,--output", options.Output, "the file to write; without it the standard output");
     command.add_flag("--force", options.Force, "write over a file that is there already");
 }
@@ -98,27 +113,50 @@ void AddNew(CLI::App& app, NewOptions& options) {
 void AddCheck(CLI::App& app, CheckOptions& options) {
     CLI::App& check =
         *app.add_subcommand("check", "Tell what is wrong in chart documents, and what is missing");
-    check.add_option("FILE", options.Inputs, "chart documents (JSON); - is the standard input")->required();
-    check.add_option("--data", options.Data, kDataHelp);
-    check.add_flag("--json", options.AsJson, "as a JSON list of objects, for programs");
+    check.add_option("FILE", options.Inputs, kInputsHelp);
+    AddSource(check, options.Source);
+    AddVoice(check, options.IsStrict, options.Voice);
 }
 
 void AddInspect(CLI::App& app, InspectOptions& options) {
     CLI::App& inspect = *app.add_subcommand("inspect", "Show a chart's layout and drawing calls as JSON");
-    inspect.add_option("FILE", options.Input, "a chart document (JSON); - is the standard input")->required();
-    inspect.add_option("--data", options.Data, kDataHelp);
+    inspect.add_option("FILE", options.Inputs, "a chart document (JSON), or with --kind a table; - is the "
+                                               "standard input")
+        ->expected(0, 1);
+    AddSource(inspect, options.Source);
+}
+
+bool IsCommand(const std::string& word) {
+    return std::find(kCommands.begin(), kCommands.end(), word) != kCommands.end();
+}
+
+/// "help draw" is "draw --help". Was help asked for so?
+bool SpellOutHelp(std::vector<std::string>& arguments) {
+    const bool isHelp = !arguments.empty() && arguments.front() == "help";
+    if (isHelp) {
+        arguments.erase(arguments.begin());
+        arguments.insert(arguments.begin() + (arguments.empty() ? 0 : 1), "--help");
+    }
+    return isHelp;
 }
 
 /// The parser does not say which word it took for no command.
-bool NamesCommand(const CLI::App& app, const std::string& word) {
-    const auto named =
-        app.get_subcommands([&word](const CLI::App* command) { return command->get_name() == word; });
-    if (word.starts_with('-') || !named.empty()) {
+bool NamesCommand(const std::string& word) {
+    if (word.starts_with('-') || IsCommand(word)) {
         return true;
     }
     Tell("found " + (word.empty() ? "no command" : "\"" + word + "\"") +
          ", expected draw, new, check or inspect; millichart --help tells more");
     return false;
+}
+
+/// Shows what the parser has to say, help or a complaint; the program's exit status.
+int Show(const CLI::App& app, const CLI::ParseError& error) {
+    const int status = app.exit(error);
+    if (!std::cout.flush()) {
+        throw UserError(ShownOutput(kStandardStream), "cannot be written");
+    }
+    return status == 0 ? 0 : kWrongUsage;
 }
 
 } // namespace
@@ -140,22 +178,31 @@ Wish ParseCommandLine(std::vector<std::string> arguments) {
     AddNew(app, fresh);
     AddCheck(app, check);
     AddInspect(app, inspect);
-    if (!NamesCommand(app, arguments.empty() ? "" : arguments.front())) {
+    const bool isHelp = SpellOutHelp(arguments);
+    if (!NamesCommand(arguments.empty() ? "" : arguments.front())) {
+        std::cerr << (isHelp ? app.help() : "");
         return Finished{kWrongUsage};
     }
     try {
         std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
-        return Finished{app.exit(error) == 0 ? 0 : kWrongUsage};
+        return Finished{Show(app, error)};
     }
     if (app.got_subcommand("draw")) {
+        Settle(draw.Inputs, draw.Source);
         return draw;
     }
     if (app.got_subcommand("new")) {
+        CheckTable(fresh.Source, fresh.Source.Data.has_value());
         return fresh;
     }
-    return app.got_subcommand("check") ? Wish(check) : Wish(inspect);
+    if (app.got_subcommand("check")) {
+        Settle(check.Inputs, check.Source);
+        return check;
+    }
+    Settle(inspect.Inputs, inspect.Source);
+    return inspect;
 }
 
 } // namespace cli

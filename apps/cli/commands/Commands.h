@@ -1,7 +1,10 @@
 #pragma once
 
+#include "files/Console.h"
+#include "pages/ChartSource.h"
 #include "pages/Picture.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,43 +15,47 @@
 namespace cli {
 
 struct DrawOptions {
-    std::vector<std::string> Inputs;   ///< "-" is the standard input
-    std::optional<std::string> Output; ///< a file, a folder, or "-" for the standard output
-    std::optional<std::string> Data;   ///< a CSV file that replaces the document's data
+    std::vector<std::string> Inputs; ///< "-" is the standard input
+    ChartSource Source;
+    std::optional<std::string> Output; ///< a file, a folder, a pattern, or "-" for the standard output
     std::optional<PictureFormat> Format;
     std::optional<penlode::SizeF> Page; ///< mm; without one the chart and a margin of 5 mm
     std::optional<penlode::Color> Background;
-    double Dpi = 96.0; ///< of a PNG
+    std::optional<double> Dpi; ///< of a PNG; without it 96
     bool TextAsOutlines = false;
-    bool Verbose = false; ///< tell which faces the fonts are drawn in
+    bool Verbose = false;  ///< tell which faces the fonts are drawn in
+    bool IsStrict = false; ///< what there is a warning of is not drawn
+    cli::Voice Voice;
+    std::size_t Jobs = 1; ///< inputs that are drawn at once
 };
 
 struct NewOptions {
-    std::string Kind;
+    ChartSource Source;       ///< with a kind; without data its example
     std::string Output = "-"; ///< a file, or the standard output
     bool Force = false;       ///< write over a file that is there already
 };
 
 struct CheckOptions {
     std::vector<std::string> Inputs;
-    std::optional<std::string> Data;
-    bool AsJson = false;
+    ChartSource Source;
+    bool IsStrict = false; ///< a warning is a fault
+    cli::Voice Voice;
 };
 
 struct InspectOptions {
-    std::string Input;
-    std::optional<std::string> Data;
+    std::vector<std::string> Inputs; ///< one
+    ChartSource Source;
 };
 
 /// A page that was asked for has the chart in its middle. An input that fails does not stop the others.
 bool Draw(const DrawOptions& options);
 
-/// Writes a complete document with data that draws well as it stands. A file that is there already is left
-/// alone, which is a UserError; a kind that there is not is a UsageError.
-void WriteNew(const NewOptions& options);
+/// Writes a complete document: the example of its kind, or one on a table. A file that is there already is
+/// left alone, which is a UserError; a table that cannot be read gives false.
+bool WriteNew(const NewOptions& options);
 
-/// Tells everything about chart documents on the standard output: errors, warnings, and each missing key with
-/// what is taken for it.
+/// Tells everything about chart documents on the standard output: errors, warnings, and missing keys with
+/// what is taken for them.
 bool Check(const CheckOptions& options);
 
 /// Writes a chart's layout and its drawing calls to the standard output as JSON, in the chart's own

@@ -1,4 +1,5 @@
 #include "commands/Commands.h"
+#include "commands/Crew.h"
 #include "commands/Json.h"
 #include "commands/OutputNames.h"
 #include "files/Console.h"
@@ -15,6 +16,15 @@ using penlode::RectF;
 using penlode::SizeF;
 
 constexpr float kMargin = 5.0F;
+constexpr double kScreenDpi = 96.0;
+
+/// What became of an input before anything is written or told.
+struct Attempt {
+    std::vector<Diagnostic> Problems;
+    std::vector<Diagnostic> Faces; ///< to be told if they are wanted
+    std::vector<std::string> DataFiles;
+    std::string Bytes; ///< of the picture; none when it failed
+};
 
 /// One name for a file, however it is called.
 std::string CanonicalName(const std::string& name) {
@@ -29,27 +39,29 @@ std::string Millimetres(SizeF size) {
            ToJson(static_cast<double>(size.Height)).dump() + " mm";
 }
 
-void TellDocument(const DrawOptions& options, const LoadedChart& loaded, const std::string& shownName) {
-    TellProblems(loaded.Diagnostics);
-    if (options.Verbose && loaded.Chart) {
-        for (const std::string& face : ReportFonts(*loaded.Chart).Faces) {
-            Tell(shownName + ": " + face);
-        }
-    }
-}
-
 /// The page that was asked for, with a warning if the chart is larger; else the chart's own.
-SizeF PageOf(const DrawOptions& options, const RectF& extent, const std::string& shownName) {
+SizeF PageOf(const DrawOptions& options, const RectF& extent, std::vector<Diagnostic>& problems) {
     if (!options.Page) {
         return {extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin};
     }
     if (extent.Width > options.Page->Width || extent.Height > options.Page->Height) {
-        Diagnostic cut = penlode::Warning("", "the chart of " + Millimetres({extent.Width, extent.Height}) +
-                                                  " is cut off by the page of " + Millimetres(*options.Page));
-        cut.File = shownName;
-        Tell(ToLine(cut));
+        problems.push_back(penlode::Warning("", "the chart of " +
+                                                    Millimetres({extent.Width, extent.Height}) +
+                                                    " is cut off by the page of " + Millimetres(*options.Page)));
     }
     return *options.Page;
+}
+
+/// The document's, or else the caption.
+std::string TitleOf(const LoadedChart& loaded) {
+    std::string title = loaded.Document.Title;
+    loaded.Chart->VisitTexts([&title](const millichart::ChartText& text) {
+        if (title.empty() && text.Owner.Role == millichart::TextRole::Caption) {
+            title = penlode::CStringUtil::WideToUtf8(text.Text);
+            title.resize(title.find_last_not_of(" \r\n") + 1);
+        }
+    });
+    return title;
 }
 
 /// With its source.
@@ -59,13 +71,13 @@ std::string DescriptionOf(const millichart::ChartDocument& document) {
 }
 
 /// The file's bytes.
-std::string Render(const DrawOptions& options, const LoadedChart& loaded, const std::string& shownName,
-                   const OutputName& output) {
+std::string Render(const DrawOptions& options, const LoadedChart& loaded, const OutputName& output,
+                   std::vector<Diagnostic>& problems) {
     const RectF extent = loaded.Chart->InkExtent();
-    const SizeF page = PageOf(options, extent, shownName);
+    const SizeF page = PageOf(options, extent, problems);
     const std::unique_ptr<Picture> picture =
-        MakePicture({output.Format, page, options.Dpi, options.Background, loaded.Document.Title,
-                     DescriptionOf(loaded.Document), options.TextAsOutlines});
+        MakePicture({output.Format, page, options.Dpi.value_or(kScreenDpi), options.Background,
+                     TitleOf(loaded), DescriptionOf(loaded.Document), options.TextAsOutlines});
     if (picture == nullptr) {
         throw UserError(ShownOutput(output.Name),
                         "the picture would be too large, expected fewer dots per inch or a smaller page");
@@ -81,20 +93,79 @@ std::string Render(const DrawOptions& options, const LoadedChart& loaded, const 
     return bytes;
 }
 
-/// False when the document cannot be drawn, which has been told then.
-bool DrawOne(const DrawOptions& options, const std::string& input, std::set<std::string>& drawn) {
-    const std::string shownName = ShownName(input);
-    const LoadedChart loaded = LoadChart(input, options.Data);
-    TellDocument(options, loaded, shownName);
-    if (!loaded.Chart) {
-        return false;
+/// What was asked for and has no effect.
+void WarnOfOptions(const DrawOptions& options, PictureFormat format, std::vector<Diagnostic>& problems) {
+    if (options.Dpi && format != PictureFormat::Png) {
+        problems.push_back(penlode::Warning("", std::string("--dpi is for a PNG; a picture ") +
+                                                    EndingOf(format) + " has no dots"));
     }
+}
+
+/// Loads and draws, in the memory alone. May run on any thread.
+Attempt DrawAhead(const DrawOptions& options, const std::string& input) {
+    Attempt attempt;
+    try {
+        const LoadedChart loaded = LoadChart(input, options.Source);
+        attempt.Problems = loaded.Diagnostics;
+        attempt.DataFiles = loaded.Document.DataFiles();
+        if (loaded.Chart) {
+            attempt.Faces = ReportFonts(*loaded.Chart).Faces;
+            const OutputName output = OutputOf(options, input);
+            WarnOfOptions(options, output.Format, attempt.Problems);
+            attempt.Bytes = Render(options, loaded, output, attempt.Problems);
+        }
+    } catch (const UserError& error) {
+        attempt.Problems.push_back(error.Told());
+    } catch (const std::bad_alloc&) {
+        attempt.Problems.push_back(penlode::Error("", kTooLittleMemory));
+    }
+    for (Diagnostic& problem : attempt.Problems) {
+        problem.File = problem.File.empty() ? ShownName(input) : problem.File;
+    }
+    if (options.IsStrict) {
+        TakeWarningsForErrors(attempt.Problems);
+    }
+    return attempt;
+}
+
+void Tell(const DrawOptions& options, const std::string& input, Attempt& attempt) {
+    TellProblems(attempt.Problems, options.Voice);
+    for (Diagnostic& face : attempt.Faces) {
+        if (options.Verbose) {
+            face.File = ShownName(input);
+            TellFact(face, options.Voice);
+        }
+    }
+}
+
+/// Throws UserError.
+void Write(const DrawOptions& options, const std::string& input, const Attempt& attempt,
+           std::set<std::string>& drawn) {
+    const std::string shownName = ShownName(input);
     const OutputName output = OutputOf(options, input);
-    RefuseToOverwrite(output.Name, shownName, options, loaded.Document.DataFiles());
+    if (!output.Folder.empty()) {
+        MakeFolder(output.Folder);
+    }
+    RefuseToOverwrite(output.Name, shownName, options, attempt.DataFiles);
     if (output.Name != kStandardStream && !drawn.insert(CanonicalName(output.Name)).second) {
         throw UserError(shownName, output.Name + " is already the picture of another input");
     }
-    WriteOutput(output.Name, Render(options, loaded, shownName, output));
+    WriteOutput(output.Name, attempt.Bytes);
+}
+
+/// False when there is no picture, which has been told then.
+bool Finish(const DrawOptions& options, const std::string& input, Attempt attempt,
+            std::set<std::string>& drawn) {
+    Tell(options, input, attempt);
+    if (millichart::HasErrors(attempt.Problems)) {
+        return false;
+    }
+    try {
+        Write(options, input, attempt, drawn);
+    } catch (const UserError& error) {
+        TellProblems({error.Told()}, options.Voice);
+        return false;
+    }
     return true;
 }
 
@@ -103,19 +174,13 @@ bool DrawOne(const DrawOptions& options, const std::string& input, std::set<std:
 bool Draw(const DrawOptions& options) {
     CheckOutputs(options);
     Progress progress(options.Inputs.size());
+    Crew<Attempt> crew(options.Inputs.size(), options.Jobs,
+                       [&options](std::size_t i) { return DrawAhead(options, options.Inputs[i]); });
     std::set<std::string> drawn;
     bool allDrawn = true;
-    for (const std::string& input : options.Inputs) {
-        progress.Begin(ShownName(input));
-        try {
-            allDrawn = DrawOne(options, input, drawn) && allDrawn;
-        } catch (const UserError& error) {
-            Tell(error.what());
-            allDrawn = false;
-        } catch (const std::bad_alloc&) {
-            Tell(ShownName(input) + ": " + kTooLittleMemory);
-            allDrawn = false;
-        }
+    for (std::size_t i = 0; i < options.Inputs.size(); ++i) {
+        progress.Begin(ShownName(options.Inputs[i]));
+        allDrawn = Finish(options, options.Inputs[i], crew.Take(i), drawn) && allDrawn;
     }
     return allDrawn;
 }

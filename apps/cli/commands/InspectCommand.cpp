@@ -13,14 +13,14 @@ constexpr int kLevels = 2;
 } // namespace
 
 bool Inspect(const InspectOptions& options) {
-    const LoadedChart loaded = LoadChart(options.Input, options.Data);
+    const LoadedChart loaded = LoadChart(options.Inputs.front(), options.Source);
     TellProblems(loaded.Diagnostics);
     if (!loaded.Chart) {
         return false;
     }
     penlode::CRecordingEngine recorder;
     loaded.Chart->Draw(recorder);
-    const Json inspected{{"file", ShownName(options.Input)},
+    const Json inspected{{"file", ShownName(options.Inputs.front())},
                          {"kind", millichart::KindOf(loaded.Document.Content)->Name},
                          {"extent", ToJson(loaded.Chart->InkExtent())},
                          {"layout", LayoutToJson(*loaded.Chart)},

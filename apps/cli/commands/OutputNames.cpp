@@ -14,17 +14,30 @@ namespace fs = std::filesystem;
 using millichart::PathFromUtf8;
 using millichart::Utf8FromPath;
 
+constexpr std::string_view kNamePart = "{name}";
+
+bool IsPattern(const DrawOptions& options) {
+    return options.Output && options.Output->find(kNamePart) != std::string::npos;
+}
+
 bool IsFolder(const DrawOptions& options) {
     std::error_code error;
     const fs::path output = PathFromUtf8(*options.Output);
     const bool endsInSeparator = !output.empty() && !output.has_filename();
-    return options.Output != kStandardStream &&
+    return options.Output != kStandardStream && !IsPattern(options) &&
            (options.Inputs.size() > 1 || endsInSeparator || fs::is_directory(output, error));
 }
 
-/// NAME for NAME.chart.json and NAME.json.
-std::string BaseName(const std::string& input) {
-    std::string name = Utf8FromPath(PathFromUtf8(input).filename());
+/// NAME for NAME.chart.json and NAME.json, and for a table of whatever ending.
+std::string BaseName(const DrawOptions& options, const std::string& input) {
+    if (input == kStandardStream || IsDataBase(input)) {
+        return "chart";
+    }
+    const fs::path path = PathFromUtf8(input);
+    if (options.Source.Kind != nullptr) {
+        return Utf8FromPath(path.stem());
+    }
+    std::string name = Utf8FromPath(path.filename());
     for (const std::string_view ending : {".json", ".chart"}) {
         if (name.ends_with(ending) && name.size() > ending.size()) {
             name.resize(name.size() - ending.size());
@@ -36,7 +49,7 @@ std::string BaseName(const std::string& input) {
 /// What an output needs whose name tells no format.
 std::string NeededFormat(const DrawOptions& options) {
     if (!options.Output) {
-        return "standard input: expected --format " + FormatList() + ", or -o FILE, with it";
+        return ShownName(options.Inputs.front()) + ": expected --format " + FormatList() + ", or -o FILE, with it";
     }
     return "-o " + *options.Output +
            (options.Output == kStandardStream
@@ -47,6 +60,26 @@ std::string NeededFormat(const DrawOptions& options) {
 void RefuseOtherPage(const std::string& option, PictureFormat format) {
     if (!IsDrawn(format)) {
         throw UsageError(option + ": " + kPlatform.OtherPage);
+    }
+}
+
+/// Braces that stand for nothing are no part of a name that anybody meant.
+void CheckBraces(const std::string& output) {
+    for (std::size_t open = output.find('{'); open != std::string::npos; open = output.find('{', open + 1)) {
+        if (output.compare(open, kNamePart.size(), kNamePart) != 0) {
+            const std::string found = output.substr(open, output.find('}', open) - open + 1);
+            throw UsageError("-o " + output + ": found " + found + ", expected {name}, the input's name");
+        }
+    }
+}
+
+/// A folder of that name could hardly be meant.
+void RefuseOneForSeveral(const DrawOptions& options) {
+    std::error_code error;
+    if (options.Inputs.size() > 1 && !IsPattern(options) && FormatOfName(*options.Output) &&
+        !fs::is_directory(PathFromUtf8(*options.Output), error)) {
+        throw UsageError("-o " + *options.Output +
+                         ": is one picture for several inputs, expected a folder, or {name} in it");
     }
 }
 
@@ -71,24 +104,16 @@ void CheckTerminal(const DrawOptions& options) {
     }
 }
 
-void MakeFolder(const fs::path& folder) {
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (error) {
-        throw UserError(Utf8FromPath(folder),
-                        "cannot be made a folder: " + error.default_error_condition().message());
-    }
-}
-
 } // namespace
 
 void CheckOutputs(const DrawOptions& options) {
     const auto standard = std::count(options.Inputs.begin(), options.Inputs.end(), kStandardStream);
-    if (standard + (options.Data == kStandardStream ? 1 : 0) > 1) {
+    if (standard + (options.Source.Data == kStandardStream ? 1 : 0) > 1) {
         throw UsageError("-: the standard input can be read only once");
     }
-    if (options.Data && options.Inputs.size() > 1) {
-        throw UsageError("--data: expected one FILE with it");
+    if (options.Output) {
+        CheckBraces(*options.Output);
+        RefuseOneForSeveral(options);
     }
     if (options.Inputs.size() > 1 && options.Output == kStandardStream) {
         throw UsageError("-o -: expected one FILE with it");
@@ -96,7 +121,8 @@ void CheckOutputs(const DrawOptions& options) {
     if (options.Format) {
         RefuseOtherPage("--format", *options.Format);
     }
-    if (options.Output ? !IsFolder(options) : standard == 1) {
+    const bool hasDataBase = std::any_of(options.Inputs.begin(), options.Inputs.end(), IsDataBase);
+    if (options.Output ? !IsFolder(options) : standard == 1 || hasDataBase) {
         CheckOneFile(options);
         CheckTerminal(options);
     }
@@ -110,18 +136,37 @@ void RefuseToOverwrite(const std::string& output, const std::string& shownInput,
     }
     std::vector<std::string> read = options.Inputs;
     read.insert(read.end(), dataFiles.begin(), dataFiles.end());
-    if (options.Data) {
-        read.push_back(*options.Data);
+    if (options.Source.Data) {
+        read.push_back(*options.Source.Data);
     }
-    for (const std::string& file : read) {
+    for (const std::string& name : read) {
+        const std::string file = FileOf(name);
         if (file != kStandardStream && fs::equivalent(PathFromUtf8(file), PathFromUtf8(output), error)) {
             throw UserError(shownInput, "its picture would take the place of " + file);
         }
     }
 }
 
+void MakeFolder(const std::string& folder) {
+    std::error_code error;
+    fs::create_directories(PathFromUtf8(folder), error);
+    if (error) {
+        throw UserError(folder, "cannot be made a folder: " + error.default_error_condition().message());
+    }
+}
+
 OutputName OutputOf(const DrawOptions& options, const std::string& input) {
-    const bool toStandard = !options.Output && input == kStandardStream;
+    const std::string base = BaseName(options, input);
+    if (IsPattern(options)) {
+        std::string name = *options.Output;
+        for (std::size_t at = name.find(kNamePart); at != std::string::npos;
+             at = name.find(kNamePart, at + base.size())) {
+            name.replace(at, kNamePart.size(), base);
+        }
+        const auto told = options.Format ? options.Format : FormatOfName(name);
+        return {name, *told, Utf8FromPath(PathFromUtf8(name).parent_path())};
+    }
+    const bool toStandard = !options.Output && (input == kStandardStream || IsDataBase(input));
     if (toStandard || (options.Output && !IsFolder(options))) {
         const std::string name = options.Output.value_or(kStandardStream);
         return {name, options.Format ? *options.Format : *FormatOfName(name)};
@@ -129,11 +174,7 @@ OutputName OutputOf(const DrawOptions& options, const std::string& input) {
     const PictureFormat format = options.Format.value_or(PictureFormat::Png);
     const fs::path folder =
         options.Output ? PathFromUtf8(*options.Output) : PathFromUtf8(input).parent_path();
-    if (options.Output) {
-        MakeFolder(folder);
-    }
-    const std::string base = input == kStandardStream ? "chart" : BaseName(input);
-    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format};
+    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format, options.Output.value_or("")};
 }
 
 } // namespace cli

@@ -25,9 +25,30 @@ void Tell(const std::string& message) {
     std::cerr << "millichart: " << Printable(message) << '\n';
 }
 
-void TellProblems(const std::vector<Diagnostic>& diagnostics) {
-    for (const std::string& line : ToLines(diagnostics, false)) {
+void TellProblems(const std::vector<Diagnostic>& diagnostics, const Voice& voice) {
+    std::vector<Diagnostic> told;
+    for (const Diagnostic& diagnostic : diagnostics) {
+        const bool isLoud = diagnostic.Severity == Severity::Error ||
+                            (diagnostic.Severity == Severity::Warning && !voice.IsQuiet);
+        if (isLoud) {
+            told.push_back(diagnostic);
+        }
+    }
+    if (voice.AsJson) {
+        ShowPassingLine("");
+        std::cerr << ToJsonLines(told);
+        return;
+    }
+    for (const std::string& line : ToLines(told)) {
         Tell(line);
+    }
+}
+
+void TellFact(const Diagnostic& fact, const Voice& voice) {
+    if (voice.AsJson) {
+        std::cerr << ToJsonLines({fact});
+    } else {
+        Tell(fact.File + ": " + fact.Text);
     }
 }
 

@@ -11,8 +11,17 @@ namespace cli {
 /// One message on a line of the standard error stream, after the program's name.
 void Tell(const std::string& message);
 
-/// Errors and warnings, not too many; notes are left out.
-void TellProblems(const std::vector<Diagnostic>& diagnostics);
+/// How problems are told.
+struct Voice {
+    bool IsQuiet = false; ///< no warnings
+    bool AsJson = false;  ///< an object a line, for programs
+};
+
+/// Errors and warnings, not too many for a person; notes are left out.
+void TellProblems(const std::vector<Diagnostic>& diagnostics, const Voice& voice = {});
+
+/// What is no problem: a line of its own, after the file's name.
+void TellFact(const Diagnostic& fact, const Voice& voice);
 
 /// Shows a line on the terminal that the next message or line replaces. An empty one takes it away.
 void ShowPassingLine(const std::string& line);

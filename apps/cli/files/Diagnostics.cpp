@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <set>
+#include <utility>
 
 namespace cli {
 namespace {
@@ -51,6 +53,96 @@ Json ObjectOf(const Diagnostic& diagnostic) {
     return object;
 }
 
+/// "property/CaptionProp" for "property/CaptionProp/Caption"; empty for what is in no group.
+std::string GroupOf(const std::string& place) {
+    const std::size_t slash = place.rfind('/');
+    return slash == std::string::npos ? "" : place.substr(0, slash);
+}
+
+/// The missing keys of a group, each with what is taken for it. The group itself may be missing too.
+struct MissingKeys {
+    std::size_t Count = 0;
+    std::string Taken;
+    bool IsGroupMissing = false;
+
+    void Add(const Diagnostic& note) {
+        constexpr std::size_t kMaxNamed = 4;
+        if (++Count <= kMaxNamed) {
+            Taken += (Count == 1 ? "" : ", ") + note.Place.substr(note.Place.rfind('/') + 1) + " " +
+                     (note.Expected.empty() ? "empty" : note.Expected);
+        } else if (Count == kMaxNamed + 1) {
+            Taken += " ...";
+        }
+    }
+
+    std::string Text() const {
+        const std::string keys = std::to_string(Count) + (Count == 1 ? " key" : " keys");
+        return IsGroupMissing ? "missing, its " + keys + " taken as " + Taken
+                              : keys + " missing, taken as " + Taken;
+    }
+};
+
+bool IsMissingKey(const Diagnostic& diagnostic) {
+    return diagnostic.Kind == penlode::DiagnosticKind::MissingKey;
+}
+
+/// The notes of missing keys by group, told in the place of the group's first.
+class Folding {
+public:
+    explicit Folding(const std::vector<Diagnostic>& diagnostics) {
+        for (const Diagnostic& told : diagnostics) {
+            if (IsMissingKey(told)) {
+                m_groups[{told.File, GroupOf(told.Place)}];
+            }
+        }
+        for (const Diagnostic& told : diagnostics) {
+            const auto own = m_groups.find({told.File, told.Place});
+            if (IsMissingKey(told) && own != m_groups.end()) {
+                own->second.IsGroupMissing = true;
+            } else if (IsMissingKey(told)) {
+                m_groups[{told.File, GroupOf(told.Place)}].Add(told);
+            }
+        }
+    }
+
+    /// Nothing for what was told before.
+    std::optional<Diagnostic> Fold(Diagnostic told) {
+        if (!IsMissingKey(told)) {
+            return told;
+        }
+        const bool isGroup = m_groups.contains({told.File, told.Place});
+        const std::string place = isGroup ? told.Place : GroupOf(told.Place);
+        const MissingKeys& keys = m_groups[{told.File, place}];
+        const bool isOne = keys.Count == 0 || (keys.Count == 1 && !keys.IsGroupMissing);
+        if (place.empty() || isOne) {
+            return told;
+        }
+        if (!m_told.insert({told.File, place}).second) {
+            return std::nullopt;
+        }
+        told.Place = place;
+        told.Text = keys.Text();
+        return told;
+    }
+
+private:
+    using GroupName = std::pair<std::string, std::string>; ///< file and place
+
+    std::map<GroupName, MissingKeys> m_groups;
+    std::set<GroupName> m_told;
+};
+
+std::vector<Diagnostic> Folded(const std::vector<Diagnostic>& diagnostics) {
+    Folding folding(diagnostics);
+    std::vector<Diagnostic> folded;
+    for (const Diagnostic& told : diagnostics) {
+        if (std::optional<Diagnostic> line = folding.Fold(told)) {
+            folded.push_back(*std::move(line));
+        }
+    }
+    return folded;
+}
+
 } // namespace
 
 std::string Printable(std::string_view text) {
@@ -81,7 +173,7 @@ std::string ToLine(const Diagnostic& diagnostic) {
     return Printable(line + diagnostic.Text);
 }
 
-std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics, bool withNotes) {
+std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics) {
     std::map<std::string, std::size_t> totals;
     std::set<std::string> withRest;
     for (const Diagnostic& diagnostic : diagnostics) {
@@ -92,10 +184,10 @@ std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics, boo
     }
     std::map<std::string, std::size_t> counts;
     std::vector<std::string> lines;
-    for (const Diagnostic& diagnostic : diagnostics) {
+    for (const Diagnostic& diagnostic : Folded(diagnostics)) {
         const bool isNote = diagnostic.Severity == Severity::Note;
         const std::size_t count = isNote ? 0 : ++counts[diagnostic.File];
-        if (isNote ? withNotes : count <= kMaxShown) {
+        if (count <= kMaxShown) {
             lines.push_back(ToLine(diagnostic));
         } else if (count == kMaxShown + 1) {
             const std::string more = std::to_string(totals[diagnostic.File] - kMaxShown);
@@ -104,6 +196,12 @@ std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics, boo
         }
     }
     return lines;
+}
+
+void TakeWarningsForErrors(std::vector<Diagnostic>& diagnostics) {
+    for (Diagnostic& told : diagnostics) {
+        told.Severity = told.Severity == Severity::Warning ? Severity::Error : told.Severity;
+    }
 }
 
 std::string CountedDiagnostics(const std::vector<Diagnostic>& diagnostics, Severity severity) {
@@ -118,13 +216,12 @@ std::string CountedDiagnostics(const std::vector<Diagnostic>& diagnostics, Sever
            (count == 1 ? "" : "s");
 }
 
-std::string ToJson(const std::vector<Diagnostic>& diagnostics) {
-    std::string text = "[";
+std::string ToJsonLines(const std::vector<Diagnostic>& diagnostics) {
+    std::string text;
     for (const Diagnostic& diagnostic : diagnostics) {
-        text += text.size() == 1 ? "\n  " : ",\n  ";
-        text += ObjectOf(diagnostic).dump(-1, ' ', false, Json::error_handler_t::replace);
+        text += ObjectOf(diagnostic).dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
     }
-    return text + (diagnostics.empty() ? "]\n" : "\n]\n");
+    return text;
 }
 
 } // namespace cli

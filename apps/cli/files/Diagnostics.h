@@ -20,12 +20,15 @@ std::string Printable(std::string_view text);
 /// they are.
 std::string ToLine(const Diagnostic& diagnostic);
 
-/// On one line each: of each file the first 50 errors and warnings and how many there are more, and every
-/// note if they are wanted.
-std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics, bool withNotes);
+/// On one line each: of each file the first 50 errors and warnings and how many there are more, and the notes,
+/// those of the keys that are missing in a group on a line together.
+std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics);
 
-/// As a JSON list of objects, one a line.
-std::string ToJson(const std::vector<Diagnostic>& diagnostics);
+/// As JSON objects, one a line.
+std::string ToJsonLines(const std::vector<Diagnostic>& diagnostics);
+
+/// What is doubtful counts as wrong.
+void TakeWarningsForErrors(std::vector<Diagnostic>& diagnostics);
 
 /// How many of that severity there are: "2 errors", "at least 10000 errors"
 std::string CountedDiagnostics(const std::vector<Diagnostic>& diagnostics, Severity severity);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/Files.h"
+#include "penlode/streams/Diagnostic.h"
 
 #include <stdexcept>
 #include <string>
@@ -12,7 +13,14 @@ namespace cli {
 class UserError : public std::runtime_error {
 public:
     UserError(const std::string& file, const std::string& reason)
-        : std::runtime_error(file + ": " + reason) {}
+        : std::runtime_error(file + ": " + reason), m_told(penlode::Error("", reason)) {
+        m_told.File = file;
+    }
+
+    const penlode::Diagnostic& Told() const { return m_told; }
+
+private:
+    penlode::Diagnostic m_told;
 };
 
 /// A wish that cannot be carried out as it was spelt, told after the name of the option.

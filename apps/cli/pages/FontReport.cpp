@@ -37,11 +37,11 @@ FontReport ReportFonts(const millichart::LaidOutChart& chart) {
     });
     FontReport report;
     for (const auto& [family, missing] : missingByFamily) {
-        report.Faces.push_back(FaceMessage(family));
+        report.Faces.push_back(penlode::Note("", FaceMessage(family)));
         if (!missing.empty()) {
-            report.Warnings.push_back("no installed font has " + CStringUtil::WideToUtf8(missing) +
-                                      "; install one that does, such as " + kPlatform.ChineseFonts +
-                                      " for Chinese");
+            report.Warnings.push_back(penlode::Warning(
+                "", "no installed font has " + CStringUtil::WideToUtf8(missing) +
+                        "; install one that does, such as " + kPlatform.ChineseFonts + " for Chinese"));
         }
     }
     return report;

@@ -1,23 +1,28 @@
 #include "pages/LoadedChart.h"
 
+#include "documents/NewDocument.h"
 #include "files/Streams.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
 namespace cli {
 namespace {
 
+using millichart::ChartDocument;
+using millichart::InputText;
+using penlode::Diagnostic;
+
 /// What the layout found, in the order of what the load found.
 void LayOut(LoadedChart& loaded) {
     loaded.Chart = std::move(loaded.Document).LayOut();
-    std::vector<penlode::Diagnostic> found = loaded.Chart->Diagnostics;
+    std::vector<Diagnostic> found = loaded.Chart->Diagnostics;
     if (millichart::HasErrors(found)) {
         loaded.Chart.reset();
     } else {
-        for (const std::string& warning : ReportFonts(*loaded.Chart).Warnings) {
-            found.push_back(penlode::Warning("", warning));
-        }
+        const std::vector<Diagnostic> ofFonts = ReportFonts(*loaded.Chart).Warnings;
+        found.insert(found.end(), ofFonts.begin(), ofFonts.end());
     }
     if (!found.empty()) {
         loaded.Diagnostics.insert(loaded.Diagnostics.end(), found.begin(), found.end());
@@ -25,30 +30,65 @@ void LayOut(LoadedChart& loaded) {
     }
 }
 
-LoadedChart Load(const std::string& input, const std::optional<std::string>& data) {
-    std::optional<millichart::TableInput> table;
-    if (data) {
-        table = millichart::TableInput{ReadInput(*data)};
+/// The look depends on the document's kind. A document of none is told of when it is loaded.
+std::vector<millichart::Setting> SettingsFor(const InputText& input, const ChartSource& source) {
+    if (source.Look == Look()) {
+        return source.Settings;
     }
+    const millichart::ChartKind* const kind = millichart::KindOf(ChartDocument::FromInput(input).Content);
+    return kind == nullptr ? source.Settings : AllSettings(source, *kind);
+}
+
+ChartDocument LoadDocument(const std::string& name, const ChartSource& source) {
+    InputText input = ReadInput(name);
+    if (IsTable(input)) {
+        input.Fault = "is a table and no chart document; with --kind pie, bar or line it is drawn";
+    }
+    std::vector<millichart::Setting> settings = SettingsFor(input, source);
+    std::optional<millichart::TableInput> table;
+    if (source.Data) {
+        table = ReadTableInput(*source.Data, source.Table);
+    }
+    return ChartDocument::FromInput(std::move(input), std::move(table), settings);
+}
+
+LoadedChart Load(const std::string& input, const ChartSource& source) {
     LoadedChart loaded;
-    loaded.Document = millichart::ChartDocument::FromInput(ReadInput(input), std::move(table));
+    loaded.Document = source.Kind == nullptr
+                          ? LoadDocument(input, source)
+                          : millichart::NewDocument(*source.Kind, {ReadTableInput(input, source.Table)},
+                                                    AllSettings(source, *source.Kind));
     loaded.Diagnostics = loaded.Document.Diagnostics();
     if (loaded.Document.IsSound()) {
         LayOut(loaded);
     }
+    const millichart::ChartKind* const kind = millichart::KindOf(loaded.Document.Content);
+    if (source.Look.Title && kind != nullptr && !DrawsTitle(*kind)) {
+        loaded.Diagnostics.push_back(penlode::Warning(
+            "title", std::string("a chart of the kind ") + kind->Name +
+                         " has no caption; an SVG or a PDF has the title, and a picture does not show it"));
+    }
+    TellOfOptions(ShownName(input), source, loaded.Diagnostics);
     return loaded;
+}
+
+/// A chart without anything but why it is not there.
+LoadedChart Failed(const std::string& input, const std::string& reason) {
+    LoadedChart none;
+    none.Diagnostics = {penlode::Error("", reason)};
+    none.Diagnostics.front().File = ShownName(input);
+    return none;
 }
 
 } // namespace
 
-LoadedChart LoadChart(const std::string& input, const std::optional<std::string>& data) {
+LoadedChart LoadChart(const std::string& input, const ChartSource& source) {
     try {
-        return Load(input, data);
+        return Load(input, source);
     } catch (const std::bad_alloc&) {
-        LoadedChart none;
-        none.Diagnostics = {penlode::Error("", kTooLittleMemory)};
-        none.Diagnostics.front().File = ShownName(input);
-        return none;
+        return Failed(input, kTooLittleMemory);
+    } catch (const UsageError& error) {
+        return Failed(input, error.what());
     }
 }
 

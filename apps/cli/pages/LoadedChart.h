@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/ChartDocument.h"
+#include "pages/ChartSource.h"
 
 #include <optional>
 #include <string>
@@ -8,21 +9,21 @@
 
 namespace cli {
 
-/// A chart document with its chart.
+/// An input's chart document with its chart.
 struct LoadedChart {
     millichart::ChartDocument Document;            ///< without its data, which the chart has
     std::optional<millichart::LaidOutChart> Chart; ///< none when there are errors
     std::vector<penlode::Diagnostic> Diagnostics;  ///< in the document's order, notes last
 };
 
-/// Reads a document, "-" being the standard input. `data` names a CSV file that replaces the document's data.
-/// What is wrong is among the diagnostics, an input that cannot be read too.
-LoadedChart LoadChart(const std::string& input, const std::optional<std::string>& data);
+/// Reads an input, "-" being the standard input. What is wrong is among the diagnostics, an input that cannot
+/// be read too.
+LoadedChart LoadChart(const std::string& input, const ChartSource& source);
 
-/// What became of a chart's fonts, for its reader. UTF-8, one message each.
+/// What became of a chart's fonts, for its reader.
 struct FontReport {
-    std::vector<std::string> Faces;    ///< "宋体 is drawn in Noto Serif CJK SC"
-    std::vector<std::string> Warnings; ///< characters that no installed face has
+    std::vector<penlode::Diagnostic> Faces;    ///< notes: "宋体 is drawn in Noto Serif CJK SC"
+    std::vector<penlode::Diagnostic> Warnings; ///< characters that no installed face has
 };
 
 FontReport ReportFonts(const millichart::LaidOutChart& chart);

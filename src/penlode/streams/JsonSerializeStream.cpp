@@ -1,6 +1,7 @@
 #include "penlode/streams/JsonSerializeStream.h"
 
 #include "penlode/streams/JsonReader.h"
+#include "penlode/streams/JsonSetting.h"
 #include "penlode/streams/JsonText.h"
 #include "penlode/streams/JsonWriter.h"
 #include "penlode/text/StringUtil.h"
@@ -175,6 +176,10 @@ void CJsonSerializeStream::Remove(const std::string& tag) {
     if (m_document->Saving) {
         m_document->Writer.Remove(tag);
     }
+}
+
+bool CJsonSerializeStream::Set(std::string_view place, std::string_view value) {
+    return SetValue(m_document->Tree, place, value);
 }
 
 } // namespace penlode

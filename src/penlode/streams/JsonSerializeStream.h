@@ -82,6 +82,10 @@ public:
     void SaveNumbers(const std::string& tag, std::span<const double> numbers);
     /// Removes an entry of the current group while saving; nothing if there is none.
     void Remove(const std::string& tag);
+    /// Sets what stands at a place: keys and indexes from the root, joined by "/". Groups that are missing on
+    /// the way are made, and the index behind a list's last item adds one. The value is JSON, or else a text;
+    /// both are UTF-8. It has no line in the document. False where no place can be, as below a text.
+    bool Set(std::string_view place, std::string_view value);
 
 private:
     struct Document;

@@ -1,0 +1,68 @@
+#include "pages/ChartSource.h"
+
+#include "files/Streams.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <string_view>
+
+namespace cli {
+namespace {
+
+constexpr std::array kDataBases{"sqlite:", "odbc:"};
+constexpr std::array<std::string_view, 6> kTableEndings{".csv", ".tsv", ".tab", ".txt", ".xlsx", ".ods"};
+/// Spreadsheet files are archives.
+constexpr std::string_view kArchive = "PK\x03\x04";
+
+} // namespace
+
+bool IsDataBase(const std::string& name) {
+    return std::any_of(kDataBases.begin(), kDataBases.end(),
+                       [&name](const char* scheme) { return name.starts_with(scheme); });
+}
+
+std::string FileOf(const std::string& name) {
+    const std::string_view scheme = kDataBases.front();
+    return name.starts_with(scheme) ? name.substr(scheme.size()) : name;
+}
+
+millichart::TableInput ReadTableInput(const std::string& name, const millichart::TableOptions& options) {
+    return {IsDataBase(name) ? millichart::InputText{name} : ReadInput(name), options};
+}
+
+bool IsTable(const millichart::InputText& input) {
+    std::string ending = millichart::Utf8FromPath(millichart::PathFromUtf8(input.Name).extension());
+    std::transform(ending.begin(), ending.end(), ending.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const bool isNamedSo = std::find(kTableEndings.begin(), kTableEndings.end(), ending) != kTableEndings.end();
+    const std::size_t first = input.Text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
+    const bool isDocument = first != std::string::npos && input.Text[first] == '{';
+    return (isNamedSo && !isDocument && input.Fault.empty()) || input.Text.starts_with(kArchive);
+}
+
+std::vector<millichart::Setting> AllSettings(const ChartSource& source, const millichart::ChartKind& kind) {
+    std::vector<millichart::Setting> settings = SettingsOf(source.Look, kind);
+    settings.insert(settings.end(), source.Settings.begin(), source.Settings.end());
+    return settings;
+}
+
+void TellOfOptions(const std::string& name, const ChartSource& source,
+                   std::vector<penlode::Diagnostic>& diagnostics) {
+    for (penlode::Diagnostic& told : diagnostics) {
+        const bool isSet = std::any_of(
+            source.Settings.begin(), source.Settings.end(), [&told](const millichart::Setting& setting) {
+                return !told.Place.empty() && (millichart::IsPlaceIn(told.Place, setting.Place) ||
+                                               millichart::IsPlaceIn(setting.Place, told.Place));
+            });
+        const bool isMade = told.File.empty();
+        if (isSet && (isMade || told.File == name) && told.Severity != penlode::Severity::Note) {
+            told.File = "--set";
+        } else if (isMade) {
+            told.File = name;
+            told.Line = 0;
+        }
+    }
+}
+
+} // namespace cli

@@ -1,0 +1,217 @@
+#include "documents/NewDocument.h"
+
+#include "documents/ChartLayouts.h"
+#include "penlode/streams/JsonSerializeStream.h"
+#include "penlode/text/Digits.h"
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+namespace millichart {
+namespace {
+
+using penlode::CJsonSerializeStream;
+using penlode::CStringUtil;
+
+/// Where a kind's example has texts and looks of its own data.
+constexpr std::array kGroups{"property/CaptionProp",
+                             "property/HistogramVerAxisProp",
+                             "property/CurveVerAxisProp",
+                             "property/CurveHorAxisProp",
+                             "property/PieBasicProp",
+                             "property/HalfPieBasicProp",
+                             "property/TopHalf/HalfPieBasicProp",
+                             "property/LowerHalf/HalfPieBasicProp",
+                             "property/HalfPie/HalfPieBasicProp",
+                             "property/Histogram/HistogramPlotProp",
+                             "property/HistogramPlotProp",
+                             "property/CurvePlotProp"};
+constexpr std::array kTexts{"title", "description", "source", "Caption", "VerCaption"};
+constexpr std::array kFlags{"ShowCaption", "ShowVerCaption"};
+/// They follow the data where a document leaves them open.
+constexpr std::array kOfData{"ComponentName",  "ComponentColor", "CurveName",     "CurveColor",
+                             "CurveWidth",     "CurveDashStyle", "CurveDotStyle", "CurveDotColor",
+                             "CurveDotWidth",  "NullValueStyle", "ScaleStep",     "LabelStep",
+                             "VerGridStep"};
+
+constexpr std::array kOrderNames{"", "ascending", "descending", "name"};
+
+/// Empties the group that is open, at a place that ends in "/".
+void EmptyGroup(CJsonSerializeStream& json, const std::string& place) {
+    for (const char* const text : kTexts) {
+        if (json.Has(text)) {
+            json.Set(place + text, "");
+        }
+    }
+    for (const char* const flag : kFlags) {
+        if (json.Has(flag)) {
+            json.Set(place + flag, "false");
+        }
+    }
+    for (const char* const key : kOfData) {
+        json.Remove(key);
+    }
+}
+
+/// Goes down to a group that is still to be opened.
+void EmptyBelow(CJsonSerializeStream& json, std::string_view rest, const std::string& place) {
+    const std::size_t slash = rest.find('/');
+    const std::string key(rest.substr(0, slash));
+    if (!json.Has(key)) {
+        return;
+    }
+    json.Push(key, -1);
+    if (slash == std::string_view::npos) {
+        EmptyGroup(json, place + key + "/");
+    } else {
+        EmptyBelow(json, rest.substr(slash + 1), place + key + "/");
+    }
+    json.Pop();
+}
+
+void SaveText(CJsonSerializeStream& json, const char* key, const std::string& text) {
+    if (!text.empty()) {
+        std::string narrow = CStringUtil::Utf8ToAnsi(text);
+        json.Ser(key, narrow, {});
+    }
+}
+
+void SaveOptions(CJsonSerializeStream& json, const TableOptions& options) {
+    SaveText(json, "query", options.Query);
+    SaveText(json, "sheet", options.Sheet);
+    if (!options.Columns.empty()) {
+        std::vector<std::string> columns;
+        for (const std::string& column : options.Columns) {
+            columns.push_back(CStringUtil::Utf8ToAnsi(column));
+        }
+        json.Ser("columns", columns, {});
+    }
+    if (options.HasHeading) {
+        json.Set("data/heading", *options.HasHeading ? "true" : "false");
+    }
+    if (options.IsTransposed) {
+        json.Set("data/transpose", "true");
+    }
+    SaveText(json, "order", kOrderNames[static_cast<std::size_t>(options.Order)]);
+    if (options.Top > 0) {
+        json.Set("data/top", penlode::Digits(options.Top));
+    }
+    if (options.DecimalMark) {
+        SaveText(json, "decimal", std::string(1, *options.DecimalMark));
+    }
+}
+
+/// The kind's example without what is of its own data, on a table if that has a name.
+std::string EmptyDocument(const ChartKind& kind, const NewTable& table) {
+    CJsonSerializeStream json(kind.Template);
+    json.BeginSaving();
+    EmptyGroup(json, "");
+    for (const char* const group : kGroups) {
+        EmptyBelow(json, group, "");
+    }
+    json.Remove("data");
+    if (!table.Name.empty()) {
+        json.Push("data", -1);
+        SaveText(json, table.Table.Options.Query.empty() ? "csv" : "source", table.Name);
+        SaveOptions(json, table.Table.Options);
+        json.Pop();
+    }
+    ChartContent content = kind.Make();
+    documents::WithContent(content, [&json](auto& document) {
+        if constexpr (requires { document.Range; }) {
+            json.Set("range", "fit");
+        }
+    });
+    return json.Text();
+}
+
+/// Makes what nobody asked for suit the data.
+class Suit {
+public:
+    explicit Suit(const std::vector<Setting>& settings) : m_settings(settings) {}
+
+    void operator()(PieDocument& document) const {
+        SetFlag("property/PieLegendProp/ShowLegend", document.Prop.Legend.ShowLegend,
+                !document.Data.Names.empty() || !document.Prop.Basic.ComponentName.empty());
+    }
+
+    void operator()(HistogramDocument& document) const {
+        HistogramProp& prop = document.Prop;
+        const std::size_t series = document.Data.Components();
+        SetFlag("property/HistogramLegendProp/ShowLegend", prop.Legend.ShowLegend, series > 1);
+        SetFlag("property/HistogramPlotProp/ShowComponentValue", prop.Plot.ShowComponentValue,
+                AreReadable(document.Data.Values));
+        SetValueCaption("property/HistogramVerAxisProp", prop.VerAxis, document.Data.ComponentNames);
+        if (!IsAsked("property/HistogramPlotProp/GroupDistane")) {
+            constexpr float kGapPart = 0.35F;
+            const auto groups = static_cast<float>(std::max<std::size_t>(document.Data.Values.size(), 1));
+            const float pitch = std::round(prop.Plot.PlotWidth / groups * kGapPart * 10.0F) / 10.0F;
+            prop.Plot.GroupDistane = std::min(prop.Plot.GroupDistane, pitch);
+        }
+    }
+
+    void operator()(CurveDocument& document) const {
+        SetFlag("property/CurveLegendProp/ShowLegend", document.Prop.Legend.ShowLegend,
+                document.Data.Values.size() > 1);
+        SetValueCaption("property/CurveVerAxisProp", document.Prop.VerAxis, document.Data.CurveNames);
+    }
+
+    template <class Document> void operator()(Document&) const {}
+
+private:
+    bool IsAsked(const std::string& place) const {
+        return std::any_of(m_settings.begin(), m_settings.end(), [&place](const Setting& setting) {
+            return IsPlaceIn(place, setting.Place);
+        });
+    }
+
+    void SetFlag(const std::string& place, std::int32_t& flag, bool isSet) const {
+        if (!IsAsked(place)) {
+            flag = isSet ? 1 : 0;
+        }
+    }
+
+    /// The name of what alone is shown.
+    template <class VerAxis>
+    void SetValueCaption(const std::string& place, VerAxis& axis, const std::vector<std::string>& names) const {
+        const bool isNamed = names.size() == 1 && !names.front().empty();
+        if (isNamed && !IsAsked(place + "/VerCaption") && !IsAsked(place + "/ShowVerCaption")) {
+            axis.ShowVerCaption = 1;
+            axis.VerCaption = names.front() + "\n";
+        }
+    }
+
+    /// Bars show whole values, and many have no place for them.
+    static bool AreReadable(const std::vector<std::vector<double>>& groups) {
+        constexpr std::size_t kFewBars = 24;
+        std::size_t bars = 0;
+        for (const std::vector<double>& group : groups) {
+            bars += group.size();
+            if (std::any_of(group.begin(), group.end(),
+                            [](double value) { return value != std::trunc(value) && !std::isnan(value); })) {
+                return false;
+            }
+        }
+        return bars <= kFewBars;
+    }
+
+    const std::vector<Setting>& m_settings;
+};
+
+} // namespace
+
+ChartDocument NewDocument(const ChartKind& kind, NewTable table, const std::vector<Setting>& settings,
+                          const std::string& file) {
+    const bool isNamed = !table.Name.empty();
+    InputText text{file, EmptyDocument(kind, table)};
+    ChartDocument document = ChartDocument::FromInput(
+        std::move(text), isNamed ? std::nullopt : std::optional(std::move(table.Table)), settings);
+    documents::WithContent(document.Content, Suit(settings));
+    return document;
+}
+
+} // namespace millichart
