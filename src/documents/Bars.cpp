@@ -145,7 +145,7 @@ void Bars::CheckWidths(const HistogramLayout& layout, Diagnostics& diagnostics) 
         const char* const key = m_plot.GroupDistane < 0.0F ? kGap : "/PlotWidth";
         diagnostics.push_back(penlode::Warning(m_record + key, "the bars of neighbouring groups overlap"));
     }
-    if (layout.ComponentWidth < kMinBarWidth) {
+    if (!m_plot.ComponentName.empty() && layout.ComponentWidth < kMinBarWidth) {
         diagnostics.push_back(penlode::Warning(
             m_record + "/PlotWidth", "each bar is only " + NumberText(layout.ComponentWidth) + " mm wide"));
     }
