@@ -215,7 +215,8 @@ void RangeCheck::AddTo(Diagnostics& diagnostics,
         told.Text += (isOne ? "is" : "are") + std::string(" too large for a value axis, expected at most ") +
                      NumberText(kMaxValue);
     } else {
-        told.Text += (isOne ? "lies" : "lie") + std::string(" outside ") + Axis();
+        told.Text += (isOne ? "lies" : "lie") + std::string(" outside ") + Axis() +
+                     (m_hasPlace ? "; \"range\": \"fit\" makes one that holds all" : "");
     }
     diagnostics.push_back(std::move(told));
 }

@@ -51,7 +51,8 @@ std::vector<penlode::Diagnostic> PlotSizeFaults(const std::string& place, float 
 /// Looks for values that a value axis does not hold, one after the other.
 class RangeCheck {
 public:
-    template <class Chart> RangeCheck(const Chart& chart, bool isLogarithmic) {
+    template <class Chart>
+    RangeCheck(const Chart& chart, bool isLogarithmic) : m_isLogarithmic(isLogarithmic) {
         double step = 0.0;
         if (isLogarithmic) {
             chart.GetLogarithmValueRange(m_min, m_max);
@@ -63,6 +64,7 @@ public:
     void Look(double value, std::size_t list, std::size_t item) {
         if ((value < m_min || value > m_max) && m_outside++ == 0) {
             m_firstOutside = {list, item};
+            m_hasPlace = !m_isLogarithmic || value > 0.0;
         }
         if ((value < -kMaxValue || value > kMaxValue) && m_huge++ == 0) {
             m_firstHuge = {list, item};
@@ -86,11 +88,13 @@ private:
         std::size_t Index = 0;
     };
 
+    bool m_isLogarithmic;
     double m_min = 0.0;
     double m_max = 0.0;
     std::size_t m_outside = 0;
     Item m_firstOutside;
-    std::size_t m_huge = 0; ///< those that no axis could hold
+    bool m_hasPlace = false; ///< the first, on an axis of another range
+    std::size_t m_huge = 0;  ///< those that no axis could hold
     Item m_firstHuge;
 };
 
