@@ -100,7 +100,8 @@ void ChartStream::Ser(const std::string& tag, std::string& value, const std::str
     }
 }
 
-/// Who says what a label shows, or which total a pie's width stands for, has left out the rest on purpose.
+/// Who says what a label shows, or which total a pie's width stands for, has left out the rest on purpose. A
+/// caption that is given is shown.
 std::string ChartStream::DefaultOf(const std::string& tag, const std::string& ofRecord) const {
     const auto isGiven = [this](const char* given) { return m_json.Has(given); };
     const auto isAnyGiven = [&](std::initializer_list<const char*> tags) {
@@ -110,6 +111,9 @@ std::string ChartStream::DefaultOf(const std::string& tag, const std::string& of
     if ((isLabelPart && isAnyGiven({"ShowNameLabel", "ShowValueLabel", "ShowPercentLabel"})) ||
         (tag == "FixedSize" && isAnyGiven({"BaseValue", "BasePieWidth"}))) {
         return ofRecord;
+    }
+    if (IsOneOf(tag, {"ShowCaption", "ShowVerCaption", "ShowHorCaption"})) {
+        return m_json.Has(tag.substr(std::string_view("Show").size())) ? "1" : "0";
     }
     const char* const ofDocument =
         DocumentDefault(m_kind, m_places.back(), penlode::CStringUtil::AnsiToUtf8(tag));

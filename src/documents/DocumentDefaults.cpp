@@ -25,9 +25,6 @@ constexpr Default kDefaults[] = {
     {"", "TextProperty", "DrawEdge", "0"},
     {"", "TextProperty", "DrawBackGround", "0"},
     {"", "/VerCaptionTextProperty", "Angle", "90"},
-    // A text that is given is shown.
-    {"", "/CaptionProp", "ShowCaption", "1"},
-    {"", "HorAxisProp", "ShowHorCaption", "1"},
     // Names stand in a legend, or where there is none, beside what they name.
     {"half-pie-histogram", "/HistogramLegendProp", "ShowLegend", "0"},
     {"", "LegendProp", "ShowLegend", "1"},
