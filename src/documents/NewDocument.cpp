@@ -1,6 +1,7 @@
 #include "documents/NewDocument.h"
 
 #include "documents/ChartLayouts.h"
+#include "documents/tables/QuerySource.h"
 #include "penlode/streams/JsonSerializeStream.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -116,7 +117,7 @@ std::string EmptyDocument(const ChartKind& kind, const NewTable& table) {
     json.Remove("data");
     if (!table.Name.empty()) {
         json.Push("data", -1);
-        SaveText(json, table.Table.Options.Query.empty() ? "csv" : "source", table.Name);
+        SaveText(json, IsQuerySource(table.Name) ? "source" : "csv", table.Name);
         SaveOptions(json, table.Table.Options);
         json.Pop();
     }

@@ -3,6 +3,7 @@
 #include "commands/ParsedOption.h"
 #include "documents/ChartContent.h"
 #include "files/Streams.h"
+#include "pages/PaperSize.h"
 
 #include <algorithm>
 #include <charconv>
@@ -105,6 +106,8 @@ void AddLookOptions(CLI::App& command, ChartSource& source) {
     AddParsed<std::string>(command, "--legend", look.Legend, ParseLegend,
                            "none, or right, top-left, BottomCenter and the like",
                            "where the legend stands: right, top-left, BottomCenter and the like, or none");
+    AddParsed<penlode::SizeF>(command, "--size", source.Figure, ParseSize, kSizeForm,
+                              "the whole figure: 80x60 in mm, 8x6cm, 3x2in, A5, A4-landscape");
     command.add_option_function<std::vector<std::string>>(
                "--set",
                [&source](const std::vector<std::string>& texts) {
