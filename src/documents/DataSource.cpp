@@ -4,8 +4,12 @@
 #include "documents/tables/QuerySource.h"
 #include "penlode/text/StringUtil.h"
 
+#include <utility>
+
 namespace millichart::documents {
 namespace {
+
+using penlode::CStringUtil;
 
 void LoadGroups(ChartStream& stream, const ListForm& form, std::vector<std::string>& names,
                 const std::function<void()>& load) {
@@ -38,9 +42,9 @@ std::optional<TableInput> LoadQuery(ChartStream& stream, const char* key, const 
     if (!stream.Has(kSource)) {
         return std::nullopt;
     }
-    const std::string named = penlode::CStringUtil::AnsiToUtf8(LoadText(stream, kSource, ""));
-    TableInput input{{QuerySourceIn(source.Folder, named)}};
-    input.Options.Query = penlode::CStringUtil::AnsiToUtf8(LoadText(stream, "query", ""));
+    const std::string named = CStringUtil::AnsiToUtf8(LoadText(stream, kSource, ""));
+    TableOptions options;
+    options.Query = CStringUtil::AnsiToUtf8(LoadText(stream, "query", ""));
     std::string expected = IsQuerySource(named) ? ExpectedOfDocument(named) : "sqlite:FILE or odbc:DSN";
     if (stream.Has(key)) {
         expected = std::string("either ") + key + " or " + kSource + ", not both";
@@ -51,7 +55,10 @@ std::optional<TableInput> LoadQuery(ChartStream& stream, const char* key, const 
             stream.PlaceOf(kSource), '"' + penlode::Shortened(ShownSource(named)) + '"', expected));
         return std::nullopt;
     }
-    return input;
+    if (const std::string file = FileOfQuerySource(QuerySourceIn(source.Folder, named)); !file.empty()) {
+        source.Files->push_back(file);
+    }
+    return QueryInput(QuerySourceIn(source.Folder, named), std::move(options));
 }
 
 } // namespace
@@ -71,16 +78,12 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
         return ReadTable(*source.Table, form, *source.Diagnostics);
     }
     if (const std::optional<TableInput> query = LoadQuery(stream, key, source)) {
-        if (const std::string base = FileOfQuerySource(query->Input.Name); !base.empty()) {
-            source.Files->push_back(base);
-        }
         return ReadTable(*query, form, *source.Diagnostics);
     }
     if (!isName) {
         return std::nullopt;
     }
-    const std::string file =
-        Utf8FromPath(source.Folder / PathFromUtf8(penlode::CStringUtil::AnsiToUtf8(named)));
+    const std::string file = Utf8FromPath(source.Folder / PathFromUtf8(CStringUtil::AnsiToUtf8(named)));
     source.Files->push_back(file);
     return ReadTable({ReadFile(file, NamedBy::Document)}, form, *source.Diagnostics);
 }

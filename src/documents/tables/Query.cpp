@@ -36,7 +36,7 @@ std::unique_ptr<RowReader> OpenQuery(const TableInput& input) {
     if (input.Options.Query.find_first_not_of(" \t\r\n") == std::string::npos) {
         return std::make_unique<NoReader>(kNoQuery);
     }
-    const bool isOdbc = !OdbcConnection(input.Input.Name).empty();
+    const bool isOdbc = !OdbcConnection(input.Source).empty();
 #if defined(MILLICHART_SQLITE)
     if (!isOdbc) {
         return OpenSqlite(input);

@@ -3,7 +3,6 @@
 #include "documents/Fields.h"
 #include "documents/tables/Csv.h"
 #include "documents/tables/Query.h"
-#include "documents/tables/QuerySource.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -41,8 +40,7 @@ bool IsWord(const std::string& cell) {
 
 class TableReader {
 public:
-    TableReader(const TableInput& input, const TableForm& form)
-        : m_input(input.Input), m_form(form), m_name(ShownSource(input.Input.Name)) {}
+    TableReader(const InputText& input, const TableForm& form) : m_input(input), m_form(form) {}
 
     void ReadQuery(const TableInput& input) {
         const std::unique_ptr<RowReader> reader = OpenQuery(input);
@@ -150,7 +148,7 @@ private:
                                          ", though they are numbers; with an empty first cell it is no doubt "
                                          "one");
             warning.Line = row.Line;
-            warning.File = m_name;
+            warning.File = m_input.Name;
             m_diagnostics.push_back(std::move(warning));
         }
     }
@@ -250,7 +248,7 @@ private:
 
     /// One stands for all those that are not kept.
     void Tell(Diagnostic fault) {
-        fault.File = m_name;
+        fault.File = m_input.Name;
         if (++m_told <= penlode::kMaxDiagnostics) {
             m_diagnostics.push_back(std::move(fault));
             return;
@@ -260,14 +258,13 @@ private:
         }
         fault = penlode::Error("", "and " + std::to_string(m_told - penlode::kMaxDiagnostics) +
                                        " more, which are not told");
-        fault.File = m_name;
+        fault.File = m_input.Name;
         fault.IsRest = true;
         m_diagnostics.push_back(std::move(fault));
     }
 
     const InputText& m_input;
     const TableForm& m_form;
-    const std::string m_name; ///< as diagnostics call it
     Table m_table;
     std::vector<Diagnostic> m_diagnostics;
     std::size_t m_told = 0; ///< errors
@@ -282,14 +279,14 @@ private:
 
 Table ReadTable(const TableInput& input, const TableForm& form,
                 std::vector<penlode::Diagnostic>& diagnostics) {
-    TableReader reader(input, form);
-    if (IsQuerySource(input.Input.Name)) {
+    TableReader reader(input.Input, form);
+    if (!input.Source.empty()) {
         reader.ReadQuery(input);
     } else {
         reader.Read();
     }
     diagnostics.insert(diagnostics.end(), reader.Diagnostics().begin(), reader.Diagnostics().end());
-    reader.Result().File = ShownSource(input.Input.Name);
+    reader.Result().File = input.Input.Name;
     return std::move(reader.Result());
 }
 
