@@ -33,7 +33,7 @@ void TrimGaps(std::vector<double>& values) {
 }
 
 BarData BarsOf(const Table& table) {
-    BarData data{table.Names, table.Heading, {}, {table.File, table.Lines}};
+    BarData data{table.Names, table.Heading, {}, table.Origin};
     data.Values.resize(data.GroupNames.size());
     for (std::size_t group = 0; group < data.Values.size(); ++group) {
         for (const std::vector<double>& column : table.Columns) {

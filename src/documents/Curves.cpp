@@ -27,8 +27,7 @@ constexpr float kMarkerWidth = 1.6F;
 constexpr std::size_t kMaxLabels = 12;
 constexpr std::size_t kManyLabels = 2000;
 
-constexpr TableForm kCurveTable{.HeadedBy = TableForm::Heading::OverTime,
-                                .WidthForm = "as many as in the first row",
+constexpr TableForm kCurveTable{.WidthForm = "as many as in the first row",
                                 .HeadingNames = "the curves' names",
                                 .HasTimes = true,
                                 .Gap = kCurveNull,
@@ -45,8 +44,8 @@ CurveData CurvesOf(Table table, std::size_t names) {
     data.CurveNames = std::move(table.Heading);
     data.Values = std::move(table.Columns);
     data.Times.assign(data.Values.size(), table.Times);
-    data.Labels = std::move(table.Names);
-    data.Origin = {std::move(table.File), std::move(table.Lines)};
+    data.Labels = std::move(table.TimeLabels.empty() ? table.Names : table.TimeLabels);
+    data.Origin = std::move(table.Origin);
     return data;
 }
 

@@ -25,10 +25,8 @@ constexpr float kMinPie = 5.0F;
 constexpr const char* kSizesAboveZero =
     "FixedWidth above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0";
 
-constexpr TableForm SliceTable(TableForm::Heading heading, std::size_t width, const char* widthForm,
-                               const char* rowsForm) {
-    return {.HeadedBy = heading,
-            .Width = width,
+constexpr TableForm SliceTable(std::size_t width, const char* widthForm, const char* rowsForm) {
+    return {.Width = width,
             .WidthForm = widthForm,
             .AreNamesJoined = true,
             .IsPositive = true,
@@ -37,11 +35,8 @@ constexpr TableForm SliceTable(TableForm::Heading heading, std::size_t width, co
             .RowsForm = rowsForm};
 }
 
-constexpr TableForm kPieTable =
-    SliceTable(TableForm::Heading::OverNumber, 2, "a name and a value", "rows of a name and a value");
-/// There always is a heading: it may well be of years, which look like values.
-constexpr TableForm kHalvesTable = SliceTable(TableForm::Heading::Always, 3, "a name and two values",
-                                              "a heading, and rows of a name and two values");
+constexpr TableForm kPieTable = SliceTable(2, "a name and a value", "rows of a name and a value");
+constexpr TableForm kHalvesTable = SliceTable(3, "a name and two values", "rows of a name and two values");
 
 /// The values that stand in the document.
 std::vector<double> LoadValues(ChartStream& stream, const DataSource& source) {

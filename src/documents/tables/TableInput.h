@@ -20,7 +20,7 @@ struct TableOptions {
     /// empty.
     std::vector<std::string> Columns{};
     std::optional<bool> HasHeading{}; ///< without, the table tells
-    bool IsTransposed = false;      ///< a row of the table is a column here
+    bool IsTransposed = false;        ///< a row of the table is a column here
     TableOrder Order = TableOrder::AsItStands;
     std::size_t Top = 0;               ///< so many of the largest rows, and the rest as one; 0: all
     std::optional<char> DecimalMark{}; ///< '.' or ','; without, the table tells
