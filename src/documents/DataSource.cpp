@@ -1,7 +1,12 @@
 #include "documents/DataSource.h"
 
 #include "documents/Fields.h"
+#include "documents/tables/OpenTable.h"
+#include "documents/tables/TableKeys.h"
 #include "penlode/text/StringUtil.h"
+
+#include <string_view>
+#include <utility>
 
 namespace millichart::documents {
 namespace {
@@ -30,29 +35,34 @@ void LoadGroups(ChartStream& stream, const ListForm& form, std::vector<std::stri
     }
 }
 
+/// What the document names, from its folder. A data base is opened by its reader.
+InputText OpenNamed(const std::string& narrowName, const DataSource& source) {
+    constexpr std::string_view kSqlite = "sqlite:";
+    std::string name = penlode::CStringUtil::AnsiToUtf8(narrowName);
+    const bool isSqlite = name.starts_with(kSqlite);
+    if (IsDataBase(name) && !isSqlite) {
+        return {name};
+    }
+    const std::string file =
+        Utf8FromPath(source.Folder / PathFromUtf8(isSqlite ? name.substr(kSqlite.size()) : name));
+    source.Files->push_back(file);
+    return isSqlite ? InputText{std::string(kSqlite) + file} : ReadFile(file, NamedBy::Document);
+}
+
 } // namespace
 
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
                                const TableForm& form, const char* csvKey) {
-    const bool isNamed = stream.Has(csvKey);
-    const std::string named = isNamed ? LoadText(stream, csvKey, "") : "";
-    if (isNamed && stream.Has(key)) {
-        stream.Refuse(csvKey, named, std::string("either ") + key + " or " + csvKey + ", not both");
-    }
-    const bool isName = !named.empty() && named.find('\0') == std::string::npos;
-    if (isNamed && !isName) {
-        stream.Refuse(csvKey, named, "the name of a CSV file");
-    }
+    const std::string named = LoadTableName(stream, csvKey, key);
+    TableOptions options = LoadTableOptions(stream, csvKey);
     if (source.Table != nullptr) {
+        source.Table->Options = Merged(std::move(source.Table->Options), options);
         return ReadTable(*source.Table, form, *source.Diagnostics);
     }
-    if (!isName) {
+    if (named.empty()) {
         return std::nullopt;
     }
-    const std::string file =
-        Utf8FromPath(source.Folder / PathFromUtf8(penlode::CStringUtil::AnsiToUtf8(named)));
-    source.Files->push_back(file);
-    return ReadTable({ReadFile(file, NamedBy::Document)}, form, *source.Diagnostics);
+    return ReadTable({OpenNamed(named, source), std::move(options)}, form, *source.Diagnostics);
 }
 
 std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, const ListForm& form,
@@ -62,7 +72,7 @@ std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, con
     std::optional<Table> table = LoadTable(stream, form.Key, source, form.Table, form.CsvKey);
     if (stream.Has(form.Key)) {
         LoadGroups(stream, form, names, load);
-    } else if (!table && !stream.Has(form.CsvKey) && (isGroup || isMissing)) {
+    } else if (!table && !NamesTable(stream, form.CsvKey) && (isGroup || isMissing)) {
         source.Diagnostics->push_back(
             penlode::Error(std::string("data/") + form.Key, "no such key",
                            std::string(form.Expected) + ", or " + form.CsvKey + " with a file"));
