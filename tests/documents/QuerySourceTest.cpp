@@ -40,7 +40,7 @@ TEST(QuerySource, ADocumentNamesNeitherPasswordsNorWhatIsLoadedOrWritten) {
         EXPECT_NE(ExpectedOfDocument(source), "") << source;
     }
     const std::string source = R"("odbc:DSN=a;PWD=s3cret")";
-    for (const std::string data :
+    for (const std::string& data :
          {"\"source\": " + source, "\"csv\": " + source, "\"values\": [1], \"source\": " + source}) {
         const auto document = ChartDocument::FromText(R"({"kind": "pie", "data": {)" + data + "}}");
         EXPECT_FALSE(document.IsSound()) << data;
