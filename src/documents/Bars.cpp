@@ -4,6 +4,7 @@
 #include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
+#include "documents/tables/TableKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,7 +36,7 @@ void TrimGaps(std::vector<double>& values) {
 }
 
 BarData BarsOf(const Table& table) {
-    BarData data{table.Names, table.Heading, {}, {table.File, table.Lines}};
+    BarData data{table.Names, table.Heading, {}, table.Origin};
     data.Values.resize(data.GroupNames.size());
     for (std::size_t group = 0; group < data.Values.size(); ++group) {
         for (const std::vector<double>& column : table.Columns) {
@@ -63,7 +64,7 @@ void Bars::Load(ChartStream& stream, const DataSource& source) {
 
 void Bars::Save(SavingStream& stream) const {
     stream.Push("data", -1);
-    stream.ReplaceTable(m_csvKey, {kGroups, kTableNames});
+    stream.ReplaceTable(TableKeys(m_csvKey), {kGroups, kTableNames});
     stream.Note(kTableNames, m_data.ComponentNames);
     stream.Groups(kGroups, m_data.Values.size(), m_data.GroupNames,
                   [&](std::size_t group) { stream.Numbers("values", m_data.Values[group]); });

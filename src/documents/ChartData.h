@@ -14,7 +14,11 @@ namespace millichart {
 /// Where data that were read from a table stand in it, which diagnostics of their values tell.
 struct TableOrigin {
     std::string File;                 ///< as diagnostics call it; empty for data that stand in the document
-    std::vector<std::uint32_t> Lines; ///< a row each, from 1
+    std::vector<std::uint32_t> Lines; ///< a row each, from 1; 0 for a row that stands for several
+    /// Where the columns stand in the table, from 1; empty when they stand as they are here.
+    std::vector<std::uint32_t> Columns = {};
+    std::string Sheet = {};    ///< of a spreadsheet file, UTF-8
+    bool IsTransposed = false; ///< rows here are the table's columns: Lines are these, and Columns are lines
 
     friend bool operator==(const TableOrigin&, const TableOrigin&) = default;
 };

@@ -4,6 +4,7 @@
 #include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
+#include "documents/tables/TableKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,8 +31,7 @@ constexpr float kMarkerWidth = 1.6F;
 constexpr std::size_t kMaxLabels = 12;
 constexpr std::size_t kManyLabels = 2000;
 
-constexpr TableForm kCurveTable{.HeadedBy = TableForm::Heading::OverTime,
-                                .WidthForm = "as many as in the first row",
+constexpr TableForm kCurveTable{.WidthForm = "as many as in the first row",
                                 .HeadingNames = "the curves' names",
                                 .HasTimes = true,
                                 .Gap = kCurveNull,
@@ -48,8 +48,8 @@ CurveData CurvesOf(Table table, std::size_t names) {
     data.CurveNames = std::move(table.Heading);
     data.Values = std::move(table.Columns);
     data.Times.assign(data.Values.size(), table.Times);
-    data.Labels = std::move(table.Names);
-    data.Origin = {std::move(table.File), std::move(table.Lines)};
+    data.Labels = std::move(table.TimeLabels.empty() ? table.Names : table.TimeLabels);
+    data.Origin = std::move(table.Origin);
     return data;
 }
 
@@ -195,7 +195,7 @@ void Curves::Load(ChartStream& stream, const DataSource& source) {
 
 void Curves::Save(SavingStream& stream) const {
     stream.Push("data", -1);
-    stream.ReplaceTable("csv", {kCurves, "labels"});
+    stream.ReplaceTable(TableKeys("csv"), {kCurves, "labels"});
     stream.Groups(kCurves, m_data.Values.size(), m_data.CurveNames, [&](std::size_t curve) {
         stream.Numbers("values", WithGaps(m_data.Values[curve]));
         const Times times = curve < m_data.Times.size() ? m_data.Times[curve] : Times();

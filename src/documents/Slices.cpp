@@ -2,6 +2,7 @@
 
 #include "documents/Fields.h"
 #include "documents/Palette.h"
+#include "documents/tables/TableKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,10 +26,8 @@ constexpr float kMinPie = 5.0F;
 constexpr const char* kSizesAboveZero =
     "FixedWidth above 0 with a FixedSize of 1, or BaseValue and BasePieWidth above 0";
 
-constexpr TableForm SliceTable(TableForm::Heading heading, std::size_t width, const char* widthForm,
-                               const char* rowsForm) {
-    return {.HeadedBy = heading,
-            .Width = width,
+constexpr TableForm SliceTable(std::size_t width, const char* widthForm, const char* rowsForm) {
+    return {.Width = width,
             .WidthForm = widthForm,
             .AreNamesJoined = true,
             .IsPositive = true,
@@ -37,11 +36,8 @@ constexpr TableForm SliceTable(TableForm::Heading heading, std::size_t width, co
             .RowsForm = rowsForm};
 }
 
-constexpr TableForm kPieTable =
-    SliceTable(TableForm::Heading::OverNumber, 2, "a name and a value", "rows of a name and a value");
-/// There always is a heading: it may well be of years, which look like values.
-constexpr TableForm kHalvesTable = SliceTable(TableForm::Heading::Always, 3, "a name and two values",
-                                              "a heading, and rows of a name and two values");
+constexpr TableForm kPieTable = SliceTable(2, "a name and a value", "rows of a name and a value");
+constexpr TableForm kHalvesTable = SliceTable(3, "a name and two values", "rows of a name and two values");
 
 /// The values that stand in the document.
 std::vector<double> LoadValues(ChartStream& stream, const DataSource& source) {
@@ -102,8 +98,9 @@ void Slices::LoadHalf(ChartStream& stream, const DataSource& source, bool isRepl
         return;
     }
     stream.Push(m_half, -1);
-    if (isReplaced && stream.Has("csv")) {
-        LoadText(stream, "csv", "");
+    if (isReplaced && NamesTable(stream, "csv")) {
+        LoadTableName(stream, "csv", kValues);
+        LoadTableOptions(stream, "csv");
     } else {
         LoadHere(stream, source);
     }
@@ -135,10 +132,10 @@ void Slices::Save(SavingStream& stream) const {
     stream.CheckJoined(m_record + kNames, m_names);
     stream.Push("data", -1);
     if (!m_half.empty()) {
-        stream.ReplaceTable("csv", {kFirst, kSecond});
+        stream.ReplaceTable(TableKeys("csv"), {kFirst, kSecond});
         stream.Push(m_half, -1);
     }
-    stream.ReplaceTable("csv", {kValues, kTableNames});
+    stream.ReplaceTable(TableKeys("csv"), {kValues, kTableNames});
     stream.Numbers(kValues, m_data.Values);
     stream.Note(kTableNames, m_data.Names);
     if (!m_half.empty()) {

@@ -226,10 +226,11 @@ std::string RangeCheck::Axis() const {
 
 Diagnostic AtValue(const TableOrigin& origin, std::size_t row, std::size_t column, const std::string& place) {
     Diagnostic at;
-    const bool isInTable = row < origin.Lines.size();
-    at.File = isInTable ? origin.File : "";
-    at.Line = isInTable ? origin.Lines[row] : 0;
-    at.Place = isInTable ? ColumnPlace(column) : place;
+    if (row < origin.Lines.size()) {
+        PutAt(origin, row, column, at);
+    } else {
+        at.Place = place;
+    }
     return at;
 }
 

@@ -66,16 +66,15 @@ TEST_F(Check, FewMessagesAreShownAndAllOfThemInJson) {
 }
 
 TEST_F(Check, NothingInAFileCanSteerATerminal) {
-    Write("d.csv", "a,\"\x1B[2J\n\xC2\x9B\x07\"\n");
+    Write("d.csv", "a,1\nb,\"\x1B[2J\n\xC2\x9B\x07\"\n");
     Write("b\x1B[31m\n.json", R"({"kind": "pie", "data": {"csv": "d.csv"}})");
     const Outcome drawn =
         Run("millichart draw b*.json none\x1B.json; millichart check b*.json | grep -v note: >&2");
     EXPECT_EQ(drawn.Errors,
-              "millichart: d.csv:1: column 2: found \"\\x1B[2J\\x0A\\xC2\\x9B\\x07\", expected a "
-              "number, or a heading without digits\n"
+              "millichart: d.csv:2: column 2: found \"\\x1B[2J\\x0A\\xC2\\x9B\\x07\", expected a "
+              "number\n"
               "millichart: none\\x1B.json: cannot be read: No such file or directory\n"
-              "d.csv:1: column 2: found \"\\x1B[2J\\x0A\\xC2\\x9B\\x07\", expected a number, or a "
-              "heading without digits\n"
+              "d.csv:2: column 2: found \"\\x1B[2J\\x0A\\xC2\\x9B\\x07\", expected a number\n"
               "b\\x1B[31m\\x0A.json: 1 error, 0 warnings, 47 notes\n");
 }
 

@@ -47,10 +47,15 @@ TEST_F(CsvFile, NamesThatARecordCannotHoldAreRefused) {
         "millichart: d.csv:3: column 1: found \"C|\", expected a text without || and without | at its end\n");
 }
 
-TEST_F(CsvFile, MayNotBeOfAnotherEncoding) {
-    EXPECT_EQ(Complaint("\xB1\xB1,1\n"),
-              "millichart: d.csv: found another encoding, expected UTF-8; a spreadsheet "
-              "program calls it \"CSV UTF-8\"\n");
+TEST_F(CsvFile, IsOfAnEncodingThatItsBytesTell) {
+    const std::string wanted = R"(["北京;4.0"])";
+    EXPECT_EQ(Labels("\xB1\xB1\xBE\xA9,4\n"), wanted);
+    EXPECT_EQ(Labels(std::string("\xFF\xFE\x17\x53\xAC\x4E,\0004\0\n\0", 12)), wanted);
+    EXPECT_EQ(Labels(std::string("\x53\x17\x4E\xAC\0,\0004\0\n", 10)), wanted) << "without a mark";
+    EXPECT_EQ(Labels(std::string("\xFF\xFE\x3D\xD8\x0A\xDE,\0004\0", 10)), R"(["😊;4.0"])");
+    EXPECT_EQ(Complaint("Z\xFCrich,1\nK\xF6ln,2\n"),
+              "millichart: d.csv: found another encoding, expected UTF-8, UTF-16 or GB18030; a spreadsheet "
+              "program calls the first \"CSV UTF-8\"\n");
 }
 
 TEST_F(CsvFile, StandsBesideItsDocumentAndGivesWayToData) {

@@ -1,17 +1,19 @@
 #include "documents/tables/Csv.h"
 
-#include "penlode/text/StringUtil.h"
+#include "documents/tables/Encoding.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <cstring>
+#include <numeric>
+#include <optional>
+#include <utility>
 
 namespace millichart::documents {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kSeparators = ",;\t";
+constexpr std::string_view kSeparatorWord = "sep=";
 
 /// Behind the quote that closes the cell whose text begins at `at`. Doubled ones belong to it.
 std::size_t BehindQuoted(std::string_view text, std::size_t at) {
@@ -22,27 +24,63 @@ std::size_t BehindQuoted(std::string_view text, std::size_t at) {
     return quote == std::string_view::npos ? text.size() : quote + 1;
 }
 
-/// The separator of which the first line has most; where several have as many, with the lines below.
-char SeparatorOf(std::string_view text) {
-    std::array<std::size_t, kSeparators.size()> counts{};
-    const auto most = [&counts] { return std::max_element(counts.begin(), counts.end()); };
+using Counts = std::array<std::size_t, kSeparators.size()>;
+
+/// Adds the separators outside quotes from `at` on, up to and with the line break after which `isOver` says
+/// that they are enough. Gives the place behind.
+template <class Over> std::size_t Count(std::string_view text, std::size_t at, Counts& counts, Over isOver) {
     bool beginsCell = true;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '"' && beginsCell) {
-            i = BehindQuoted(text, i + 1) - 1;
+    for (; at < text.size(); ++at) {
+        if (text[at] == '"' && beginsCell) {
+            at = BehindQuoted(text, at + 1) - 1;
             beginsCell = false;
             continue;
         }
-        if (text[i] == '\n' && std::count(counts.begin(), counts.end(), *most()) == 1) {
-            break;
+        if (text[at] == '\n' && isOver()) {
+            return at + 1;
         }
-        const std::size_t found = kSeparators.find(text[i]);
+        const std::size_t found = kSeparators.find(text[at]);
         if (found != std::string_view::npos) {
             ++counts[found];
         }
-        beginsCell = found != std::string_view::npos || text[i] == '\n' || (beginsCell && text[i] == ' ');
+        beginsCell = found != std::string_view::npos || text[at] == '\n' || (beginsCell && text[at] == ' ');
     }
-    return kSeparators[static_cast<std::size_t>(most() - counts.begin())];
+    return at;
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Do all commas look like those of decimals?
+bool AreCommasDecimal(std::string_view line) {
+    for (std::size_t at = line.find(','); at != std::string_view::npos; at = line.find(',', at + 1)) {
+        if (at == 0 || at + 1 == line.size() || !IsDigit(line[at - 1]) || !IsDigit(line[at + 1])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The separator of which the first line has most; where several have as many, with the lines below. A title
+/// may have a comma where the table has semicolons: then the lines below have none.
+char SeparatorOf(std::string_view text) {
+    constexpr int kLinesBelow = 20;
+    Counts counts{};
+    const auto most = [](const Counts& of) { return std::max_element(of.begin(), of.end()) - of.begin(); };
+    const auto isDecided = [&] {
+        return std::count(counts.begin(), counts.end(), counts[static_cast<std::size_t>(most(counts))]) == 1;
+    };
+    const std::size_t below = Count(text, 0, counts, isDecided);
+    const bool hasOthers = std::accumulate(counts.begin() + 1, counts.end(), std::size_t{0}) != 0;
+    if (hasOthers && AreCommasDecimal(text.substr(0, text.find('\n')))) {
+        counts.front() = 0;
+    }
+    Counts ofBelow{};
+    Count(text, below, ofBelow, [lines = 0]() mutable { return ++lines == kLinesBelow; });
+    const bool isBelow = ofBelow[static_cast<std::size_t>(most(counts))] != 0;
+    const bool hasOther = ofBelow[static_cast<std::size_t>(most(ofBelow))] != 0;
+    return kSeparators[static_cast<std::size_t>(most(!isBelow && hasOther ? ofBelow : counts))];
 }
 
 bool IsBlank(char c) {
@@ -59,28 +97,41 @@ std::string_view Trimmed(std::string_view text) {
     return text;
 }
 
-constexpr std::uint64_t kBeyondAscii = 0x8080808080808080U;
-
-bool IsAscii(char c) {
-    return static_cast<unsigned char>(c) < 0x80U;
-}
-
-/// The first byte from `at` on that is no ASCII; looked for eight at a time.
-const char* EndOfAscii(const char* at, const char* end) {
-    for (std::uint64_t word = 0; end - at >= static_cast<std::ptrdiff_t>(sizeof word); at += sizeof word) {
-        std::memcpy(&word, at, sizeof word);
-        if ((word & kBeyondAscii) != 0) {
-            break;
-        }
-    }
-    return std::find_if_not(at, end, IsAscii);
-}
-
 } // namespace
 
-CsvReader::CsvReader(std::string_view text)
-    : m_text(text.substr(text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)),
-      m_separator(SeparatorOf(m_text)) {}
+CsvReader::CsvReader(std::string_view bytes) : m_text(bytes) {
+    if (!IsUtf8(bytes) || IsUtf16(bytes)) {
+        std::optional<std::string> decoded = DecodedText(bytes);
+        m_isText = decoded.has_value();
+        m_decoded = std::move(decoded).value_or("");
+        m_text = m_decoded;
+    }
+    m_text.remove_prefix(m_text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
+    const std::string_view line = m_text.substr(0, m_text.find('\n'));
+    if (line.starts_with(kSeparatorWord) && Trimmed(line.substr(kSeparatorWord.size() + 1)).empty()) {
+        m_separator = line[kSeparatorWord.size()];
+        m_begin = std::min(line.size() + 1, m_text.size());
+        m_firstLine = 2;
+    } else {
+        m_separator = SeparatorOf(m_text);
+    }
+    CsvReader::Rewind();
+}
+
+std::string CsvReader::Fault() const {
+    if (!m_isText) {
+        return "found another encoding, expected UTF-8, UTF-16 or GB18030; a spreadsheet program calls the "
+               "first \"CSV UTF-8\"";
+    }
+    return m_openQuote == 0 ? "" : "found a quote that never closes, expected a closing quote";
+}
+
+bool CsvReader::Rewind() {
+    m_at = m_begin;
+    m_line = m_firstLine;
+    m_openQuote = 0;
+    return true;
+}
 
 bool CsvReader::Next(TableRow& row) {
     while (!AtEnd()) {
@@ -140,26 +191,6 @@ void CsvReader::ReadQuoted(std::string& cell) {
         cell += c;
     }
     m_openQuote = line;
-}
-
-std::size_t FilledCells(const TableRow& row) {
-    const auto last = std::find_if(row.Cells.rbegin(), row.Cells.rend(),
-                                   [](const std::string& cell) { return !cell.empty(); });
-    return static_cast<std::size_t>(row.Cells.rend() - last);
-}
-
-/// Long texts are mostly ASCII, so only the runs between are looked at closely.
-bool IsUtf8(std::string_view text) {
-    const char* const textEnd = text.data() + text.size();
-    for (const char* at = text.data(); (at = EndOfAscii(at, textEnd)) != textEnd;) {
-        const char* const end = std::find_if(at, textEnd, IsAscii);
-        const std::string_view run(at, static_cast<std::size_t>(end - at));
-        if (penlode::CStringUtil::WideToUtf8(penlode::CStringUtil::Utf8ToWideString(run)) != run) {
-            return false;
-        }
-        at = end;
-    }
-    return true;
 }
 
 } // namespace millichart::documents

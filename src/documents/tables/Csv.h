@@ -10,19 +10,26 @@
 namespace millichart::documents {
 
 /// Reads comma, semicolon or tab separated text row by row, separated by whichever the first line with any
-/// has most of; the lines below decide between equals. A cell in double quotes may hold separators, line
-/// breaks and doubled quotes. Lines end with LF or CRLF; a byte order mark is passed over, and so are rows
-/// whose cells are all empty. Blanks round an unquoted cell are dropped.
-class CsvReader {
+/// has most of, unless no other line has it; the lines below decide between equals, and a first line "sep=;"
+/// over all. A cell in double quotes may hold separators, line breaks and doubled quotes. Lines end with LF
+/// or CRLF; a byte order mark is passed over, and so are rows whose cells are all empty. Blanks round an
+/// unquoted cell are dropped. The text is UTF-8, or of an encoding that Encoding.h knows.
+class CsvReader final : public RowReader {
 public:
-    /// The text must outlive the reader.
-    explicit CsvReader(std::string_view text);
+    /// The bytes must outlive the reader.
+    explicit CsvReader(std::string_view bytes);
 
-    /// The next row in the place of the old one; false when there is none.
-    bool Next(TableRow& row);
+    bool Next(TableRow& row) override;
 
-    /// The line of a quote that never closed, or 0.
-    std::size_t OpenQuote() const { return m_openQuote; }
+    std::string Fault() const override;
+
+    std::size_t FaultLine() const override { return m_openQuote; }
+
+    bool IsExact() const override { return false; }
+
+    bool Rewind() override;
+
+    char Separator() const override { return m_separator; }
 
 private:
     bool AtEnd() const { return m_at >= m_text.size(); }
@@ -31,17 +38,15 @@ private:
     void ReadCell(std::string& cell);
     void ReadQuoted(std::string& cell);
 
+    std::string m_decoded; ///< of a text that is no UTF-8
     std::string_view m_text;
-    char m_separator;
+    bool m_isText = true;
+    char m_separator = ',';
+    std::size_t m_begin = 0; ///< of the first row
+    std::size_t m_firstLine = 1;
     std::size_t m_at = 0;
     std::size_t m_line = 1;
-    std::size_t m_openQuote = 0;
+    std::size_t m_openQuote = 0; ///< the line of a quote that never closed
 };
-
-/// How many cells a row has up to the last one that is not empty.
-std::size_t FilledCells(const TableRow& row);
-
-/// Is this well-formed UTF-8?
-bool IsUtf8(std::string_view text);
 
 } // namespace millichart::documents

@@ -1,15 +1,24 @@
 #include "documents/tables/Table.h"
 
 #include "documents/Fields.h"
-#include "documents/tables/Csv.h"
-#include "documents/tables/Query.h"
-#include "documents/tables/QuerySource.h"
+#include "documents/tables/Arrange.h"
+#include "documents/tables/DecimalMark.h"
+#include "documents/tables/Heading.h"
+#include "documents/tables/OpenTable.h"
+#include "documents/tables/TableShape.h"
+#include "documents/tables/TimeAxis.h"
+#include "documents/tables/TransposedRows.h"
+#include "documents/tables/WrittenNumber.h"
 #include "penlode/streams/TextForms.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <memory>
+#include <numeric>
+#include <string_view>
 #include <utility>
 
 namespace millichart::documents {
@@ -17,213 +26,86 @@ namespace {
 
 using penlode::CStringUtil;
 using penlode::Diagnostic;
-using Heading = TableForm::Heading;
 
-bool IsNumber(const std::string& cell) {
-    double number = 0.0;
-    return ParseNumber(cell, number);
+/// What spreadsheet programs show in the place of a number that cannot be found.
+bool IsSheetError(const std::string& cell) {
+    constexpr std::array<std::string_view, 7> kErrors = {"#DIV/0!", "#N/A",  "#REF!", "#VALUE!",
+                                                         "#NAME?",  "#NUM!", "#NULL!"};
+    return cell.starts_with('#') && std::find(kErrors.begin(), kErrors.end(), cell) != kErrors.end();
 }
 
-/// As spreadsheet programs of many languages write numbers.
-bool HasDecimalComma(std::string cell) {
-    std::replace(cell.begin(), cell.end(), ',', '.');
-    return IsNumber(cell);
+/// "B7"
+std::string SheetCell(std::size_t column, std::size_t line) {
+    std::string letters;
+    for (; column > 0; column = (column - 1) / 26) {
+        letters.insert(letters.begin(), static_cast<char>('A' + (column - 1) % 26));
+    }
+    return letters + std::to_string(line);
 }
 
-/// A word over a column, and no malformed or missing number? "nan" and "inf" are numbers too, if not ones to
-/// draw.
-bool IsWord(const std::string& cell) {
-    double number = 0.0;
-    std::string text = cell;
-    return !cell.empty() && cell.find_first_of("0123456789") == std::string::npos &&
-           !penlode::ser_evaluate(number, text, false);
+void PutAtLine(const TableOrigin& origin, std::size_t line, std::size_t column, Diagnostic& diagnostic) {
+    const std::size_t number = origin.Columns.empty() ? column + 1 : origin.Columns[column];
+    diagnostic.File = origin.File;
+    diagnostic.Line = origin.IsTransposed ? number : line;
+    const std::size_t at = origin.IsTransposed ? line : number;
+    diagnostic.Place = origin.Sheet.empty() || diagnostic.Line == 0
+                           ? "column " + std::to_string(at)
+                           : "sheet " + origin.Sheet + ", " + SheetCell(at, diagnostic.Line);
 }
 
+/// Reads the rows of a table whose shape is known.
 class TableReader {
 public:
-    TableReader(const TableInput& input, const TableForm& form)
-        : m_input(input.Input), m_form(form), m_name(ShownSource(input.Input.Name)) {}
-
-    void ReadQuery(const TableInput& input) {
-        const std::unique_ptr<RowReader> reader = OpenQuery(input);
-        for (TableRow row; !m_isOver && reader->Next(row);) {
-            ReadRow(row);
+    TableReader(const TableInput& input, const TableForm& form, LookedAtRows& rows, const TableShape& shape,
+                std::optional<DecimalMark> mark)
+        : m_input(input.Input), m_form(form), m_rows(rows), m_shape(shape), m_mark(std::move(mark)) {
+        m_table.Origin.File = m_input.Name;
+        m_table.Origin.Sheet = rows.Reader().Sheet();
+        m_table.Title = shape.Title;
+        if (!shape.IsWhole()) {
+            for (const std::size_t column : shape.Columns) {
+                m_table.Origin.Columns.push_back(static_cast<std::uint32_t>(column + 1));
+            }
         }
-        if (const std::string fault = reader->Fault(); !fault.empty()) {
-            m_diagnostics.clear();
-            Tell(penlode::Error("", fault));
-            return;
-        }
-        CheckRows();
     }
 
-    void Read() {
-        if (!m_input.Fault.empty()) {
-            Tell(penlode::Error("", m_input.Fault));
-            return;
+    /// In the table that was given, where rows are columns here.
+    void PutLines(const std::vector<std::uint32_t>& lines) {
+        m_table.Origin.IsTransposed = true;
+        std::vector<std::uint32_t>& columns = m_table.Origin.Columns;
+        if (columns.empty()) {
+            columns = lines;
+        } else {
+            std::transform(columns.begin(), columns.end(), columns.begin(),
+                           [&](std::uint32_t column) { return lines[column - 1]; });
         }
-        if (!IsUtf8(m_input.Text)) {
-            Tell(penlode::Error("", "another encoding",
-                                "UTF-8; a spreadsheet program calls it \"CSV UTF-8\""));
-            return;
+    }
+
+    /// False when a number was met which the decimal mark must be known to read.
+    bool Read() {
+        TableRow row;
+        for (std::size_t i = 0; !m_isOver && m_rows.Next(row); ++i) {
+            if (i >= m_shape.Titles) {
+                ReadRow(row, m_shape.HasHeading && i == m_shape.Titles);
+            }
+            if (m_lacksMark) {
+                return false;
+            }
         }
-        CsvReader reader(m_input.Text);
-        for (TableRow row; reader.Next(row) && !m_isOver;) {
-            ReadRow(row);
-        }
-        CheckQuotes(reader);
-        CheckRows();
+        CheckFault();
+        TakeTimes();
+        TellSheetErrors();
         if (m_table.Heading.empty() && m_width > 0) {
             m_table.EmptyColumns = m_width - std::max(m_filled, std::size_t{1});
         }
+        return true;
     }
 
-    Table& Result() { return m_table; }
-
-    std::vector<Diagnostic>& Diagnostics() { return m_diagnostics; }
-
-private:
-    void ReadRow(const TableRow& row) {
-        const bool isFirst = std::exchange(m_isFirst, false);
-        const auto time = m_form.HasTimes ? penlode::NumberOf<std::int32_t>(row.Cells.front()) : std::nullopt;
-        const bool isHeading = isFirst && IsHeading(row, time.has_value());
-        if (m_width == 0) {
-            // In a heading nothing stands over columns that a spreadsheet program added.
-            m_width = m_form.Width != 0 ? m_form.Width : isHeading ? FilledCells(row) : row.Cells.size();
-            m_table.Columns.resize(m_width - 1);
-            MakeRoom();
-        }
-        const bool mayBeShort = m_form.Gap && row.Cells.size() <= m_width;
-        if (isHeading && m_form.Width == 0) {
-            TakeHeading(row);
-        } else if ((mayBeShort || HasWidth(row, m_width, m_form.WidthForm)) && !isHeading) {
-            m_filled = std::max(m_filled, FilledCells(row));
-            TakeFirstCell(row, time);
-            TakeNumbers(row, isFirst && m_form.HeadedBy == Heading::OverNumber);
-        }
-    }
-
-    bool IsHeading(const TableRow& row, bool isTime) const {
-        switch (m_form.HeadedBy) {
-        case Heading::OverNumber:
-            return row.Cells.size() > 1 && IsWord(row.Cells[1]);
-        case Heading::OverTime:
-            return !isTime;
-        default:
-            return true;
-        }
-    }
-
-    /// With a separator or a line break behind each cell, a row takes as many bytes at least; and lines may
-    /// be blank. Not so many that room for them is a waste.
-    void MakeRoom() {
-        constexpr std::size_t kMax = std::size_t{1} << 22U;
-        const std::string& text = m_input.Text;
-        const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
-        const std::size_t rows = std::min({lines, text.size() / m_width + 1, kMax});
-        m_table.Times.reserve(m_form.HasTimes ? rows : 0);
-        m_table.Lines.reserve(rows);
-        for (std::vector<double>& numbers : m_table.Columns) {
-            numbers.reserve(rows);
-        }
-    }
-
-    void TakeHeading(const TableRow& row) {
-        for (std::size_t column = 1; column < m_width; ++column) {
-            m_table.Heading.push_back(CStringUtil::Utf8ToAnsi(row.Cells[column]));
-        }
-        if (m_form.HeadingForm != nullptr && m_width < 2) {
-            HasWidth(row, 2, m_form.HeadingForm);
-            m_isOver = true;
-        } else if (m_form.HeadingNames != nullptr) {
-            WarnOfNumbers(row);
-        }
-    }
-
-    /// A heading whose cells are numbers alone may have been meant for data, unless nothing stands over the
-    /// first column.
-    void WarnOfNumbers(const TableRow& row) {
-        const auto end = row.Cells.begin() + static_cast<std::ptrdiff_t>(FilledCells(row));
-        if (!row.Cells.front().empty() && std::all_of(row.Cells.begin() + 1, end, IsNumber)) {
-            Diagnostic warning =
-                penlode::Warning("", std::string("taken as the heading with ") + m_form.HeadingNames +
-                                         ", though they are numbers; with an empty first cell it is no doubt "
-                                         "one");
-            warning.Line = row.Line;
-            warning.File = m_name;
-            m_diagnostics.push_back(std::move(warning));
-        }
-    }
-
-    /// Empty cells beyond the width, as spreadsheet programs write them, do not count.
-    bool HasWidth(const TableRow& row, std::size_t width, const std::string& expected) {
-        const std::size_t cells = std::max(FilledCells(row), std::min(row.Cells.size(), width));
-        if (cells != width) {
-            TellAt(row, penlode::Error("", Counted(cells, "cell"), expected));
-        }
-        return cells == width;
-    }
-
-    void TakeFirstCell(const TableRow& row, std::optional<std::int32_t> time) {
-        const std::string& cell = row.Cells.front();
-        const bool isFirst = m_table.Lines.empty();
-        m_hasTimes = isFirst ? time.has_value() : m_hasTimes;
-        if (m_form.HasTimes && !time && (IsNumber(cell) || (isFirst && cell.empty()))) {
-            RefuseCell(row, 0, "a time, which is a whole number within 32 bits, or a text as a label");
-        } else if (m_hasTimes && !time) {
-            RefuseCell(row, 0, "a whole number, as in the rows above");
-        }
-        if (!m_hasTimes) {
-            m_table.Names.push_back(CStringUtil::Utf8ToAnsi(cell));
-            if (m_form.AreNamesJoined && !IsJoinable(m_table.Names.back())) {
-                RefuseCell(row, 0, kJoinableForm);
-            }
-            time = static_cast<std::int32_t>(m_table.Lines.size());
-        }
-        if (m_form.HasTimes) {
-            m_table.Times.push_back(time.value_or(0));
-        }
-        m_table.Lines.push_back(static_cast<std::uint32_t>(row.Line));
-    }
-
-    void TakeNumbers(const TableRow& row, bool mayBeHeading) {
-        for (std::size_t column = 1; column < m_width; ++column) {
-            const bool isEmpty = column >= row.Cells.size() || row.Cells[column].empty();
-            const bool isGap = m_form.Gap && isEmpty;
-            m_table.Columns[column - 1].push_back(isGap ? *m_form.Gap : NumberIn(row, column, mayBeHeading));
-        }
-    }
-
-    /// Most are plain numbers without any blanks.
-    double NumberIn(const TableRow& row, std::size_t column, bool mayBeHeading) {
-        const std::string& cell = row.Cells[column];
-        const std::optional<double> plain = penlode::NumberOf<double>(cell);
-        const bool isPlain = plain && std::isfinite(*plain);
-        double number = isPlain ? *plain : 0.0;
-        if (!isPlain && !ParseNumber(cell, number)) {
-            const std::string expected =
-                mayBeHeading ? "a number, or a heading without digits" : penlode::kFloatForm;
-            RefuseCell(row, column, expected + (HasDecimalComma(cell) ? ", with a decimal point" : ""));
-        } else if (m_form.IsPositive && number < 0.0) {
-            RefuseCell(row, column, "0 or more");
-        }
-        return number;
-    }
-
-    /// An open quote swallows the rest, so that what was read is not what was meant.
-    void CheckQuotes(const CsvReader& reader) {
-        if (reader.OpenQuote() != 0) {
-            m_diagnostics.clear();
-            m_told = 0;
-            Tell(penlode::Error("", "a quote that never closes", "a closing quote"));
-            m_diagnostics.back().Line = reader.OpenQuote();
-        }
-    }
-
+    /// Once the rows are in their order.
     void CheckRows() {
-        const std::size_t rows = m_table.Lines.size();
+        const std::size_t rows = m_table.Origin.Lines.size();
         const bool isEmpty = rows == 0 || m_table.Columns.empty();
-        const bool mayBeEmpty = m_form.HeadingForm != nullptr && !m_isFirst;
+        const bool mayBeEmpty = m_form.HeadingForm != nullptr && m_shape.HasHeading;
         if (isEmpty && !mayBeEmpty && m_told == 0) {
             Tell(penlode::Error("", m_form.NoRows, m_form.RowsForm));
         }
@@ -235,22 +117,325 @@ private:
         }
     }
 
+    /// Of a mark that nothing tells.
+    void WarnOfMark(const DecimalMark& mark, char taken) {
+        const WrittenNumber number = ReadWritten(mark.Open);
+        const char other = taken == ',' ? '.' : ',';
+        Diagnostic warning = penlode::Warning(
+            "", '"' + mark.Open + "\" is read as " + NumberText(number.By(taken).value_or(0.0)) +
+                    "; with --decimal " + other + ", or \"decimal\": \"" + other +
+                    "\" beside data/csv, it is " + NumberText(number.By(other).value_or(0.0)));
+        warning.File = m_input.Name;
+        warning.Line = m_table.Origin.IsTransposed ? 0 : mark.Line;
+        m_diagnostics.push_back(std::move(warning));
+    }
+
+    Table& Result() { return m_table; }
+
+    std::vector<Diagnostic>& Diagnostics() { return m_diagnostics; }
+
+private:
+    /// What the first column of a line chart holds, as its first row tells.
+    enum class Times { Whole, Decimal, Texts };
+
+    void ReadRow(const TableRow& row, bool isHeading) {
+        if (m_width == 0) {
+            SetWidth(row);
+        }
+        if (isHeading) {
+            TakeHeading(row);
+            return;
+        }
+        if (m_width < 2 && m_form.HeadingForm != nullptr) {
+            RefuseNarrow(row);
+            return;
+        }
+        const bool mayBeShort = m_form.Gap && row.Cells.size() <= m_width;
+        if (m_shape.IsWhole() ? mayBeShort || HasWidth(row, m_width, m_form.WidthForm) : FitsShape(row)) {
+            const TableRow& taken = m_shape.IsWhole() ? row : Chosen(row);
+            m_filled = std::max(m_filled, FilledCells(taken));
+            TakeFirstCell(taken);
+            TakeNumbers(taken);
+        }
+    }
+
+    void SetWidth(const TableRow& row) {
+        m_width = !m_shape.IsWhole()  ? m_shape.Columns.size()
+                  : m_form.Width != 0 ? m_form.Width
+                                      : m_shape.Width;
+        m_table.Columns.resize(std::max(m_width, std::size_t{1}) - 1);
+        MakeRoom(row.Cells.size());
+    }
+
+    /// With a separator or a line break behind each cell, a row takes as many bytes at least; and lines may
+    /// be blank. Not so many that room for them is a waste.
+    void MakeRoom(std::size_t cells) {
+        constexpr std::size_t kMax = std::size_t{1} << 22U;
+        const std::string& text = m_input.Text;
+        const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+        const std::size_t rows = std::min({lines, text.size() / std::max(cells, std::size_t{1}) + 1, kMax});
+        m_table.Times.reserve(m_form.HasTimes ? rows : 0);
+        m_table.Origin.Lines.reserve(rows);
+        for (std::vector<double>& numbers : m_table.Columns) {
+            numbers.reserve(rows);
+        }
+    }
+
+    /// The columns that are taken; a short row has empty cells.
+    const TableRow& Chosen(const TableRow& row) {
+        m_chosen.Line = row.Line;
+        m_chosen.Cells.assign(m_width, "");
+        for (std::size_t i = 0; i < m_width; ++i) {
+            if (m_shape.Columns[i] < row.Cells.size()) {
+                m_chosen.Cells[i] = row.Cells[m_shape.Columns[i]];
+            }
+        }
+        return m_chosen;
+    }
+
+    void TakeHeading(const TableRow& row) {
+        const TableRow& heading = m_shape.IsWhole() ? row : Chosen(row);
+        for (std::size_t column = 1; column < m_width; ++column) {
+            const bool isThere = column < heading.Cells.size();
+            m_table.Heading.push_back(isThere ? CStringUtil::Utf8ToAnsi(heading.Cells[column]) : "");
+        }
+        if (m_form.HeadingForm != nullptr && m_width < 2) {
+            RefuseNarrow(row);
+        }
+    }
+
+    void RefuseNarrow(const TableRow& row) {
+        HasWidth(row, 2, m_form.HeadingForm);
+        m_isOver = true;
+    }
+
+    /// Empty cells beyond the width, as spreadsheet programs write them, do not count.
+    bool HasWidth(const TableRow& row, std::size_t width, const std::string& expected) {
+        const std::size_t cells = std::max(FilledCells(row), std::min(row.Cells.size(), width));
+        if (cells != width) {
+            TellAt(row, penlode::Error("", Counted(cells, "cell"), expected));
+        }
+        return cells == width;
+    }
+
+    bool FitsShape(const TableRow& row) {
+        const std::size_t most = m_shape.Width;
+        return FilledCells(row) <= most ||
+               HasWidth(row, most, Counted(most, "cell") + ", as in the first row");
+    }
+
+    void TakeFirstCell(const TableRow& row) {
+        if (m_form.HasTimes) {
+            TakeTime(row);
+        } else {
+            TakeName(row);
+        }
+        m_table.Origin.Lines.push_back(static_cast<std::uint32_t>(row.Line));
+    }
+
+    void TakeName(const TableRow& row) {
+        m_table.Names.push_back(CStringUtil::Utf8ToAnsi(row.Cells.front()));
+        if (m_form.AreNamesJoined && !IsJoinable(m_table.Names.back())) {
+            RefuseCell(row, 0, kJoinableForm);
+        }
+    }
+
+    void TakeTime(const TableRow& row) {
+        const std::string& cell = row.Cells.front();
+        const auto time = penlode::NumberOf<std::int32_t>(cell);
+        const bool isNumber = time || IsNumberCell(cell);
+        if (m_table.Origin.Lines.empty()) {
+            m_times = time ? Times::Whole : isNumber ? Times::Decimal : Times::Texts;
+            if (cell.empty()) {
+                RefuseCell(row, 0, "a time, which is a number or a date, or a text as a label");
+            }
+        } else if (m_times == Times::Whole && !time && isNumber) {
+            m_times = Times::Decimal;
+            m_numbers.assign(m_table.Times.begin(), m_table.Times.end());
+        }
+        if (m_times == Times::Whole) {
+            m_table.Times.push_back(time.value_or(0));
+            if (!time) {
+                RefuseCell(row, 0, "a whole number, as in the rows above");
+            }
+        } else if (m_times == Times::Decimal) {
+            TakeDecimalTime(row);
+        } else {
+            TakeName(row);
+            if (isNumber) {
+                RefuseCell(row, 0, "a label or a date, as in the rows above");
+            }
+        }
+    }
+
+    void TakeDecimalTime(const TableRow& row) {
+        m_numbers.push_back(0.0);
+        if (!IsNumberCell(row.Cells.front())) {
+            RefuseCell(row, 0, "a number, as in the rows above");
+            return;
+        }
+        const double number = NumberIn(row, 0);
+        if (std::abs(number) > kMaxTimeNumber) {
+            RefuseCell(row, 0, "a time of at most 15 digits");
+        } else {
+            m_numbers.back() = number;
+        }
+    }
+
+    /// The times of a first column that holds no whole numbers. Labels' times count the rows.
+    void TakeTimes() {
+        const std::size_t rows = m_table.Origin.Lines.size();
+        if (!m_form.HasTimes || rows == 0 || m_told != 0) {
+            return;
+        }
+        if (m_times == Times::Decimal) {
+            TakeAxis(AxisOfNumbers(m_numbers));
+        } else if (m_times == Times::Texts && !TakeDates()) {
+            m_table.Times.resize(rows);
+            std::iota(m_table.Times.begin(), m_table.Times.end(), 0);
+            return;
+        }
+        const std::vector<std::int32_t>& times = m_table.Times;
+        const auto back = std::is_sorted_until(times.begin(), times.end());
+        if (back != times.end()) {
+            WarnAt(static_cast<std::size_t>(back - times.begin()),
+                   "the times are not in order; sort the rows, or say --sort name, or \"order\": \"name\" "
+                   "beside data/csv");
+        }
+    }
+
+    bool TakeDates() {
+        std::vector<std::string> texts;
+        for (const std::string& name : m_table.Names) {
+            texts.push_back(CStringUtil::AnsiToUtf8(name));
+            if (!texts.back().empty() && !ReadDate(texts.back())) {
+                return false;
+            }
+        }
+        const bool isDayFirst = m_rows.Reader().Separator() == ';' || (m_mark && m_mark->Mark == ',');
+        const std::optional<DateColumn> dates = ReadDates(texts, isDayFirst);
+        if (!dates) {
+            return false;
+        }
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            if (texts[i].empty() && i != 0) { // the first was refused before
+                Diagnostic error = penlode::Error("", "nothing", "a date, as in the other rows");
+                PutAt(m_table.Origin, i, 0, error);
+                Tell(std::move(error));
+            }
+        }
+        if (dates->IsOrderOpen) {
+            WarnAt(0, '"' + texts.front() + "\" is read with the " + (isDayFirst ? "day" : "month") +
+                          " first, which no row tells; dates like 2024-03-15 leave no doubt");
+        }
+        TakeAxis(AxisOfDates(*dates));
+        m_table.Names.clear();
+        return true;
+    }
+
+    void TakeAxis(TimeAxis axis) {
+        m_table.Times = std::move(axis.Times);
+        m_table.TimeLabels = std::move(axis.Labels);
+    }
+
+    void TakeNumbers(const TableRow& row) {
+        for (std::size_t column = 1; column < m_width; ++column) {
+            const bool isEmpty = column >= row.Cells.size() || row.Cells[column].empty();
+            const bool isGap = m_form.Gap && (isEmpty || IsError(row, column));
+            m_table.Columns[column - 1].push_back(isGap ? *m_form.Gap : NumberIn(row, column));
+        }
+    }
+
+    bool IsError(const TableRow& row, std::size_t column) {
+        const bool isError = IsSheetError(row.Cells[column]);
+        if (isError && m_sheetErrors++ == 0) {
+            m_firstSheetError = penlode::Warning("", row.Cells[column]);
+            PutAtLine(m_table.Origin, row.Line, column, m_firstSheetError);
+        }
+        return isError;
+    }
+
+    void TellSheetErrors() {
+        if (m_sheetErrors != 0) {
+            m_firstSheetError.Text +=
+                (m_sheetErrors == 1 ? " is" : " and " + Counted(m_sheetErrors - 1, "other error") + " are") +
+                std::string(" taken as a gap");
+            m_diagnostics.push_back(m_firstSheetError);
+        }
+    }
+
+    /// Most are plain numbers without any blanks.
+    double NumberIn(const TableRow& row, std::size_t column) {
+        const std::string& cell = row.Cells[column];
+        const bool hasComma = m_mark && m_mark->Mark == ',';
+        const std::optional<double> plain = penlode::NumberOf<double>(cell);
+        const bool isPlain =
+            plain && std::isfinite(*plain) && !(hasComma && cell.find('.') != std::string::npos);
+        std::optional<double> number = plain;
+        if (!isPlain) {
+            const WrittenNumber written = ReadWritten(cell);
+            number = written.By(hasComma ? ',' : '.');
+            m_lacksMark = m_lacksMark || (!m_mark && written.IsNumber());
+            if (!number) {
+                RefuseCell(row, column, NumberForm(written));
+            }
+        }
+        if (number && m_form.IsPositive && *number < 0.0) {
+            RefuseCell(row, column, "0 or more");
+        }
+        return number.value_or(0.0);
+    }
+
+    /// What is expected in the place of a cell.
+    std::string NumberForm(const WrittenNumber& written) const {
+        if (written.IsNumber() && m_mark) {
+            return std::string("a number with a decimal ") + (m_mark->Mark == ',' ? "comma" : "point") +
+                   (m_mark->Line == 0 ? "" : ", as in line " + std::to_string(m_mark->Line));
+        }
+        const bool mayBeHeading =
+            m_table.Origin.Lines.size() == 1 && m_form.HeadingNames == nullptr && !m_shape.HasHeading;
+        return mayBeHeading ? "a number, or a heading that begins with no digit" : penlode::kFloatForm;
+    }
+
+    /// A fault, such as an open quote that swallows the rest, means that what was read is not what was meant.
+    void CheckFault() {
+        const RowReader& reader = m_rows.Reader();
+        if (const std::string fault = reader.Fault(); !fault.empty()) {
+            m_diagnostics.clear();
+            m_told = 0;
+            Tell(penlode::Error("", fault));
+            m_diagnostics.back().Line = reader.FaultLine();
+        }
+    }
+
     void RefuseCell(const TableRow& row, std::size_t column, const std::string& expected) {
         const std::string& cell = row.Cells[column];
-        const std::string shown = IsNumber(cell) ? cell
-                                  : cell.empty() ? "nothing"
-                                                 : '"' + penlode::Shortened(cell) + '"';
-        TellAt(row, penlode::Error(ColumnPlace(column), shown, expected));
+        double number = 0.0;
+        const std::string shown = ParseNumber(cell, number) ? cell
+                                  : cell.empty()            ? "nothing"
+                                                            : '"' + penlode::Shortened(cell) + '"';
+        Diagnostic error = penlode::Error("", shown, expected);
+        PutAtLine(m_table.Origin, row.Line, column, error);
+        Tell(std::move(error));
+    }
+
+    void WarnAt(std::size_t row, std::string text) {
+        Diagnostic warning = penlode::Warning("", std::move(text));
+        PutAt(m_table.Origin, row, 0, warning);
+        m_diagnostics.push_back(std::move(warning));
     }
 
     void TellAt(const TableRow& row, Diagnostic fault) {
-        fault.Line = row.Line;
+        const TableOrigin& origin = m_table.Origin;
+        fault.Line = origin.IsTransposed ? 0 : row.Line;
+        fault.Place = origin.IsTransposed ? "column " + std::to_string(row.Line)
+                                          : std::string(origin.Sheet.empty() ? "" : "sheet " + origin.Sheet);
         Tell(std::move(fault));
     }
 
     /// One stands for all those that are not kept.
     void Tell(Diagnostic fault) {
-        fault.File = m_name;
+        fault.File = m_input.Name;
         if (++m_told <= penlode::kMaxDiagnostics) {
             m_diagnostics.push_back(std::move(fault));
             return;
@@ -260,41 +445,107 @@ private:
         }
         fault = penlode::Error("", "and " + std::to_string(m_told - penlode::kMaxDiagnostics) +
                                        " more, which are not told");
-        fault.File = m_name;
+        fault.File = m_input.Name;
         fault.IsRest = true;
         m_diagnostics.push_back(std::move(fault));
     }
 
     const InputText& m_input;
     const TableForm& m_form;
-    const std::string m_name; ///< as diagnostics call it
+    LookedAtRows& m_rows;
+    const TableShape& m_shape;
+    std::optional<DecimalMark> m_mark;
     Table m_table;
     std::vector<Diagnostic> m_diagnostics;
     std::size_t m_told = 0; ///< errors
     std::size_t m_width = 0;
     std::size_t m_filled = 0; ///< cells of the row with most, up to its last text
-    bool m_isFirst = true;
+    TableRow m_chosen;
+    Times m_times = Times::Whole;
+    std::vector<double> m_numbers; ///< times with decimals
+    std::size_t m_sheetErrors = 0;
+    Diagnostic m_firstSheetError;
     bool m_isOver = false;
-    bool m_hasTimes = false;
+    bool m_lacksMark = false;
 };
+
+/// Points where a program wrote the numbers; nothing where they tell.
+std::optional<DecimalMark> GivenMark(const TableOptions& options, const RowReader& reader) {
+    if (options.DecimalMark || reader.IsExact()) {
+        return DecimalMark{options.DecimalMark.value_or('.')};
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
-Table ReadTable(const TableInput& input, const TableForm& form,
-                std::vector<penlode::Diagnostic>& diagnostics) {
-    TableReader reader(input, form);
-    if (IsQuerySource(input.Input.Name)) {
-        reader.ReadQuery(input);
-    } else {
-        reader.Read();
+Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diagnostic>& diagnostics) {
+    TableOptions options = input.Options;
+    if (!input.Source.empty()) { // a data base names its columns
+        options.HasHeading = options.HasHeading.value_or(true);
     }
-    diagnostics.insert(diagnostics.end(), reader.Diagnostics().begin(), reader.Diagnostics().end());
-    reader.Result().File = ShownSource(input.Input.Name);
-    return std::move(reader.Result());
+    std::unique_ptr<RowReader> reader = OpenTable(input);
+    std::vector<std::uint32_t> lines;
+    std::string title;
+    if (options.IsTransposed) {
+        auto transposed = std::make_unique<TransposedRows>(std::move(reader));
+        lines = transposed->Lines();
+        title = transposed->Title();
+        reader = std::move(transposed);
+    }
+    LookedAtRows rows(*reader);
+    std::vector<Diagnostic> told;
+    TableShape shape = ShapeOf(rows, form, options, told);
+    shape.Title = options.IsTransposed ? title : shape.Title;
+    for (Diagnostic& diagnostic : told) {
+        diagnostic.File = input.Input.Name;
+        diagnostic.Line = options.IsTransposed ? 0 : diagnostic.Line;
+    }
+    const auto isError = [](const Diagnostic& one) { return one.Severity == penlode::Severity::Error; };
+    if (std::any_of(told.begin(), told.end(), isError)) {
+        diagnostics.insert(diagnostics.end(), told.begin(), told.end());
+        return {};
+    }
+    const auto startReading = [&](std::optional<DecimalMark> mark) {
+        auto reading = std::make_unique<TableReader>(input, form, rows, shape, std::move(mark));
+        if (options.IsTransposed) {
+            reading->PutLines(lines);
+        }
+        return reading;
+    };
+    const std::optional<DecimalMark> given = GivenMark(options, *reader);
+    const std::size_t firstNumbers = form.HasTimes ? 0 : 1;
+    auto reading = startReading(given);
+    if (!reading->Read()) {
+        const DecimalMark found = FindDecimalMark(rows, shape, firstNumbers);
+        reading = startReading(found);
+        reading->Read();
+        if (!found.Open.empty() && reader->Separator() != ',') {
+            reading->WarnOfMark(found, found.Mark);
+        }
+    } else if (!given && reader->Separator() == ';') {
+        const DecimalMark found = FindDecimalMark(rows, shape, firstNumbers);
+        if (!found.Open.empty()) {
+            reading->WarnOfMark(found, '.');
+        }
+    }
+    diagnostics.insert(diagnostics.end(), told.begin(), told.end());
+    std::vector<Diagnostic>& found = reading->Diagnostics();
+    Arrange(reading->Result(), form, options, found);
+    reading->CheckRows();
+    diagnostics.insert(diagnostics.end(), found.begin(), found.end());
+    return std::move(reading->Result());
 }
 
-std::string ColumnPlace(std::size_t column) {
-    return "column " + std::to_string(column + 1);
+std::string TableTitle(const TableInput& input) {
+    const std::unique_ptr<RowReader> reader = OpenTable(input);
+    const LookedAtRows rows(*reader);
+    const std::size_t titles = TitleRows(rows.First(), true, input.Options.HasHeading);
+    return titles == 0 ? "" : FirstText(rows.First().front());
+}
+
+void PutAt(const TableOrigin& origin, std::size_t row, std::size_t column, Diagnostic& diagnostic) {
+    PutAtLine(origin, origin.Lines[row], column, diagnostic);
 }
 
 } // namespace millichart::documents

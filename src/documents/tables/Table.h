@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/ChartData.h"
 #include "documents/tables/TableInput.h"
 #include "penlode/streams/Diagnostic.h"
 
@@ -11,21 +12,16 @@
 
 namespace millichart::documents {
 
-/// What a kind of chart expects of a table with its data: a column of names or times, and columns of numbers.
+/// What a kind of chart expects of a table with its data: a column of names or times, and columns of numbers,
+/// maybe under a heading. Which columns and rows they are is found by TableShape.h.
 struct TableForm {
-    enum class Heading {
-        Always,
-        OverNumber, ///< a first row whose second cell is a word without digits
-        OverTime    ///< a first row whose first cell is no whole number
-    };
-    Heading HeadedBy = Heading::Always;
     std::size_t Width = 0;           ///< cells of a row; 0: as many as the first one has
     const char* WidthForm = nullptr; ///< what is expected of a row of another width
     /// Of a table whose width its heading gives: what is expected of a heading without a second cell. Such a
     /// heading may stand alone.
     const char* HeadingForm = nullptr;
-    const char* HeadingNames = nullptr; ///< what they are, if a warning is due of numbers there
-    bool HasTimes = false;              ///< whole numbers in the first column; texts are labels
+    const char* HeadingNames = nullptr; ///< what stands in the heading; null: nothing that shows
+    bool HasTimes = false;              ///< in the first column; texts that are none are labels
     bool AreNamesJoined = false;        ///< in the record that takes them
     bool IsPositive = false;            ///< numbers are 0 or more
     std::optional<double> Gap = {};     ///< an empty cell's number; without, there must be one
@@ -36,21 +32,26 @@ struct TableForm {
 };
 
 struct Table {
-    std::string File;                 ///< as diagnostics call it
+    TableOrigin Origin;
+    std::string Title;                ///< UTF-8; of a row with one text above the table
     std::vector<std::string> Heading; ///< narrow; over the columns, empty without one
     std::vector<std::string> Names;   ///< narrow; in the first column, if there are no times
     std::vector<std::int32_t> Times;  ///< those in the first column, or the rows' numbers from 0
+    /// Narrow; spread evenly from the first to the last time, where whole numbers would not do.
+    std::vector<std::string> TimeLabels;
     std::vector<std::vector<double>> Columns;
-    std::vector<std::uint32_t> Lines; ///< a row each, from 1
-    std::size_t EmptyColumns = 0;     ///< so many of the last have neither a heading nor a number
+    std::size_t EmptyColumns = 0; ///< so many of the last have neither a heading nor a number
 };
 
-/// Reads a table and tells what is wrong with it, with line and column. One that could not be read, or has
-/// too many rows, is empty.
+/// Reads a table and tells what is wrong with it and what is doubtful, with line and column. One that could
+/// not be read, or has too many rows, is empty.
 Table ReadTable(const TableInput& input, const TableForm& form,
                 std::vector<penlode::Diagnostic>& diagnostics);
 
-/// "column 1" for 0, as a diagnostic's place.
-std::string ColumnPlace(std::size_t column);
+/// The text of a row that stands above a table's heading, or nothing. UTF-8.
+std::string TableTitle(const TableInput& input);
+
+/// Says where a cell stands: file, line, and "column 2" or "sheet Sales, B7". Column 0 is that of the names.
+void PutAt(const TableOrigin& origin, std::size_t row, std::size_t column, penlode::Diagnostic& diagnostic);
 
 } // namespace millichart::documents

@@ -1,0 +1,148 @@
+#include "documents/tables/TimeAxis.h"
+
+#include "penlode/text/Digits.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <numeric>
+
+namespace millichart::documents {
+namespace {
+
+using Count = std::int64_t;
+
+constexpr Count kMaxTime = std::numeric_limits<std::int32_t>::max();
+constexpr Count kMinute = 60'000;
+constexpr Count kHour = 60 * kMinute;
+constexpr Count kDay = 24 * kHour;
+
+std::string TwoDigits(Count number) {
+    const std::string digits = std::to_string(number);
+    return digits.size() < 2 ? "0" + digits : digits;
+}
+
+std::string DateText(Count moment) {
+    const std::chrono::sys_days day(std::chrono::floor<std::chrono::days>(Milliseconds(moment)));
+    const std::chrono::year_month_day date(day);
+    return std::to_string(static_cast<int>(date.year())) + "-" +
+           TwoDigits(static_cast<unsigned>(date.month())) + "-" +
+           TwoDigits(static_cast<unsigned>(date.day()));
+}
+
+/// As much of the time as `step`, of which it is a multiple, needs.
+std::string TimeText(Count moment, Count step) {
+    const Count time = (moment % kDay + kDay) % kDay;
+    std::string text = TwoDigits(time / kHour) + ":" + TwoDigits(time / kMinute % 60);
+    if (step % kMinute != 0) {
+        text += ":" + TwoDigits(time / 1000 % 60);
+    }
+    if (step % 1000 != 0) {
+        text += "." + std::to_string(1000 + time % 1000).substr(1);
+    }
+    return text;
+}
+
+Count CommonDivisor(const std::vector<Count>& counts) {
+    return std::accumulate(counts.begin(), counts.end(), Count{0}, std::gcd<Count, Count>);
+}
+
+/// Into how many equal parts labels divide a span: of the steps given, coarse ones first, the first of which
+/// every part is a multiple. The ends alone if there is none.
+Count PartsOf(Count span, std::initializer_list<Count> steps, std::initializer_list<Count> parts) {
+    for (const Count step : steps) {
+        for (const Count count : parts) {
+            if (span % (count * step) == 0) {
+                return count;
+            }
+        }
+    }
+    return 1;
+}
+
+/// A label stands on what was measured if it can, else on a whole day, hour, minute or second.
+std::vector<std::string> LabelsOfDates(Count first, Count span, Count step, bool areOfOneDay) {
+    areOfOneDay = areOfOneDay || DateText(first) == DateText(first + span);
+    const Count parts = areOfOneDay
+                            ? PartsOf(span, {step, kHour, kMinute, 1000, 1}, {6, 5, 8, 4, 7, 3, 2})
+                            : PartsOf(span, {step, kDay, kHour, kMinute, 1000, 1}, {4, 5, 3, 6, 7, 2});
+    const Count common = std::gcd(first, span / parts);
+    std::vector<std::string> labels;
+    for (Count i = 0; i <= parts; ++i) {
+        const Count moment = first + span / parts * i;
+        labels.push_back(areOfOneDay ? TimeText(moment, common) : DateText(moment));
+        if (!areOfOneDay && common % kDay != 0) {
+            labels.back() += "\n" + TimeText(moment, common);
+        }
+    }
+    return labels;
+}
+
+/// How many decimals the shortest text has that reads back the same.
+int DecimalsOf(double number) {
+    const std::string text = penlode::Digits(number, std::chars_format::fixed);
+    const std::size_t point = text.find('.');
+    return point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
+}
+
+} // namespace
+
+TimeAxis AxisOfDates(const DateColumn& dates) {
+    const auto [least, most] = std::minmax_element(dates.Moments.begin(), dates.Moments.end());
+    const Count first = least->count();
+    const Count span = most->count() - first;
+    std::vector<Count> since;
+    std::transform(dates.Moments.begin(), dates.Moments.end(), std::back_inserter(since),
+                   [first](Milliseconds moment) { return moment.count() - first; });
+    const Count step = std::max(CommonDivisor(since), Count{1});
+    Count unit = 1;
+    for (const Count larger : {Count{1000}, kMinute, kHour, kDay}) {
+        unit = step % larger == 0 || span / unit > kMaxTime ? larger : unit;
+    }
+    TimeAxis axis;
+    std::transform(since.begin(), since.end(), std::back_inserter(axis.Times),
+                   [unit](Count time) { return static_cast<std::int32_t>(time / unit); });
+    if (span > 0) {
+        axis.Labels = LabelsOfDates(first, span, step, dates.AreOfOneDay);
+    }
+    return axis;
+}
+
+TimeAxis AxisOfNumbers(const std::vector<double>& numbers) {
+    constexpr int kMostDecimals = 9;
+    const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
+    const double first = *least;
+    const double last = *most;
+    int decimals = 0;
+    for (const double number : numbers) {
+        decimals = std::max(decimals, std::min(DecimalsOf(number), kMostDecimals));
+    }
+    const double largest = std::max(std::abs(first), std::abs(last));
+    while (decimals > 0 && largest * std::pow(10.0, decimals) > kMaxTimeNumber) {
+        --decimals;
+    }
+    const auto most32 = static_cast<double>(kMaxTime);
+    double scale = std::pow(10.0, decimals);
+    const bool isFar = largest * scale > most32;
+    const double from = isFar ? first : 0.0;
+    scale = std::min(scale, isFar && last > first ? most32 / (last - first) : scale);
+    TimeAxis axis;
+    std::transform(numbers.begin(), numbers.end(), std::back_inserter(axis.Times), [=](double number) {
+        return static_cast<std::int32_t>(std::lround((number - from) * scale));
+    });
+    if (first < last) {
+        const auto span = std::llround((last - first) * std::pow(10.0, decimals));
+        // A fifth of any number has one decimal more.
+        const Count found = PartsOf(span, {1}, {10, 8, 6, 5, 9, 7, 4});
+        const Count parts = found == 1 ? 5 : found;
+        for (Count i = 0; i <= parts; ++i) {
+            const double part = static_cast<double>(i) / static_cast<double>(parts);
+            axis.Labels.push_back(penlode::RoundedDigits(first + (last - first) * part, decimals + 1));
+        }
+    }
+    return axis;
+}
+
+} // namespace millichart::documents
