@@ -14,7 +14,7 @@ namespace {
 
 /// What a text may reach out without anybody making room for it.
 constexpr float kNegligible = 1.0F;
-/// How near a text must be to belong to the chart.
+/// How near a bar's label must be to belong to the chart.
 constexpr float kNear = 10.0F;
 
 bool IsNear(const RectF& box, const RectF& whole) {
@@ -58,7 +58,8 @@ RectF WithText(const RectF& extent, const ChartText& text, const RectF& whole) {
         return extent;
     }
     const RectF box = text.Box();
-    return IsNear(box, whole) && ReachesOut(box, whole) ? penlode::Union(extent, box) : extent;
+    const bool belongs = text.Owner.Role != TextRole::BarLabel || IsNear(box, whole);
+    return belongs && ReachesOut(box, whole) ? penlode::Union(extent, box) : extent;
 }
 
 } // namespace millichart

@@ -66,9 +66,9 @@ template <class Chart> std::vector<ChartText> TextsOf(const Chart& chart) {
     return texts;
 }
 
-/// `extent` united with a text's box, if that reaches more than 1 mm out of `whole` and is not 10 mm or more
-/// away from it: values far out of an axis's range have labels far away. A text that cannot be seen does not
-/// count.
+/// `extent` united with a text's box, if that reaches more than 1 mm out of `whole`. A bar's label that is 10
+/// mm or more away from it does not count, as values far out of an axis's range have labels far away; nor
+/// does a text that cannot be seen.
 MILLICHART_API penlode::RectF WithText(const penlode::RectF& extent, const ChartText& text,
                                        const penlode::RectF& whole);
 

@@ -1,5 +1,6 @@
 #include "foundation/Legend.h"
 
+#include "foundation/NarrowText.h"
 #include "foundation/TextPropertyOperation.h"
 #include "penlode/text/StringUtil.h"
 
@@ -47,7 +48,7 @@ std::vector<SizeF> ItemSizes(const LegendProp& prop, const std::vector<std::stri
     std::vector<SizeF> sizes;
     sizes.reserve(names.size());
     for (const std::string& name : names) {
-        const SizeF text = penlode::CStringUtil::MeasureString(name, prop.Font.Get());
+        const SizeF text = penlode::CStringUtil::MeasureWideString(WideText(name), prop.Font.Get());
         sizes.push_back({text.Height * swatchFactor + text.Width, text.Height});
     }
     return sizes;
@@ -87,7 +88,7 @@ ChartText NameOf(const LegendProp& prop, std::size_t index, const std::string& n
                  float swatchFactor) {
     const penlode::Font* font = prop.Font.Get();
     const float swatch = swatchFactor * item.Height;
-    std::wstring wide = penlode::CStringUtil::AnsiToWideString(name);
+    std::wstring wide = WideText(name);
     const SizeF size = penlode::CStringUtil::MeasureWideString(wide, font);
     return {{TextRole::LegendName, index},
             std::move(wide),

@@ -62,7 +62,7 @@ inline constexpr float kLegendSquareFactor = 1.0F;
 /// Draws what stands before the name of item `index`.
 using LegendSwatch = std::function<void(std::size_t index, const penlode::RectF& item)>;
 
-/// Places and draws the legend.
+/// Places and draws the legend. Names are narrow (GBK; CStringUtil::Utf8ToAnsi).
 class MILLICHART_API CLegendOperation {
 public:
     /// One rectangle for each name, 2 mm off the plot. An item is as high as its text and as wide as its text

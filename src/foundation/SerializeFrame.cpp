@@ -4,6 +4,7 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <type_traits>
 
@@ -60,6 +61,20 @@ auto ByName(EnumNames names) {
     };
 }
 
+std::array<EnumName, 2> NamesOf(FlagNames flag) {
+    return {{{0, flag.Zero}, {1, flag.Other}}};
+}
+
+/// As ByName, but every value has a name.
+auto ByEffect(FlagNames flag) {
+    return [names = NamesOf(flag)](std::int32_t& value, std::string& text, bool toText) {
+        std::int32_t effect = value == 0 ? 0 : 1;
+        const bool isGood = ByName(names)(effect, text, toText);
+        value = toText || !isGood ? value : effect;
+        return isGood;
+    };
+}
+
 } // namespace
 
 KeyedRecord::KeyedRecord(penlode::CSerializeStream& stream, const char* tag) : m_stream(stream) {
@@ -100,6 +115,10 @@ void KeyedRecord::Field(const char* key, std::string& value, const std::string& 
 
 void KeyedRecord::Field(const char* key, std::int32_t& value, EnumNames names, std::int32_t defaultValue) {
     Single(key, value, defaultValue, ListedNames(names), ByName(names));
+}
+
+void KeyedRecord::Field(const char* key, std::int32_t& value, FlagNames names, std::int32_t defaultValue) {
+    Single(key, value, defaultValue, ListedNames(NamesOf(names)), ByEffect(names));
 }
 
 void KeyedRecord::Field(const char* key, penlode::Color& value, penlode::Color defaultValue) {
@@ -155,6 +174,10 @@ void KeyedRecord::Field(const char* key, std::vector<float>& values, float fallb
 
 void KeyedRecord::Field(const char* key, std::vector<std::int32_t>& values, EnumNames names) {
     List(key, values, 0, ListedNames(names), ByName(names));
+}
+
+void KeyedRecord::Field(const char* key, std::vector<std::int32_t>& values, FlagNames names) {
+    List(key, values, 0, ListedNames(NamesOf(names)), ByEffect(names));
 }
 
 void KeyedRecord::JoinedTexts(const char* key, std::vector<std::string>& values) {

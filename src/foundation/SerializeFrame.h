@@ -32,15 +32,18 @@ struct EnumName {
 
 using EnumNames = std::span<const EnumName>;
 
-/// Flat or with depth, as pies and bars are drawn.
-inline constexpr EnumName kPieStyleNames[] = {{0, "2D"}, {1, "3D"}};
+/// The names of a choice of two, stored as 0 and 1, where every number but 0 means the other one.
+struct FlagNames {
+    const char* Zero;
+    const char* Other;
+};
 
 /// What a pen is where no other default is stated.
 inline constexpr penlode::Pen kDefaultPen{penlode::kBlack, 0.1F};
 
 /// One group of a keyed stream, open from construction to destruction. Each member saves the field under its
 /// key, or loads it: a missing key, or a text that means nothing, gives the default. A number that is not
-/// finite means nothing.
+/// finite means nothing. Texts are narrow (GBK; CStringUtil::Utf8ToAnsi).
 class MILLICHART_API KeyedRecord {
 public:
     KeyedRecord(penlode::CSerializeStream& stream, const char* tag);
@@ -48,14 +51,14 @@ public:
     KeyedRecord(const KeyedRecord&) = delete;
     KeyedRecord& operator=(const KeyedRecord&) = delete;
 
-    bool IsSaving() const { return m_stream.IsSaving(); }
-
     void Field(const char* key, std::int32_t& value, std::int32_t defaultValue);
     void Field(const char* key, float& value, float defaultValue);
     void Field(const char* key, std::string& value, const std::string& defaultValue);
     /// Stored by name. A value without a name is stored as its number, for people to see; only names are
     /// loaded.
     void Field(const char* key, std::int32_t& value, EnumNames names, std::int32_t defaultValue);
+    /// Stored by the name of what it does, so that a load does the same.
+    void Field(const char* key, std::int32_t& value, FlagNames names, std::int32_t defaultValue);
     void Field(const char* key, penlode::Color& value, penlode::Color defaultValue);
     void Field(const char* key, penlode::Owned<penlode::Pen>& value,
                const penlode::Pen& defaultValue = kDefaultPen);
@@ -69,6 +72,7 @@ public:
     void Field(const char* key, std::vector<float>& values, float fallback);
     /// Items stored as a single value is.
     void Field(const char* key, std::vector<std::int32_t>& values, EnumNames names);
+    void Field(const char* key, std::vector<std::int32_t>& values, FlagNames names);
     /// All texts in one, each followed by "||". What follows the last "||" is dropped on load.
     void JoinedTexts(const char* key, std::vector<std::string>& values);
 

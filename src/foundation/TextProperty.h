@@ -18,14 +18,17 @@ struct TextProperty {
     penlode::Color BkColor = penlode::kWhite;   ///< fill of the text's box
     std::int32_t DrawEdge = 0;                  ///< non-zero: frame the box
     std::int32_t DrawBackGround = 0;            ///< non-zero: fill the box
-    std::string Prefix;                         ///< narrow text that charts put before a generated value text
-    std::string Postfix;                        ///< and after it
-    std::int32_t Angle = 0;                     ///< degrees, counter-clockwise on screen
+    /// Stand round every label that a chart generates from values: a pie's or a bar's whole label, each tick
+    /// label of a value axis. Names and captions never get them, nor does a label without any part. Narrow
+    /// (GBK; CStringUtil::Utf8ToAnsi).
+    std::string Prefix;
+    std::string Postfix;
+    std::int32_t Angle = 0; ///< degrees, counter-clockwise on screen
 
     friend bool operator==(const TextProperty&, const TextProperty&) = default;
 };
 
-/// A generated text between its record's prefix and postfix; an empty one stays empty.
+/// A generated label between its look's prefix and postfix; an empty one stays empty.
 inline std::string Decorated(const std::string& text, const TextProperty& property) {
     return text.empty() ? text : property.Prefix + text + property.Postfix;
 }

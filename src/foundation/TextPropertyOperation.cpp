@@ -1,5 +1,6 @@
 #include "foundation/TextPropertyOperation.h"
 
+#include "foundation/NarrowText.h"
 #include "penlode/engine/Finite.h"
 #include "penlode/text/StringUtil.h"
 
@@ -58,6 +59,11 @@ Corners TurnedCorners(SizeF size, std::int32_t degrees) {
     const auto acrossDown = static_cast<float>(std::sin(kHalfPi - angle));
     return {PointF{}, Along(angle, size.Width), Along(angle - toDiagonal, diagonal),
             PointF{down * size.Height, acrossDown * size.Height}};
+}
+
+/// Before it is turned.
+SizeF MeasuredSize(const std::string& text, const TextProperty& property) {
+    return penlode::CStringUtil::MeasureWideString(WideText(text), property.Font.Get());
 }
 
 SizeF TurnedSize(SizeF size, std::int32_t degrees) {
@@ -120,19 +126,18 @@ void Write(IGraphicsEngine& engine, const ChartText& text, penlode::Color color)
 
 void CTextPropertyOperation::GetTextBound(const std::string& text, const TextProperty& property,
                                           std::vector<PointF>& corners) {
-    const Corners turned =
-        TurnedCorners(penlode::CStringUtil::MeasureString(text, property.Font.Get()), property.Angle);
+    const Corners turned = TurnedCorners(MeasuredSize(text, property), property.Angle);
     corners.assign(turned.begin(), turned.end());
 }
 
 SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextProperty& property) {
-    return TurnedSize(penlode::CStringUtil::MeasureString(text, property.Font.Get()), property.Angle);
+    return TurnedSize(MeasuredSize(text, property), property.Angle);
 }
 
 void CTextPropertyOperation::Visit(const TextVisitor& visit, TextOwner owner, const std::string& text,
                                    const TextProperty& property, PointF point, TextAnchor anchor) {
     const penlode::Font* font = property.Font.Get();
-    std::wstring wide = penlode::CStringUtil::AnsiToWideString(text);
+    std::wstring wide = WideText(text);
     const SizeF size = penlode::CStringUtil::MeasureWideString(wide, font);
     const PointF center = BoxCenter(size, property.Angle, point, anchor);
     if (penlode::AreFinite(center.X, center.Y)) {

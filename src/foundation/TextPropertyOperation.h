@@ -14,8 +14,9 @@ namespace millichart {
 /// What of a turned text's bounding box is held at a point.
 enum class TextAnchor { Center, BottomCenter, LeftCenter };
 
-/// Measures, places and draws texts that may be turned, boxed and framed. Texts are narrow; "\n" breaks a
-/// line. The record's prefix and postfix are the caller's to apply (see Decorated).
+/// Measures, places and draws texts that may be turned, boxed and framed. Texts are narrow (GBK;
+/// CStringUtil::Utf8ToAnsi); "\n" breaks a line. The record's prefix and postfix are the caller's to apply
+/// (see Decorated).
 class MILLICHART_API CTextPropertyOperation {
 public:
     /// The four corners of the turned text box, with the unturned box's top-left corner at (0, 0):

@@ -49,13 +49,33 @@ TEST(RecordTexts, NamesOfChoicesAreMatchedExactly) {
               Bars("{}"));
 }
 
-TEST(RecordTexts, AHalfThatIsNeitherIsSavedAsTheOneItDraws) {
-    HalfPieProp prop;
-    prop.Basic.WhichPart = 2;
+/// Any number but 0 does the same; a positional stream has the number.
+TEST(RecordTexts, AFlagWithNamesIsSavedByTheNameOfWhatItDoes) {
+    HalfPieHistogramProp prop;
+    prop.HalfPie.Basic.WhichPart = 2;
+    prop.Histogram.Plot.PieStyle = -1;
+    CurveProp curves;
+    curves.Plot.NullValueStyle = {0, 7, 1};
     CJsonSerializeStream stream;
-    CHalfPiePropSerialize::SerializeHalfPieProp(stream, prop, "P");
-    EXPECT_EQ(prop.Basic.WhichPart, 2) << "saving changes nothing";
-    EXPECT_NE(stream.Text().find(R"("WhichPart": "Lower")"), std::string::npos);
+    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(stream, prop, "P");
+    CCurvePropSerialize::SerializeCurveProp(stream, curves, "C");
+    EXPECT_EQ(prop.HalfPie.Basic.WhichPart, 2) << "saving changes nothing";
+    EXPECT_EQ(curves.Plot.NullValueStyle[1], 7);
+
+    CJsonSerializeStream in(stream.Text());
+    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(in, prop, "P");
+    CCurvePropSerialize::SerializeCurveProp(in, curves, "C");
+    EXPECT_EQ(prop.HalfPie.Basic.WhichPart, HalfPiePart::Lower);
+    EXPECT_EQ(prop.Histogram.Plot.PieStyle, BarStyle::WithDepth);
+    EXPECT_EQ(curves.Plot.NullValueStyle, (std::vector<std::int32_t>{0, 1, 1}));
+
+    prop.Histogram.Plot.PieStyle = -1;
+    CBinarySerialize out;
+    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(out, prop);
+    CBinarySerialize back(out.Bytes());
+    HalfPieHistogramProp loaded;
+    CHalfPieHistogramPropSerialize::SerializeHalfPieHistogramProp(back, loaded);
+    EXPECT_EQ(loaded.Histogram.Plot.PieStyle, -1);
 }
 
 TEST(RecordTexts, ColoursKeepTheirPlaces) {

@@ -156,7 +156,7 @@ TEST(WhatIsDrawn, AStaleLayoutIsListedAsItIsDrawn) {
     bars.SetComponentValue({{777}, {8, 9}});
     bars.SetGroupName({"x"});
     ExpectTextsAsDrawn(bars, "bars");
-    EXPECT_EQ(bars.GetShapes().Bars.size(), 2U);
+    EXPECT_EQ(bars.GetShapes().Bars.size(), 1U) << "8 was no number when the bars were laid out";
 
     CBasicCurve curves = LaidOut(Curves());
     CurveProp renamed = Curves();
@@ -219,7 +219,7 @@ TEST(WhatIsDrawn, EveryBarIsListed) {
             const penlode::SolidBrush brush{bar.Fill};
             byHand.FillRectangle(&brush, bar.Front.X, bar.Front.Y, bar.Front.Width, bar.Front.Height);
         }
-        EXPECT_EQ(shapes.Bars.size(), 6U) << "two colours a group";
+        EXPECT_EQ(shapes.Bars.size(), 5U) << "two colours a group, and what is no number has no place";
         EXPECT_EQ(Only(Drawn(chart), "FillRectangle "), Only(byHand.Text(), "FillRectangle "));
         const float width = chart.GetLayout().ComponentWidth;
         EXPECT_FLOAT_EQ(shapes.Depth.X, style == BarStyle::Flat ? 0.0F : width * 0.5F);
@@ -305,8 +305,31 @@ TEST(InkExtent, CountsWhatIsNeitherNegligibleNorFarOnEverySide) {
         EXPECT_TRUE(counts(out, 50) && counts(50, out)) << out;
     }
     for (const float away : {-20.0F, 110.0F}) {
-        EXPECT_FALSE(counts(away, 50) || counts(50, away)) << away;
+        text.Owner.Role = TextRole::HorCaption;
+        EXPECT_TRUE(counts(away, 50) && counts(50, away)) << "stands where the layout put it: " << away;
+        text.Owner.Role = TextRole::BarLabel;
+        EXPECT_FALSE(counts(away, 50) || counts(50, away)) << "stands at a value: " << away;
     }
+}
+
+TEST(InkExtent, HoldsTheCaptionBelowDeepBarsAndWideNames) {
+    HistogramProp prop;
+    prop.VerAxis.ShowVerAxis = 0;
+    prop.HorAxis.ShowHorCaption = 1;
+    prop.HorAxis.HorCaption = "year";
+    prop.HorAxis.ShowGroupName = 1;
+    prop.Plot.PieStyle = BarStyle::WithDepth;
+    prop.Plot.ComponentName = {"A"};
+    CBasicHistogram chart;
+    chart.SetHistogramProp(prop);
+    chart.SetComponentValue({{10}});
+    chart.SetGroupName({std::string(60, 'w')});
+    chart.Layout();
+    const RectF caption = chart.GetLayout().HorCaption;
+    ASSERT_GT(caption.Y, chart.GetPositionAll().Bottom() + 10.0F) << "twice the depth of a wide bar";
+    const RectF ink = chart.InkExtent();
+    EXPECT_NEAR(ink.Bottom(), caption.Bottom(), 0.3) << "a text stands a little low in its box";
+    EXPECT_EQ(ink.X, chart.GetLayout().GroupNameRects[0].X) << "left of the plot";
 }
 
 TEST(InkExtent, OfATurnedTextIsTheUprightBoxRoundIt) {

@@ -163,7 +163,7 @@ TEST_F(Formats, APdfHoldsEveryLabelAsText) {
 
 TEST_F(Formats, EightyMillimetresAreEightyInEach) {
     const std::string document =
-        Write("80.json", R"({"kind": "pie", "data": {"values": [1]}, "property": {"PieBasicProp":
+        Write("80.json", R"({"kind": "pie", "title": "Eighty", "data": {"values": [1]}, "property": {"PieBasicProp":
         {"PieStyle": "2D", "FixedSize": 1, "FixedWidth": 70, "ComponentColor": ["#336699"]},
         "PieLabelProp": {"ShowPercentLabel": 0}}})");
 
@@ -179,6 +179,7 @@ TEST_F(Formats, EightyMillimetresAreEightyInEach) {
     }
     const std::string info = Shell("pdfinfo " + Drawn(document, "80.pdf")).Output;
     EXPECT_NEAR(NumberAfter(info, "Page size:"), 80.0 / 25.4 * 72.0, 0.01);
+    EXPECT_NE(info.find("Eighty\n"), std::string::npos);
 }
 
 TEST_F(Formats, TheSameBytesElsewhereAndAtAnotherTime) {

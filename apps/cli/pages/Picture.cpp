@@ -59,7 +59,7 @@ private:
 };
 
 std::unique_ptr<CGraphicsEngine> PageOf(const PictureSettings& settings) {
-    auto engine = kPlatform.Begin(settings.Page);
+    auto engine = kPlatform.Begin(settings);
     if (engine != nullptr && settings.Background) {
         const penlode::SolidBrush brush{*settings.Background};
         engine->FillRectangle(&brush, 0.0F, 0.0F, settings.Page.Width, settings.Page.Height);

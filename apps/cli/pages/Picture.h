@@ -34,8 +34,8 @@ struct PictureSettings {
     double Dpi = 96.0;   ///< of a PNG
     /// White, if there is none, under a PNG or SVG; the paper of a page, PDF or EMF, is left as it is.
     std::optional<penlode::Color> Background;
-    std::string Title;           ///< of an SVG
-    std::string Description;     ///< of an SVG
+    std::string Title;           ///< of an SVG or PDF
+    std::string Description;     ///< of an SVG, and a PDF's subject
     bool TextAsOutlines = false; ///< of an SVG: glyphs that need no font
 };
 

@@ -13,7 +13,7 @@ struct Platform {
     /// What to do for a page that only other platforms draw.
     const char* OtherPage;
     const char* ChineseFonts; ///< some to install
-    std::unique_ptr<penlode::CGraphicsEngine> (*Begin)(penlode::SizeF page);
+    std::unique_ptr<penlode::CGraphicsEngine> (*Begin)(const PictureSettings& settings);
     std::string (*Finish)(penlode::CGraphicsEngine& page);
 };
 

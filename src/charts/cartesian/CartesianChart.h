@@ -19,6 +19,7 @@ public:
     /// first record, nor those of the other scale.
     void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
 
+    /// A range that would need more than 100,000 ticks has none.
     void SetNaturalValueRange(double min, double max, double step, double minorStep) {
         m_axis.SetNaturalRange(min, max, step, minorStep);
     }

@@ -18,7 +18,7 @@ struct CartesianLayout {
     penlode::SizeF HorCaptionSize;
     std::vector<penlode::PointF> VerMajorTicks;  ///< on the plot's left edge
     std::vector<penlode::PointF> VerMinorTicks;  ///< on the plot's left edge
-    std::vector<std::string> VerLabelTexts;      ///< one per major tick, or none
+    std::vector<std::string> VerLabelTexts;      ///< one per major tick, or none; prefix and postfix included
     std::vector<penlode::RectF> VerLabelRects;   ///< parallel to the texts
     std::vector<penlode::SizeF> VerLabelSizes;   ///< parallel to the texts
     std::vector<penlode::PointF> HorTicks;       ///< on the plot's bottom edge

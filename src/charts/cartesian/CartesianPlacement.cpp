@@ -60,11 +60,12 @@ void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayo
     if (prop.ShowVerAxisLabel == 0) {
         return;
     }
+    const TextProperty& look = prop.VerAxisLabelTextProperty;
     layout.VerLabelTexts = axis.TickLabels();
     layout.VerLabelSizes.clear();
-    for (const std::string& text : layout.VerLabelTexts) {
-        layout.VerLabelSizes.push_back(
-            CTextPropertyOperation::GetTextSize(text, prop.VerAxisLabelTextProperty));
+    for (std::string& text : layout.VerLabelTexts) {
+        text = Decorated(text, look);
+        layout.VerLabelSizes.push_back(CTextPropertyOperation::GetTextSize(text, look));
     }
 }
 

@@ -46,7 +46,7 @@ struct FrameSizes {
 void PlaceFrame(const FrameSizes& sizes, penlode::PointF location, penlode::SizeF depth,
                 CartesianLayout& layout);
 
-/// Takes the axis's label texts and their sizes, if labels are shown.
+/// Takes the axis's label texts, between their prefix and postfix, and their sizes, if labels are shown.
 void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout);
 
 /// As wide as caption, labels and ticks, and `plotHeight` high. Labels must have been taken.

@@ -31,7 +31,7 @@ struct VerAxisProp {
     std::int32_t ShowHorMinorGrid = 0;
     penlode::Owned<penlode::Pen> HorMinorGridPen = penlode::Pen(penlode::kBlack, 0.1F);
     std::int32_t ShowVerCaption = 0;
-    std::string VerCaption; ///< narrow text
+    std::string VerCaption; ///< narrow (GBK; CStringUtil::Utf8ToAnsi)
     TextProperty VerCaptionTextProperty;
 
     friend bool operator==(const VerAxisProp&, const VerAxisProp&) = default;

@@ -15,8 +15,6 @@ using penlode::SizeF;
 
 namespace {
 
-constexpr std::size_t kFewestLabels = 2;
-
 /// The distance between neighbours of `count` labels, two or more, that stand over the plot's whole width.
 float LabelDistance(const RectF& plot, std::size_t count) {
     return plot.Width / static_cast<float>(count - 1);
@@ -103,10 +101,14 @@ SizeF CBasicCurve::CalcHorAxisSize() {
             m_layout.HorCaptionSize.Height + labelHeight + TickAllowance(axis.ScaleStyle)};
 }
 
+bool CBasicCurve::ShowsHorLabels() const {
+    return m_prop.HorAxis.ShowLabel != 0 && m_labels.size() >= kFewestLabels;
+}
+
 SizeF CBasicCurve::CalcHorAxisLabelSize() {
     m_layout.HorLabelSizes.clear();
     SizeF largest;
-    if (m_prop.HorAxis.ShowLabel == 0 || m_labels.size() < kFewestLabels) {
+    if (!ShowsHorLabels()) {
         return largest;
     }
     for (const std::string& label : m_labels) {

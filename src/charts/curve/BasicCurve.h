@@ -38,7 +38,8 @@ struct CurveLayout : CartesianLayout {
 /// Setters only store; Layout computes every point from what is stored; Draw, the shapes and the texts show
 /// the last layout with the record's present looks and the present labels. Copies share the value axis and
 /// nothing else. Lists may be shorter than they should be: what is missing is not drawn, or looks as
-/// CurvePlotProp says.
+/// CurvePlotProp says. A line breaks at a point without a finite place, such as 0 on a logarithmic axis, and
+/// has no marker there. If all times are equal, all points stand at the plot's left edge.
 class MILLICHART_API CBasicCurve : public CCartesianChart {
 public:
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
@@ -58,8 +59,8 @@ public:
     /// One list a curve, as set; the lists need not be as long as those of the values.
     const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_times; }
 
-    /// Narrow texts, spread evenly over the plot's width whatever the times are; shown if there are two or
-    /// more.
+    /// Narrow texts (GBK; CStringUtil::Utf8ToAnsi), spread evenly over the plot's width whatever the times
+    /// are; shown if there are two or more.
     void SetHorAxisLabel(std::vector<std::string> labels) { m_labels = std::move(labels); }
 
     /// As set, whether or not they have been laid out since.
@@ -73,8 +74,8 @@ public:
 
     const CurveLayout& GetLayout() const { return m_layout; }
 
-    /// Nothing on a null engine. A line's call is made even for a run of no or one point, which draws
-    /// nothing.
+    /// Nothing on a null engine, or without curves. A line's call is made even for a run of no or one point,
+    /// which draws nothing.
     void Draw(penlode::IGraphicsEngine* engine) const;
 
     /// The curves as they would be drawn now: those of the last layout that have a name.
@@ -119,6 +120,10 @@ protected:
     void DrawCaption(penlode::IGraphicsEngine* engine) const;
 
 private:
+    /// The fewest labels that can be spread from edge to edge.
+    static constexpr std::size_t kFewestLabels = 2;
+
+    bool ShowsHorLabels() const;
     void PlaceLegendAndShift();
     void VisitHorLabels(const TextVisitor& visit) const;
     void DrawSample(penlode::IGraphicsEngine& engine, std::size_t index, const penlode::RectF& item) const;

@@ -78,7 +78,7 @@ void DrawMarkers(IGraphicsEngine& engine, const Points& markers, const CurveStyl
 } // namespace
 
 void CBasicCurve::Draw(IGraphicsEngine* engine) const {
-    if (engine == nullptr) {
+    if (engine == nullptr || m_layout.Curves.empty()) {
         return;
     }
     if (m_prop.Plot.ShowBackground != 0) {
@@ -126,6 +126,9 @@ void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
 }
 
 void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
+    if (m_layout.Curves.empty()) {
+        return;
+    }
     VisitVerLabels(visit, m_prop.VerAxis, m_layout);
     VisitVerCaption(visit, m_prop.VerAxis, m_layout);
     VisitHorLabels(visit);
@@ -137,7 +140,7 @@ void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
 
 void CBasicCurve::VisitHorLabels(const TextVisitor& visit) const {
     const CurveHorAxisProp& axis = m_prop.HorAxis;
-    const bool areShown = axis.ShowHorAxis != 0 && axis.ShowLabel != 0;
+    const bool areShown = axis.ShowHorAxis != 0 && ShowsHorLabels();
     const std::size_t count = std::min(m_layout.HorLabelRects.size(), m_labels.size());
     for (std::size_t i = 0; areShown && i < count; i += StepOf(axis.LabelStep)) {
         CTextPropertyOperation::Visit(visit, {TextRole::HorAxisLabel, i}, m_labels[i],

@@ -26,7 +26,7 @@ struct CurveHorAxisProp {
     std::int32_t VerGridStep = 1; ///< at every so many labels, from the first
     penlode::Owned<penlode::Pen> VerGridPen = penlode::Pen(penlode::kBlack, 0.1F);
     std::int32_t ShowHorCaption = 0;
-    std::string HorCaption; ///< narrow text
+    std::string HorCaption; ///< narrow (GBK; CStringUtil::Utf8ToAnsi)
     TextProperty HorCaptionTextProperty;
 
     friend bool operator==(const CurveHorAxisProp&, const CurveHorAxisProp&) = default;
@@ -71,7 +71,8 @@ struct CurvePlotProp {
     penlode::Color PlotBackgroundColor = penlode::kWhite;
     std::int32_t ShowEdge = 1; ///< outlines the plot
     penlode::Owned<penlode::Pen> EdgePen = penlode::Pen(penlode::Color{0xFF808080}, 0.2F);
-    std::vector<std::string> CurveName;        ///< narrow texts; as many curves as names are drawn
+    /// As many curves as names are drawn. Narrow (GBK; CStringUtil::Utf8ToAnsi).
+    std::vector<std::string> CurveName;
     std::vector<penlode::Color> CurveColor;    ///< black
     std::vector<float> CurveWidth;             ///< 0.1
     std::vector<std::int32_t> CurveDashStyle;  ///< penlode::DashStyle; solid

@@ -20,8 +20,7 @@ constexpr EnumName kDotStyleNames[] = {
     {CurveDotStyle::HollowInvertedTriangle, "hollow_inverted_triangle"},
 };
 
-constexpr EnumName kNullValueStyleNames[] = {{CurveNullValueStyle::Break, "break"},
-                                             {CurveNullValueStyle::AsZero, "as_zero"}};
+constexpr FlagNames kNullValueStyleNames{"break", "as_zero"};
 
 } // namespace
 

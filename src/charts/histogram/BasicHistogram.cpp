@@ -100,7 +100,7 @@ SizeF CBasicHistogram::CalcHorAxisSize() {
 
 float CBasicHistogram::CalcGroupNameSize() {
     m_layout.GroupNameSizes.clear();
-    if (m_prop.HorAxis.ShowGroupName == 0 || m_groupNames.size() != m_values.size()) {
+    if (!ShowsGroupNames()) {
         return 0.0F;
     }
     float height = 0.0F;
@@ -112,8 +112,12 @@ float CBasicHistogram::CalcGroupNameSize() {
     return height;
 }
 
+bool CBasicHistogram::ShowsGroupNames() const {
+    return m_prop.HorAxis.ShowGroupName != 0 && m_groupNames.size() == m_values.size();
+}
+
 /// A group and its gap always take one share of the plot's width. A group keeps at least 1 mm, at the cost of
-/// the gap, which may then be negative.
+/// the gap, which may then be negative. Where no bar has a name there is none, and so no width.
 void CBasicHistogram::CalcComponentWidth() {
     const HistogramPlotProp& plot = m_prop.Plot;
     const auto groups = static_cast<float>(m_values.size());
@@ -123,8 +127,8 @@ void CBasicHistogram::CalcComponentWidth() {
         groupWidth = kMinGroupWidth;
         m_layout.GroupGap = (plot.PlotWidth - groups) / groups;
     }
-    m_layout.ComponentWidth =
-        plot.Juxtaposition == 0 ? groupWidth : groupWidth / static_cast<float>(plot.ComponentName.size());
+    const std::size_t abreast = plot.Juxtaposition == 0 ? 1 : plot.ComponentName.size();
+    m_layout.ComponentWidth = abreast == 0 ? 0.0F : groupWidth / static_cast<float>(abreast);
 }
 
 void CBasicHistogram::Calc3DComponentBackSurfaceOffset(float& dx, float& dy) const {

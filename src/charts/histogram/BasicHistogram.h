@@ -17,9 +17,9 @@ struct HistogramLayout : CartesianLayout {
     std::vector<penlode::RectF> GroupNameRects; ///< one per group, or none
     std::vector<penlode::SizeF> GroupNameSizes; ///< parallel to the rectangles
     /// One list a group, one bar a component that has both a name and a value. A negative value's bar has a
-    /// negative height.
+    /// negative height, that of a value without a place one that is not finite.
     std::vector<std::vector<penlode::RectF>> ComponentRects;
-    float ComponentWidth = -1.0F; ///< of one bar; -1 before a layout with groups
+    float ComponentWidth = -1.0F; ///< of one bar, 0 if none has a name; -1 before a layout with groups
     float GroupGap = -1.0F;       ///< between groups, as it came out; -1 before a layout with groups
 };
 
@@ -50,7 +50,8 @@ struct BarShapes {
 ///
 /// Setters only store; Layout computes every rectangle from what is stored; Draw, the shapes and the texts
 /// show the last layout with the record's present looks and the present values and names. Copies share the
-/// value axis and nothing else. Lists may be shorter than they should be: what is missing is not drawn.
+/// value axis and nothing else. Lists may be shorter than they should be: what is missing is not drawn. A
+/// segment of a stack without a finite place is not drawn and carries none of the others away.
 class MILLICHART_API CBasicHistogram : public CCartesianChart {
 public:
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
@@ -66,7 +67,7 @@ public:
     /// As set, whether or not they have been laid out since.
     const std::vector<std::vector<double>>& GetComponentValue() const { return m_values; }
 
-    /// Narrow texts, one a group; shown only if there are as many as groups.
+    /// Narrow texts (GBK; CStringUtil::Utf8ToAnsi), one a group; shown only if there are as many as groups.
     void SetGroupName(const std::vector<std::string>& names) { m_groupNames = names; }
 
     /// As set, whether or not they have been laid out since.
@@ -80,10 +81,11 @@ public:
 
     const HistogramLayout& GetLayout() const { return m_layout; }
 
-    /// Nothing on a null engine.
+    /// Nothing on a null engine, or without groups.
     void Draw(penlode::IGraphicsEngine* engine) const;
 
-    /// The bars as they would be drawn now: those that have a name, a value and a colour.
+    /// The bars as they would be drawn now: those that have a name, a colour and a value with a place. 0 has
+    /// none on a logarithmic axis.
     BarShapes GetShapes() const;
 
     /// The texts as they would be drawn now: labels and caption of the value axis, names and caption of the
@@ -128,7 +130,11 @@ private:
     /// The bars of one group, whose left edge is at `x`; moves `x` to the group's right edge.
     std::vector<penlode::RectF> SideBySide(const std::vector<double>& values, float& x) const;
     std::vector<penlode::RectF> Stacked(const std::vector<double>& values, float& x) const;
-    std::size_t BarsOf(std::size_t group) const;
+
+    bool IsEmpty() const { return m_layout.ComponentRects.empty(); }
+
+    bool ShowsGroupNames() const;
+    template <class Visit> void VisitFronts(const Visit& visit) const;
     template <class Visit> void VisitBars(const Visit& visit) const;
     std::string ComponentInfo(std::size_t group, std::size_t component) const;
     void VisitGroupNames(const TextVisitor& visit) const;

@@ -1,6 +1,7 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/histogram/BasicHistogram.h"
 #include "foundation/NumberText.h"
+#include "penlode/engine/Finite.h"
 
 #include <algorithm>
 #include <array>
@@ -53,7 +54,7 @@ PointF BottomRight(const RectF& rect) {
 } // namespace
 
 void CBasicHistogram::Draw(IGraphicsEngine* engine) const {
-    if (engine == nullptr) {
+    if (engine == nullptr || IsEmpty()) {
         return;
     }
     DrawBackground(engine);
@@ -192,6 +193,9 @@ BarShapes CBasicHistogram::GetShapes() const {
 }
 
 void CBasicHistogram::VisitTexts(const TextVisitor& visit) const {
+    if (IsEmpty()) {
+        return;
+    }
     VisitVerLabels(visit, m_prop.VerAxis, m_layout);
     VisitVerCaption(visit, m_prop.VerAxis, m_layout);
     VisitGroupNames(visit);
@@ -202,18 +206,33 @@ void CBasicHistogram::VisitTexts(const TextVisitor& visit) const {
                                  kLegendSquareFactor);
 }
 
-template <class Visit> void CBasicHistogram::VisitBars(const Visit& visit) const {
-    for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
-        const std::size_t bars = std::min(BarsOf(group), m_prop.Plot.ComponentColor.size());
+/// The bars of the last layout that have a place and still have both a name and a value.
+template <class Visit> void CBasicHistogram::VisitFronts(const Visit& visit) const {
+    const std::size_t groups = std::min(m_layout.ComponentRects.size(), m_values.size());
+    for (std::size_t group = 0; group < groups; ++group) {
+        const std::vector<RectF>& fronts = m_layout.ComponentRects[group];
+        const std::size_t bars =
+            std::min({fronts.size(), m_prop.Plot.ComponentName.size(), m_values[group].size()});
         for (std::size_t i = 0; i < bars; ++i) {
-            visit({group, i, m_layout.ComponentRects[group][i], m_prop.Plot.ComponentColor[i]});
+            if (penlode::IsFinite(fronts[i])) {
+                visit(group, i, fronts[i]);
+            }
         }
     }
 }
 
+template <class Visit> void CBasicHistogram::VisitBars(const Visit& visit) const {
+    const std::vector<Color>& colors = m_prop.Plot.ComponentColor;
+    VisitFronts([&](std::size_t group, std::size_t i, const RectF& front) {
+        if (i < colors.size()) {
+            visit({group, i, front, colors[i]});
+        }
+    });
+}
+
 void CBasicHistogram::VisitGroupNames(const TextVisitor& visit) const {
     const HistogramHorAxisProp& axis = m_prop.HorAxis;
-    const bool areShown = axis.ShowHorAxis != 0 && axis.ShowGroupName != 0;
+    const bool areShown = axis.ShowHorAxis != 0 && ShowsGroupNames();
     const std::size_t names = std::min(m_layout.GroupNameRects.size(), m_groupNames.size());
     for (std::size_t i = 0; areShown && i < names; ++i) {
         CTextPropertyOperation::Visit(visit, {TextRole::GroupName, i}, m_groupNames[i],
@@ -225,27 +244,19 @@ void CBasicHistogram::VisitGroupNames(const TextVisitor& visit) const {
 void CBasicHistogram::VisitBarLabels(const TextVisitor& visit) const {
     const HistogramPlotProp& prop = m_prop.Plot;
     const bool isStacked = prop.Juxtaposition == 0;
-    for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
-        for (std::size_t i = 0; i < BarsOf(group); ++i) {
-            const RectF& bar = m_layout.ComponentRects[group][i];
-            const PointF at = isStacked ? PointF{bar.X + bar.Width, bar.Y + bar.Height * 0.5F}
-                                        : PointF{bar.X + bar.Width * 0.5F, bar.Y};
-            const std::string text = ComponentInfo(group, i);
-            if (!text.empty()) {
-                CTextPropertyOperation::Visit(visit, {TextRole::BarLabel, group, i}, text,
-                                              prop.ComponentInfoTextProperty, at,
-                                              isStacked ? TextAnchor::LeftCenter : TextAnchor::BottomCenter);
-            }
+    VisitFronts([&](std::size_t group, std::size_t i, const RectF& bar) {
+        const PointF at = isStacked ? PointF{bar.X + bar.Width, bar.Y + bar.Height * 0.5F}
+                                    : PointF{bar.X + bar.Width * 0.5F, bar.Y};
+        const std::string text = ComponentInfo(group, i);
+        if (!text.empty()) {
+            CTextPropertyOperation::Visit(visit, {TextRole::BarLabel, group, i}, text,
+                                          prop.ComponentInfoTextProperty, at,
+                                          isStacked ? TextAnchor::LeftCenter : TextAnchor::BottomCenter);
         }
-    }
+    });
 }
 
-/// How many bars of the last layout still have both a name and a value.
-std::size_t CBasicHistogram::BarsOf(std::size_t group) const {
-    const std::size_t values = group < m_values.size() ? m_values[group].size() : 0;
-    return std::min({m_layout.ComponentRects[group].size(), m_prop.Plot.ComponentName.size(), values});
-}
-
+/// Empty for a label that shows nothing.
 std::string CBasicHistogram::ComponentInfo(std::size_t group, std::size_t component) const {
     const HistogramPlotProp& prop = m_prop.Plot;
     std::string text;
@@ -258,7 +269,7 @@ std::string CBasicHistogram::ComponentInfo(std::size_t group, std::size_t compon
     if (prop.ShowComponentValue != 0) {
         text += FixedText(m_values[group][component], 0);
     }
-    return text;
+    return Decorated(text, prop.ComponentInfoTextProperty);
 }
 
 void CBasicHistogram::DrawComponent2D(IGraphicsEngine* engine, const RectF& bar, Color color) const {

@@ -22,7 +22,7 @@ struct HistogramHorAxisProp {
     std::int32_t ShowVerGrid = 1; ///< a line up the plot between groups
     penlode::Owned<penlode::Pen> VerGridPen = penlode::Pen(penlode::kBlack, 0.1F);
     std::int32_t ShowHorCaption = 0;
-    std::string HorCaption; ///< narrow text
+    std::string HorCaption; ///< narrow (GBK; CStringUtil::Utf8ToAnsi)
     TextProperty HorCaptionTextProperty;
 
     friend bool operator==(const HistogramHorAxisProp&, const HistogramHorAxisProp&) = default;
@@ -40,12 +40,13 @@ struct HistogramPlotProp {
     penlode::Color PlotBackgroundColor = penlode::kWhite;
     std::int32_t ShowEdge = 1; ///< outlines the plot
     penlode::Owned<penlode::Pen> EdgePen = penlode::Pen(penlode::Color{0xFF808080}, 0.2F);
-    std::vector<std::string> ComponentName;     ///< one per bar of a group; as many bars as names are drawn
+    /// One per bar of a group; as many bars as names are drawn. Narrow (GBK; CStringUtil::Utf8ToAnsi).
+    std::vector<std::string> ComponentName;
     std::vector<penlode::Color> ComponentColor; ///< one per name; a bar without a colour is not drawn
     std::int32_t ShowComponentName = 0;         ///< at each bar
     std::int32_t ShowComponentValue = 0;        ///< at each bar, as a whole number
     std::int32_t ConponentInfoInSingleRow = 1;  ///< zero: a line break follows the separator
-    std::string ConponentInfoSeparator = ";";
+    std::string ConponentInfoSeparator = ";";   ///< narrow (GBK; CStringUtil::Utf8ToAnsi)
     TextProperty ComponentInfoTextProperty;
     float PlotWidth = 80.0F;
     float PlotHeight = 30.0F;

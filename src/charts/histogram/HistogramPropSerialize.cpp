@@ -3,6 +3,11 @@
 #include "charts/cartesian/VerAxisFields.h"
 
 namespace millichart {
+namespace {
+
+constexpr FlagNames kBarStyleNames{"2D", "3D"};
+
+} // namespace
 
 template <class Fields> void Describe(Fields& record, HistogramHorAxisProp& prop) {
     record.Field("ShowHorAxis", prop.ShowHorAxis, 1);
@@ -33,7 +38,7 @@ template <class Fields> void Describe(Fields& record, HistogramPlotProp& prop) {
     record.Field("PlotHeight", prop.PlotHeight, 30.0F);
     record.Field("GroupDistane", prop.GroupDistane, 10.0F);
     record.Field("Juxtaposition", prop.Juxtaposition, 1);
-    record.Field("PieStyle", prop.PieStyle, kPieStyleNames, BarStyle::Flat);
+    record.Field("PieStyle", prop.PieStyle, kBarStyleNames, BarStyle::Flat);
     record.Field("LogarithmScale", prop.LogarithmScale, 0);
 }
 

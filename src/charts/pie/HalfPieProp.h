@@ -19,7 +19,7 @@ struct HalfPieBasicProp {
     float FixedWidth = 20.0F;
     float BaseValue = 100.0F; ///< the total that gives a diameter of BasePieWidth; others in proportion
     float BasePieWidth = 10.0F;
-    std::vector<std::string> ComponentName;     ///< one per slice
+    std::vector<std::string> ComponentName;     ///< one per slice; narrow (GBK; CStringUtil::Utf8ToAnsi)
     std::vector<penlode::Color> ComponentColor; ///< one per slice; a slice without a colour is not filled
 
     friend bool operator==(const HalfPieBasicProp& a, const HalfPieBasicProp& b) {

@@ -6,25 +6,12 @@
 namespace millichart {
 namespace {
 
-constexpr EnumName kHalfPiePartNames[] = {{HalfPiePart::Upper, "Top"}, {HalfPiePart::Lower, "Lower"}};
-
-/// Every number that draws the lower half is stored under its name, so that a load draws the same half.
-void DescribeWhichPart(KeyedRecord& record, std::int32_t& whichPart) {
-    std::int32_t named = whichPart == HalfPiePart::Upper ? HalfPiePart::Upper : HalfPiePart::Lower;
-    record.Field("WhichPart", named, kHalfPiePartNames, HalfPiePart::Upper);
-    if (!record.IsSaving()) {
-        whichPart = named;
-    }
-}
-
-void DescribeWhichPart(PositionalRecord& record, std::int32_t& whichPart) {
-    record.Field("WhichPart", whichPart);
-}
+constexpr FlagNames kHalfPiePartNames{"Top", "Lower"};
 
 } // namespace
 
 template <class Fields> void Describe(Fields& record, HalfPieBasicProp& prop) {
-    DescribeWhichPart(record, prop.WhichPart);
+    record.Field("WhichPart", prop.WhichPart, kHalfPiePartNames, HalfPiePart::Upper);
     DescribeSize(record, prop);
     DescribeSlices(record, prop);
 }

@@ -21,7 +21,7 @@ inline constexpr float kHalfTurn = 180.0F;
 struct PieLayout {
     penlode::RectF Whole;                        ///< pie, labels and legend
     penlode::RectF Pie;                          ///< the square round the whole circle
-    std::vector<std::string> LabelTexts;         ///< one per slice, or none
+    std::vector<std::string> LabelTexts;         ///< one per slice, or none; prefix and postfix included
     std::vector<penlode::RectF> LabelRects;      ///< parallel to the texts
     std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
 };

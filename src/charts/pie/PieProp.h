@@ -31,7 +31,7 @@ struct PieBasicProp {
     float StartAngle = 180.0F;
     std::int32_t DrawSepLine = 1; ///< 1: every slice of a flat pie is outlined with PenSepLine
     penlode::Owned<penlode::Pen> PenSepLine = penlode::Pen(penlode::kBlack, 0.1F);
-    std::vector<std::string> ComponentName;     ///< one per slice
+    std::vector<std::string> ComponentName;     ///< one per slice; narrow (GBK; CStringUtil::Utf8ToAnsi)
     std::vector<penlode::Color> ComponentColor; ///< one per slice; a slice without a colour is not filled
 
     friend bool operator==(const PieBasicProp& a, const PieBasicProp& b) {
@@ -39,13 +39,14 @@ struct PieBasicProp {
     }
 };
 
-/// The labels round a pie. A flag of 1 puts its part into every label.
+/// The labels round a pie. A flag of 1 puts its part into every label. One without any part stays empty, its
+/// look's prefix and postfix included.
 struct PieLabelProp {
     std::int32_t ShowNameLabel = 0;
     std::int32_t ShowValueLabel = 0;    ///< with one decimal
     std::int32_t ShowPercentLabel = 0;  ///< share of the total, with one decimal and "%"
     std::int32_t LabelsInSingleRow = 1; ///< zero: a line break follows every separator
-    std::string LabelSeparator = ";";
+    std::string LabelSeparator = ";";   ///< narrow (GBK; CStringUtil::Utf8ToAnsi)
     TextProperty PieLabelTextProperty;
     float DistBetweenLabelCenterAndPieCenter = 0.0F; ///< mm from the pie's rim to the label's nearest corner
     std::int32_t ShowLabelLeadLine = 1;              ///< travels with the record; no lead lines are drawn

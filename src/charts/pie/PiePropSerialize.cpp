@@ -3,6 +3,11 @@
 #include "charts/pie/PieFields.h"
 
 namespace millichart {
+namespace {
+
+constexpr EnumName kPieStyleNames[] = {{PieStyle::Flat, "2D"}, {PieStyle::WithDepth, "3D"}};
+
+} // namespace
 
 template <class Fields> void Describe(Fields& record, PieBasicProp& prop) {
     record.Field("PieStyle", prop.PieStyle, kPieStyleNames, PieStyle::WithDepth);

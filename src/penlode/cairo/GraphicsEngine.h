@@ -9,6 +9,12 @@ struct _cairo; // NOLINT(bugprone-reserved-identifier): Cairo's name
 
 namespace penlode {
 
+/// What a PDF says of itself, in UTF-8; a text that is empty is left out.
+struct PdfTexts {
+    std::string Title;
+    std::string Subject;
+};
+
 /// The surface on Cairo and Pango: a picture, a PDF page, or a Cairo context of the host's.
 ///
 ///     auto engine = CGraphicsEngine::ForRaster({80, 60}, 300, kWhite);
@@ -37,7 +43,7 @@ public:
     static std::unique_ptr<CGraphicsEngine> ForRaster(SizeF millimetres, double dpi, Color background);
 
     /// One PDF page, up to 5080 mm (200 inches) along a side. Null for any other size.
-    static std::unique_ptr<CGraphicsEngine> ForPdf(SizeF millimetres);
+    static std::unique_ptr<CGraphicsEngine> ForPdf(SizeF millimetres, const PdfTexts& texts = {});
 
     /// Draws on a context of the host's, which is kept until the engine goes: at its clip and with its
     /// transform as they are now, `dpi` units of its user space to the inch (96 in a widget, 72 in Cairo's

@@ -2,6 +2,7 @@
 #include "penlode/cairo/CairoTarget.h"
 #include "penlode/cairo/PngWriter.h"
 #include "penlode/engine/RasterSize.h"
+#include "penlode/text/StringUtil.h"
 
 #include <cairo-pdf.h>
 #include <cstring>
@@ -60,6 +61,14 @@ PremultipliedPixels PixelsOf(cairo_surface_t* surface) {
             cairo_image_surface_get_height(surface), cairo_image_surface_get_stride(surface)};
 }
 
+/// What is no UTF-8 is replaced: Cairo would end the whole surface with an error.
+void SetText(cairo_surface_t* pdf, cairo_pdf_metadata_t which, const std::string& text) {
+    if (!text.empty()) {
+        const std::string sound = CStringUtil::WideToUtf8(CStringUtil::Utf8ToWideString(text));
+        cairo_pdf_surface_set_metadata(pdf, which, sound.c_str());
+    }
+}
+
 } // namespace
 
 CGraphicsEngine::CGraphicsEngine(std::unique_ptr<Target> target)
@@ -85,7 +94,7 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForRaster(SizeF millimetres, d
         std::make_unique<Target>(Target::Kind::Picture, std::move(context), setting, dpi)));
 }
 
-std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
+std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres, const PdfTexts& texts) {
     if (!IsPageSize(millimetres)) {
         return nullptr;
     }
@@ -94,6 +103,8 @@ std::unique_ptr<CGraphicsEngine> CGraphicsEngine::ForPdf(SizeF millimetres) {
     auto file = std::make_unique<std::string>();
     const CairoSurface surface(cairo_pdf_surface_create_for_stream(AppendTo, file.get(), width, height));
     cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
+    SetText(surface.get(), CAIRO_PDF_METADATA_TITLE, texts.Title);
+    SetText(surface.get(), CAIRO_PDF_METADATA_SUBJECT, texts.Subject);
     CairoContext context(cairo_create(surface.get()));
     if (cairo_status(context.get()) != CAIRO_STATUS_SUCCESS) {
         return nullptr;

@@ -118,6 +118,92 @@ TEST(BasicHistogramDraw, InformationOfTheBars) {
     EXPECT_EQ(texts(std::numeric_limits<double>::quiet_NaN()), "");
 }
 
+TEST(BasicHistogramDraw, PrefixAndPostfixStandRoundWhatIsGeneratedFromValues) {
+    HistogramProp prop = BarsAlone({"A"}, {});
+    prop.VerAxis.ShowVerAxis = 1;
+    prop.HorAxis.ShowHorAxis = 1;
+    prop.HorAxis.ShowGroupName = 1;
+    prop.HorAxis.ShowHorCaption = 1;
+    prop.HorAxis.HorCaption = "year";
+    prop.Plot.ShowComponentName = 1;
+    prop.Plot.ShowComponentValue = 1;
+    prop.Caption.ShowCaption = 1;
+    prop.Caption.Caption = "Sales";
+    for (TextProperty* look : {&prop.VerAxis.VerAxisLabelTextProperty, &prop.HorAxis.GroupNameTextProperty,
+                               &prop.HorAxis.HorCaptionTextProperty, &prop.Plot.ComponentInfoTextProperty,
+                               &prop.Caption.CaptionTextProperty}) {
+        look->Prefix = "<";
+        look->Postfix = Narrow(L"亿");
+    }
+    CBasicHistogram chart;
+    chart.SetHistogramProp(prop);
+    chart.SetNaturalValueRange(0, 20, 10, 5);
+    chart.SetComponentValue({{15}});
+    chart.SetGroupName({"x"});
+    chart.Layout();
+    std::wstring texts;
+    for (const ChartText& text : TextsOf(chart)) {
+        texts += text.Text + L" ";
+    }
+    EXPECT_EQ(texts, L"<0亿 <10亿 <20亿 x year <A;15亿 Sales ");
+    EXPECT_EQ(chart.GetLayout().VerLabelSizes[1].Width, 10.0F);
+    EXPECT_EQ(chart.GetLayout().Plot.X, 11.0F) << "the labels take their room beside the plot";
+
+    prop.Plot.ShowComponentName = prop.Plot.ShowComponentValue = 0;
+    chart.SetHistogramProp(prop);
+    EXPECT_EQ(Drawn(chart).find("A;15"), std::string::npos);
+    EXPECT_EQ(TextsOf(chart).size(), 6U) << "a label without any part stays empty";
+}
+
+TEST(BasicHistogramDraw, WhatHasNoPlaceReachesNoEngine) {
+    constexpr double kInfinite = std::numeric_limits<double>::infinity();
+    HistogramProp prop = BarsAlone({"A", "B", "C", "D"}, std::vector<Color>(4, penlode::kBlack));
+    prop.Plot.ShowComponentValue = 1;
+    prop.Plot.LogarithmScale = 1;
+    for (const std::int32_t style : {BarStyle::Flat, BarStyle::WithDepth}) {
+        prop.Plot.PieStyle = style;
+        // 0 and what is below have no place on a logarithmic axis.
+        const std::string abreast = Drawn(prop, {{0, -5, 10, kInfinite}});
+        EXPECT_EQ(Only(abreast, "FillRectangle "),
+                  style == BarStyle::Flat ? "#FF000000 (40 15 17.5 15)\n" : "#FF000000 (40 20.05 17.5 15)\n");
+        EXPECT_EQ(Only(abreast, "FillPolygon ").empty(), style == BarStyle::Flat);
+        EXPECT_EQ(Only(abreast, "DrawString "), "\"10\" 宋体/4 (-2 -2.5 4 5.5) center-center #FF000000\n");
+    }
+    prop.Plot.PieStyle = BarStyle::Flat;
+    prop.Plot.Juxtaposition = 0;
+    prop.Plot.LogarithmScale = 0;
+    const std::string stacked = Drawn(prop, {{10, kInfinite, 10}});
+    EXPECT_EQ(Only(stacked, "FillRectangle "), "#FF000000 (5 15 70 15)\n#FF000000 (5 0 70 15)\n");
+    EXPECT_EQ(stacked.find("inf"), std::string::npos);
+}
+
+TEST(BasicHistogramDraw, WithoutGroupsThereIsNothing) {
+    CBasicHistogram chart;
+    HistogramProp prop;
+    prop.Caption.ShowCaption = prop.VerAxis.ShowVerCaption = prop.HorAxis.ShowHorCaption = 1;
+    chart.SetHistogramProp(prop);
+    EXPECT_EQ(Drawn(chart), "") << "not laid out yet";
+    chart.Layout();
+    EXPECT_EQ(Drawn(chart), "");
+    EXPECT_TRUE(TextsOf(chart).empty());
+}
+
+TEST(BasicHistogramDraw, NamesThatChangedAreDrawnIfThereAreAsManyAsGroups) {
+    HistogramProp prop = BarsAlone({}, {});
+    prop.HorAxis.ShowHorAxis = 1;
+    prop.HorAxis.ShowGroupName = 1;
+    CBasicHistogram chart;
+    chart.SetHistogramProp(prop);
+    chart.SetComponentValue({{1}, {2}});
+    chart.SetGroupName({"a", "b"});
+    chart.Layout();
+    chart.SetGroupName({"x"});
+    EXPECT_EQ(Only(Brief(Drawn(chart)), "at "), "");
+    EXPECT_TRUE(TextsOf(chart).empty());
+    chart.SetGroupName({"x", "y"});
+    EXPECT_EQ(TextsOf(chart).size(), 2U);
+}
+
 TEST(BasicHistogramDraw, LabelsStandOnBarsAndBesideSegments) {
     HistogramProp prop = BarsAlone({"A"}, {penlode::kBlack});
     prop.Plot.ShowComponentName = 1;

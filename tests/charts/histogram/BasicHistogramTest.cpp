@@ -124,6 +124,16 @@ TEST(BasicHistogram, GroupsShareThePlotsWidth) {
     EXPECT_EQ(LaidOut(prop, Groups(160, {1, 2, 3})).GetLayout().GroupGap, -0.5F);
 }
 
+TEST(BasicHistogram, BarsWithoutANameHaveNoWidthAndNoDepth) {
+    HistogramProp prop = Named({});
+    prop.Plot.PieStyle = BarStyle::WithDepth;
+    const CBasicHistogram chart = LaidOut(prop, {{1}, {2}});
+    EXPECT_EQ(chart.GetLayout().ComponentWidth, 0.0F);
+    EXPECT_EQ(chart.GetLayout().ComponentRects[1].size(), 0U);
+    prop.Plot.PieStyle = BarStyle::Flat;
+    EXPECT_EQ(chart.GetPositionAll(), LaidOut(prop, {{1}, {2}}).GetPositionAll());
+}
+
 TEST(BasicHistogram, StackedSegmentsReachFromSumToSum) {
     HistogramProp prop = Named({"A", "B", "C"});
     prop.Plot.Juxtaposition = 0;

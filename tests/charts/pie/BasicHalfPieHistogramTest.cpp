@@ -74,7 +74,7 @@ TEST(BasicHalfPieHistogram, TheLegendIsCentredWithTheBars) {
     EXPECT_EQ(chart.GetPositionAll(), (RectF{75.5F, 70, 49, 30})) << "an upper half lies behind the bars";
 }
 
-TEST(BasicHalfPieHistogram, TheRangeIsTakenAgainOnlyWithTheScale) {
+TEST(BasicHalfPieHistogram, TheRangeIsTakenAgainWithTheScaleOrWhenAsked) {
     HalfPieHistogramProp prop = HalfUnderBars();
     CBasicHalfPieHistogram chart = LaidOut(prop);
     const auto barHeight = [&chart] {
@@ -83,6 +83,8 @@ TEST(BasicHalfPieHistogram, TheRangeIsTakenAgainOnlyWithTheScale) {
     };
     chart.SetComponentValue({7}, {{10}}, 99);
     EXPECT_EQ(barHeight(), 7.5F);
+    chart.ResetValueRange();
+    EXPECT_EQ(barHeight(), 3.0F); // 10 of 100
     prop.Histogram.Plot.LogarithmScale = 1;
     chart.SetHalfPieHistogramProp(prop);
     EXPECT_EQ(barHeight(), 15.0F); // 10 on an axis from 1 to 100

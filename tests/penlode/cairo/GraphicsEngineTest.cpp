@@ -201,6 +201,20 @@ TEST(GraphicsEngine, PdfIsTheSameEveryTimeAndEndsThePage) {
     EXPECT_TRUE(g->Pixels().Pixels.empty());
 }
 
+TEST(GraphicsEngine, APdfSaysWhatItIs) {
+    const auto file = [](const penlode::PdfTexts& texts) {
+        return CGraphicsEngine::ForPdf({80, 60}, texts)->FinishPdf();
+    };
+    const std::string plain = file({"Depth", ""});
+    EXPECT_NE(plain.find("/Title (Depth)"), std::string::npos);
+    EXPECT_EQ(plain.find("/Subject"), std::string::npos);
+    // UTF-16 in hexadecimal.
+    const std::string others = file({"\xE6\xB7\xB1(1)", "no UTF-8: \xFF"});
+    EXPECT_NE(others.find("/Title <FEFF6DF1002800310029>"), std::string::npos);
+    EXPECT_NE(others.find("/Subject <FEFF006E"), std::string::npos);
+    EXPECT_EQ(file({}).find("/Title"), std::string::npos);
+}
+
 TEST(GraphicsEngine, FindsTheWholePixelsOfASurfaceThatIsOffByAFraction) {
     cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_A8, 40, 20);
     cairo_surface_set_device_scale(surface, 2.0, 2.0);
