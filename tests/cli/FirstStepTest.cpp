@@ -43,21 +43,23 @@ TEST_F(FirstStep, ADocumentToKeepDrawsTheSame) {
           "half-pie-half-pie in/drinks.csv"}) {
         const std::size_t blank = wish.find(' ');
         const std::string kind = wish.substr(0, blank);
-        const std::string rest = wish.substr(wish.find(' ', blank + 1) == std::string::npos
-                                                 ? wish.size()
-                                                 : wish.find(' ', blank + 1));
+        const std::string rest = wish.substr(
+            wish.find(' ', blank + 1) == std::string::npos ? wish.size() : wish.find(' ', blank + 1));
         const std::string table = wish.substr(blank + 1, wish.size() - rest.size() - blank - 1);
         const std::string size = rest.find("--size") == std::string::npos ? "" : " --size 80x60";
-        const Outcome outcome =
-            Run("mkdir -p out && millichart draw --kind " + kind + " " + table + rest + " -o 1.svg && millichart new " +
-                kind + " --data " + table + rest + " -o out/d.json --force && millichart draw out/d.json" + size +
-                " -o 2.svg && cmp 1.svg 2.svg && millichart draw out/d.json" + size + " -o 2.png && millichart draw --kind " +
-                kind + " " + table + rest + " -o 1.png && cmp 1.png 2.png");
+        const Outcome outcome = Run("mkdir -p out && millichart draw --kind " + kind + " " + table + rest +
+                                    " -o 1.svg && millichart new " + kind + " --data " + table + rest +
+                                    " -o out/d.json --force && millichart draw out/d.json" + size +
+                                    " -o 2.svg && cmp 1.svg 2.svg && millichart draw out/d.json" + size +
+                                    " -o 2.png && millichart draw --kind " + kind + " " + table + rest +
+                                    " -o 1.png && cmp 1.png 2.png");
         EXPECT_EQ(outcome.Status, 0) << wish << outcome.Output;
         EXPECT_EQ(outcome.Errors, "") << wish;
     }
     EXPECT_NE(Read("out/d.json").find("\"csv\": \"../in/drinks.csv\""), std::string::npos);
-    EXPECT_EQ(Run("millichart new pie --data - <in/sales.csv | millichart inspect - | grep -c '\"owner\"'").Status, 0)
+    EXPECT_EQ(
+        Run("millichart new pie --data - <in/sales.csv | millichart inspect - | grep -c '\"owner\"'").Status,
+        0)
         << "what cannot be read again stands in the document";
 }
 
@@ -66,7 +68,8 @@ TEST_F(FirstStep, NothingOfTheExampleIsLeft) {
         Run("millichart draw --kind " + kind + " in/sales.csv -o d.svg");
         const std::string svg = Read("d.svg");
         EXPECT_EQ(svg.find("<desc>"), std::string::npos) << kind;
-        for (const char* foreign : {"made up", "quarter", "thousand", "Museum", "Coffee", "month", "region"}) {
+        for (const char* foreign :
+             {"made up", "quarter", "thousand", "Museum", "Coffee", "month", "region"}) {
             EXPECT_EQ(svg.find(foreign), std::string::npos) << kind << ": " << foreign;
         }
     }
@@ -85,10 +88,14 @@ TEST_F(FirstStep, SuitsItsData) {
     EXPECT_EQ(Count(Inspected("pie in/sales.csv"), "legendName"), 4U);
     EXPECT_EQ(Count(Inspected("bar in/drinks.csv --legend none"), "legendName"), 0U);
     EXPECT_EQ(Count(Inspected("line in/sales.csv --legend right"), "legendName"), 1U);
+    Write("titled.csv", std::string("Sales of 2024\n") + kSales);
+    EXPECT_NE(Inspected("bar titled.csv").find("\"Sales of 2024\\n\""), std::string::npos);
+    EXPECT_EQ(Count(Inspected("bar titled.csv --title Mine"), "Sales of 2024"), 0U);
 }
 
 TEST_F(FirstStep, KindsHaveTheNamesThatPeopleUse) {
-    for (const std::string name : {"bar", "Bars", "COLUMN", "column-chart", "histograms", "柱状图", "直方图"}) {
+    for (const std::string name :
+         {"bar", "Bars", "COLUMN", "column-chart", "histograms", "柱状图", "直方图"}) {
         EXPECT_NE(Inspected(name + " in/sales.csv").find("\"histogram\""), std::string::npos) << name;
     }
     for (const std::string name : {"line", "'Line chart'", "curves", "曲线", "折线图", "linechart"}) {
@@ -107,14 +114,17 @@ TEST_F(FirstStep, AFigureHasItsSize) {
                                      {"A6-landscape", "width=\"148mm\" height=\"105mm\""},
                                      {"4x3in", "width=\"101.6mm\" height=\"76.2mm\""}}) {
         for (const std::string kind : {"bar", "pie"}) {
-            EXPECT_EQ(Run("millichart draw --kind " + kind + " in/sales.csv -o d.svg --size " + size).Errors, "");
+            EXPECT_EQ(Run("millichart draw --kind " + kind + " in/sales.csv -o d.svg --size " + size).Errors,
+                      "");
             EXPECT_NE(Read("d.svg").find(head), std::string::npos) << size << Read("d.svg").substr(0, 300);
         }
     }
     const Outcome small = Run("millichart draw --kind bar in/sales.csv -o s.svg --size 8x6");
     EXPECT_EQ(small.Status, 1);
-    EXPECT_EQ(small.Errors.find("millichart: in/sales.csv: does not fit a figure of 8 x 6 mm; "), 0U) << small.Errors;
-    EXPECT_EQ(Run("millichart draw --kind bar in/sales.csv --page 80x60 --fit -o f.svg && millichart draw --kind bar "
+    EXPECT_EQ(small.Errors.find("millichart: in/sales.csv: does not fit a figure of 8 x 6 mm; "), 0U)
+        << small.Errors;
+    EXPECT_EQ(Run("millichart draw --kind bar in/sales.csv --page 80x60 --fit -o f.svg && millichart draw "
+                  "--kind bar "
                   "in/sales.csv --size 80x60 -o d.svg && cmp d.svg f.svg")
                   .Status,
               0);
@@ -123,9 +133,10 @@ TEST_F(FirstStep, AFigureHasItsSize) {
 /// Places that a document does not have are errors, and what is wrong is told of the option.
 TEST_F(FirstStep, SettingsReachEveryKey) {
     Write("d.json", cli_test::kSmallPie);
-    EXPECT_NE(Run("millichart inspect d.json --set data/values/1=7 --set property/PieLabelProp/ShowValueLabel=true")
-                  .Output.find("\"7.0\""),
-              std::string::npos);
+    EXPECT_NE(
+        Run("millichart inspect d.json --set data/values/1=7 --set property/PieLabelProp/ShowValueLabel=true")
+            .Output.find("\"7.0\""),
+        std::string::npos);
     const auto complaint = [this](const std::string& setting) {
         const Outcome outcome = Run("millichart draw d.json --set '" + setting + "'");
         EXPECT_EQ(outcome.Status, 1) << setting;
@@ -136,7 +147,8 @@ TEST_F(FirstStep, SettingsReachEveryKey) {
     EXPECT_EQ(complaint("property/PieBasicProp/FixedWidth=x"),
               "millichart: --set: property/PieBasicProp/FixedWidth: found \"x\", expected a number\n");
     EXPECT_EQ(complaint("kind/name=3"), "millichart: --set: kind/name: no such place in the document\n");
-    EXPECT_EQ(complaint("data/values/5=3"), "millichart: --set: data/values/5: no such place in the document\n");
+    EXPECT_EQ(complaint("data/values/5=3"),
+              "millichart: --set: data/values/5: no such place in the document\n");
     Write("lines.json", "{\"kind\": \"pie\",\n\"data\": {\"values\": [1]},\n\"Colour\": 1}");
     EXPECT_EQ(Run("millichart draw lines.json --set property/PieBasicProp/FixedSize=1").Errors,
               "millichart: lines.json:3: warning: Colour: an unknown key, ignored\n")
@@ -144,10 +156,12 @@ TEST_F(FirstStep, SettingsReachEveryKey) {
 }
 
 TEST_F(FirstStep, ATableNeedsAKind) {
-    EXPECT_EQ(Run("millichart draw in/sales.csv").Errors,
-              "millichart: in/sales.csv: is a table and no chart document; with --kind pie, bar or line it is "
-              "drawn\n");
-    EXPECT_EQ(Run("millichart draw --kind pie --data in/sales.csv && ls in").Output, "drinks.csv\nsales.csv\nsales.png\n");
+    EXPECT_EQ(
+        Run("millichart draw in/sales.csv").Errors,
+        "millichart: in/sales.csv: is a table and no chart document; with --kind pie, bar or line it is "
+        "drawn\n");
+    EXPECT_EQ(Run("millichart draw --kind pie --data in/sales.csv && ls in").Output,
+              "drinks.csv\nsales.csv\nsales.png\n");
     const Outcome bad = Run("printf 'a,x1\\nb,2\\n' | millichart draw --kind pie - -o d.png");
     EXPECT_EQ(bad.Errors.find("millichart: standard input:1: column 2: found \"x1\""), 0U) << bad.Errors;
     const Outcome two = Run("millichart draw --kind half-pie-histogram in/sales.csv");

@@ -6,7 +6,8 @@ using cli_test::kSmallPie;
 namespace {
 
 /// It draws with a warning.
-constexpr const char* kDoubtful = R"({"kind": "pie", "Colour": 1, "property": {"PieBasicProp": {"FixedSize": 1}},
+constexpr const char* kDoubtful =
+    R"({"kind": "pie", "Colour": 1, "property": {"PieBasicProp": {"FixedSize": 1}},
     "data": {"values": [1, 2.5]}})";
 
 } // namespace
@@ -63,11 +64,13 @@ TEST_F(Script, SeveralAtOnceAreAsOneAfterTheOther) {
 TEST_F(Script, AnOutputMayBeMadeOfNames) {
     Write("a.chart.json", kSmallPie);
     Write("b.json", kSmallPie);
-    EXPECT_EQ(Run("millichart draw a.chart.json b.json -o 'out/{name}-s.svg' && ls out").Output, "a-s.svg\nb-s.svg\n");
+    EXPECT_EQ(Run("millichart draw a.chart.json b.json -o 'out/{name}-s.svg' && ls out").Output,
+              "a-s.svg\nb-s.svg\n");
     const Outcome outcome = Run("millichart draw a.chart.json b.json -o x.png");
     EXPECT_EQ(outcome.Status, 2);
-    EXPECT_EQ(outcome.Errors, "millichart: -o x.png: is one picture for several inputs, expected a folder, or "
-                              "{name} in it\n");
+    EXPECT_EQ(outcome.Errors,
+              "millichart: -o x.png: is one picture for several inputs, expected a folder, or "
+              "{name} in it\n");
 }
 
 TEST_F(Script, DotsAreForPngAlone) {

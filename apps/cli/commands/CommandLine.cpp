@@ -49,9 +49,10 @@ void AddSource(CLI::App& command, ChartSource& source) {
 void AddPicture(CLI::App& draw, DrawOptions& options) {
     const std::string formats = FormatList();
     const std::string pageName = kPlatform.PageName;
-    draw.add_option("-o,--output", options.Output,
-                    "the picture, such as pictures/{name}.png for several; a folder for the pictures; or - for "
-                    "the standard output; without it NAME.chart.json becomes NAME.png beside it");
+    draw.add_option(
+        "-o,--output", options.Output,
+        "the picture, such as pictures/{name}.png for several; a folder for the pictures; or - for "
+        "the standard output; without it NAME.chart.json becomes NAME.png beside it");
     AddParsed<PictureFormat>(
         draw, "--format", options.Format,
         [](const std::string& text, PictureFormat& format) {
@@ -79,7 +80,8 @@ void AddVoice(CLI::App& command, bool& isStrict, Voice& voice) {
 }
 
 void AddDraw(CLI::App& app, DrawOptions& options) {
-    CLI::App& draw = *app.add_subcommand("draw", std::string("Draw charts as PNG, SVG or ") + kPlatform.PageName);
+    CLI::App& draw =
+        *app.add_subcommand("draw", std::string("Draw charts as PNG, SVG or ") + kPlatform.PageName);
     draw.add_option("FILE", options.Inputs, kInputsHelp);
     AddSource(draw, options.Source);
     AddPicture(draw, options);
@@ -110,8 +112,10 @@ void AddCheck(CLI::App& app, CheckOptions& options) {
 
 void AddInspect(CLI::App& app, InspectOptions& options) {
     CLI::App& inspect = *app.add_subcommand("inspect", "Show a chart's layout and drawing calls as JSON");
-    inspect.add_option("FILE", options.Inputs, "a chart document (JSON), or with --kind a table; - is the "
-                                               "standard input")
+    inspect
+        .add_option("FILE", options.Inputs,
+                    "a chart document (JSON), or with --kind a table; - is the "
+                    "standard input")
         ->expected(0, 1);
     AddSource(inspect, options.Source);
 }

@@ -42,9 +42,9 @@ SizeF PageOf(const DrawOptions& options, const RectF& extent, std::vector<Diagno
     }
     constexpr float kUnseen = 0.1F; // a figure that fills its page is as near
     if (extent.Width > options.Page->Width + kUnseen || extent.Height > options.Page->Height + kUnseen) {
-        problems.push_back(penlode::Warning("", "the chart of " +
-                                                    Millimetres({extent.Width, extent.Height}) +
-                                                    " is cut off by the page of " + Millimetres(*options.Page)));
+        problems.push_back(penlode::Warning("", "the chart of " + Millimetres({extent.Width, extent.Height}) +
+                                                    " is cut off by the page of " +
+                                                    Millimetres(*options.Page)));
     }
     return *options.Page;
 }

@@ -37,10 +37,8 @@ ChartDocument Make(const NewOptions& options) {
     if (!source.Data) {
         return ChartDocument::FromInput({"", std::string(source.Kind->Template)}, std::nullopt, settings);
     }
-    millichart::NewTable table;
-    table.Name = TableName(options.Output, *source.Data);
-    table.Table = table.Name.empty() ? ReadTableInput(*source.Data, source.Table)
-                                     : millichart::TableInput{{}, source.Table};
+    millichart::NewTable table{ReadTableInput(*source.Data, source.Table),
+                               TableName(options.Output, *source.Data)};
     const bool isFile = options.Output != kStandardStream;
     return millichart::NewDocument(*source.Kind, std::move(table), settings, isFile ? options.Output : "");
 }

@@ -50,7 +50,8 @@ std::string BaseName(const DrawOptions& options, const std::string& input) {
 /// What an output needs whose name tells no format.
 std::string NeededFormat(const DrawOptions& options) {
     if (!options.Output) {
-        return ShownName(options.Inputs.front()) + ": expected --format " + FormatList() + ", or -o FILE, with it";
+        return ShownName(options.Inputs.front()) + ": expected --format " + FormatList() +
+               ", or -o FILE, with it";
     }
     return "-o " + *options.Output +
            (options.Output == kStandardStream
@@ -122,7 +123,9 @@ void CheckOutputs(const DrawOptions& options) {
     if (options.Format) {
         RefuseOtherPage("--format", *options.Format);
     }
-    const bool hasDataBase = std::any_of(options.Inputs.begin(), options.Inputs.end(), [](const std::string& input) { return millichart::IsQuerySource(input); });
+    const bool hasDataBase =
+        std::any_of(options.Inputs.begin(), options.Inputs.end(),
+                    [](const std::string& input) { return millichart::IsQuerySource(input); });
     if (options.Output ? !IsFolder(options) : standard == 1 || hasDataBase) {
         CheckOneFile(options);
         CheckTerminal(options);
@@ -176,7 +179,8 @@ OutputName OutputOf(const DrawOptions& options, const std::string& input) {
     const PictureFormat format = options.Format.value_or(PictureFormat::Png);
     const fs::path folder =
         options.Output ? PathFromUtf8(*options.Output) : PathFromUtf8(input).parent_path();
-    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format, options.Output.value_or("")};
+    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format,
+            options.Output.value_or("")};
 }
 
 } // namespace cli

@@ -26,7 +26,8 @@ bool IsTable(const millichart::InputText& input) {
     std::string ending = millichart::Utf8FromPath(millichart::PathFromUtf8(input.Name).extension());
     std::transform(ending.begin(), ending.end(), ending.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    const bool isNamedSo = std::find(kTableEndings.begin(), kTableEndings.end(), ending) != kTableEndings.end();
+    const bool isNamedSo =
+        std::find(kTableEndings.begin(), kTableEndings.end(), ending) != kTableEndings.end();
     const std::size_t first = input.Text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
     const bool isDocument = first != std::string::npos && input.Text[first] == '{';
     return (isNamedSo && !isDocument && input.Fault.empty()) || input.Text.starts_with(kArchive);

@@ -15,7 +15,7 @@ struct ChartSource {
     std::optional<std::string> Data;             ///< a table that replaces a document's data
     millichart::TableOptions Table;              ///< how either is read
     cli::Look Look;
-    std::optional<penlode::SizeF> Figure; ///< mm, texts included; without one the document's own sizes
+    std::optional<penlode::SizeF> Figure;      ///< mm, texts included; without one the document's own sizes
     std::vector<millichart::Setting> Settings; ///< beside those of the look
 };
 
