@@ -9,6 +9,19 @@ endif()
 if(MILLICHART_DOCUMENTS)
   set(documents millichart-documents)
 endif()
+# What the static millichart-documents links, for CMake and for pkg-config.
+set(documents_packages Threads)
+set(documents_requires millichart)
+if(MILLICHART_SQLITE)
+  list(APPEND documents_packages SQLite3)
+  list(APPEND documents_requires sqlite3)
+endif()
+if(MILLICHART_ODBC)
+  list(APPEND documents_packages ODBC)
+  list(APPEND documents_requires odbc)
+endif()
+list(JOIN documents_packages " " documents_packages)
+list(JOIN documents_requires " " documents_requires)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/millichart)
 install(TARGETS millichart-core ${shared} ${documents} EXPORT millichartTargets)
 install(EXPORT millichartTargets NAMESPACE millichart:: DESTINATION ${package_folder})
@@ -18,8 +31,9 @@ if(TARGET millichart-editing)
   install(EXPORT millichartEditingTargets NAMESPACE millichart:: DESTINATION ${package_folder})
 endif()
 write_basic_package_version_file(millichartConfigVersion.cmake COMPATIBILITY SameMinorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake packaging/millichartConfig.cmake
-        DESTINATION ${package_folder})
+configure_file(packaging/millichartConfig.cmake.in millichartConfig.cmake @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/millichartConfigVersion.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/millichartConfig.cmake DESTINATION ${package_folder})
 
 # pkg-config has the shared libraries. Each file finds its prefix from where it lies, so that an installed tree may be
 # moved.

@@ -1,9 +1,9 @@
 # The headers that a host gets, as paths below src/: each that declares something a library exports, the one that
-# includes them all, that of the documents, and every header that one of these includes; but for those whose functions
+# includes them all, those of the documents, and every header that one of these includes; but for those whose functions
 # are in no library of this build.
 function(public_headers result)
-  set(waiting millichart.h documents/ChartDocument.h documents/tables/QueryWatch.h penlode/GraphicsEngine.h editing/ColorPane.h
-              editing/LineStyleComboBox.h editing/ListCtrlEx.h)
+  set(waiting millichart.h documents/ChartDocument.h documents/tables/QuerySource.h documents/tables/QueryWatch.h
+              penlode/GraphicsEngine.h editing/ColorPane.h editing/LineStyleComboBox.h editing/ListCtrlEx.h)
   if(NOT MILLICHART_ENGINES)
     set(absent penlode/GraphicsEngine.h penlode/RecordedCall.h penlode/cairo/ penlode/gdiplus/ penlode/recording/
                penlode/svg/)

@@ -17,6 +17,10 @@ _millichart() {
       COMPREPLY=($(compgen -W "96 150 300 600" -- "$current"))
       return
       ;;
+    --size)
+      COMPREPLY=($(compgen -W "80x60 8x6cm A5 A4-landscape" -- "$current"))
+      return
+      ;;
     --page)
       COMPREPLY=($(compgen -W "210x297 297x210" -- "$current"))
       return
@@ -45,10 +49,10 @@ _millichart() {
   if [[ $current == -* && $previous != -o && $previous != --output && $previous != --data ]]; then
     local options="--help"
     options+=" --data --query --sheet --columns --header --no-header --transpose --sort --top --decimal"
-    options+=" --title --x-title --y-title --log --stacked --3d --legend --set"
+    options+=" --title --x-title --y-title --log --stacked --3d --legend --size --set"
     case $command in
       draw)
-        options+=" --kind --output --format --dpi --page --background --outlines"
+        options+=" --kind --output --format --dpi --page --fit --background --outlines"
         options+=" --strict --quiet --json --jobs --verbose"
         ;;
       new) options+=" --output --force" ;;

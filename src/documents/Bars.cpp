@@ -5,6 +5,7 @@
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
 #include "documents/doubts/BarWording.h"
+#include "documents/tables/TableKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,7 +65,7 @@ void Bars::Load(ChartStream& stream, const DataSource& source) {
 
 void Bars::Save(SavingStream& stream) const {
     stream.Push("data", -1);
-    stream.ReplaceTable(m_csvKey, {kGroups, kTableNames});
+    stream.ReplaceTable(TableKeys(m_csvKey), {kGroups, kTableNames});
     stream.Note(kTableNames, m_data.ComponentNames);
     stream.Groups(kGroups, m_data.Values.size(), m_data.GroupNames,
                   [&](std::size_t group) { stream.Numbers("values", m_data.Values[group]); });

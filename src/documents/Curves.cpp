@@ -5,6 +5,7 @@
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
 #include "documents/doubts/Wording.h"
+#include "documents/tables/TableKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -195,7 +196,7 @@ void Curves::Load(ChartStream& stream, const DataSource& source) {
 
 void Curves::Save(SavingStream& stream) const {
     stream.Push("data", -1);
-    stream.ReplaceTable("csv", {kCurves, "labels"});
+    stream.ReplaceTable(TableKeys("csv"), {kCurves, "labels"});
     stream.Groups(kCurves, m_data.Values.size(), m_data.CurveNames, [&](std::size_t curve) {
         stream.Numbers("values", WithGaps(m_data.Values[curve]));
         const Times times = curve < m_data.Times.size() ? m_data.Times[curve] : Times();

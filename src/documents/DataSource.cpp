@@ -2,7 +2,10 @@
 
 #include "documents/Fields.h"
 #include "documents/tables/QuerySource.h"
+#include "documents/tables/TableKeys.h"
 #include "penlode/text/StringUtil.h"
+
+#include <utility>
 
 namespace millichart::documents {
 namespace {
@@ -31,58 +34,43 @@ void LoadGroups(ChartStream& stream, const ListForm& form, std::vector<std::stri
     }
 }
 
-/// The data base that a document names, with its query. Nothing without one, or when the document names what
-/// it must not.
-std::optional<TableInput> LoadQuery(ChartStream& stream, const char* key, const DataSource& source) {
-    constexpr const char* kSource = "source";
-    if (!stream.Has(kSource)) {
+/// What the document names, from its folder. Nothing if it must not name that.
+std::optional<TableInput> OpenNamed(const std::string& name, const std::string& place, TableOptions options,
+                                    const DataSource& source) {
+    if (!IsQuerySource(name)) {
+        source.Files->push_back(Utf8FromPath(source.Folder / PathFromUtf8(name)));
+        return TableInput{ReadFile(source.Files->back(), NamedBy::Document), std::move(options)};
+    }
+    if (const std::string expected = ExpectedOfDocument(name); !expected.empty()) {
+        // Not by the stream, which shows a text as it stands, with its password.
+        source.Diagnostics->push_back(
+            penlode::Error(place, '"' + penlode::Shortened(ShownSource(name)) + '"', expected));
         return std::nullopt;
     }
-    const std::string named = penlode::CStringUtil::AnsiToUtf8(LoadText(stream, kSource, ""));
-    TableInput input{{QuerySourceIn(source.Folder, named)}};
-    input.Options.Query = penlode::CStringUtil::AnsiToUtf8(LoadText(stream, "query", ""));
-    std::string expected = IsQuerySource(named) ? ExpectedOfDocument(named) : "sqlite:FILE or odbc:DSN";
-    if (stream.Has(key)) {
-        expected = std::string("either ") + key + " or " + kSource + ", not both";
+    const std::string resolved = QuerySourceIn(source.Folder, name);
+    if (const std::string file = FileOfQuerySource(resolved); !file.empty()) {
+        source.Files->push_back(file);
     }
-    if (!expected.empty()) {
-        // Not by the stream, which shows a value as it stands, with its password.
-        source.Diagnostics->push_back(penlode::Error(
-            stream.PlaceOf(kSource), '"' + penlode::Shortened(ShownSource(named)) + '"', expected));
-        return std::nullopt;
-    }
-    return input;
+    return QueryInput(resolved, std::move(options));
 }
 
 } // namespace
 
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
                                const TableForm& form, const char* csvKey) {
-    const bool isNamed = stream.Has(csvKey);
-    const std::string named = isNamed ? LoadText(stream, csvKey, "") : "";
-    if (isNamed && stream.Has(key)) {
-        stream.Refuse(csvKey, named, std::string("either ") + key + " or " + csvKey + ", not both");
-    }
-    const bool isName = !named.empty() && named.find('\0') == std::string::npos;
-    if (isNamed && !isName) {
-        stream.Refuse(csvKey, named, "the name of a CSV file");
-    }
+    const std::string named = LoadTableName(stream, csvKey, key);
+    TableOptions options = LoadTableOptions(stream, csvKey);
     if (source.Table != nullptr) {
+        source.Table->Options = Merged(std::move(source.Table->Options), options);
         return ReadTable(*source.Table, form, *source.Diagnostics);
     }
-    if (const std::optional<TableInput> query = LoadQuery(stream, key, source)) {
-        if (const std::string base = FileOfQuerySource(query->Input.Name); !base.empty()) {
-            source.Files->push_back(base);
-        }
-        return ReadTable(*query, form, *source.Diagnostics);
-    }
-    if (!isName) {
+    if (named.empty()) {
         return std::nullopt;
     }
-    const std::string file =
-        Utf8FromPath(source.Folder / PathFromUtf8(penlode::CStringUtil::AnsiToUtf8(named)));
-    source.Files->push_back(file);
-    return ReadTable({ReadFile(file, NamedBy::Document)}, form, *source.Diagnostics);
+    const std::optional<TableInput> input = OpenNamed(
+        penlode::CStringUtil::AnsiToUtf8(named),
+        stream.PlaceOf(stream.Has(csvKey) ? csvKey : TableKeys(csvKey)[1]), std::move(options), source);
+    return input ? std::optional(ReadTable(*input, form, *source.Diagnostics)) : std::nullopt;
 }
 
 std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, const ListForm& form,
@@ -92,7 +80,7 @@ std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, con
     std::optional<Table> table = LoadTable(stream, form.Key, source, form.Table, form.CsvKey);
     if (stream.Has(form.Key)) {
         LoadGroups(stream, form, names, load);
-    } else if (!table && !stream.Has(form.CsvKey) && !stream.Has("source") && (isGroup || isMissing)) {
+    } else if (!table && !NamesTable(stream, form.CsvKey) && (isGroup || isMissing)) {
         source.Diagnostics->push_back(
             penlode::Error(std::string("data/") + form.Key, "no such key",
                            std::string(form.Expected) + ", or " + form.CsvKey + " with a file"));

@@ -14,14 +14,14 @@ namespace millichart::documents {
 /// Where a chart's data may come from besides its document, and where to tell what is wrong with it.
 struct DataSource {
     std::filesystem::path Folder; ///< the document's; a table that it names stands there
-    const TableInput* Table;      ///< replaces the document's own data; null without one
+    /// Replaces the document's own data; null without one. Takes the document's options where it has none.
+    TableInput* Table;
     std::vector<penlode::Diagnostic>* Diagnostics;
     std::vector<std::string>* Files; ///< takes the name of each table that the document names
 };
 
 /// The table that a chart's data are in: the one that replaces them, or that of the file under `csvKey` in
-/// the stream's current group. Nothing when the data stand in the document. A document with both `csvKey` and
-/// `key`, under which its own data stand, is refused.
+/// the stream's current group; see TableKeys.h. Nothing when the data stand in the document, under `key`.
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
                                const TableForm& form, const char* csvKey = "csv");
 

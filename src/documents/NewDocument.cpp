@@ -1,6 +1,8 @@
 #include "documents/NewDocument.h"
 
 #include "documents/ChartLayouts.h"
+#include "documents/tables/QuerySource.h"
+#include "documents/tables/Table.h"
 #include "penlode/streams/JsonSerializeStream.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -33,9 +35,9 @@ constexpr std::array kGroups{"property/CaptionProp",
 constexpr std::array kTexts{"title", "description", "source", "Caption", "VerCaption"};
 constexpr std::array kFlags{"ShowCaption", "ShowVerCaption"};
 /// They follow the data where a document leaves them open.
-constexpr std::array kOfData{"ComponentName",  "ComponentColor", "CurveName",     "CurveColor",
-                             "CurveWidth",     "CurveDashStyle", "CurveDotStyle", "CurveDotColor",
-                             "CurveDotWidth",  "NullValueStyle", "ScaleStep",     "LabelStep",
+constexpr std::array kOfData{"ComponentName", "ComponentColor", "CurveName",     "CurveColor",
+                             "CurveWidth",    "CurveDashStyle", "CurveDotStyle", "CurveDotColor",
+                             "CurveDotWidth", "NullValueStyle", "ScaleStep",     "LabelStep",
                              "VerGridStep"};
 
 constexpr std::array kOrderNames{"", "ascending", "descending", "name"};
@@ -105,6 +107,25 @@ void SaveOptions(CJsonSerializeStream& json, const TableOptions& options) {
     }
 }
 
+/// The title that stands above a table's heading; of a data base there is none.
+std::string TitleAbove(const TableInput& table) {
+    const bool isThere = !IsQuerySource(table.Input.Name) && table.Input.Fault.empty();
+    return isThere ? documents::TableTitle(table) : "";
+}
+
+/// Also as the caption, if the kind has one; the line break keeps it off the plot.
+void SaveTitle(CJsonSerializeStream& json, const std::string& title) {
+    SaveText(json, "title", title);
+    json.Push("property", -1);
+    if (!title.empty() && json.Has("CaptionProp")) {
+        json.Push("CaptionProp", -1);
+        SaveText(json, "Caption", title + "\n");
+        json.Set("property/CaptionProp/ShowCaption", "true");
+        json.Pop();
+    }
+    json.Pop();
+}
+
 /// The kind's example without what is of its own data, on a table if that has a name.
 std::string EmptyDocument(const ChartKind& kind, const NewTable& table) {
     CJsonSerializeStream json(kind.Template);
@@ -113,10 +134,11 @@ std::string EmptyDocument(const ChartKind& kind, const NewTable& table) {
     for (const char* const group : kGroups) {
         EmptyBelow(json, group, "");
     }
+    SaveTitle(json, TitleAbove(table.Table));
     json.Remove("data");
     if (!table.Name.empty()) {
         json.Push("data", -1);
-        SaveText(json, table.Table.Options.Query.empty() ? "csv" : "source", table.Name);
+        SaveText(json, IsQuerySource(table.Name) ? "source" : "csv", table.Name);
         SaveOptions(json, table.Table.Options);
         json.Pop();
     }
@@ -164,9 +186,8 @@ public:
 
 private:
     bool IsAsked(const std::string& place) const {
-        return std::any_of(m_settings.begin(), m_settings.end(), [&place](const Setting& setting) {
-            return IsPlaceIn(place, setting.Place);
-        });
+        return std::any_of(m_settings.begin(), m_settings.end(),
+                           [&place](const Setting& setting) { return IsPlaceIn(place, setting.Place); });
     }
 
     void SetFlag(const std::string& place, std::int32_t& flag, bool isSet) const {
@@ -177,7 +198,8 @@ private:
 
     /// The name of what alone is shown.
     template <class VerAxis>
-    void SetValueCaption(const std::string& place, VerAxis& axis, const std::vector<std::string>& names) const {
+    void SetValueCaption(const std::string& place, VerAxis& axis,
+                         const std::vector<std::string>& names) const {
         const bool isNamed = names.size() == 1 && !names.front().empty();
         if (isNamed && !IsAsked(place + "/VerCaption") && !IsAsked(place + "/ShowVerCaption")) {
             axis.ShowVerCaption = 1;

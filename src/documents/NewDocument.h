@@ -17,9 +17,9 @@ struct NewTable {
 };
 
 /// A complete document of a kind on a table, without any of the texts and figures of the kind's example. What
-/// the settings leave open suits the data: a legend for several series, a caption of the value axis for one,
-/// values at bars where they are few. `file` is what the document is called; a table that it names is looked
-/// for beside it. Its diagnostics tell what is wrong.
+/// the settings leave open suits the data: the title above the table, a legend for several series, a caption
+/// of the value axis for one, values at bars where they are few. `file` is what the document is called; a
+/// table that it names is looked for beside it. Its diagnostics tell what is wrong.
 ChartDocument NewDocument(const ChartKind& kind, NewTable table, const std::vector<Setting>& settings = {},
                           const std::string& file = {});
 

@@ -136,7 +136,7 @@ void SavingStream::Remove(const std::string& tag) {
     Take(tag, 0, [&] { m_json->Remove(tag); });
 }
 
-void SavingStream::ReplaceTable(const std::string& csv, const std::vector<std::string>& tags) {
+void SavingStream::ReplaceTable(const std::vector<std::string>& keys, const std::vector<std::string>& tags) {
     const bool isReplaced =
         m_json != nullptr && std::any_of(tags.begin(), tags.end(), [this](const std::string& tag) {
             const std::string place = PlaceOf(tag);
@@ -148,8 +148,10 @@ void SavingStream::ReplaceTable(const std::string& csv, const std::vector<std::s
     }
     bool hadTable = false;
     InGroup([&] {
-        hadTable = m_json->Has(csv);
-        m_json->Remove(csv);
+        for (const std::string& key : keys) {
+            hadTable = hadTable || m_json->Has(key);
+            m_json->Remove(key);
+        }
     });
     for (std::size_t i = 0; hadTable && i < tags.size(); ++i) {
         m_rewritten.push_back(PlaceOf(tags[i]));

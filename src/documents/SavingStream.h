@@ -55,9 +55,9 @@ public:
     /// Why the document cannot be saved; empty when it can.
     const std::string& Fault() const { return m_fault; }
 
-    /// In the place of a table that the document names under `csv` come what it gave, under these tags of the
-    /// current group, once any of it has changed.
-    void ReplaceTable(const std::string& csv, const std::vector<std::string>& tags);
+    /// In the place of a table that the document names and describes under `keys` comes what it gave, under
+    /// these tags of the current group, once any of it has changed.
+    void ReplaceTable(const std::vector<std::string>& keys, const std::vector<std::string>& tags);
 
     int GetSize() override { return 0; }
 

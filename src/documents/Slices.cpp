@@ -2,6 +2,7 @@
 
 #include "documents/Fields.h"
 #include "documents/Palette.h"
+#include "documents/tables/TableKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -97,8 +98,9 @@ void Slices::LoadHalf(ChartStream& stream, const DataSource& source, bool isRepl
         return;
     }
     stream.Push(m_half, -1);
-    if (isReplaced && stream.Has("csv")) {
-        LoadText(stream, "csv", "");
+    if (isReplaced && NamesTable(stream, "csv")) {
+        LoadTableName(stream, "csv", kValues);
+        LoadTableOptions(stream, "csv");
     } else {
         LoadHere(stream, source);
     }
@@ -130,10 +132,10 @@ void Slices::Save(SavingStream& stream) const {
     stream.CheckJoined(m_record + kNames, m_names);
     stream.Push("data", -1);
     if (!m_half.empty()) {
-        stream.ReplaceTable("csv", {kFirst, kSecond});
+        stream.ReplaceTable(TableKeys("csv"), {kFirst, kSecond});
         stream.Push(m_half, -1);
     }
-    stream.ReplaceTable("csv", {kValues, kTableNames});
+    stream.ReplaceTable(TableKeys("csv"), {kValues, kTableNames});
     stream.Numbers(kValues, m_data.Values);
     stream.Note(kTableNames, m_data.Names);
     if (!m_half.empty()) {

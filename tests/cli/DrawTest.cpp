@@ -226,7 +226,18 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
                                   "draw a.json a.json -o -",
                                   "draw a.json a.json --data x.csv",
                                   "new",
-                                  "new bar",
+                                  "new bra",
+                                  "new pie --log",
+                                  "draw a.json --columns 1,2",
+                                  "draw --kind pie",
+                                  "draw --kind pie a.csv --3d --stacked",
+                                  "draw a.json --set x",
+                                  "draw a.json --size 80",
+                                  "draw a.json --fit",
+                                  "draw a.json --jobs 0",
+                                  "draw a.json -o {x}.png",
+                                  "draw a.json a.json -o a.png",
+                                  "help drow",
                                   "check",
                                   "inspect a.json a.json"}) {
         const Outcome outcome = Run(std::string("millichart ") + arguments + " </dev/null");
@@ -235,6 +246,13 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
         EXPECT_EQ(outcome.Output, "") << arguments;
     }
     EXPECT_EQ(Run("ls").Output, "a.json\n");
+    EXPECT_NE(Run("millichart help drow").Errors.find("Subcommands:"), std::string::npos);
+    EXPECT_NE(Run("millichart help draw").Output.find("--output"), std::string::npos);
+    EXPECT_EQ(Run("millichart --help >/dev/full").Status, 1);
+    EXPECT_EQ(Run("millichart draw a.json -o '{nam}.png'").Errors,
+              "millichart: -o {nam}.png: found {nam}, expected {name}, the input's name\n");
+    EXPECT_EQ(Run("millichart draw --kind pie a.json --log").Errors,
+              "millichart: --log: not for the kind pie, expected histogram or curve\n");
     EXPECT_EQ(Run("millichart draw --help").Status, 0);
     EXPECT_EQ(Run("millichart draw - <a.json").Errors,
               "millichart: standard input: expected --format png, svg or pdf, or -o FILE, with it\n");

@@ -34,8 +34,8 @@ TEST_F(QueryCommand, TellsWhatIsWrongWithSourceAndAnswer) {
         {"select * from none", "sqlite:e.db", "e.db: cannot be read: no such table: none"},
         {"select 'a' as a, -1 as b", "sqlite:e.db", "e.db:2: column 2: found -1, expected 0 or more"},
         {"select 1", "sqlite:none.db", "none.db: cannot be read: No such file or directory"},
-        {"select 1", "mysql:here",
-         "d.json:2: data/source: found \"mysql:here\", expected sqlite:FILE or odbc:DSN"},
+        {" ", "sqlite:e.db",
+         "e.db: no query, expected one such as \"select region, sum(value) from sales group by region\""},
         {"select 1", "odbc:a;PWD=s3cret",
          "d.json:2: data/source: found \"odbc:a;PWD=***\", expected no password in a document; the driver "
          "finds it in odbc.ini or in a file of its own, such as PGPASSFILE"},

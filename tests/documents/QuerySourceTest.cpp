@@ -39,11 +39,15 @@ TEST(QuerySource, ADocumentNamesNeitherPasswordsNorWhatIsLoadedOrWritten) {
           "odbc:Database={a;ConnSettings=b", "odbc:Server={a}};ConnSettings=b}", "odbc:DSN=a;stray"}) {
         EXPECT_NE(ExpectedOfDocument(source), "") << source;
     }
-    const auto document = ChartDocument::FromText(
-        R"({"kind": "pie", "data": {"source": "odbc:DSN=a;PWD=s3cret", "query": "select 1"}})");
-    EXPECT_FALSE(document.IsSound());
-    for (const penlode::Diagnostic& diagnostic : document.Diagnostics()) {
-        EXPECT_EQ(diagnostic.Text.find("s3cret"), std::string::npos) << diagnostic.Text;
+    const std::string source = R"("odbc:DSN=a;PWD=s3cret")";
+    for (const std::string& data :
+         {"\"source\": " + source, "\"csv\": " + source, "\"values\": [1], \"source\": " + source}) {
+        const auto document = ChartDocument::FromText(R"({"kind": "pie", "data": {)" + data + "}}");
+        EXPECT_FALSE(document.IsSound()) << data;
+        for (const penlode::Diagnostic& diagnostic : document.Diagnostics()) {
+            EXPECT_EQ((diagnostic.File + diagnostic.Text).find("s3cret"), std::string::npos)
+                << diagnostic.Text;
+        }
     }
 }
 

@@ -1,4 +1,5 @@
 #include "documents/tables/Query.h"
+#include "documents/tables/QuerySource.h"
 #include "documents/tables/QueryWatch.h"
 #include "support/Shell.h"
 
@@ -29,9 +30,7 @@ protected:
     }
 
     TableInput Asked(const std::string& query, const std::string& file = "s.db") const {
-        TableInput input{{"sqlite:" + m_folder.Path(file)}};
-        input.Options.Query = query;
-        return input;
+        return QueryInput("sqlite:" + m_folder.Path(file), {.Query = query});
     }
 
     /// All rows, a line each with | between the cells; or why there are none.

@@ -3,6 +3,7 @@
 #include "commands/ParsedOption.h"
 #include "documents/ChartContent.h"
 #include "files/Streams.h"
+#include "pages/PaperSize.h"
 
 #include <algorithm>
 #include <charconv>
@@ -72,9 +73,10 @@ struct Settings {
 
 void AddTableOptions(CLI::App& command, ChartSource& source) {
     TableOptions& table = source.Table;
-    command.add_option("--data", source.Data,
-                       "a table that replaces the document's data: a CSV or spreadsheet file, or a data base, "
-                       "sqlite:FILE or odbc:SOURCE");
+    command.add_option(
+        "--data", source.Data,
+        "a table that replaces the document's data: a CSV or spreadsheet file, or a data base, "
+        "sqlite:FILE or odbc:SOURCE");
     command.add_option("--query", table.Query, "what to ask of a data base, in SQL");
     command.add_option("--sheet", table.Sheet, "of a spreadsheet file; without it the first");
     AddParsed<std::vector<std::string>>(
@@ -82,8 +84,9 @@ void AddTableOptions(CLI::App& command, ChartSource& source) {
         "columns by their headings or numbers from 1, such as Region,3; without it all");
     CLI::Option* const header = command.add_flag_function(
         "--header", [&table](std::int64_t) { table.HasHeading = true; }, "the first row is a heading");
-    command.add_flag_function(
-               "--no-header", [&table](std::int64_t) { table.HasHeading = false; }, "there is no heading")
+    command
+        .add_flag_function(
+            "--no-header", [&table](std::int64_t) { table.HasHeading = false; }, "there is no heading")
         ->excludes(header);
     command.add_flag("--transpose", table.IsTransposed, "a row of the table is a column");
     AddParsed<TableOrder>(command, "--sort", table.Order, ParseOrder, "ascending, descending or name",
@@ -105,20 +108,23 @@ void AddLookOptions(CLI::App& command, ChartSource& source) {
     AddParsed<std::string>(command, "--legend", look.Legend, ParseLegend,
                            "none, or right, top-left, BottomCenter and the like",
                            "where the legend stands: right, top-left, BottomCenter and the like, or none");
-    command.add_option_function<std::vector<std::string>>(
-               "--set",
-               [&source](const std::vector<std::string>& texts) {
-                   for (const std::string& text : texts) {
-                       millichart::Setting setting;
-                       if (!ParseSetting(text, setting)) {
-                           throw CLI::ValidationError("--set", "found \"" + text +
-                                                                   "\", expected PLACE=VALUE, such as "
-                                                                   "property/PieBasicProp/FixedWidth=40");
-                       }
-                       source.Settings.push_back(std::move(setting));
-                   }
-               },
-               "PLACE=VALUE: any key of the document; may be given several times")
+    AddParsed<penlode::SizeF>(command, "--size", source.Figure, ParseSize, kSizeForm,
+                              "the whole figure: 80x60 in mm, 8x6cm, 3x2in, A5, A4-landscape");
+    command
+        .add_option_function<std::vector<std::string>>(
+            "--set",
+            [&source](const std::vector<std::string>& texts) {
+                for (const std::string& text : texts) {
+                    millichart::Setting setting;
+                    if (!ParseSetting(text, setting)) {
+                        throw CLI::ValidationError("--set", "found \"" + text +
+                                                                "\", expected PLACE=VALUE, such as "
+                                                                "property/PieBasicProp/FixedWidth=40");
+                    }
+                    source.Settings.push_back(std::move(setting));
+                }
+            },
+            "PLACE=VALUE: any key of the document; may be given several times")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
@@ -145,14 +151,16 @@ void AddKindOption(CLI::App& command, ChartSource& source) {
 void CheckTable(const ChartSource& source, bool hasTable) {
     TableOptions options = source.Table;
     if (!hasTable && options != TableOptions()) {
-        throw UsageError("--sheet, --query, --columns and what else tells how a table is read: expected --data "
-                         "with it, or --kind");
+        throw UsageError(
+            "--sheet, --query, --columns and what else tells how a table is read: expected --data "
+            "with it, or --kind");
     }
     if (source.Kind != nullptr) {
         static_cast<void>(SettingsOf(source.Look, *source.Kind));
         if (hasTable && source.Kind->Name == std::string_view("half-pie-histogram")) {
-            throw UsageError("half-pie-histogram: needs two tables, expected a document that names them under "
-                             "data/csv and data/groupsCsv");
+            throw UsageError(
+                "half-pie-histogram: needs two tables, expected a document that names them under "
+                "data/csv and data/groupsCsv");
         }
     }
 }

@@ -5,6 +5,7 @@
 #include "documents/ChartContent.h"
 #include "files/Console.h"
 #include "files/Streams.h"
+#include "pages/PaperSize.h"
 #include "pages/Platform.h"
 #include "penlode/streams/TextForms.h"
 
@@ -16,22 +17,11 @@
 namespace cli {
 namespace {
 
-constexpr float kMaxPage = 5000.0F;
 constexpr double kMinDpi = 10.0;
 constexpr double kMaxDpi = 2400.0;
 constexpr std::size_t kMaxJobs = 256;
 constexpr std::array kCommands{"draw", "new", "check", "inspect"};
 constexpr const char* kInputsHelp = "chart documents (JSON), or with --kind tables; - is the standard input";
-
-bool ParseSide(std::string text, float& side) {
-    return penlode::ser_evaluate(side, text, false) && side > 0.0F && side <= kMaxPage;
-}
-
-bool ParsePage(const std::string& text, penlode::SizeF& page) {
-    const std::size_t cross = text.find_first_of("xX");
-    return cross != std::string::npos && ParseSide(text.substr(0, cross), page.Width) &&
-           ParseSide(text.substr(cross + 1), page.Height);
-}
 
 bool ParseDpi(std::string text, double& dpi) {
     return penlode::ser_evaluate(dpi, text, false) && dpi >= kMinDpi && dpi <= kMaxDpi;
@@ -59,9 +49,10 @@ void AddSource(CLI::App& command, ChartSource& source) {
 void AddPicture(CLI::App& draw, DrawOptions& options) {
     const std::string formats = FormatList();
     const std::string pageName = kPlatform.PageName;
-    draw.add_option("-o,--output", options.Output,
-                    "the picture, such as pictures/{name}.png for several; a folder for the pictures; or - for "
-                    "the standard output; without it NAME.chart.json becomes NAME.png beside it");
+    draw.add_option(
+        "-o,--output", options.Output,
+        "the picture, such as pictures/{name}.png for several; a folder for the pictures; or - for "
+        "the standard output; without it NAME.chart.json becomes NAME.png beside it");
     AddParsed<PictureFormat>(
         draw, "--format", options.Format,
         [](const std::string& text, PictureFormat& format) {
@@ -72,10 +63,10 @@ void AddPicture(CLI::App& draw, DrawOptions& options) {
         formats, formats + ", where the name of -o does not tell");
     AddParsed<double>(draw, "--dpi", options.Dpi, ParseDpi, "a number from 10 to 2400",
                       "dots per inch of a PNG, from 10 to 2400; without it 96");
-    AddParsed<penlode::SizeF>(
-        draw, "--page", options.Page, ParsePage,
-        "WIDTHxHEIGHT in mm, each at most 5000, such as 210x297",
-        "WIDTHxHEIGHT in mm, with the chart in its middle; without it the chart and a margin of 5 mm");
+    AddParsed<penlode::SizeF>(draw, "--page", options.Page, ParseSize, kSizeForm,
+                              "WIDTHxHEIGHT in mm, with the chart in its middle, or as of --size; without it "
+                              "the chart and a margin of 5 mm");
+    draw.add_flag("--fit", options.FillsPage, "the figure fills --page");
     AddParsed<penlode::Color>(
         draw, "--background", options.Background, ParseBackground, "a colour such as #FF336699, or none",
         "#RRGGBB, #AARRGGBB or none; without it white, for " + pageName + " the bare paper");
@@ -89,7 +80,8 @@ void AddVoice(CLI::App& command, bool& isStrict, Voice& voice) {
 }
 
 void AddDraw(CLI::App& app, DrawOptions& options) {
-    CLI::App& draw = *app.add_subcommand("draw", std::string("Draw charts as PNG, SVG or ") + kPlatform.PageName);
+    CLI::App& draw =
+        *app.add_subcommand("draw", std::string("Draw charts as PNG, SVG or ") + kPlatform.PageName);
     draw.add_option("FILE", options.Inputs, kInputsHelp);
     AddSource(draw, options.Source);
     AddPicture(draw, options);
@@ -120,10 +112,25 @@ void AddCheck(CLI::App& app, CheckOptions& options) {
 
 void AddInspect(CLI::App& app, InspectOptions& options) {
     CLI::App& inspect = *app.add_subcommand("inspect", "Show a chart's layout and drawing calls as JSON");
-    inspect.add_option("FILE", options.Inputs, "a chart document (JSON), or with --kind a table; - is the "
-                                               "standard input")
+    inspect
+        .add_option("FILE", options.Inputs,
+                    "a chart document (JSON), or with --kind a table; - is the "
+                    "standard input")
         ->expected(0, 1);
     AddSource(inspect, options.Source);
+}
+
+/// A figure of a size is its own page, and one that fills a page is as large.
+void SettlePage(DrawOptions& options) {
+    if (options.FillsPage && (!options.Page || options.Source.Figure)) {
+        throw UsageError("--fit: expected --page with it, and no --size");
+    }
+    if (options.FillsPage) {
+        options.Source.Figure = options.Page;
+    }
+    if (options.Source.Figure && !options.Page) {
+        options.Page = options.Source.Figure;
+    }
 }
 
 bool IsCommand(const std::string& word) {
@@ -191,6 +198,7 @@ Wish ParseCommandLine(std::vector<std::string> arguments) {
     }
     if (app.got_subcommand("draw")) {
         Settle(draw.Inputs, draw.Source);
+        SettlePage(draw);
         return draw;
     }
     if (app.got_subcommand("new")) {

@@ -20,6 +20,7 @@ struct DrawOptions {
     std::optional<std::string> Output; ///< a file, a folder, a pattern, or "-" for the standard output
     std::optional<PictureFormat> Format;
     std::optional<penlode::SizeF> Page; ///< mm; without one the chart and a margin of 5 mm
+    bool FillsPage = false;
     std::optional<penlode::Color> Background;
     std::optional<double> Dpi; ///< of a PNG; without it 96
     bool TextAsOutlines = false;

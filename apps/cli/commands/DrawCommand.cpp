@@ -1,10 +1,11 @@
 #include "commands/Commands.h"
 #include "commands/Crew.h"
-#include "commands/Json.h"
 #include "commands/OutputNames.h"
 #include "files/Console.h"
 #include "files/Streams.h"
 #include "pages/LoadedChart.h"
+#include "pages/PaperSize.h"
+#include "penlode/text/StringUtil.h"
 
 #include <new>
 #include <set>
@@ -34,20 +35,16 @@ std::string CanonicalName(const std::string& name) {
     return error ? name : millichart::Utf8FromPath(path);
 }
 
-std::string Millimetres(SizeF size) {
-    return ToJson(static_cast<double>(size.Width)).dump() + " x " +
-           ToJson(static_cast<double>(size.Height)).dump() + " mm";
-}
-
 /// The page that was asked for, with a warning if the chart is larger; else the chart's own.
 SizeF PageOf(const DrawOptions& options, const RectF& extent, std::vector<Diagnostic>& problems) {
     if (!options.Page) {
         return {extent.Width + 2.0F * kMargin, extent.Height + 2.0F * kMargin};
     }
-    if (extent.Width > options.Page->Width || extent.Height > options.Page->Height) {
-        problems.push_back(penlode::Warning("", "the chart of " +
-                                                    Millimetres({extent.Width, extent.Height}) +
-                                                    " is cut off by the page of " + Millimetres(*options.Page)));
+    constexpr float kUnseen = 0.1F; // a figure that fills its page is as near
+    if (extent.Width > options.Page->Width + kUnseen || extent.Height > options.Page->Height + kUnseen) {
+        problems.push_back(penlode::Warning("", "the chart of " + Millimetres({extent.Width, extent.Height}) +
+                                                    " is cut off by the page of " +
+                                                    Millimetres(*options.Page)));
     }
     return *options.Page;
 }

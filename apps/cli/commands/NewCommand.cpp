@@ -1,5 +1,6 @@
 #include "commands/Commands.h"
 #include "documents/NewDocument.h"
+#include "documents/tables/QuerySource.h"
 #include "files/Streams.h"
 
 #include <filesystem>
@@ -11,20 +12,23 @@ namespace fs = std::filesystem;
 using millichart::ChartDocument;
 using millichart::PathFromUtf8;
 
-/// Beside a document with that name, or in the current folder for the standard output, a table's own name
-/// leads to it. What can be read only once has none.
-std::string NameBeside(const std::string& output, const std::string& table) {
+/// A file as a document calls it that becomes `output`, or is read in the current folder.
+std::string NameBeside(const std::string& output, const std::string& file) {
+    const fs::path path = PathFromUtf8(file);
+    const fs::path folder = output == kStandardStream ? fs::path() : PathFromUtf8(output).parent_path();
     std::error_code error;
-    const std::string file = FileOf(table);
-    const std::string scheme = table.substr(0, table.size() - file.size());
-    if (IsDataBase(file) || (scheme.empty() && !fs::is_regular_file(PathFromUtf8(file), error))) {
-        return IsDataBase(file) ? file : "";
+    const fs::path named = folder.empty() || path.is_absolute() ? path : fs::proximate(path, folder, error);
+    return millichart::Utf8FromPath(named.empty() ? path : named);
+}
+
+/// Empty for what can be read only once, which the document holds then.
+std::string TableName(const std::string& output, const std::string& table) {
+    if (const std::string base = millichart::FileOfQuerySource(table); !base.empty()) {
+        return table.substr(0, table.size() - base.size()) + NameBeside(output, base);
     }
-    const bool isHere = output == kStandardStream || !PathFromUtf8(output).has_parent_path();
-    const bool isFixed = isHere || PathFromUtf8(file).is_absolute();
-    const fs::path named = isFixed ? PathFromUtf8(file)
-                                   : fs::proximate(PathFromUtf8(file), PathFromUtf8(output).parent_path(), error);
-    return scheme + millichart::Utf8FromPath(named.empty() ? PathFromUtf8(file) : named);
+    std::error_code error;
+    const bool isFile = table != kStandardStream && fs::is_regular_file(PathFromUtf8(table), error);
+    return millichart::IsQuerySource(table) ? table : isFile ? NameBeside(output, table) : "";
 }
 
 ChartDocument Make(const NewOptions& options) {
@@ -33,10 +37,8 @@ ChartDocument Make(const NewOptions& options) {
     if (!source.Data) {
         return ChartDocument::FromInput({"", std::string(source.Kind->Template)}, std::nullopt, settings);
     }
-    millichart::NewTable table;
-    table.Name = NameBeside(options.Output, *source.Data);
-    table.Table = table.Name.empty() ? ReadTableInput(*source.Data, source.Table)
-                                     : millichart::TableInput{{}, source.Table};
+    millichart::NewTable table{ReadTableInput(*source.Data, source.Table),
+                               TableName(options.Output, *source.Data)};
     const bool isFile = options.Output != kStandardStream;
     return millichart::NewDocument(*source.Kind, std::move(table), settings, isFile ? options.Output : "");
 }
@@ -49,14 +51,16 @@ bool WriteNew(const NewOptions& options) {
         fs::is_regular_file(PathFromUtf8(options.Output), error)) {
         throw UserError(options.Output, "is there already; with --force it is written over");
     }
-    const ChartDocument document = Make(options);
+    ChartDocument document = Make(options);
     std::vector<Diagnostic> problems = document.Diagnostics();
+    FitFigure(document, options.Source, problems);
     TellOfOptions(ShownOutput(options.Output), options.Source, problems);
     TellProblems(problems);
-    if (document.IsSound()) {
+    const bool isGood = !millichart::HasErrors(problems);
+    if (isGood) {
         WriteOutput(options.Output, document.Text());
     }
-    return document.IsSound();
+    return isGood;
 }
 
 } // namespace cli

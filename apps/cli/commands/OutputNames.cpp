@@ -1,5 +1,6 @@
 #include "commands/OutputNames.h"
 
+#include "documents/tables/QuerySource.h"
 #include "files/Streams.h"
 #include "files/System.h"
 #include "pages/Platform.h"
@@ -30,7 +31,7 @@ bool IsFolder(const DrawOptions& options) {
 
 /// NAME for NAME.chart.json and NAME.json, and for a table of whatever ending.
 std::string BaseName(const DrawOptions& options, const std::string& input) {
-    if (input == kStandardStream || IsDataBase(input)) {
+    if (input == kStandardStream || millichart::IsQuerySource(input)) {
         return "chart";
     }
     const fs::path path = PathFromUtf8(input);
@@ -49,7 +50,8 @@ std::string BaseName(const DrawOptions& options, const std::string& input) {
 /// What an output needs whose name tells no format.
 std::string NeededFormat(const DrawOptions& options) {
     if (!options.Output) {
-        return ShownName(options.Inputs.front()) + ": expected --format " + FormatList() + ", or -o FILE, with it";
+        return ShownName(options.Inputs.front()) + ": expected --format " + FormatList() +
+               ", or -o FILE, with it";
     }
     return "-o " + *options.Output +
            (options.Output == kStandardStream
@@ -121,7 +123,9 @@ void CheckOutputs(const DrawOptions& options) {
     if (options.Format) {
         RefuseOtherPage("--format", *options.Format);
     }
-    const bool hasDataBase = std::any_of(options.Inputs.begin(), options.Inputs.end(), IsDataBase);
+    const bool hasDataBase =
+        std::any_of(options.Inputs.begin(), options.Inputs.end(),
+                    [](const std::string& input) { return millichart::IsQuerySource(input); });
     if (options.Output ? !IsFolder(options) : standard == 1 || hasDataBase) {
         CheckOneFile(options);
         CheckTerminal(options);
@@ -140,7 +144,8 @@ void RefuseToOverwrite(const std::string& output, const std::string& shownInput,
         read.push_back(*options.Source.Data);
     }
     for (const std::string& name : read) {
-        const std::string file = FileOf(name);
+        const std::string base = millichart::FileOfQuerySource(name);
+        const std::string& file = base.empty() ? name : base;
         if (file != kStandardStream && fs::equivalent(PathFromUtf8(file), PathFromUtf8(output), error)) {
             throw UserError(shownInput, "its picture would take the place of " + file);
         }
@@ -166,7 +171,7 @@ OutputName OutputOf(const DrawOptions& options, const std::string& input) {
         const auto told = options.Format ? options.Format : FormatOfName(name);
         return {name, *told, Utf8FromPath(PathFromUtf8(name).parent_path())};
     }
-    const bool toStandard = !options.Output && (input == kStandardStream || IsDataBase(input));
+    const bool toStandard = !options.Output && (input == kStandardStream || millichart::IsQuerySource(input));
     if (toStandard || (options.Output && !IsFolder(options))) {
         const std::string name = options.Output.value_or(kStandardStream);
         return {name, options.Format ? *options.Format : *FormatOfName(name)};
@@ -174,7 +179,8 @@ OutputName OutputOf(const DrawOptions& options, const std::string& input) {
     const PictureFormat format = options.Format.value_or(PictureFormat::Png);
     const fs::path folder =
         options.Output ? PathFromUtf8(*options.Output) : PathFromUtf8(input).parent_path();
-    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format, options.Output.value_or("")};
+    return {Utf8FromPath(folder / PathFromUtf8(base + EndingOf(format))), format,
+            options.Output.value_or("")};
 }
 
 } // namespace cli

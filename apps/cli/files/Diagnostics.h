@@ -20,8 +20,8 @@ std::string Printable(std::string_view text);
 /// they are.
 std::string ToLine(const Diagnostic& diagnostic);
 
-/// On one line each: of each file the first 50 errors and warnings and how many there are more, and the notes,
-/// those of the keys that are missing in a group on a line together.
+/// On one line each: of each file the first 50 errors and warnings and how many there are more, and the
+/// notes, those of the keys that are missing in a group on a line together.
 std::vector<std::string> ToLines(const std::vector<Diagnostic>& diagnostics);
 
 /// As JSON objects, one a line.

@@ -1,5 +1,6 @@
 #include "files/Streams.h"
 
+#include "documents/tables/QuerySource.h"
 #include "files/System.h"
 
 #include <cerrno>
@@ -10,7 +11,7 @@
 namespace cli {
 
 std::string ShownName(const std::string& name) {
-    return name == kStandardStream ? "standard input" : name;
+    return name == kStandardStream ? "standard input" : millichart::ShownSource(name);
 }
 
 std::string ShownOutput(const std::string& name) {

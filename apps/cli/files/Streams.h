@@ -35,7 +35,7 @@ inline constexpr const char* kTooLittleMemory = "there is too little memory";
 /// The file name that means the standard input or output.
 inline constexpr const char* kStandardStream = "-";
 
-/// How messages call an input.
+/// How messages call an input; without a data base's password.
 std::string ShownName(const std::string& name);
 
 /// How messages call an output.

@@ -1,6 +1,8 @@
 #include "pages/ChartSource.h"
 
+#include "documents/tables/QuerySource.h"
 #include "files/Streams.h"
+#include "pages/PaperSize.h"
 
 #include <algorithm>
 #include <array>
@@ -10,32 +12,22 @@
 namespace cli {
 namespace {
 
-constexpr std::array kDataBases{"sqlite:", "odbc:"};
 constexpr std::array<std::string_view, 6> kTableEndings{".csv", ".tsv", ".tab", ".txt", ".xlsx", ".ods"};
 /// Spreadsheet files are archives.
 constexpr std::string_view kArchive = "PK\x03\x04";
 
 } // namespace
 
-bool IsDataBase(const std::string& name) {
-    return std::any_of(kDataBases.begin(), kDataBases.end(),
-                       [&name](const char* scheme) { return name.starts_with(scheme); });
-}
-
-std::string FileOf(const std::string& name) {
-    const std::string_view scheme = kDataBases.front();
-    return name.starts_with(scheme) ? name.substr(scheme.size()) : name;
-}
-
 millichart::TableInput ReadTableInput(const std::string& name, const millichart::TableOptions& options) {
-    return {IsDataBase(name) ? millichart::InputText{name} : ReadInput(name), options};
+    return {millichart::IsQuerySource(name) ? millichart::InputText{name} : ReadInput(name), options};
 }
 
 bool IsTable(const millichart::InputText& input) {
     std::string ending = millichart::Utf8FromPath(millichart::PathFromUtf8(input.Name).extension());
     std::transform(ending.begin(), ending.end(), ending.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    const bool isNamedSo = std::find(kTableEndings.begin(), kTableEndings.end(), ending) != kTableEndings.end();
+    const bool isNamedSo =
+        std::find(kTableEndings.begin(), kTableEndings.end(), ending) != kTableEndings.end();
     const std::size_t first = input.Text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
     const bool isDocument = first != std::string::npos && input.Text[first] == '{';
     return (isNamedSo && !isDocument && input.Fault.empty()) || input.Text.starts_with(kArchive);
@@ -62,6 +54,15 @@ void TellOfOptions(const std::string& name, const ChartSource& source,
             told.File = name;
             told.Line = 0;
         }
+    }
+}
+
+void FitFigure(millichart::ChartDocument& document, const ChartSource& source,
+               std::vector<penlode::Diagnostic>& diagnostics) {
+    if (source.Figure && !millichart::HasErrors(diagnostics) && !document.FitTo(*source.Figure)) {
+        diagnostics.push_back(penlode::Error(
+            "", "does not fit a figure of " + Millimetres(*source.Figure) +
+                    "; expected a larger one, shorter texts or the legend elsewhere, or data to draw"));
     }
 }
 

@@ -15,17 +15,12 @@ struct ChartSource {
     std::optional<std::string> Data;             ///< a table that replaces a document's data
     millichart::TableOptions Table;              ///< how either is read
     cli::Look Look;
+    std::optional<penlode::SizeF> Figure;      ///< mm, texts included; without one the document's own sizes
     std::vector<millichart::Setting> Settings; ///< beside those of the look
 };
 
 /// A file, "-" for the standard input, or a data base, which is not read here.
 millichart::TableInput ReadTableInput(const std::string& name, const millichart::TableOptions& options);
-
-/// A data base rather than a file, as in "sqlite:sales.db"?
-bool IsDataBase(const std::string& name);
-
-/// The file that such a name means, or the name itself.
-std::string FileOf(const std::string& name);
 
 /// Is it a table by its name's ending, or by what stands in it, and no document?
 bool IsTable(const millichart::InputText& input);
@@ -37,5 +32,9 @@ std::vector<millichart::Setting> AllSettings(const ChartSource& source, const mi
 /// of `name`, with the document's places but not its lines.
 void TellOfOptions(const std::string& name, const ChartSource& source,
                    std::vector<penlode::Diagnostic>& diagnostics);
+
+/// Sizes a sound document by the figure that was asked for, or adds why that cannot be.
+void FitFigure(millichart::ChartDocument& document, const ChartSource& source,
+               std::vector<penlode::Diagnostic>& diagnostics);
 
 } // namespace cli

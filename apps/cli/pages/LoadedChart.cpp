@@ -59,7 +59,8 @@ LoadedChart Load(const std::string& input, const ChartSource& source) {
                           : millichart::NewDocument(*source.Kind, {ReadTableInput(input, source.Table)},
                                                     AllSettings(source, *source.Kind));
     loaded.Diagnostics = loaded.Document.Diagnostics();
-    if (loaded.Document.IsSound()) {
+    FitFigure(loaded.Document, source, loaded.Diagnostics);
+    if (!millichart::HasErrors(loaded.Diagnostics)) {
         LayOut(loaded);
     }
     const millichart::ChartKind* const kind = millichart::KindOf(loaded.Document.Content);

@@ -14,9 +14,9 @@ namespace {
 using millichart::ChartKind;
 using millichart::Setting;
 
-constexpr std::array kLegendPlaces{"LeftTop",     "LeftCenter", "LeftBottom",  "RightTop",
-                                   "RightCenter", "RightBottom", "TopLeft",    "TopCenter",
-                                   "TopRight",    "BottomLeft", "BottomCenter", "BottomRight"};
+constexpr std::array kLegendPlaces{"LeftTop",     "LeftCenter",  "LeftBottom",   "RightTop",
+                                   "RightCenter", "RightBottom", "TopLeft",      "TopCenter",
+                                   "TopRight",    "BottomLeft",  "BottomCenter", "BottomRight"};
 
 /// Where a kind's record has what can be asked for; empty for what it does not have.
 struct KindPlaces {

@@ -4,8 +4,6 @@
 #include "documents/tables/TableInput.h"
 
 #include <memory>
-#include <string>
-#include <string_view>
 
 namespace millichart::documents {
 

@@ -1,5 +1,6 @@
 #include "documents/tables/Query.h"
 
+#include "documents/tables/NoRows.h"
 #include "documents/tables/QuerySource.h"
 
 #if defined(MILLICHART_SQLITE)
@@ -12,21 +13,6 @@
 namespace millichart::documents {
 namespace {
 
-/// Gives no row but the reason why.
-class NoReader final : public RowReader {
-public:
-    explicit NoReader(std::string fault) : m_fault(std::move(fault)) {}
-
-    bool Next(TableRow& /*row*/) override { return false; }
-
-    std::string Fault() const override { return m_fault; }
-
-    bool IsExact() const override { return true; }
-
-private:
-    std::string m_fault;
-};
-
 constexpr const char* kNoQuery =
     "no query, expected one such as \"select region, sum(value) from sales group by region\"";
 
@@ -34,9 +20,9 @@ constexpr const char* kNoQuery =
 
 std::unique_ptr<RowReader> OpenQuery(const TableInput& input) {
     if (input.Options.Query.find_first_not_of(" \t\r\n") == std::string::npos) {
-        return std::make_unique<NoReader>(kNoQuery);
+        return std::make_unique<NoRows>(kNoQuery);
     }
-    const bool isOdbc = !OdbcConnection(input.Input.Name).empty();
+    const bool isOdbc = !OdbcConnection(input.Source).empty();
 #if defined(MILLICHART_SQLITE)
     if (!isOdbc) {
         return OpenSqlite(input);
@@ -47,8 +33,8 @@ std::unique_ptr<RowReader> OpenQuery(const TableInput& input) {
         return OpenOdbc(input);
     }
 #endif
-    return std::make_unique<NoReader>(std::string("cannot be read: this build reads no data bases by ") +
-                                      (isOdbc ? "ODBC" : "SQLite"));
+    return std::make_unique<NoRows>(std::string("cannot be read: this build reads no data bases by ") +
+                                    (isOdbc ? "ODBC" : "SQLite"));
 }
 
 } // namespace millichart::documents

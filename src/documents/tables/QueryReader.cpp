@@ -79,7 +79,7 @@ void WatchedQuery::Run() {
 }
 
 QueryReader::QueryReader(const TableInput& input)
-    : m_source(input.Input.Name), m_query(input.Options.Query) {}
+    : m_name(input.Input.Name), m_source(input.Source), m_query(input.Options.Query) {}
 
 bool QueryReader::Next(TableRow& row) {
     if (m_isOver) {
@@ -125,7 +125,7 @@ bool QueryReader::Fail(std::string reason) {
 }
 
 void QueryReader::Watch(std::function<void()> cancel) {
-    std::unique_ptr<QueryWatch> watch = g_watchMaker ? g_watchMaker(ShownSource(m_source)) : nullptr;
+    std::unique_ptr<QueryWatch> watch = g_watchMaker ? g_watchMaker(m_name) : nullptr;
     if (watch != nullptr) {
         m_watched.emplace(std::move(watch), std::move(cancel));
     }

@@ -82,6 +82,7 @@ protected:
 private:
     bool IsSound(TableRow& row);
 
+    const std::string m_name;
     const std::string m_source;
     const std::string m_query;
     std::vector<std::string> m_names;

@@ -1,9 +1,8 @@
 #include "documents/tables/QuerySource.h"
 
-#include "documents/Files.h"
-
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace millichart {
@@ -121,6 +120,10 @@ bool IsHarmless(const Attribute& attribute) {
 
 bool IsQuerySource(std::string_view name) {
     return name.starts_with(kSqlite) || name.starts_with(kOdbc);
+}
+
+TableInput QueryInput(const std::string& source, TableOptions options) {
+    return {{ShownSource(source)}, std::move(options), source};
 }
 
 std::string QuerySourceIn(const std::filesystem::path& folder, const std::string& source) {

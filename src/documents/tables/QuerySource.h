@@ -1,5 +1,7 @@
 #pragma once
 
+#include "documents/tables/TableInput.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -9,6 +11,9 @@
 namespace millichart {
 
 bool IsQuerySource(std::string_view name);
+
+/// A table of what the data base answers to the options' query, named as messages may call it.
+TableInput QueryInput(const std::string& source, TableOptions options);
 
 /// The source as a document in that folder means it, whose files stand there.
 std::string QuerySourceIn(const std::filesystem::path& folder, const std::string& source);

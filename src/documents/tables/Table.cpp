@@ -5,7 +5,6 @@
 #include "documents/tables/DecimalMark.h"
 #include "documents/tables/Heading.h"
 #include "documents/tables/OpenTable.h"
-#include "documents/tables/QuerySource.h"
 #include "documents/tables/TableShape.h"
 #include "documents/tables/TimeAxis.h"
 #include "documents/tables/TransposedRows.h"
@@ -59,9 +58,8 @@ class TableReader {
 public:
     TableReader(const TableInput& input, const TableForm& form, LookedAtRows& rows, const TableShape& shape,
                 std::optional<DecimalMark> mark)
-        : m_input(input.Input), m_form(form), m_name(ShownSource(input.Input.Name)), m_rows(rows),
-          m_shape(shape), m_mark(std::move(mark)) {
-        m_table.Origin.File = m_name;
+        : m_input(input.Input), m_form(form), m_rows(rows), m_shape(shape), m_mark(std::move(mark)) {
+        m_table.Origin.File = m_input.Name;
         m_table.Origin.Sheet = rows.Reader().Sheet();
         m_table.Title = shape.Title;
         if (!shape.IsWhole()) {
@@ -127,7 +125,7 @@ public:
             "", '"' + mark.Open + "\" is read as " + NumberText(number.By(taken).value_or(0.0)) +
                     "; with --decimal " + other + ", or \"decimal\": \"" + other +
                     "\" beside data/csv, it is " + NumberText(number.By(other).value_or(0.0)));
-        warning.File = m_name;
+        warning.File = m_input.Name;
         warning.Line = m_table.Origin.IsTransposed ? 0 : mark.Line;
         m_diagnostics.push_back(std::move(warning));
     }
@@ -437,7 +435,7 @@ private:
 
     /// One stands for all those that are not kept.
     void Tell(Diagnostic fault) {
-        fault.File = m_name;
+        fault.File = m_input.Name;
         if (++m_told <= penlode::kMaxDiagnostics) {
             m_diagnostics.push_back(std::move(fault));
             return;
@@ -447,14 +445,13 @@ private:
         }
         fault = penlode::Error("", "and " + std::to_string(m_told - penlode::kMaxDiagnostics) +
                                        " more, which are not told");
-        fault.File = m_name;
+        fault.File = m_input.Name;
         fault.IsRest = true;
         m_diagnostics.push_back(std::move(fault));
     }
 
     const InputText& m_input;
     const TableForm& m_form;
-    const std::string m_name; ///< as diagnostics call it
     LookedAtRows& m_rows;
     const TableShape& m_shape;
     std::optional<DecimalMark> m_mark;
@@ -484,7 +481,7 @@ std::optional<DecimalMark> GivenMark(const TableOptions& options, const RowReade
 
 Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diagnostic>& diagnostics) {
     TableOptions options = input.Options;
-    if (IsQuerySource(input.Input.Name)) { // it names its columns
+    if (!input.Source.empty()) { // a data base names its columns
         options.HasHeading = options.HasHeading.value_or(true);
     }
     std::unique_ptr<RowReader> reader = OpenTable(input);
@@ -501,7 +498,7 @@ Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diag
     TableShape shape = ShapeOf(rows, form, options, told);
     shape.Title = options.IsTransposed ? title : shape.Title;
     for (Diagnostic& diagnostic : told) {
-        diagnostic.File = ShownSource(input.Input.Name);
+        diagnostic.File = input.Input.Name;
         diagnostic.Line = options.IsTransposed ? 0 : diagnostic.Line;
     }
     const auto isError = [](const Diagnostic& one) { return one.Severity == penlode::Severity::Error; };

@@ -14,13 +14,13 @@ enum class TableOrder { AsItStands, Ascending, Descending, ByName };
 
 /// How a table is to be read, where it does not tell by itself.
 struct TableOptions {
-    std::string Sheet; ///< of a spreadsheet file, UTF-8; the first one if empty
-    std::string Query; ///< of a data base, UTF-8
+    std::string Sheet{}; ///< of a spreadsheet file, UTF-8; the first one if empty
+    std::string Query{}; ///< of a data base, UTF-8
     /// The first is that of the names or times. Each by its heading (UTF-8) or its number from 1; all if
     /// empty.
-    std::vector<std::string> Columns;
-    std::optional<bool> HasHeading; ///< without, the table tells
-    bool IsTransposed = false;      ///< a row of the table is a column here
+    std::vector<std::string> Columns{};
+    std::optional<bool> HasHeading{}; ///< without, the table tells
+    bool IsTransposed = false;        ///< a row of the table is a column here
     TableOrder Order = TableOrder::AsItStands;
     std::size_t Top = 0;               ///< so many of the largest rows, and the rest as one; 0: all
     std::optional<char> DecimalMark{}; ///< '.' or ','; without, the table tells
@@ -28,11 +28,13 @@ struct TableOptions {
     friend bool operator==(const TableOptions&, const TableOptions&) = default;
 };
 
-/// A table and how it is to be read: the bytes of a text or spreadsheet file; or a data base, whose name,
-/// such as "sqlite:sales.db", is all that the input has.
+/// A table and how it is to be read: the bytes of a text or spreadsheet file; or the source of a data base,
+/// of which `QueryInput` makes one.
 struct TableInput {
     InputText Input;
     TableOptions Options = {};
+    /// Of a data base, which has no text and may have passwords in its source, but none in its name.
+    std::string Source = {};
 };
 
 } // namespace millichart

@@ -38,7 +38,8 @@ JsonNode Adopted(JsonTree& tree, const JsonTree& other, const JsonNode& value) {
 /// A number is one only if it reads as the very text, as 007 and 1.50 do not.
 JsonNode ValueNode(JsonTree& tree, std::string_view value) {
     std::vector<Diagnostic> problems;
-    const JsonTree parsed = ParseJson("{\"" + std::string(kValue) + "\":" + std::string(value) + "}", problems);
+    const JsonTree parsed =
+        ParseJson("{\"" + std::string(kValue) + "\":" + std::string(value) + "}", problems);
     const JsonGroup& root = parsed.Group(parsed.Root());
     const JsonNode* const node = root.Entries().size() == 1 ? root.Find(kValue) : nullptr;
     const bool isOther = node != nullptr && node->Type >= JsonType::Integer && node->Type <= JsonType::Real &&
