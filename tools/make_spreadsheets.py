@@ -94,13 +94,10 @@ def equation_of_time(moment):
 
 
 def last_digits():
-    counts = {}
-    for prime in primes_below(1000):
-        counts[prime % 10] = counts.get(prime % 10, 0) + 1
-    digits = [3, 7, 1, 9, 2, 5]
-    write("last-digits.csv",
-          ["Last digit,Primes below 1000"] + [f"ends in {digit},{counts[digit]}" for digit in digits])
-    keep("last-digits.csv", [counts[digit] for digit in digits])
+    primes = [prime for prime in primes_below(1000) if prime > 10]
+    rows = [(f"ends in {digit}", sum(prime % 10 == digit for prime in primes)) for digit in (1, 3, 7, 9)]
+    write("last-digits.csv", ["Last digit,Primes from 10 to 1000"] + joined(rows))
+    keep("last-digits.csv", [count for _, count in rows])
 
 
 def dice():
@@ -256,8 +253,8 @@ def prime_gaps():
     for a, b in zip(primes, primes[1:]):
         counts[b - a] = counts.get(b - a, 0) + 1
     write("prime-gaps.csv", ["Gap,Primes below 100000"] + [f"gap {gap},{counts[gap]}" for gap in sorted(counts)])
-    most = sorted(counts.values(), reverse=True)
-    keep("prime-gaps.csv", most[:7] + [sum(most[7:])])
+    most = sorted(sorted(counts, key=counts.get, reverse=True)[:7])
+    keep("prime-gaps.csv", [counts[gap] for gap in most] + [sum(counts.values()) - sum(map(counts.get, most))])
 
 
 def profit():
