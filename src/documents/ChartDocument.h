@@ -44,6 +44,9 @@ struct LaidOutChart {
     penlode::RectF Extent() const;
     /// The same with the texts that reach out of it.
     penlode::RectF InkExtent() const;
+    /// The same with all that reaches out by less than a millimetre, which a page's margin holds elsewhere:
+    /// texts, half a marker or a line's width.
+    penlode::RectF FullExtent() const;
     /// The texts as they would be drawn now, in their order.
     void VisitTexts(const TextVisitor& visit) const;
     void Draw(penlode::IGraphicsEngine& engine) const;

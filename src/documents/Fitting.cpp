@@ -64,7 +64,7 @@ private:
 
 /// Nothing when there is no picture.
 std::optional<SizeF> FigureOf(const LaidOutChart& chart) {
-    const penlode::RectF ink = chart.InkExtent();
+    const penlode::RectF ink = chart.FullExtent();
     const bool isPicture = !HasErrors(chart.Diagnostics) && ink.Width > 0.0F && ink.Height > 0.0F;
     return isPicture ? std::optional(SizeF{ink.Width, ink.Height}) : std::nullopt;
 }

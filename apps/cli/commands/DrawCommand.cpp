@@ -70,7 +70,8 @@ std::string DescriptionOf(const millichart::ChartDocument& document) {
 /// The file's bytes.
 std::string Render(const DrawOptions& options, const LoadedChart& loaded, const OutputName& output,
                    std::vector<Diagnostic>& problems) {
-    const RectF extent = loaded.Chart->InkExtent();
+    // A figure of a size fills its page without any margin.
+    const RectF extent = options.Source.Figure ? loaded.Chart->FullExtent() : loaded.Chart->InkExtent();
     const SizeF page = PageOf(options, extent, problems);
     const std::unique_ptr<Picture> picture =
         MakePicture({output.Format, page, options.Dpi.value_or(kScreenDpi), options.Background,
