@@ -87,8 +87,8 @@ TEST_F(Check, MissingKeysAreNotesWithWhatIsTaken) {
           "s.json: note: property/PieBasicProp: 9 keys missing, taken as PieStyle 2D, FixedWidth 20, "
           "BaseValue "
           "100, BasePieWidth 10 ...\n",
-          "s.json: note: property/PieLegendProp: missing, its 8 keys taken as ShowLegend 0, LegendPos "
-          "RightCenter, ShowEdge 1, ShowBackground 0 ...\n",
+          "s.json: note: property/PieLegendProp: missing, its 8 keys taken as ShowLegend 1, LegendPos "
+          "RightCenter, ShowEdge 0, ShowBackground 0 ...\n",
           "s.json: note: labelOffsets: missing, an empty list is taken\n"}) {
         EXPECT_NE(outcome.Output.find(line), std::string::npos) << line;
     }
