@@ -3,6 +3,7 @@
 #include "documents/ChartLayouts.h"
 #include "documents/tables/QuerySource.h"
 #include "documents/tables/Table.h"
+#include "foundation/TextPropertyOperation.h"
 #include "penlode/streams/JsonSerializeStream.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -166,14 +167,9 @@ public:
         const std::size_t series = document.Data.Components();
         SetFlag("property/HistogramLegendProp/ShowLegend", prop.Legend.ShowLegend, series > 1);
         SetFlag("property/HistogramPlotProp/ShowComponentValue", prop.Plot.ShowComponentValue,
-                AreReadable(document.Data.Values));
+                prop.Plot.PieStyle == BarStyle::Flat && AreReadable(document.Data.Values));
         SetValueCaption("property/HistogramVerAxisProp", prop.VerAxis, document.Data.ComponentNames);
-        if (!IsAsked("property/HistogramPlotProp/GroupDistane")) {
-            constexpr float kGapPart = 0.35F;
-            const auto groups = static_cast<float>(std::max<std::size_t>(document.Data.Values.size(), 1));
-            const float pitch = std::round(prop.Plot.PlotWidth / groups * kGapPart * 10.0F) / 10.0F;
-            prop.Plot.GroupDistane = std::min(prop.Plot.GroupDistane, pitch);
-        }
+        SuitWidth(prop, document.Data.GroupNames, std::max<std::size_t>(document.Data.Values.size(), 1));
     }
 
     void operator()(CurveDocument& document) const {
@@ -185,6 +181,24 @@ public:
     template <class Document> void operator()(Document&) const {}
 
 private:
+    /// Gaps leave room for the bars, and names that are wider than their groups are turned.
+    void SuitWidth(HistogramProp& prop, const std::vector<std::string>& names, std::size_t groups) const {
+        constexpr float kGapPart = 0.35F;
+        constexpr std::int32_t kUpwards = 90;
+        const float width = prop.Plot.PlotWidth / static_cast<float>(groups);
+        if (!IsAsked("property/HistogramPlotProp/GroupDistane")) {
+            const float gap = std::round(width * kGapPart * 10.0F) / 10.0F;
+            prop.Plot.GroupDistane = std::min(prop.Plot.GroupDistane, gap);
+        }
+        TextProperty& look = prop.HorAxis.GroupNameTextProperty;
+        const bool areWide = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+            return CTextPropertyOperation::GetTextSize(name, look).Width > width;
+        });
+        if (areWide && !IsAsked("property/HistogramHorAxisProp/GroupNameTextProperty/Angle")) {
+            look.Angle = kUpwards;
+        }
+    }
+
     bool IsAsked(const std::string& place) const {
         return std::any_of(m_settings.begin(), m_settings.end(),
                            [&place](const Setting& setting) { return IsPlaceIn(place, setting.Place); });

@@ -39,7 +39,7 @@ TEST_F(FirstStep, ADocumentToKeepDrawsTheSame) {
          {"pie in/sales.csv --3d --legend left", "half-pie in/sales.csv",
           "bar in/sales.csv --title 'Sales, \"in\" 007' --x-title Region --y-title ''",
           "bars in/drinks.csv --stacked --legend top-right --title true", "line in/drinks.csv --log",
-          "curve in/drinks.csv --size 80x60 --set property/CurvePlotProp/CurveDotStyle=[\"solid_circle\"]",
+          "curve in/drinks.csv --size 80x60 --set property/CurvePlotProp/CurveDotStyle='[\"solid_circle\"]'",
           "half-pie-half-pie in/drinks.csv"}) {
         const std::size_t blank = wish.find(' ');
         const std::string kind = wish.substr(0, blank);
@@ -64,7 +64,7 @@ TEST_F(FirstStep, ADocumentToKeepDrawsTheSame) {
 }
 
 TEST_F(FirstStep, NothingOfTheExampleIsLeft) {
-    for (const std::string& kind : {"pie", "half-pie", "histogram", "curve"}) {
+    for (const std::string kind : {"pie", "half-pie", "histogram", "curve"}) {
         Run("millichart draw --kind " + kind + " in/sales.csv -o d.svg");
         const std::string svg = Read("d.svg");
         EXPECT_EQ(svg.find("<desc>"), std::string::npos) << kind;
@@ -162,8 +162,8 @@ TEST_F(FirstStep, ATableNeedsAKind) {
         "drawn\n");
     EXPECT_EQ(Run("millichart draw --kind pie --data in/sales.csv && ls in").Output,
               "drinks.csv\nsales.csv\nsales.png\n");
-    const Outcome bad = Run("printf 'a,x1\\nb,2\\n' | millichart draw --kind pie - -o d.png");
-    EXPECT_EQ(bad.Errors.find("millichart: standard input:1: column 2: found \"x1\""), 0U) << bad.Errors;
+    const Outcome bad = Run("printf 'a,4\\nb,x1\\n' | millichart draw --kind pie - -o d.png");
+    EXPECT_EQ(bad.Errors.find("millichart: standard input:2: column 2: found \"x1\""), 0U) << bad.Errors;
     const Outcome two = Run("millichart draw --kind half-pie-histogram in/sales.csv");
     EXPECT_EQ(two.Status, 2);
 }

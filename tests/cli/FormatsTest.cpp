@@ -162,8 +162,8 @@ TEST_F(Formats, APdfHoldsEveryLabelAsText) {
 }
 
 TEST_F(Formats, EightyMillimetresAreEightyInEach) {
-    const std::string document =
-        Write("80.json", R"({"kind": "pie", "title": "Eighty", "data": {"values": [1]}, "property": {"PieBasicProp":
+    const std::string document = Write(
+        "80.json", R"({"kind": "pie", "title": "Eighty", "data": {"values": [1]}, "property": {"PieBasicProp":
         {"PieStyle": "2D", "FixedSize": 1, "FixedWidth": 70, "ComponentColor": ["#336699"]},
         "PieLabelProp": {"ShowPercentLabel": 0}}})");
 

@@ -69,7 +69,7 @@ struct MissingKeys {
         constexpr std::size_t kMaxNamed = 4;
         if (++Count <= kMaxNamed) {
             Taken += (Count == 1 ? "" : ", ") + note.Place.substr(note.Place.rfind('/') + 1) + " " +
-                     (note.Expected.empty() ? "empty" : note.Expected);
+                     (note.Expected.empty() ? "empty" : penlode::Shortened(note.Expected));
         } else if (Count == kMaxNamed + 1) {
             Taken += " ...";
         }
