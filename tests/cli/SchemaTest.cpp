@@ -65,7 +65,9 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
     EXPECT_EQ(Run("millichart check lines.json").Status, 0);
     EXPECT_EQ(Validate("lines.json").Output, "");
     Write("both.json", R"({"kind": "half-pie-histogram", "data": {"values": [1], "groupsCsv": "d.csv"}})");
-    EXPECT_EQ(Validate("short.json csv.json bars.json halves.json both.json").Output, "");
+    Write("table.json", R"({"kind": "curve", "data": {"source": "d.ods", "sheet": "S", "columns": [1, "b"],
+        "heading": false, "transpose": 1, "order": "name", "top": "3", "decimal": ","}})");
+    EXPECT_EQ(Validate("short.json csv.json bars.json halves.json both.json table.json").Output, "");
 }
 
 /// What the schema refuses, `check` refuses or warns of too.
@@ -100,6 +102,8 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
              {"\"LowerHalf\"", "\"BottomHalf\"", "half-pie-half-pie"},
              {"\"location\"", "\"range\": {\"LogarithmValueRange\": [1, 10]}, \"location\"",
               "half-pie-histogram"},
+             {"\"groups\"", "\"groupsTop\": 0, \"groups\"", "half-pie-histogram"},
+             {"\"values\"", "\"order\": \"up\", \"values\""},
              {"\"groups\"", "\"groupsCsv\": \"d.csv\", \"groups\"", "half-pie-histogram"}}) {
         const std::string name = std::to_string(++count) + ".json";
         Write(name, Changed(kind, pattern, replacement));

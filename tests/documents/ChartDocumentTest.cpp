@@ -253,6 +253,31 @@ TEST_F(InFolder, DataOfATableStayThereUntilTheyAreChanged) {
     EXPECT_EQ(pie.Prop.Basic.ComponentName, (std::vector<std::string>{"North", "South"}));
 }
 
+TEST_F(InFolder, HowATableIsReadStandsBesideItsName) {
+    Write("d.csv", "x;1,5;7\ny;2,5;8\nz;4;9\nTotal;8;24\n");
+    Write("t.json", R"({"kind": "pie", "data": {"source": "d.csv", "columns": [1, "3"], "heading": false,
+        "order": "descending", "top": 2, "decimal": ",", "transpose": false}})");
+    ChartDocument document = ChartDocument::Load(Name("t.json"));
+    EXPECT_EQ(
+        Told(document),
+        "column 1: \"Total\" is the sum of the rows above and is shown beside them; leave the row out\n");
+    auto& pie = std::get<PieDocument>(document.Content);
+    EXPECT_EQ(pie.Data.Values, (std::vector{24.0, 9.0, 15.0}));
+    EXPECT_EQ(pie.Data.Names, (std::vector<std::string>{"Total", "z", "Other"}));
+    pie.Data.Values[0] = 1.0;
+    for (const char* gone : {"source", "columns", "heading", "order", "top", "decimal", "transpose"}) {
+        EXPECT_FALSE(Holds(document, '"' + std::string(gone) + '"')) << gone;
+    }
+    EXPECT_EQ(Told(Loaded(R"({"kind": "histogram", "data": {"csv": "a", "source": "b", "heading": 2, "top": 0,
+        "order": "up", "decimal": ";"}})")),
+              "data/source: found \"b\", expected either csv or source, not both\n"
+              "data/heading: found 2, expected true or false\n"
+              "data/top: found 0, expected a whole number from 1\n"
+              "data/order: found \"up\", expected \"ascending\", \"descending\" or \"name\"\n"
+              "data/decimal: found \";\", expected \".\" or \",\"\n"
+              ": cannot be read: No such file or directory\n");
+}
+
 TEST_F(InFolder, ChangedCurvesTakeThePlaceOfTheirTable) {
     Write("d.csv", "year,a,b\n2001,1,\n2002,3,4\n2003,200,6\n");
     Write("t.json",

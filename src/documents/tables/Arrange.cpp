@@ -151,6 +151,10 @@ void Arrange(Table& table, const TableForm& form, const TableOptions& options,
     if (arrangement.Rows() == 0 || table.Columns.empty()) {
         return;
     }
+    const auto refuse = [&](const char* place, const std::string& found, const std::string& expected) {
+        diagnostics.push_back(penlode::Error(place, found, expected));
+        diagnostics.back().File = table.Origin.File;
+    };
     if (arrangement.HasTotal()) {
         diagnostics.push_back(penlode::Warning(
             "", "\"" + CStringUtil::AnsiToUtf8(table.Names.back()) +
@@ -158,14 +162,13 @@ void Arrange(Table& table, const TableForm& form, const TableOptions& options,
         PutAt(table.Origin, arrangement.Rows() - 1, 0, diagnostics.back());
     }
     if (form.HasTimes && options.Top != 0) {
-        diagnostics.push_back(penlode::Error("top", std::to_string(options.Top),
-                                             "nothing for a line chart, whose rows are times and no parts"));
+        refuse("top", std::to_string(options.Top),
+               "nothing for a line chart, whose rows are times and no parts");
         return;
     }
     const bool areTimes = table.Names.empty() && form.HasTimes;
     if (areTimes && (options.Order == TableOrder::Ascending || options.Order == TableOrder::Descending)) {
-        diagnostics.push_back(penlode::Error("order", "an order by values",
-                                             "\"name\", as the rows of this line chart are times"));
+        refuse("order", "an order by values", "\"name\", as the rows of this line chart are times");
         return;
     }
     if (options.Order != TableOrder::AsItStands) {

@@ -94,6 +94,11 @@ bool ReadTime(Scanner& scanner, WrittenDate& date) {
     return ReadZone(scanner, date) && scanner.AtEnd();
 }
 
+std::string TwoDigits(std::int64_t number) {
+    const std::string digits = std::to_string(number);
+    return digits.size() < 2 ? "0" + digits : digits;
+}
+
 /// What parts a date's numbers; empty for what does not.
 std::string_view TakeSeparator(Scanner& scanner) {
     for (const std::string_view separator : {"-", "/", ".", "年"}) {
@@ -204,6 +209,26 @@ std::optional<WrittenDate> ReadDate(std::string_view text) {
         return std::nullopt;
     }
     return date;
+}
+
+std::string DayText(Milliseconds moment) {
+    const std::chrono::year_month_day date(
+        std::chrono::sys_days(std::chrono::floor<std::chrono::days>(moment)));
+    return std::to_string(static_cast<int>(date.year())) + "-" +
+           TwoDigits(static_cast<unsigned>(date.month())) + "-" +
+           TwoDigits(static_cast<unsigned>(date.day()));
+}
+
+std::string ClockText(Milliseconds moment, Milliseconds step) {
+    const std::int64_t time = (moment - std::chrono::floor<std::chrono::days>(moment)).count();
+    std::string text = TwoDigits(time / 3600000) + ":" + TwoDigits(time / 60000 % 60);
+    if (step % 1min != 0ms) {
+        text += ":" + TwoDigits(time / 1000 % 60);
+    }
+    if (step % 1s != 0ms) {
+        text += "." + std::to_string(1000 + time % 1000).substr(1);
+    }
+    return text;
 }
 
 std::optional<DateColumn> ReadDates(const std::vector<std::string>& texts, bool isDayFirst) {

@@ -35,6 +35,12 @@ struct WrittenDate {
 /// Nothing for what is no date and no time.
 std::optional<WrittenDate> ReadDate(std::string_view text);
 
+/// "2024-01-05"
+std::string DayText(Milliseconds moment);
+
+/// "14:30", with seconds and less as far as `step`, of which the moment is a multiple, needs them.
+std::string ClockText(Milliseconds moment, Milliseconds step);
+
 /// The moments of a column of dates.
 struct DateColumn {
     std::vector<Milliseconds> Moments; ///< a row each, by the first one's clock; an empty text's is the first

@@ -91,7 +91,8 @@ void ReadRow(xml_node row, std::size_t line, SheetRows& rows) {
     for (const xml_node cell : row.children()) {
         const std::size_t repeated = Repeated(cell, "number-columns-repeated", kMostColumns);
         const std::string text = LocalName(cell.name()) == "table-cell" ? CellText(cell) : "";
-        for (std::size_t i = 0; !text.empty() && i < repeated && column + i < kMostColumns; ++i) {
+        for (std::size_t i = 0;
+             !text.empty() && i < repeated && column + i < kMostColumns && rows.Fault().empty(); ++i) {
             rows.Put(line, column + i, text);
         }
         column += repeated;
@@ -106,11 +107,11 @@ public:
     bool for_each(xml_node& node) override {
         if (LocalName(node.name()) == "table-row") {
             const std::size_t repeated = Repeated(node, "number-rows-repeated", kMostRows);
-            const bool isEmpty = !node.find_node([](xml_node inner) { return inner.type() == pugi::node_pcdata; }) &&
-                                 !node.find_child([](xml_node cell) {
-                                     return !Attribute(cell, "value-type").empty();
-                                 });
-            for (std::size_t i = 0; !isEmpty && i < repeated && m_line + i < kMostRows; ++i) {
+            const bool isEmpty = !node.find_node([](xml_node inner) {
+                return inner.type() == pugi::node_pcdata;
+            }) && !node.find_child([](xml_node cell) { return !Attribute(cell, "value-type").empty(); });
+            for (std::size_t i = 0;
+                 !isEmpty && i < repeated && m_line + i < kMostRows && m_rows.Fault().empty(); ++i) {
                 ReadRow(node, m_line + i, m_rows);
             }
             m_line += repeated;
@@ -128,7 +129,7 @@ private:
 void ReadOds(const ZipFile& file, const std::string& sheet, SheetRows& rows) {
     const std::optional<std::string> text = file.Part("content.xml");
     pugi::xml_document document;
-    if (!text || !document.load_buffer(text->data(), text->size(), pugi::parse_default | pugi::parse_ws_pcdata_single)) {
+    if (!text || !document.load_buffer(text->data(), text->size())) {
         rows.SetFault("cannot be read: the spreadsheet is broken or encrypted");
         return;
     }

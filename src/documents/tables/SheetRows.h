@@ -4,14 +4,15 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <pugixml.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <pugixml.hpp>
-
 /// What the readers of .xlsx and .ods files share.
 namespace millichart::documents {
+
+class ZipFile;
 
 /// A sheet's rows that have any text, in memory.
 class SheetRows final : public RowReader {
@@ -47,8 +48,8 @@ private:
 /// A sheet of a file, as its list of sheets has it.
 struct SheetEntry {
     std::string Name;
-    std::string Part;      ///< of the archive, where each sheet has one
-    pugi::xml_node Node;   ///< else
+    std::string Part;    ///< of the archive, where each sheet has one
+    pugi::xml_node Node; ///< else
     bool IsHidden = false;
 };
 
@@ -63,10 +64,11 @@ std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view nam
 pugi::xml_node Child(pugi::xml_node parent, std::string_view name);
 std::string_view Attribute(pugi::xml_node node, std::string_view name);
 
-/// Reads the sheets in `entries` by `read`, which puts one's cells into rows: the one that is named, or the first that
-/// is not empty.
+/// Reads the sheets in `entries` by `read`, which puts one's cells into rows: the one that is named, or the
+/// first that is not empty.
 template <class Read>
-void ReadSheet(const std::vector<SheetEntry>& entries, const std::string& name, SheetRows& rows, const Read& read) {
+void ReadSheet(const std::vector<SheetEntry>& entries, const std::string& name, SheetRows& rows,
+               const Read& read) {
     std::string names;
     for (const SheetEntry& entry : entries) {
         if (name.empty() ? !entry.IsHidden : entry.Name == name) {
@@ -83,7 +85,7 @@ void ReadSheet(const std::vector<SheetEntry>& entries, const std::string& name, 
     }
 }
 
-void ReadXlsx(const class ZipFile& file, const std::string& sheet, SheetRows& rows);
-void ReadOds(const class ZipFile& file, const std::string& sheet, SheetRows& rows);
+void ReadXlsx(const ZipFile& file, const std::string& sheet, SheetRows& rows);
+void ReadOds(const ZipFile& file, const std::string& sheet, SheetRows& rows);
 
 } // namespace millichart::documents

@@ -1,13 +1,12 @@
 #include "documents/tables/Spreadsheet.h"
 
+#include "documents/tables/Dates.h"
 #include "documents/tables/SheetRows.h"
 #include "documents/tables/ZipFile.h"
 
-#include <algorithm>
-#include <array>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
+#include <utility>
 
 namespace millichart::documents {
 
@@ -45,31 +44,17 @@ bool SheetRows::Rewind() {
 }
 
 std::string DateOfDays(double days, bool isTimeAlone) {
-    using namespace std::chrono;
-    constexpr double kFar = 1e7;
+    constexpr double kFar = 1e6;
+    constexpr double kSecondsADay = 86400.0;
     if (!(std::abs(days) < kFar)) {
         return {};
     }
-    constexpr double kSecondsADay = 86400.0;
-    const sys_seconds moment{seconds(std::llround(days * kSecondsADay))};
-    const sys_days day = floor<std::chrono::days>(moment);
-    const year_month_day date(day);
-    const hh_mm_ss time(moment - day);
-    std::array<char, 64> text{};
-    const auto print = [&text](const char* form, auto... numbers) {
-        std::snprintf(text.data(), text.size(), form, numbers...);
-        return std::string(text.data());
-    };
-    const std::string clock = print("%02d:%02d:%02d", static_cast<int>(time.hours().count()),
-                                    static_cast<int>(time.minutes().count()),
-                                    static_cast<int>(time.seconds().count()));
+    const std::chrono::seconds moment(std::llround(days * kSecondsADay));
+    const std::string clock = ClockText(moment, std::chrono::seconds(1));
     if (isTimeAlone) {
         return clock;
     }
-    const std::string calendar =
-        print("%04d-%02u-%02u", static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-              static_cast<unsigned>(date.day()));
-    return moment == day ? calendar : calendar + "T" + clock;
+    return DayText(moment) + (moment % std::chrono::hours(24) == std::chrono::seconds(0) ? "" : "T" + clock);
 }
 
 std::string_view LocalName(const char* name) {

@@ -44,7 +44,7 @@ std::string SheetCell(std::size_t column, std::size_t line) {
 }
 
 void PutAtLine(const TableOrigin& origin, std::size_t line, std::size_t column, Diagnostic& diagnostic) {
-    const std::size_t number = origin.Columns.empty() ? column + 1 : origin.Columns[column];
+    const std::size_t number = column < origin.Columns.size() ? origin.Columns[column] : column + 1;
     diagnostic.File = origin.File;
     diagnostic.Line = origin.IsTransposed ? number : line;
     const std::size_t at = origin.IsTransposed ? line : number;
@@ -56,29 +56,21 @@ void PutAtLine(const TableOrigin& origin, std::size_t line, std::size_t column, 
 /// Reads the rows of a table whose shape is known.
 class TableReader {
 public:
+    /// `lines` are those of the columns, where rows are columns; else there are none.
     TableReader(const TableInput& input, const TableForm& form, LookedAtRows& rows, const TableShape& shape,
-                std::optional<DecimalMark> mark)
+                std::optional<DecimalMark> mark, const std::vector<std::uint32_t>& lines)
         : m_input(input.Input), m_form(form), m_rows(rows), m_shape(shape), m_mark(std::move(mark)) {
-        m_table.Origin.File = m_input.Name;
-        m_table.Origin.Sheet = rows.Reader().Sheet();
+        TableOrigin& origin = m_table.Origin;
+        origin.File = m_input.Name;
+        origin.Sheet = rows.Reader().Sheet();
+        origin.IsTransposed = input.Options.IsTransposed;
+        origin.Columns = shape.IsWhole() ? lines : std::vector<std::uint32_t>();
+        for (const std::size_t column : shape.Columns) {
+            origin.Columns.push_back(origin.IsTransposed && column < lines.size()
+                                         ? lines[column]
+                                         : static_cast<std::uint32_t>(column + 1));
+        }
         m_table.Title = shape.Title;
-        if (!shape.IsWhole()) {
-            for (const std::size_t column : shape.Columns) {
-                m_table.Origin.Columns.push_back(static_cast<std::uint32_t>(column + 1));
-            }
-        }
-    }
-
-    /// In the table that was given, where rows are columns here.
-    void PutLines(const std::vector<std::uint32_t>& lines) {
-        m_table.Origin.IsTransposed = true;
-        std::vector<std::uint32_t>& columns = m_table.Origin.Columns;
-        if (columns.empty()) {
-            columns = lines;
-        } else {
-            std::transform(columns.begin(), columns.end(), columns.begin(),
-                           [&](std::uint32_t column) { return lines[column - 1]; });
-        }
     }
 
     /// False when a number was met which the decimal mark must be known to read.
@@ -369,8 +361,10 @@ private:
         const std::string& cell = row.Cells[column];
         const bool hasComma = m_mark && m_mark->Mark == ',';
         const std::optional<double> plain = penlode::NumberOf<double>(cell);
+        // What a program wrote is plain, whatever a person says of the texts beside it.
+        const bool mayBeGrouped = hasComma && !m_rows.Reader().IsExact();
         const bool isPlain =
-            plain && std::isfinite(*plain) && !(hasComma && cell.find('.') != std::string::npos);
+            plain && std::isfinite(*plain) && !(mayBeGrouped && cell.find('.') != std::string::npos);
         std::optional<double> number = plain;
         if (!isPlain) {
             const WrittenNumber written = ReadWritten(cell);
@@ -469,6 +463,33 @@ private:
     bool m_lacksMark = false;
 };
 
+/// A table's rows as they are to be read.
+struct OpenedTable {
+    std::unique_ptr<RowReader> Rows;
+    std::vector<std::uint32_t> Lines; ///< of the columns, where rows are columns
+    std::string Title;                ///< of such a table
+};
+
+OpenedTable Opened(const TableInput& input) {
+    OpenedTable opened{OpenTable(input), {}, {}};
+    if (input.Options.IsTransposed) {
+        auto transposed = std::make_unique<TransposedRows>(std::move(opened.Rows));
+        opened.Lines = transposed->Lines();
+        opened.Title = transposed->Title();
+        opened.Rows = std::move(transposed);
+    }
+    return opened;
+}
+
+/// A data base names its columns.
+TableOptions OptionsOf(const TableInput& input) {
+    TableOptions options = input.Options;
+    if (!input.Source.empty()) { // a data base names its columns
+        options.HasHeading = options.HasHeading.value_or(true);
+    }
+    return options;
+}
+
 /// Points where a program wrote the numbers; nothing where they tell.
 std::optional<DecimalMark> GivenMark(const TableOptions& options, const RowReader& reader) {
     if (options.DecimalMark || reader.IsExact()) {
@@ -477,64 +498,57 @@ std::optional<DecimalMark> GivenMark(const TableOptions& options, const RowReade
     return std::nullopt;
 }
 
+/// Reads all rows: at first as if numbers were plain, and again with the mark if one is not. `make` makes a
+/// reader for a mark.
+template <class Make>
+auto ReadRows(const std::optional<DecimalMark>& given, const TableForm& form, LookedAtRows& rows,
+              const TableShape& shape, const Make& make) {
+    auto reader = make(given);
+    const bool isRead = reader->Read();
+    const char separator = rows.Reader().Separator();
+    if (given || (isRead && separator != ';')) {
+        return reader;
+    }
+    const DecimalMark found = FindDecimalMark(rows, shape, form.HasTimes ? 0 : 1);
+    if (!isRead) {
+        reader = make(found);
+        reader->Read();
+    }
+    if (!found.Open.empty() && separator != ',') {
+        reader->WarnOfMark(found, isRead ? '.' : found.Mark);
+    }
+    return reader;
+}
+
 } // namespace
 
 Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diagnostic>& diagnostics) {
-    TableOptions options = input.Options;
-    if (!input.Source.empty()) { // a data base names its columns
-        options.HasHeading = options.HasHeading.value_or(true);
-    }
-    std::unique_ptr<RowReader> reader = OpenTable(input);
-    std::vector<std::uint32_t> lines;
-    std::string title;
-    if (options.IsTransposed) {
-        auto transposed = std::make_unique<TransposedRows>(std::move(reader));
-        lines = transposed->Lines();
-        title = transposed->Title();
-        reader = std::move(transposed);
-    }
-    LookedAtRows rows(*reader);
+    const TableOptions options = OptionsOf(input);
+    const OpenedTable opened = Opened(input);
+    LookedAtRows rows(*opened.Rows);
     std::vector<Diagnostic> told;
     TableShape shape = ShapeOf(rows, form, options, told);
-    shape.Title = options.IsTransposed ? title : shape.Title;
+    if (!options.Sheet.empty() && opened.Rows->Sheet().empty() && opened.Rows->Fault().empty()) {
+        told.push_back(penlode::Warning("sheet", "has no effect, as this table has no sheets"));
+    }
     for (Diagnostic& diagnostic : told) {
         diagnostic.File = input.Input.Name;
         diagnostic.Line = options.IsTransposed ? 0 : diagnostic.Line;
     }
-    const auto isError = [](const Diagnostic& one) { return one.Severity == penlode::Severity::Error; };
-    if (std::any_of(told.begin(), told.end(), isError)) {
-        diagnostics.insert(diagnostics.end(), told.begin(), told.end());
+    diagnostics.insert(diagnostics.end(), told.begin(), told.end());
+    if (std::any_of(told.begin(), told.end(),
+                    [](const Diagnostic& one) { return one.Severity == penlode::Severity::Error; })) {
         return {};
     }
-    const auto startReading = [&](std::optional<DecimalMark> mark) {
-        auto reading = std::make_unique<TableReader>(input, form, rows, shape, std::move(mark));
-        if (options.IsTransposed) {
-            reading->PutLines(lines);
-        }
-        return reading;
-    };
-    const std::optional<DecimalMark> given = GivenMark(options, *reader);
-    const std::size_t firstNumbers = form.HasTimes ? 0 : 1;
-    auto reading = startReading(given);
-    if (!reading->Read()) {
-        const DecimalMark found = FindDecimalMark(rows, shape, firstNumbers);
-        reading = startReading(found);
-        reading->Read();
-        if (!found.Open.empty() && reader->Separator() != ',') {
-            reading->WarnOfMark(found, found.Mark);
-        }
-    } else if (!given && reader->Separator() == ';') {
-        const DecimalMark found = FindDecimalMark(rows, shape, firstNumbers);
-        if (!found.Open.empty()) {
-            reading->WarnOfMark(found, '.');
-        }
-    }
-    diagnostics.insert(diagnostics.end(), told.begin(), told.end());
-    std::vector<Diagnostic>& found = reading->Diagnostics();
-    Arrange(reading->Result(), form, options, found);
-    reading->CheckRows();
-    diagnostics.insert(diagnostics.end(), found.begin(), found.end());
-    return std::move(reading->Result());
+    shape.Title = options.IsTransposed ? opened.Title : shape.Title;
+    const auto reader =
+        ReadRows(GivenMark(options, *opened.Rows), form, rows, shape, [&](std::optional<DecimalMark> mark) {
+            return std::make_unique<TableReader>(input, form, rows, shape, std::move(mark), opened.Lines);
+        });
+    Arrange(reader->Result(), form, options, reader->Diagnostics());
+    reader->CheckRows();
+    diagnostics.insert(diagnostics.end(), reader->Diagnostics().begin(), reader->Diagnostics().end());
+    return std::move(reader->Result());
 }
 
 std::string TableTitle(const TableInput& input) {

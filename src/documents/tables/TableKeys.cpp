@@ -73,8 +73,8 @@ public:
 
     TableOrder Order(const char* key) {
         const std::optional<std::string> text = Text(key);
-        const auto* const found = std::find_if(kOrders.begin(), kOrders.end(),
-                                               [&](const auto& order) { return text == order.first; });
+        const auto found = std::find_if(kOrders.begin(), kOrders.end(),
+                                        [&](const auto& order) { return text == order.first; });
         if (text && found == kOrders.end()) {
             Refuse(key, *text, "\"ascending\", \"descending\" or \"name\"");
         }

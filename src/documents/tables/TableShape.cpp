@@ -74,36 +74,47 @@ private:
         }
     }
 
-    /// Has the column texts and no number below the heading, in the whole table?
-    bool IsOfTexts(std::span<const TableRow> rows, std::size_t column) {
+    /// Does a column have texts and no number in these rows?
+    static bool IsOfTexts(std::span<const TableRow> rows, std::size_t column) {
         bool hasTexts = false;
-        for (const TableRow& row : rows.subspan(m_shape.HasHeading ? 1 : 0)) {
+        for (const TableRow& row : rows) {
             const bool isFilled = column < row.Cells.size() && !row.Cells[column].empty();
             if (isFilled && IsNumberCell(row.Cells[column])) {
                 return false;
             }
             hasTexts = hasTexts || isFilled;
         }
-        return hasTexts && (!m_rows.CanRewind() || !HasNumberFurtherOn(column));
+        return hasTexts;
     }
 
-    bool HasNumberFurtherOn(std::size_t column) {
-        m_rows.Rewind();
-        TableRow row;
-        for (std::size_t i = 0; m_rows.Next(row); ++i) {
-            if (i >= kLookedAt && column < row.Cells.size() && IsNumberCell(row.Cells[column])) {
-                return true;
+    /// The columns of texts in the whole table.
+    std::vector<std::size_t> TextColumns(std::span<const TableRow> rows) {
+        std::vector<std::size_t> columns;
+        for (std::size_t column = 1; column < m_shape.Width; ++column) {
+            if (IsOfTexts(rows.subspan(m_shape.HasHeading ? 1 : 0), column)) {
+                columns.push_back(column);
             }
         }
-        return false;
+        if (m_rows.CanRewind()) {
+            m_rows.Rewind();
+            TableRow row;
+            for (std::size_t i = 0; !columns.empty() && m_rows.Next(row); ++i) {
+                std::erase_if(columns, [&](std::size_t column) {
+                    return i >= kLookedAt && column < row.Cells.size() && IsNumberCell(row.Cells[column]);
+                });
+            }
+        }
+        return columns;
     }
 
     /// Codes, units and remarks among the numbers, and an empty first column.
     void PassTextColumns(std::span<const TableRow> rows) {
-        std::vector<std::size_t> ofTexts;
+        std::vector<std::size_t> ofTexts = TextColumns(rows);
         std::vector<std::size_t> others;
         for (std::size_t column = 1; column < m_shape.Width; ++column) {
-            (IsOfTexts(rows, column) ? ofTexts : others).push_back(column);
+            if (!std::binary_search(ofTexts.begin(), ofTexts.end(), column)) {
+                others.push_back(column);
+            }
         }
         const bool hasNames = std::any_of(rows.begin(), rows.end(), [](const TableRow& row) {
             return !row.Cells.empty() && !row.Cells.front().empty();

@@ -19,32 +19,6 @@ constexpr Count kMinute = 60'000;
 constexpr Count kHour = 60 * kMinute;
 constexpr Count kDay = 24 * kHour;
 
-std::string TwoDigits(Count number) {
-    const std::string digits = std::to_string(number);
-    return digits.size() < 2 ? "0" + digits : digits;
-}
-
-std::string DateText(Count moment) {
-    const std::chrono::sys_days day(std::chrono::floor<std::chrono::days>(Milliseconds(moment)));
-    const std::chrono::year_month_day date(day);
-    return std::to_string(static_cast<int>(date.year())) + "-" +
-           TwoDigits(static_cast<unsigned>(date.month())) + "-" +
-           TwoDigits(static_cast<unsigned>(date.day()));
-}
-
-/// As much of the time as `step`, of which it is a multiple, needs.
-std::string TimeText(Count moment, Count step) {
-    const Count time = (moment % kDay + kDay) % kDay;
-    std::string text = TwoDigits(time / kHour) + ":" + TwoDigits(time / kMinute % 60);
-    if (step % kMinute != 0) {
-        text += ":" + TwoDigits(time / 1000 % 60);
-    }
-    if (step % 1000 != 0) {
-        text += "." + std::to_string(1000 + time % 1000).substr(1);
-    }
-    return text;
-}
-
 Count CommonDivisor(const std::vector<Count>& counts) {
     return std::accumulate(counts.begin(), counts.end(), Count{0}, std::gcd<Count, Count>);
 }
@@ -64,18 +38,18 @@ Count PartsOf(Count span, std::initializer_list<Count> steps, std::initializer_l
 
 /// A label stands on what was measured if it can, else on a whole day, hour, minute or second.
 std::vector<std::string> LabelsOfDates(Count first, Count span, Count step, bool areOfOneDay) {
-    areOfOneDay = areOfOneDay || DateText(first) == DateText(first + span);
+    areOfOneDay = areOfOneDay || DayText(Milliseconds(first)) == DayText(Milliseconds(first + span));
     const Count parts = areOfOneDay
                             ? PartsOf(span, {step, kHour, kMinute, 1000, 1}, {6, 5, 8, 4, 7, 3, 2})
                             : PartsOf(span, {step, kDay, kHour, kMinute, 1000, 1}, {4, 5, 3, 6, 7, 2});
     const Count common = std::gcd(first, span / parts);
     std::vector<std::string> labels;
     for (Count i = 0; i <= parts; ++i) {
-        const Count moment = first + span / parts * i;
-        labels.push_back(areOfOneDay ? TimeText(moment, common) : DateText(moment));
-        if (!areOfOneDay && common % kDay != 0) {
-            labels.back() += "\n" + TimeText(moment, common);
-        }
+        const Milliseconds moment(first + span / parts * i);
+        const std::string clock = ClockText(moment, Milliseconds(common));
+        labels.push_back(areOfOneDay          ? clock
+                         : common % kDay == 0 ? DayText(moment)
+                                              : DayText(moment) + "\n" + clock);
     }
     return labels;
 }

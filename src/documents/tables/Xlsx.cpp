@@ -20,7 +20,7 @@ constexpr double kDaysBetweenSystems = 1462.0; ///< from 1900 to 1904
 
 bool Load(const ZipFile& file, const std::string& part, xml_document& document) {
     const std::optional<std::string> text = file.Part(part);
-    return text && document.load_buffer(text->data(), text->size(), pugi::parse_default | pugi::parse_ws_pcdata);
+    return text && document.load_buffer(text->data(), text->size());
 }
 
 /// The texts of a cell or a shared one: runs of rich text, but no phonetic guides.
@@ -61,8 +61,8 @@ bool IsDateFormat(std::string_view format) {
 }
 
 bool IsDateFormat(int number) {
-    return (number >= 14 && number <= 22) || (number >= 27 && number <= 36) || (number >= 45 && number <= 47) ||
-           (number >= 50 && number <= 58);
+    return (number >= 14 && number <= 22) || (number >= 27 && number <= 36) ||
+           (number >= 45 && number <= 47) || (number >= 50 && number <= 58);
 }
 
 class Workbook {
@@ -75,7 +75,8 @@ public:
     void Read(const std::string& sheet) {
         xml_document workbook;
         xml_document links;
-        if (!Load(m_file, "xl/workbook.xml", workbook) || !Load(m_file, "xl/_rels/workbook.xml.rels", links)) {
+        if (!Load(m_file, "xl/workbook.xml", workbook) ||
+            !Load(m_file, "xl/_rels/workbook.xml.rels", links)) {
             m_rows.SetFault(kBroken);
             return;
         }
@@ -90,7 +91,9 @@ public:
         std::vector<SheetEntry> entries;
         for (const xml_node entry : Children(Child(root, "sheets"), "sheet")) {
             const auto part = parts.find(Attribute(entry, "id"));
-            entries.push_back({std::string(Attribute(entry, "name")), part == parts.end() ? "" : part->second, {},
+            entries.push_back({std::string(Attribute(entry, "name")),
+                               part == parts.end() ? "" : part->second,
+                               {},
                                Attribute(entry, "state").ends_with("idden")});
         }
         ReadSheet(entries, sheet, m_rows,
@@ -184,7 +187,7 @@ private:
             return penlode::PlainDigits(number);
         }
         const bool isTimeAlone = number >= 0.0 && number < 1.0;
-        const double days = m_isFrom1904                  ? number + kDaysBetweenSystems
+        const double days = m_isFrom1904                 ? number + kDaysBetweenSystems
                             : number < kFirstOfMarch1900 ? number + 1.0
                                                          : number;
         return DateOfDays(isTimeAlone ? number : days - kDaysTo1970, isTimeAlone);

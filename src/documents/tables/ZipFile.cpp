@@ -27,7 +27,8 @@ std::optional<std::string> ZipFile::Part(const std::string& name) const {
         (about.valid & ZIP_STAT_SIZE) == 0 || about.size > kMaxBytes) {
         return std::nullopt;
     }
-    const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> file(zip_fopen(m_zip, name.c_str(), 0), zip_fclose);
+    const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> file(zip_fopen(m_zip, name.c_str(), 0),
+                                                                 zip_fclose);
     if (!file) {
         return std::nullopt;
     }

@@ -17,8 +17,8 @@ public:
     ZipFile(const ZipFile&) = delete;
     ZipFile& operator=(const ZipFile&) = delete;
 
-    /// The bytes of a file in it; nothing of one that is not there, cannot be unpacked, is encrypted or larger
-    /// than 1 GB.
+    /// The bytes of a file in it; nothing of one that is not there, cannot be unpacked, is encrypted or
+    /// larger than 1 GB.
     std::optional<std::string> Part(const std::string& name) const;
 
 private:
