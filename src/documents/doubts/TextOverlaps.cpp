@@ -167,7 +167,7 @@ void AddLegendDoubts(const std::vector<SeenText>& texts, const std::vector<Legen
             diagnostics.push_back(
                 penlode::Warning(PlaceOf(records, {TextRole::LegendName, 0, 0, legend.Part}) + "/LegendPos",
                                  "the legend lies over " + Counted(count, NounOf(first.Text.Owner.Role)) +
-                                     ", " + (count == 1 ? "" : "the first is ") + Quoted(first.Text.Text) +
+                                     ", " + ToFirst(count) + Quoted(first.Text.Text) +
                                      "; take another side for it, or a smaller font"));
         });
     }
@@ -177,16 +177,17 @@ void AddOutsideDoubts(const std::vector<SeenText>& texts, const RectF& page, con
                       Diagnostics& diagnostics) {
     Affected outside;
     for (const SeenText& text : texts) {
-        if (text.Text.Owner.Role != TextRole::BarLabel && !Holds(page, text.Box)) {
+        if (!Holds(page, text.Box)) {
             outside.Add(text);
         }
     }
     outside.ForEach([&](std::size_t count, const SeenText& first) {
-        diagnostics.push_back(
-            penlode::Warning(PlaceOf(records, first.Text.Owner),
-                             CountedAre(count, NounOf(first.Text.Owner.Role)) + " outside the page, " +
-                                 (count == 1 ? "" : "the first is ") + Quoted(first.Text.Text) + "; " +
-                                 AdviceFor(first.Text.Owner.Role)));
+        diagnostics.push_back(penlode::Warning(
+            PlaceOf(records, first.Text.Owner),
+            CountedAre(count, NounOf(first.Text.Owner.Role)) + " outside the page, " + ToFirst(count) +
+                Quoted(first.Text.Text) + "; " +
+                (first.Text.Owner.Role == TextRole::BarLabel ? "\"range\" sets an axis that holds its bar"
+                                                             : AdviceFor(first.Text.Owner.Role))));
     });
 }
 
