@@ -91,15 +91,33 @@ void ChartStream::Ser(const std::string& tag, std::string& value, const std::str
         value = JoinedList(tag);
         return;
     }
-    const char* const ofDocument =
-        DocumentDefault(m_kind, m_places.back(), penlode::CStringUtil::AnsiToUtf8(tag));
-    m_json.Ser(key, value, ofDocument == nullptr ? defaultValue : ofDocument);
+    m_json.Ser(key, value, DefaultOf(tag, defaultValue));
     if (tag == "ComponentName") {
         WarnOfDroppedName(place, value);
     }
     if (const Form form = FormOf(tag, defaultValue)) {
         value = form(value);
     }
+}
+
+/// Who says what a label shows, or which total a pie's width stands for, has left out the rest on purpose. A
+/// caption that is given is shown.
+std::string ChartStream::DefaultOf(const std::string& tag, const std::string& ofRecord) const {
+    const auto isGiven = [this](const char* given) { return m_json.Has(given); };
+    const auto isAnyGiven = [&](std::initializer_list<const char*> tags) {
+        return std::any_of(tags.begin(), tags.end(), isGiven);
+    };
+    const bool isLabelPart = IsOneOf(tag, {"ShowNameLabel", "ShowPercentLabel"});
+    if ((isLabelPart && isAnyGiven({"ShowNameLabel", "ShowValueLabel", "ShowPercentLabel"})) ||
+        (tag == "FixedSize" && isAnyGiven({"BaseValue", "BasePieWidth"}))) {
+        return ofRecord;
+    }
+    if (IsOneOf(tag, {"ShowCaption", "ShowVerCaption", "ShowHorCaption"})) {
+        return m_json.Has(tag.substr(std::string_view("Show").size())) ? "1" : "0";
+    }
+    const char* const ofDocument =
+        DocumentDefault(m_kind, m_places.back(), penlode::CStringUtil::AnsiToUtf8(tag));
+    return ofDocument == nullptr ? ofRecord : ofDocument;
 }
 
 /// The name under which the document has the key.

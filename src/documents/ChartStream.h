@@ -82,6 +82,7 @@ public:
 
 private:
     std::string Ask(const std::string& tag);
+    std::string DefaultOf(const std::string& tag, const std::string& ofRecord) const;
     const std::string& NameGiven(const std::string& tag);
     std::string JoinedList(const std::string& tag);
     void WarnOfDroppedName(const std::string& place, const std::string& joined);

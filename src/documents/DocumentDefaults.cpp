@@ -25,9 +25,6 @@ constexpr Default kDefaults[] = {
     {"", "TextProperty", "DrawEdge", "0"},
     {"", "TextProperty", "DrawBackGround", "0"},
     {"", "/VerCaptionTextProperty", "Angle", "90"},
-    // A text that is given is shown.
-    {"", "/CaptionProp", "ShowCaption", "1"},
-    {"", "HorAxisProp", "ShowHorCaption", "1"},
     // Names stand in a legend, or where there is none, beside what they name.
     {"half-pie-histogram", "/HistogramLegendProp", "ShowLegend", "0"},
     {"", "LegendProp", "ShowLegend", "1"},
@@ -62,6 +59,7 @@ constexpr Default kDefaults[] = {
     {"", "HorAxisProp", "VerGridPen", kGrey},
     {"half-pie-histogram", "/HistogramPlotProp", "ShowBackground", "0"},
     {"half-pie-histogram", "/HistogramPlotProp", "ShowEdge", "0"},
+    {"curve", "/CurvePlotProp", "ShowEdge", "0"}, // it would stand over the axes
     {"", "PlotProp", "EdgePen", kGrey},
     {"half-pie-histogram", "/HistogramPlotProp", "PlotWidth", "60"},
     {"half-pie-histogram", "/HistogramPlotProp", "PlotHeight", "30"},

@@ -105,17 +105,32 @@ Axis BestAxis(double min, double max) {
     return best;
 }
 
-/// An axis adds step on step, so that the sum may end a little beside the last multiple: the last tick
-/// counts.
-std::array<double, 4> RangeOf(const Axis& axis, double min) {
-    const double step = axis.Each.Times(1.0);
-    const double first = std::min(axis.Each.Times(axis.First), min);
-    double last = first;
-    for (double i = 0.0; i < axis.Steps(); i += 1.0) {
-        last += step;
+/// Where step on step ends, and whether it passes so closely below 0 that a label would say -0.00.
+struct Walk {
+    double End;
+    bool IsBelowZero;
+};
+
+Walk WalkBy(double step, double first, double steps) {
+    constexpr double kClosely = 1e-6;
+    Walk walk{first, false};
+    for (double i = 0.0; i < steps; i += 1.0) {
+        walk.End += step;
+        walk.IsBelowZero = walk.IsBelowZero || (walk.End < 0.0 && walk.End > -step * kClosely);
     }
-    return {first, std::max({last, axis.Each.Times(axis.Last), axis.End}), step,
-            axis.Each.Times(1.0, axis.Each.MinorTenths)};
+    return walk;
+}
+
+/// An axis adds step on step, so that the sum may end a little beside the last multiple: the last tick
+/// counts. A step may be longer by a hair.
+std::array<double, 4> RangeOf(const Axis& axis, double min) {
+    double step = axis.Each.Times(1.0);
+    const double first = std::min(axis.Each.Times(axis.First), min);
+    while (WalkBy(step, first, axis.Steps()).IsBelowZero) {
+        step = std::nextafter(step, std::numeric_limits<double>::infinity());
+    }
+    return {first, std::max({WalkBy(step, first, axis.Steps()).End, axis.Each.Times(axis.Last), axis.End}),
+            step, axis.Each.Times(1.0, axis.Each.MinorTenths)};
 }
 
 double InReach(double value) {

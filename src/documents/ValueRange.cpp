@@ -230,7 +230,7 @@ void RangeCheck::AddTo(Diagnostics& diagnostics,
         m_isLogarithmic ? "no place on a logarithmic axis, expected numbers above 0, or a LogarithmScale of 0"
                         : "no place on the value axis, expected numbers");
     add(m_outside, penlode::Severity::Warning, "lies", "lie",
-        "outside " + Axis() + ", and so outside the plot; \"range\" sets another");
+        "outside " + Axis() + ", and so outside the plot; \"range\": \"fit\" makes one that holds all");
 }
 
 std::string RangeCheck::Axis() const {

@@ -85,7 +85,7 @@ TEST_F(Check, MissingKeysAreNotesWithWhatIsTaken) {
     EXPECT_EQ(outcome.Status, 0);
     for (const char* line :
          {"s.json: note: title: missing, taken as empty\n",
-          "s.json: note: property/PieBasicProp/FixedWidth: missing, \"20\" is taken\n",
+          "s.json: note: property/PieBasicProp/FixedSize: missing, \"1\" is taken\n",
           "s.json: note: property/PieLegendProp: missing, every key in it takes its default\n",
           "s.json: note: property/PieLegendProp/LegendPos: missing, \"RightCenter\" is taken\n",
           "s.json: note: labelOffsets: missing, an empty list is taken\n"}) {

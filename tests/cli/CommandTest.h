@@ -62,6 +62,7 @@ inline const std::string kKinds = [] {
 
 /// A pie of 20 mm that draws without a word.
 inline const char* const kSmallPie =
-    R"({"kind": "pie", "property": {"PieBasicProp": {"FixedSize": 1}}, "data": {"values": [1, 2.5]}})";
+    R"({"kind": "pie", "property": {"PieBasicProp": {"PieStyle": "3D", "FixedWidth": 20},
+        "PieLabelProp": {"ShowPercentLabel": 0}}, "data": {"values": [1, 2.5]}})";
 
 } // namespace cli_test

@@ -139,7 +139,7 @@ TEST_F(Formats, AnSvgSurvivesNamesThatLookLikeMarkup) {
     const std::string svg =
         Drawn(Write("m.json", R"({"kind": "pie", "title": "</title> & <b>", "source": "]]>\u0007",
             "data": {"values": [1]}, "property": {"PieBasicProp": {"ComponentName": "R&D <new/>||"},
-            "PieLegendProp": {"ShowLegend": 1, "Font": "Arial 4"}}})"),
+            "PieLabelProp": {"ShowPercentLabel": 0}, "PieLegendProp": {"ShowLegend": 1, "Font": "Arial 4"}}})"),
               "m.svg");
     EXPECT_EQ(XPath(svg, "string(//*[local-name()='text'])").Output, "R&D <new/>\n");
     EXPECT_EQ(XPath(svg, "string(/*/*[local-name()='title'])").Output, "</title> & <b>\n");
@@ -164,7 +164,8 @@ TEST_F(Formats, APdfHoldsEveryLabelAsText) {
 TEST_F(Formats, EightyMillimetresAreEightyInEach) {
     const std::string document =
         Write("80.json", R"({"kind": "pie", "data": {"values": [1]}, "property": {"PieBasicProp":
-        {"PieStyle": "2D", "FixedSize": 1, "FixedWidth": 70, "ComponentColor": ["#336699"]}}})");
+        {"PieStyle": "2D", "FixedSize": 1, "FixedWidth": 70, "ComponentColor": ["#336699"]},
+        "PieLabelProp": {"ShowPercentLabel": 0}}})");
 
     const std::string png = ReadAll(Drawn(document, "80.png"));
     EXPECT_NEAR(PngNumber(png, "IHDR", 0) * 1000.0 / PngNumber(png, "pHYs", 0), 80.0, 0.15)

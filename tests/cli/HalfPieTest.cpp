@@ -18,7 +18,8 @@ const std::string kLower = R"(, "WhichPart": "Lower")";
 
 std::string WithBars(const std::string& half, const std::string& rest) {
     return R"({"kind": "half-pie-histogram", "property": {"HalfPie": )" + Half(half) +
-           R"(, "Histogram": {"HistogramPlotProp": {"PlotHeight": 30}}},)" + "\n" + rest + "}";
+           R"(, "Histogram": {"HistogramPlotProp": {"PlotWidth": 80, "GroupDistane": 10}}},)" + "\n" + rest +
+           "}";
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace {
 /// Bars of 30 mm for 30, without labels; what is over the axis is `rest`.
 std::string Bars(const std::string& plot, const std::string& rest) {
     return R"({"kind": "histogram", "property": {"HistogramVerAxisProp": {"ShowVerAxis": 1},
-        "HistogramPlotProp": {"ShowComponentName": 0, "ShowComponentValue": 0)" +
+        "HistogramPlotProp": {"PlotWidth": 80, "PlotHeight": 30, "GroupDistane": 10)" +
            plot + "}},\n" + rest + "}";
 }
 

@@ -75,8 +75,8 @@ TEST_F(Schema, RefusesWhatCheckRefuses) {
     for (const auto& [pattern, replacement, kind] : std::initializer_list<Change>{
              {"\"pie\"", "\"pye\""},
              {"\"2D\"", "\"4D\""},
-             {"\"60\"", "\"60 mm\""},
-             {"#FF3B6FB6", "blue"},
+             {"\"60\"", "\"60 km\""},
+             {"#FF3B6FB6", "bluish"},
              {"#FFFFFFFF 0.3 solid", "#FFFFFFFF wavy"},
              {"Arial 3.4", "Arial"},
              {"\"0 0\"", "\"1\""},

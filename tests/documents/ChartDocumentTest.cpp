@@ -186,6 +186,25 @@ TEST(ChartDocument, SavesWhatWasChangedAndKeepsTheRest) {
     EXPECT_EQ(document.Text(), before) << "changed back is not changed";
 }
 
+TEST(ChartDocument, NumbersAndFlagsStayWhatTheyAre) {
+    ChartDocument document = Loaded(R"({"kind": "curve", "data": {"curves": [{"values": [1, 2]}]},
+        "property": {"CurvePlotProp": {"ShowEdge": true, "ShowBackground": 1, "PlotWidth": 90, "PlotHeight": "60",
+        "CurveWidth": [0.5], "CurveName": [2020]}}})");
+    CurvePlotProp& plot = std::get<CurveDocument>(document.Content).Prop.Plot;
+    plot.ShowEdge = 0;
+    plot.ShowBackground = 0;
+    plot.PlotWidth = 200000.0F;
+    plot.PlotHeight = 55.5F;
+    plot.CurveWidth = {0.3F, 0.7F};
+    plot.CurveName = {"2021 e", "b"};
+    std::string saved = document.Text();
+    std::erase_if(saved, [](char c) { return c == ' ' || c == '\n'; });
+    for (const char* held : {"\"ShowEdge\":false", "\"ShowBackground\":0", "\"PlotWidth\":200000",
+                             "\"PlotHeight\":\"55.5\"", "[0.3,0.7]", "[\"2021e\",\"b\"]"}) {
+        EXPECT_NE(saved.find(held), std::string::npos) << held << saved;
+    }
+}
+
 TEST(ChartDocument, WhatItLeavesOpenFollowsTheData) {
     ChartDocument document = Loaded(R"({"kind": "pie", "data": {"values": [1]},
         "property": {"PieBasicProp": {"FixedSize": 1}}})");

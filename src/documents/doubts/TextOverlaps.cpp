@@ -186,7 +186,7 @@ void AddOutsideDoubts(const std::vector<SeenText>& texts, const RectF& page, con
             PlaceOf(records, first.Text.Owner),
             CountedAre(count, NounOf(first.Text.Owner.Role)) + " outside the page, " + ToFirst(count) +
                 Quoted(first.Text.Text) + "; " +
-                (first.Text.Owner.Role == TextRole::BarLabel ? "\"range\" sets an axis that holds its bar"
+                (first.Text.Owner.Role == TextRole::BarLabel ? "\"range\": \"fit\" makes an axis that holds its bar"
                                                              : AdviceFor(first.Text.Owner.Role))));
     });
 }

@@ -62,13 +62,15 @@ void JsonWriter::Save(const std::string& tag, const std::string& text) {
     }
 }
 
-/// A number stays one, as people write it, where it is read as the very text.
+/// A number stays one, as people write it, where it is read as the very text or the text is a record's
+/// number: 2e+05 is 200000. So does a boolean.
 void JsonWriter::SaveText(JsonNode& node, const std::string& text) {
     double number = 0.0;
     std::string form = text;
     if (node.Number() && ser_evaluate(number, form, false)) {
-        node = NumberNode(number);
-        if (m_tree.ScalarText(node) == text) {
+        const bool isFlag = node.Is(JsonType::Boolean) && (text == "0" || text == "1");
+        node = isFlag ? JsonNode::Boolean(text == "1") : NumberNode(number);
+        if (m_tree.ScalarText(node) == text || Digits(static_cast<float>(number)) == text) {
             return;
         }
     }
@@ -78,7 +80,8 @@ void JsonWriter::SaveText(JsonNode& node, const std::string& text) {
 void JsonWriter::Save(const std::string& tag, const std::vector<std::string>& texts) {
     if (JsonNode* const entry = Entry(tag)) {
         JsonList& items = m_tree.AsList(*entry);
-        items.resize(texts.size());
+        // Behind numbers come numbers.
+        items.resize(texts.size(), !items.empty() && items.back().Number() ? items.back() : JsonNode());
         for (std::size_t i = 0; i < texts.size(); ++i) {
             SaveText(items[i], texts[i]);
         }
