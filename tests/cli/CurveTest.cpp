@@ -31,10 +31,12 @@ protected:
     }
 };
 
-/// A plot of 100 mm x 10 mm over 0 to 10, with no value axis or legend beside it.
+/// A plot of 100 mm x 10 mm over 0 to 10, with no value axis or legend beside it, and markers for points that
+/// stand alone.
 std::string Lines(const std::string& data, const std::string& plot = "") {
     return R"({"kind": "curve", "property": {"CurveVerAxisProp": {"ShowVerAxis": 0},
-        "CurveLegendProp": {"ShowLegend": 0}, "CurvePlotProp": {"PlotWidth": 100, "PlotHeight": 10)" +
+        "CurveLegendProp": {"ShowLegend": 0}, "CurvePlotProp": {"CurveDotStyle": ["solid_circle"],
+        "PlotWidth": 100, "PlotHeight": 10)" +
            plot + "}},\n\"range\": {\"InitializeValueRange\": 9},\n\"data\": " + data + "}";
 }
 

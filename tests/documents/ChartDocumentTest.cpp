@@ -363,6 +363,15 @@ TEST(ChartDocument, LayoutsTellWhereTheirWarningsStand) {
     EXPECT_EQ(warnings[1].Line, 4U);
 }
 
+TEST(ChartDocument, ValuesOfAHostThatAreNoNumbersAreTold) {
+    ChartDocument document =
+        Loaded(R"({"kind": "curve", "data": {"curves": [{"name": "Tide", "values": [1, 2, 3]}]},
+        "property": {"CurvePlotProp": {"CurveDotStyle": ["solid_circle"]}}})");
+    std::get<CurveDocument>(document.Content).Data.Values[0][1] = std::nan("");
+    EXPECT_EQ(Told(document.LayOut().Diagnostics),
+              "data/curves/0/values/1: nan of \"Tide\" has no place on the value axis, expected numbers\n");
+}
+
 TEST(ChartDocument, NamesThatAloneChangedAreSaved) {
     for (const char* text :
          {R"({"kind": "pie", "data": {"values": [1, 2]}})",

@@ -10,6 +10,10 @@ std::wstring ResolvedFamily(const std::wstring& family) {
     return family == L"宋体" ? L"Noto Serif CJK SC" : family;
 }
 
+bool HasStandIns(const std::wstring& family) {
+    return family == L"宋体";
+}
+
 GraphicsPath OutlineOfLine(std::wstring_view line, const Font& font) {
     GraphicsPath outline;
     for (std::size_t i = 0; i < line.size(); ++i) {

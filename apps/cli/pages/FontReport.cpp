@@ -3,6 +3,8 @@
 #include "penlode/text/FontFace.h"
 #include "penlode/text/StringUtil.h"
 
+#include <algorithm>
+#include <cwctype>
 #include <map>
 
 namespace cli {
@@ -18,6 +20,17 @@ void AddNew(std::wstring& characters, const std::wstring& more) {
             characters += character;
         }
     }
+}
+
+bool AreOneName(const std::wstring& a, const std::wstring& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](wchar_t one, wchar_t other) { return std::towlower(one) == std::towlower(other); });
+}
+
+/// Is a family drawn in a face that has nothing to do with it?
+bool IsTakenForAnother(const std::wstring& family) {
+    const std::wstring face = penlode::ResolvedFamily(family);
+    return !family.empty() && !face.empty() && !AreOneName(face, family) && !penlode::HasStandIns(family);
 }
 
 std::string FaceMessage(const std::wstring& family) {
@@ -38,6 +51,10 @@ FontReport ReportFonts(const millichart::LaidOutChart& chart) {
     FontReport report;
     for (const auto& [family, missing] : missingByFamily) {
         report.Faces.push_back(penlode::Note("", FaceMessage(family)));
+        if (IsTakenForAnother(family)) {
+            report.Warnings.push_back(penlode::Warning(
+                "", FaceMessage(family) + ", as it is not installed; letters may have other widths"));
+        }
         if (!missing.empty()) {
             report.Warnings.push_back(penlode::Warning(
                 "", "no installed font has " + CStringUtil::WideToUtf8(missing) +

@@ -2,6 +2,8 @@
 
 #include "documents/ValueRange.h"
 
+#include <utility>
+
 namespace millichart::documents {
 
 penlode::Diagnostic AtBar(const TableOrigin& origin, std::size_t group, std::size_t component) {
@@ -17,9 +19,15 @@ std::string BarNamed(const std::string& component, const std::string& group) {
            (group.empty() ? "" : " in " + Quoted(group));
 }
 
-std::string BarNamed(const CBasicHistogram& chart, std::size_t group, std::size_t component) {
-    return BarNamed(NameAt(chart.GetHistogramProp().Plot.ComponentName, component),
-                    NameAt(chart.GetGroupName(), group));
+std::string BarNamed(const CBasicHistogram& chart, const Bar& bar) {
+    return BarNamed(NameAt(chart.GetHistogramProp().Plot.ComponentName, bar.Component),
+                    NameAt(chart.GetGroupName(), bar.Group));
+}
+
+penlode::Diagnostic AtFirst(const FoundBars& found, const TableOrigin& origin, std::string text) {
+    penlode::Diagnostic told = AtBar(origin, found.First.Group, found.First.Component);
+    told.Text = std::move(text);
+    return told;
 }
 
 } // namespace millichart::documents

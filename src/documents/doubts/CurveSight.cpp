@@ -40,8 +40,8 @@ void AddLonePointDoubts(const CBasicCurve& chart, const std::vector<CurveShape>&
     if (alone > 0) {
         diagnostics.push_back(penlode::Warning("property/CurvePlotProp/CurveDotStyle",
                                                Counted(alone, "point") + (alone == 1 ? " has" : " have") +
-                                                   " no neighbour that a line leads to and" +
-                                                   " no marker, so that nothing is seen of " +
+                                                   " neither a neighbour that a line leads to nor" +
+                                                   " a marker, so that nothing is seen of " +
                                                    (alone == 1 ? "it" : "them") + ", first in " + first +
                                                    "; give the curve markers, such as \"solid_circle\""));
     }

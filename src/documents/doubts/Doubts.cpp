@@ -9,6 +9,7 @@
 #include "documents/doubts/TextContrast.h"
 #include "documents/doubts/TextOverlaps.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -49,7 +50,7 @@ template <class Chart> void AddTextDoubts(const Chart& chart, const Scene& scene
 void AddHalf(const HalfPieProp& prop, const CBasicHalfPie& half, const std::string& place,
              const std::string& data, Scene& scene, Diagnostics& diagnostics) {
     AddRecordDoubts(prop, place, diagnostics);
-    AddSliceValueDoubts(half, prop.Label, data, diagnostics);
+    AddSliceValueDoubts(half, prop.Label, prop.Basic.ComponentName, data, diagnostics);
     scene.Records.push_back({place, "Pie"});
     scene.Paints.push_back(PaintOf(half.GetShapes()));
 }
@@ -70,16 +71,14 @@ void AddShiftDoubts(const CBasicHalfPieHistogram& chart, Diagnostics& diagnostic
     constexpr float kUnnoticed = 0.1F;
     const CBasicHistogram& bars = chart.GetHistogram();
     const RectF& plot = bars.GetLayout().Plot;
-    const float depth = bars.GetShapes().Depth.X;
-    const float up = chart.GetLocation().Y - plot.Bottom();
-    const float aside = plot.Center().X + depth * 0.5F - chart.GetLocation().X;
-    const float moved = std::max(std::abs(up), std::abs(aside));
+    const float middle = plot.Center().X + bars.GetShapes().Depth.X * 0.5F;
+    const float moved =
+        std::max(std::abs(chart.GetLocation().Y - plot.Bottom()), std::abs(middle - chart.GetLocation().X));
     if (!bars.GetLayout().LegendItemRects.empty() && moved > kUnnoticed) {
         diagnostics.push_back(penlode::Warning("property/Histogram/HistogramLegendProp/LegendPos",
-                                               "the legend takes the bars " +
-                                                   NumberText(std::round(moved * 10.0) / 10.0) +
-                                                   " mm off the middle of the half pie's line; \"TopCenter\" "
-                                                   "leaves them there if it is no wider than they are"));
+                                               "the legend takes the bars off the middle of the half pie's "
+                                               "line; \"TopCenter\" leaves them there if "
+                                               "it is no wider than they are"));
     }
 }
 
@@ -88,7 +87,7 @@ void AddShiftDoubts(const CBasicHalfPieHistogram& chart, Diagnostics& diagnostic
 void AddDoubts(const PieDocument& document, const CBasicPie& chart, Diagnostics& diagnostics) {
     Scene scene{{{kRecord, "Pie"}}, {PaintOf(chart.GetShapes())}, {}};
     AddRecordDoubts(document.Prop, kRecord, diagnostics);
-    AddSliceValueDoubts(chart, document.Prop.Label, "data", diagnostics);
+    AddSliceValueDoubts(chart, document.Prop.Label, document.Prop.Basic.ComponentName, "data", diagnostics);
     AddLegend(document.Prop.Legend, chart.GetLayout().LegendItemRects, 0, scene);
     AddTextDoubts(chart, scene, diagnostics);
 }

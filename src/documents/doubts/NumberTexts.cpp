@@ -4,6 +4,7 @@
 #include "documents/ValueRange.h"
 #include "documents/doubts/BarWording.h"
 #include "foundation/NumberText.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +19,9 @@ constexpr double kStepSlack = 0.02;
 /// slice's, whose label is an overview.
 constexpr double kBarSlack = 0.02;
 constexpr double kSliceSlack = 0.05;
+
+/// Ticks are found by adding steps, whose last digits are rounding's.
+constexpr int kTickDigits = 10;
 
 /// What a tick's label would say without what the record puts round it.
 std::string Bare(std::string text, const TextProperty& property) {
@@ -60,16 +64,16 @@ void AddLabelDoubts(TickWalk walk, const VerAxisProp& prop, const CartesianLayou
         double shown = 0.0;
         const std::string text = Bare(label, prop.VerAxisLabelTextProperty);
         if (ParseNumber(text, shown) && std::abs(shown - walk.Tick) > walk.Slack() && wrong++ == 0) {
-            first = WithoutTrailingZeros(FixedText(walk.Tick, 6)) + " as " + Quoted(text);
+            first =
+                penlode::Digits(walk.Tick, std::chars_format::general, kTickDigits) + " as " + Quoted(text);
         }
         walk.Advance();
     }
     if (wrong > 0) {
         diagnostics.push_back(penlode::Warning(
             "range", Counted(wrong, "label") + " of the value axis " + (wrong == 1 ? "does" : "do") +
-                         " not say where " +
-                         (wrong == 1 ? "its tick is: " : "their ticks are, the first is ") + first +
-                         "; give " +
+                         " not say where " + (wrong == 1 ? "its tick is, " : "their ticks are, ") +
+                         ToFirst(wrong) + first + "; give " +
                          (walk.IsLogarithmic ? "a range that begins at a power of ten"
                                              : "a range with whole steps, or the values in a smaller unit")));
     }
@@ -89,20 +93,6 @@ bool IsFalse(double value, const std::string& text, double slack) {
            std::abs(shown - value) > slack * std::abs(value);
 }
 
-/// Texts of values that are not what they say.
-struct FalseTexts {
-    std::size_t Count = 0;
-    std::size_t First = 0;
-    std::string Text; ///< 2.4 as "2"
-
-    void Add(double value, const std::string& text, std::size_t index) {
-        if (Count++ == 0) {
-            First = index;
-            Text = NumberText(value) + " as \"" + text + "\"";
-        }
-    }
-};
-
 } // namespace
 
 void AddAxisLabelDoubts(const CBasicHistogram& chart, Diagnostics& diagnostics) {
@@ -119,49 +109,43 @@ void AddBarValueDoubts(const CBasicHistogram& chart, const TableOrigin& origin, 
     if (chart.GetHistogramProp().Plot.ShowComponentValue == 0) {
         return;
     }
-    FalseTexts rounded;
-    std::size_t firstComponent = 0;
-    const auto& groups = chart.GetComponentValue();
-    for (std::size_t group = 0; group < chart.GetLayout().ComponentRects.size(); ++group) {
-        const std::size_t bars =
-            std::min(groups[group].size(), chart.GetLayout().ComponentRects[group].size());
-        for (std::size_t i = 0; i < bars; ++i) {
-            if (const std::string text = FixedText(groups[group][i], 0);
-                IsFalse(groups[group][i], text, kBarSlack)) {
-                firstComponent = rounded.Count == 0 ? i : firstComponent;
-                rounded.Add(groups[group][i], text, group);
-            }
-        }
-    }
+    const auto& drawn = chart.GetLayout().ComponentRects;
+    const FoundBars rounded = FindBars(chart, [&drawn](const Bar& bar) {
+        return bar.Group < drawn.size() && bar.Component < drawn[bar.Group].size() &&
+               IsFalse(bar.Value, FixedText(bar.Value, 0), kBarSlack);
+    });
     if (rounded.Count > 0) {
-        penlode::Diagnostic told = AtBar(origin, rounded.First, firstComponent);
-        told.Text = CountedAre(rounded.Count, "value") + " written as whole numbers, the first is " +
-                    rounded.Text + BarNamed(chart, rounded.First, firstComponent) +
-                    "; give the values in a smaller unit, or set ShowComponentValue to 0";
-        diagnostics.push_back(std::move(told));
+        diagnostics.push_back(
+            AtFirst(rounded, origin,
+                    CountedAre(rounded.Count, "value") + " written without decimals, " +
+                        ToFirst(rounded.Count) + NumberText(rounded.First.Value) +
+                        BarNamed(chart, rounded.First) + " as \"" + FixedText(rounded.First.Value, 0) +
+                        "\"; give the values in a smaller unit, or set ShowComponentValue to 0"));
     }
 }
 
-void AddSliceValueDoubts(const CSlicedCircle& circle, const PieLabelProp& label, const std::string& place,
+void AddSliceValueDoubts(const CSlicedCircle& circle, const PieLabelProp& label,
+                         const std::vector<std::string>& names, const std::string& place,
                          Diagnostics& diagnostics) {
     const std::vector<double>& values = circle.GetComponentValue();
     const double total = std::accumulate(values.begin(), values.end(), 0.0);
-    FalseTexts rounded;
+    std::size_t lost = 0;
+    std::string first;
     for (std::size_t i = 0; i < values.size() && i < circle.GetLayout().LabelTexts.size(); ++i) {
-        const double percent = values[i] / total * 100.0;
-        if (const std::string text = FixedText(values[i], 1);
-            label.ShowValueLabel == 1 && IsFalse(values[i], text, kSliceSlack)) {
-            rounded.Add(values[i], text, i);
-        } else if (label.ShowPercentLabel == 1 && values[i] > 0.0 && FixedText(percent, 1) == "0.0") {
-            rounded.Add(values[i], "0.0%", i);
+        const std::string value = FixedText(values[i], 1);
+        const std::string percent = FixedText(values[i] / total * 100.0, 1);
+        const bool isFalse = label.ShowValueLabel == 1 && IsFalse(values[i], value, kSliceSlack);
+        const bool isNone = label.ShowPercentLabel == 1 && values[i] > 0.0 && percent == "0.0";
+        if ((isFalse || isNone) && lost++ == 0) {
+            const std::string name = NameAt(names, i);
+            first = NumberText(values[i]) + (name.empty() ? "" : " of " + Quoted(name)) + " as \"" +
+                    (isFalse ? value : percent + "%") + '"';
         }
     }
-    if (rounded.Count > 0) {
-        diagnostics.push_back(
-            penlode::Warning(place + "/values/" + std::to_string(rounded.First),
-                             CountedAre(rounded.Count, "slice") +
-                                 " too small for the one decimal of the labels, the first is " +
-                                 rounded.Text + "; join small slices, or give the values in a smaller unit"));
+    if (lost > 0) {
+        diagnostics.push_back(penlode::Warning(
+            place, CountedAre(lost, "value") + " too small for the one decimal of the labels, " +
+                       ToFirst(lost) + first + "; join small slices, or give the values in a smaller unit"));
     }
 }
 

@@ -18,8 +18,9 @@ void AddAxisLabelDoubts(const CBasicCurve& chart, Diagnostics& diagnostics);
 /// Of bars whose values are written as whole numbers and are none.
 void AddBarValueDoubts(const CBasicHistogram& chart, const TableOrigin& origin, Diagnostics& diagnostics);
 
-/// Of slices too small for the one decimal of their labels. `place` is their values'.
-void AddSliceValueDoubts(const CSlicedCircle& circle, const PieLabelProp& label, const std::string& place,
+/// Of slices too small for the one decimal of their labels. `place` is their data's.
+void AddSliceValueDoubts(const CSlicedCircle& circle, const PieLabelProp& label,
+                         const std::vector<std::string>& names, const std::string& place,
                          Diagnostics& diagnostics);
 
 } // namespace millichart::documents

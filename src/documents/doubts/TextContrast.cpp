@@ -73,8 +73,8 @@ struct LostTexts {
 std::string LostText(const LostTexts& lost) {
     const bool isLegend = lost.First->Text.Owner.Role == TextRole::LegendName;
     return Counted(lost.Count, NounOf(lost.First->Text.Owner.Role)) + " cannot be read, " +
-           (lost.Count == 1 ? "" : "the first is ") + Quoted(lost.First->Text.Text) + ": " +
-           ColorText(lost.Why.Text) + " on " + ColorText(lost.Why.Ground) + "; take another " +
+           ToFirst(lost.Count) + Quoted(lost.First->Text.Text) + ": " + ColorText(lost.Why.Text) + " on " +
+           ColorText(lost.Why.Ground) + "; take another " +
            (isLegend           ? "BackgroundColor"
             : lost.Why.IsBoxed ? "BkColor"
                                : "TextColor");

@@ -14,7 +14,7 @@ namespace {
 using penlode::RectF;
 
 /// So many pairs of texts are looked at: what is crowded beyond that has long been found to be.
-constexpr std::size_t kMaxPairs = 1000000;
+constexpr std::size_t kMaxPairs = 300000;
 
 /// What may lie outside without being lost.
 constexpr float kHalfALetter = 1.0F;
@@ -65,18 +65,24 @@ std::vector<Reach> ReachesOf(const std::vector<SeenText>& texts) {
     return reaches;
 }
 
-std::map<std::pair<Kind, Kind>, Overlaps> FindOverlaps(const std::vector<SeenText>& texts) {
-    std::map<std::pair<Kind, Kind>, Overlaps> found;
+struct AllOverlaps {
+    std::map<std::pair<Kind, Kind>, Overlaps> ByKinds;
+    bool HaveMore = false; ///< than were looked for
+};
+
+AllOverlaps FindOverlaps(const std::vector<SeenText>& texts) {
+    AllOverlaps found;
     const std::vector<Reach> reaches = ReachesOf(texts);
     std::size_t pairs = 0;
     for (std::size_t i = 0; i < reaches.size(); ++i) {
         for (std::size_t j = i + 1; j < reaches.size() && reaches[j].From < reaches[i].To; ++j) {
             if (++pairs > kMaxPairs) {
+                found.HaveMore = true;
                 return found;
             }
             const auto [a, b] = std::minmax(reaches[i].Text, reaches[j].Text);
             if (IsLegendName(texts[a]) == IsLegendName(texts[b]) && AreOverlapping(texts[a], texts[b])) {
-                found[std::minmax(KindOf(texts[a]), KindOf(texts[b]))].Add(a, b);
+                found.ByKinds[std::minmax(KindOf(texts[a]), KindOf(texts[b]))].Add(a, b);
             }
         }
     }
@@ -108,12 +114,12 @@ std::string Names(const std::vector<SeenText>& texts, const Overlaps& overlaps) 
            Quoted(texts[overlaps.First.second].Text.Text);
 }
 
-std::string OverlapText(const std::vector<SeenText>& texts, const Overlaps& overlaps) {
+std::string OverlapText(const std::vector<SeenText>& texts, const Overlaps& overlaps, bool haveMore) {
     const TextRole first = texts[overlaps.First.first].Text.Owner.Role;
     const TextRole second = texts[overlaps.First.second].Text.Owner.Role;
     if (first == second) {
-        return Counted(overlaps.Texts.size(), NounOf(first)) + " overlap, the first are " +
-               Names(texts, overlaps) + "; " + AdviceFor(first);
+        return (haveMore ? "at least " : "") + Counted(overlaps.Texts.size(), NounOf(first)) +
+               " overlap, the first are " + Names(texts, overlaps) + "; " + AdviceFor(first);
     }
     return std::string("a ") + NounOf(first) + " and a " + NounOf(second) +
            " overlap: " + Names(texts, overlaps) + (overlaps.Texts.size() > 2 ? " and others" : "") + "; " +
@@ -147,10 +153,11 @@ bool Holds(const RectF& page, const RectF& box) {
 
 void AddOverlapDoubts(const std::vector<SeenText>& texts, const PartRecords& records,
                       Diagnostics& diagnostics) {
-    for (const auto& [kinds, overlaps] : FindOverlaps(texts)) {
+    const AllOverlaps found = FindOverlaps(texts);
+    for (const auto& [kinds, overlaps] : found.ByKinds) {
         const SeenText& second = texts[overlaps.First.second];
-        diagnostics.push_back(
-            penlode::Warning(PlaceOf(records, second.Text.Owner), OverlapText(texts, overlaps)));
+        diagnostics.push_back(penlode::Warning(PlaceOf(records, second.Text.Owner),
+                                               OverlapText(texts, overlaps, found.HaveMore)));
     }
 }
 
@@ -167,7 +174,7 @@ void AddLegendDoubts(const std::vector<SeenText>& texts, const std::vector<Legen
             diagnostics.push_back(
                 penlode::Warning(PlaceOf(records, {TextRole::LegendName, 0, 0, legend.Part}) + "/LegendPos",
                                  "the legend lies over " + Counted(count, NounOf(first.Text.Owner.Role)) +
-                                     ", " + (count == 1 ? "" : "the first is ") + Quoted(first.Text.Text) +
+                                     ", " + ToFirst(count) + Quoted(first.Text.Text) +
                                      "; take another side for it, or a smaller font"));
         });
     }
@@ -177,7 +184,7 @@ void AddOutsideDoubts(const std::vector<SeenText>& texts, const RectF& page, con
                       Diagnostics& diagnostics) {
     Affected outside;
     for (const SeenText& text : texts) {
-        if (text.Text.Owner.Role != TextRole::BarLabel && !Holds(page, text.Box)) {
+        if (!Holds(page, text.Box)) {
             outside.Add(text);
         }
     }
@@ -185,8 +192,10 @@ void AddOutsideDoubts(const std::vector<SeenText>& texts, const RectF& page, con
         diagnostics.push_back(
             penlode::Warning(PlaceOf(records, first.Text.Owner),
                              CountedAre(count, NounOf(first.Text.Owner.Role)) + " outside the page, " +
-                                 (count == 1 ? "" : "the first is ") + Quoted(first.Text.Text) + "; " +
-                                 AdviceFor(first.Text.Owner.Role)));
+                                 ToFirst(count) + Quoted(first.Text.Text) + "; " +
+                                 (first.Text.Owner.Role == TextRole::BarLabel
+                                      ? "\"range\": \"fit\" makes an axis that holds its bar"
+                                      : AdviceFor(first.Text.Owner.Role))));
     });
 }
 

@@ -22,7 +22,7 @@ void AddOverlapDoubts(const std::vector<SeenText>& texts, const PartRecords& rec
 void AddLegendDoubts(const std::vector<SeenText>& texts, const std::vector<LegendBox>& legends,
                      const PartRecords& records, Diagnostics& diagnostics);
 
-/// Of texts that the page does not hold. Labels of bars outside the axis's range are told with the range.
+/// Of texts that the page does not hold, such as labels of bars far out of the axis's range.
 void AddOutsideDoubts(const std::vector<SeenText>& texts, const penlode::RectF& page,
                       const PartRecords& records, Diagnostics& diagnostics);
 

@@ -25,6 +25,10 @@ std::string CountedAre(std::size_t count, const std::string& noun) {
     return Counted(count, noun) + (count == 1 ? " is" : " are");
 }
 
+std::string ToFirst(std::size_t count) {
+    return count == 1 ? "" : "the first is ";
+}
+
 std::string NameAt(const std::vector<std::string>& names, std::size_t index) {
     return index < names.size() ? names[index] : std::string();
 }

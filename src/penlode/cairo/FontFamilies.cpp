@@ -1,9 +1,12 @@
 #include "penlode/cairo/PangoText.h"
 #include "penlode/text/FontFace.h"
+#include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
 
+#include <algorithm>
 #include <fontconfig/fontconfig.h>
 #include <initializer_list>
+#include <iterator>
 
 namespace penlode {
 namespace {
@@ -95,6 +98,20 @@ std::wstring MissingCharacters(std::wstring_view text, const Font& font) {
         }
     }
     return missing;
+}
+
+/// The lists end in names of any face of a kind, for which any will do.
+bool HasStandIns(const std::wstring& family) {
+    const std::string name = CStringUtil::WideToUtf8(family);
+    const auto isName = [&name](const char8_t* known) {
+        return FcStrCmpIgnoreCase(reinterpret_cast<const FcChar8*>(known),
+                                  reinterpret_cast<const FcChar8*>(name.c_str())) == 0;
+    };
+    return std::any_of(std::begin(kCompanions), std::end(kCompanions),
+                       [&isName](const Companions& companions) {
+                           return isName(*std::prev(companions.Faces.end())) ||
+                                  std::any_of(companions.Names.begin(), companions.Names.end(), isName);
+                       });
 }
 
 std::wstring ResolvedFamily(const std::wstring& family) {

@@ -237,6 +237,11 @@ FontMetrics CStringUtil::MeasureFont(const Font& font) {
             static_cast<float>((line.Ascent + line.Descent) * font.Size)};
 }
 
+bool HasStandIns(const std::wstring& family) {
+    return std::any_of(kOtherNames.begin(), kOtherNames.end(),
+                       [&family](const auto& names) { return names.first == family; });
+}
+
 std::wstring ResolvedFamily(const std::wstring& family) {
     if (IsInstalled(family)) {
         return family;

@@ -15,6 +15,10 @@ namespace penlode {
 /// is. Empty when no font is installed at all.
 PENLODE_API std::wstring ResolvedFamily(const std::wstring& family);
 
+/// Does the library know this family by name, so that the face that stands for it, where it is not installed,
+/// was chosen for it?
+PENLODE_API bool HasStandIns(const std::wstring& family);
+
 /// The glyphs of one line (no "\n" in it), the left end of its baseline at (0, 0), in page units; underline
 /// and strikeout are part of it. Its area is what any figure encloses, by the non-zero rule: glyphs and lines
 /// may overlap. Empty for a text that shows nothing and for a size that is not finite or not above 0.

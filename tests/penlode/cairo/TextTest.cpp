@@ -249,6 +249,9 @@ TEST(Text, TheUsualFamiliesResolveToInstalledFacesOfTheirKind) {
     EXPECT_NE(ResolvedFamily(L"Arial"), ResolvedFamily(L"黑体"));
     EXPECT_EQ(ResolvedFamily(L"No Such Family"), ResolvedFamily(L""));
     EXPECT_FALSE(ResolvedFamily(L"").empty());
+    EXPECT_TRUE(HasStandIns(L"simsun"));
+    EXPECT_TRUE(HasStandIns(L"sans-serif"));
+    EXPECT_FALSE(HasStandIns(L"No Such Family"));
 }
 
 TEST(Text, NamesEachCharacterThatNoFaceHas) {
