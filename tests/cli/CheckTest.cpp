@@ -84,9 +84,8 @@ TEST_F(Check, MissingKeysAreNotesWithWhatIsTaken) {
     EXPECT_EQ(outcome.Status, 0);
     for (const char* line :
          {"s.json: note: title: missing, taken as empty\n",
-          "s.json: note: property/PieBasicProp: 9 keys missing, taken as PieStyle 2D, FixedWidth 60, "
-          "BaseValue "
-          "100, BasePieWidth 10 ...\n",
+          "s.json: note: property/PieBasicProp: 8 keys missing, taken as FixedSize 1, BaseValue 100, "
+          "BasePieWidth 10, StartAngle 180 ...\n",
           "s.json: note: property/PieLegendProp: missing, its 8 keys taken as ShowLegend 1, LegendPos "
           "RightCenter, ShowEdge 0, ShowBackground 0 ...\n",
           "s.json: note: labelOffsets: missing, an empty list is taken\n"}) {
