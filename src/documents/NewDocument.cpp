@@ -110,7 +110,7 @@ void SaveOptions(CJsonSerializeStream& json, const TableOptions& options) {
 
 /// The title that stands above a table's heading; of a data base there is none.
 std::string TitleAbove(const TableInput& table) {
-    const bool isThere = !IsQuerySource(table.Input.Name) && table.Input.Fault.empty();
+    const bool isThere = table.Source.empty() && table.Input.Fault.empty();
     return isThere ? documents::TableTitle(table) : "";
 }
 

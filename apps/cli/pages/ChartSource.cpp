@@ -19,7 +19,8 @@ constexpr std::string_view kArchive = "PK\x03\x04";
 } // namespace
 
 millichart::TableInput ReadTableInput(const std::string& name, const millichart::TableOptions& options) {
-    return {millichart::IsQuerySource(name) ? millichart::InputText{name} : ReadInput(name), options};
+    return millichart::IsQuerySource(name) ? millichart::QueryInput(name, options)
+                                           : millichart::TableInput{ReadInput(name), options};
 }
 
 bool IsTable(const millichart::InputText& input) {
