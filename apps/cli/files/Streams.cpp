@@ -19,6 +19,9 @@ std::string ShownOutput(const std::string& name) {
 }
 
 millichart::InputText ReadInput(const std::string& name) {
+    if (millichart::IsQuerySource(name)) { // which may have a password in it
+        return {ShownName(name), "", "is a data base and no file; with --kind and --query it is drawn"};
+    }
     return name == kStandardStream ? millichart::ReadStream(std::cin, ShownName(name))
                                    : millichart::ReadFile(name);
 }
