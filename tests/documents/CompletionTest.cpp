@@ -283,7 +283,7 @@ TEST(FitTo, MakesTheWholeFigureAsLargeAsAskedFor) {
         for (const ChartKind& kind : ChartKinds()) {
             ChartDocument document = ChartDocument::FromText(std::string(kind.Template));
             ASSERT_TRUE(document.FitTo(figure)) << kind.Name << " " << figure.Width;
-            const penlode::RectF ink = document.LayOut().InkExtent();
+            const penlode::RectF ink = document.LayOut().FullExtent();
             const bool hasPlot = std::holds_alternative<HistogramDocument>(document.Content) ||
                                  std::holds_alternative<CurveDocument>(document.Content);
             const float spareWidth = figure.Width - ink.Width;
@@ -311,12 +311,30 @@ TEST(FitTo, HoldsForDeepBarsWideCaptionsAndManyGroups) {
                                         "]}, \"property\": {" + look + "}}");
         ASSERT_TRUE(document.FitTo({120.0F, 70.0F})) << look;
         const LaidOutChart chart = document.LayOut();
-        EXPECT_NEAR(chart.InkExtent().Width, 120.0F, 0.1F) << look;
-        EXPECT_NEAR(chart.InkExtent().Height, 70.0F, 0.1F) << look;
+        EXPECT_NEAR(chart.FullExtent().Width, 120.0F, 0.1F) << look;
+        EXPECT_NEAR(chart.FullExtent().Height, 70.0F, 0.1F) << look;
         const HistogramLayout& layout = std::get<CBasicHistogram>(chart.Chart).GetLayout();
         EXPECT_GT(layout.GroupGap, 0.0F);
         EXPECT_GT(layout.ComponentWidth, layout.GroupGap * 0.3F) << "groups have room";
     }
+}
+
+TEST(FitTo, LeavesRoomForHalfOfTheOutermostLabelsAndMarkers) {
+    ChartDocument document = Loaded(R"({"kind": "curve", "range": {"NaturalValueRange": [0, 4, 2, 1]},
+        "property": {"CurvePlotProp": {"CurveDotStyle": ["solid_circle"], "CurveDotWidth": [3]}},
+        "data": {"labels": ["0", "2"], "curves": [{"times": [0, 1], "values": [0, 4]}]}})");
+    ASSERT_TRUE(document.FitTo({80.0F, 60.0F}));
+    const LaidOutChart chart = document.LayOut();
+    const penlode::RectF figure = chart.FullExtent();
+    const penlode::RectF plot = std::get<CBasicCurve>(chart.Chart).GetLayout().Plot;
+    EXPECT_NEAR(figure.Width, 80.0F, 0.1F);
+    EXPECT_NEAR(figure.Right(), plot.Right() + 1.5F, 0.1F)
+        << "half of the marker that stands on the last time";
+    EXPECT_NEAR(figure.Y, plot.Y - 1.5F, 0.1F) << "and on the axis's maximum";
+    chart.VisitTexts([&figure](const ChartText& text) {
+        EXPECT_LE(text.Box().Right(), figure.Right());
+        EXPECT_GE(text.Box().Y, figure.Y);
+    });
 }
 
 TEST(FitTo, LeavesTheDocumentWhereThereIsNoRoom) {
