@@ -2,6 +2,8 @@
 
 #include "documents/NewDocument.h"
 #include "files/Streams.h"
+#include "penlode/streams/JsonSerializeStream.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <new>
@@ -35,7 +37,11 @@ std::vector<millichart::Setting> SettingsFor(const InputText& input, const Chart
     if (source.Look == Look()) {
         return source.Settings;
     }
-    const millichart::ChartKind* const kind = millichart::KindOf(ChartDocument::FromInput(input).Content);
+    penlode::CJsonSerializeStream json(input.Text, input.Name);
+    std::string name;
+    json.Ser("kind", name, {});
+    const millichart::ChartKind* const kind =
+        millichart::FindChartKind(penlode::CStringUtil::AnsiToUtf8(name));
     return kind == nullptr ? source.Settings : AllSettings(source, *kind);
 }
 

@@ -484,7 +484,7 @@ OpenedTable Opened(const TableInput& input) {
 /// A data base names its columns.
 TableOptions OptionsOf(const TableInput& input) {
     TableOptions options = input.Options;
-    if (!input.Source.empty()) { // a data base names its columns
+    if (!input.Source.empty()) {
         options.HasHeading = options.HasHeading.value_or(true);
     }
     return options;
