@@ -3,6 +3,7 @@
 #include "documents/ChartDocument.h"
 #include "documents/FittedRange.h"
 #include "documents/Forms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <cmath>
 #include <filesystem>
@@ -276,6 +277,26 @@ TEST(Completion, OfAShortDocumentHasTextsWithoutBoxes) {
     };
     EXPECT_TRUE(isTold("property/HistogramVerAxisProp/VerAxisLabelTextProperty/DrawEdge", "0"));
     EXPECT_TRUE(isTold("property/HistogramPlotProp/PlotWidth", "110"));
+}
+
+TEST(Completion, LabelsWholeTimesWhereNoEqualPartsDivideThem) {
+    const auto labelsOf = [](const char* times, const char* axis) {
+        const ChartDocument document =
+            Loaded(std::string(R"({"kind": "curve", "data": {"curves": [{"values": [1, 2], "times": )") +
+                   times + "}]}, \"property\": {\"CurveHorAxisProp\": " + axis + "}}");
+        std::string labels;
+        for (const ChartText& text : TextsOf(std::get<CBasicCurve>(document.LayOut().Chart))) {
+            if (text.Owner.Role == TextRole::HorAxisLabel) {
+                labels += penlode::CStringUtil::WideToUtf8(text.Text) + " ";
+            }
+        }
+        return labels;
+    };
+    EXPECT_EQ(labelsOf("[1, 12]", "{}"), "1 2 3 4 5 6 7 8 9 10 11 12 ");
+    EXPECT_EQ(labelsOf("[1, 30]", "{}"), "1 6 11 16 21 26 ");
+    EXPECT_EQ(labelsOf("[1, 30]", "{\"LabelStep\": 1}"), "1 30 ") << "as documents are that name a step";
+    EXPECT_EQ(labelsOf("[1, 10008]", "{}"), "1 10008 ");
+    EXPECT_EQ(labelsOf("[0, 100]", "{}"), "0 10 20 30 40 50 60 70 80 90 100 ");
 }
 
 TEST(FitTo, MakesTheWholeFigureAsLargeAsAskedFor) {
