@@ -358,6 +358,20 @@ TEST(FitTo, LeavesRoomForHalfOfTheOutermostLabelsAndMarkers) {
     });
 }
 
+TEST(FitTo, HoldsWhereTheDepthOfBarsFollowsTheWidthOfThePlot) {
+    for (const char* look : {R"("Juxtaposition": 0)", R"("GroupDistane": 3)", R"("LogarithmScale": 1)"}) {
+        std::string groups = R"({"name": "a", "values": [1, 2]})";
+        for (int i = 1; i < 12; ++i) {
+            groups += R"(, {"name": "b", "values": [3, 70]})";
+            ChartDocument document =
+                Loaded(R"({"kind": "histogram", "range": "fit", "data": {"groups": [)" + groups +
+                       R"(]}, "property": {"HistogramPlotProp": {"PieStyle": "3D", )" + look + "}}}");
+            EXPECT_TRUE(document.FitTo({122.6F, 129.4F})) << look << " " << i;
+            EXPECT_TRUE(document.FitTo({216.0F, 90.0F})) << look << " " << i;
+        }
+    }
+}
+
 TEST(FitTo, LeavesTheDocumentWhereThereIsNoRoom) {
     ChartDocument document = ChartDocument::FromText(std::string(FindChartKind("histogram")->Template));
     const ChartContent before = document.Content;
