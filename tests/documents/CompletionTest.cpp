@@ -68,8 +68,9 @@ TEST(FittedRange, IsRoundAndFilled) {
                                      {1, 37, true, {0, 40, 5, 1}},
                                      {0, 0.0034, true, {0, 0.0035, 0.0005, 0.0001}},
                                      {0, 0.2, true, {0, 0.2, 0.02, 0.005}},
-                                     {-20, 63, true, {-20, 70, 10, 2}},
-                                     {-3, -2, true, {-3, 0, 0.5, 0.1}},
+                                     {-20, 63, false, {-20, 70, 10, 2}},
+                                     {-20, 63, true, {-40, 80, 20, 5}}, // bars stand on the minimum
+                                     {-3, -2, true, {-3.5, 0, 0.5, 0.1}},
                                      {1000, 1010, false, {1000, 1010, 2, 0.5}},
                                      {4, 9, false, {0, 9, 1, 0.2}}, // 0 is near
                                      {6, 9, false, {6, 9, 1, 0.2}},
@@ -150,8 +151,8 @@ TEST(FittedRange, IsAskedForByOneWordThatStays) {
         std::get<CBasicHistogram>(chart.Chart).GetNaturalValueRange(range[0], range[1], range[2], range[3]);
     };
     take(document.LayOut());
-    EXPECT_EQ(range[0], -20.0);
-    EXPECT_EQ(range[1], 120.0);
+    EXPECT_EQ(range[0], -25.0);
+    EXPECT_EQ(range[1], 125.0);
     auto& bars = std::get<HistogramDocument>(document.Content);
     bars.Data.Values[0][0] = 37.0;
     EXPECT_TRUE(Loaded(document.Text()).Content == document.Content);
