@@ -29,7 +29,7 @@ double Luminance(Color color) {
 }
 
 double Contrast(Color a, Color b) {
-    const auto [dark, light] = std::minmax(Luminance(a), Luminance(b));
+    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
     return (light + 0.05) / (dark + 0.05);
 }
 
