@@ -22,12 +22,6 @@ std::string CurveNamed(const CBasicCurve& chart, std::size_t curve) {
     return "curve " + (name.empty() ? std::to_string(curve + 1) : Quoted(name));
 }
 
-penlode::Diagnostic AtCurves(const TableOrigin& origin, const std::string& text) {
-    penlode::Diagnostic told = penlode::Warning(origin.File.empty() ? "data/curves" : "", text);
-    told.File = origin.File;
-    return told;
-}
-
 /// The points of a shape that no line joins to another.
 std::size_t PointsAlone(const CurveShape& shape) {
     return static_cast<std::size_t>(std::count_if(shape.Lines.begin(), shape.Lines.end(),
@@ -53,27 +47,6 @@ void AddLonePointDoubts(const CBasicCurve& chart, const std::vector<CurveShape>&
     }
 }
 
-/// Curves without values, as those of an empty column are.
-void AddEmptyDoubts(const CBasicCurve& chart, const std::vector<CurveShape>& shapes,
-                    const TableOrigin& origin, Diagnostics& diagnostics) {
-    std::size_t empty = 0;
-    std::string first;
-    for (std::size_t i = 0; i < shapes.size(); ++i) {
-        const std::vector<bool>& nulls = shapes[i].Trace->NullFlags;
-        const bool isDrawn = std::any_of(shapes[i].Lines.begin(), shapes[i].Lines.end(),
-                                         [](const auto& line) { return !line.empty(); });
-        if (!isDrawn && std::find(nulls.begin(), nulls.end(), false) == nulls.end()) {
-            first = empty++ == 0 ? CurveNamed(chart, i) : first;
-        }
-    }
-    if (empty > 0) {
-        diagnostics.push_back(AtCurves(origin, first +
-                                                   (empty == 1 ? "" : " and " + Counted(empty - 1, "other")) +
-                                                   (empty == 1 ? " has" : " have") +
-                                                   " no value, and no line; leave it out, or give values"));
-    }
-}
-
 /// Are there points, and all of them at one time?
 bool IsOneTime(const CBasicCurve& chart) {
     const auto& curves = chart.GetCurveTime();
@@ -83,6 +56,14 @@ bool IsOneTime(const CBasicCurve& chart) {
                return std::all_of(times.begin(), times.end(),
                                   [&filled](std::int32_t time) { return time == filled->front(); });
            });
+}
+
+penlode::Diagnostic OneTimeDoubt(const TableOrigin& origin) {
+    penlode::Diagnostic told = penlode::Warning(origin.File.empty() ? "data/curves" : "",
+                                                "all values are at one time and stand at the plot's left "
+                                                "edge; a line needs two, and bars may say more");
+    told.File = origin.File;
+    return told;
 }
 
 /// Do the points of a curve, two or more, all stand at a height?
@@ -121,13 +102,10 @@ void AddFlatLineDoubts(const CBasicCurve& chart, const std::vector<CurveShape>& 
 
 void AddCurveSightDoubts(const CBasicCurve& chart, const TableOrigin& origin, Diagnostics& diagnostics) {
     if (IsOneTime(chart)) {
-        diagnostics.push_back(AtCurves(origin,
-                                       "all values are at one time and stand at the plot's left edge; a "
-                                       "line needs two, and bars may say more"));
+        diagnostics.push_back(OneTimeDoubt(origin));
         return;
     }
     const std::vector<CurveShape> shapes = chart.GetShapes();
-    AddEmptyDoubts(chart, shapes, origin, diagnostics);
     AddLonePointDoubts(chart, shapes, diagnostics);
     AddFlatLineDoubts(chart, shapes, diagnostics);
 }
