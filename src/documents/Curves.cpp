@@ -87,9 +87,21 @@ std::vector<double> WithGaps(std::vector<double> values) {
     return values;
 }
 
+/// Into how many equal parts whole numbers divide a span, of those that look well; else, if labels may be
+/// passed over, into all that there are in a short one; else one, so that the ends alone have labels.
+std::int64_t PartsOf(std::int64_t span, bool mayPassOver) {
+    constexpr std::int64_t kShort = 300;
+    for (const std::int64_t good : {10, 8, 6, 5, 9, 7, 4, 3, 2}) {
+        if (span % good == 0) {
+            return good;
+        }
+    }
+    return mayPassOver && span <= kShort ? span : 1;
+}
+
 /// Labels for an axis over times that has none of its own: whole numbers, evenly spread, from the first to
 /// the last.
-std::vector<std::string> TimeLabels(const std::vector<Times>& curves) {
+std::vector<std::string> TimeLabels(const std::vector<Times>& curves, bool mayPassOver) {
     std::int64_t first = INT64_MAX;
     std::int64_t last = INT64_MIN;
     for (const Times& times : curves) {
@@ -101,14 +113,7 @@ std::vector<std::string> TimeLabels(const std::vector<Times>& curves) {
     if (first >= last) {
         return {};
     }
-    // As many parts, of those that look well, as give whole numbers; the ends alone if none does.
-    std::int64_t parts = 1;
-    for (const std::int64_t good : {10, 8, 6, 5, 9, 7, 4, 3, 2}) {
-        if ((last - first) % good == 0) {
-            parts = good;
-            break;
-        }
-    }
+    const std::int64_t parts = PartsOf(last - first, mayPassOver);
     std::vector<std::string> labels;
     for (std::int64_t i = 0; i <= parts; ++i) {
         labels.push_back(std::to_string(first + (last - first) / parts * i));
@@ -220,10 +225,12 @@ void Curves::Complete(const LayoutTask& task) {
                             task.Open.contains(kNamesPlace));
     CompleteLooks(task.Open);
     CompleteLegend(m_prop.Legend, m_prop.Plot.CurveName, task.Open.contains(kLegend + kShowLegend));
+    std::size_t spread = m_data.Labels.size();
     if (m_data.Labels.empty()) {
-        m_data.Labels = TimeLabels(m_data.Times);
+        m_data.Labels = TimeLabels(m_data.Times, task.Open.contains(kHorAxis + "LabelStep"));
+        spread = std::max<std::size_t>(m_data.Labels.size(), 1) - 1; // the twelve months are few enough
     }
-    CompleteSteps(task.Open);
+    CompleteSteps(task.Open, spread);
     ForgetUnseen(m_data.Labels, m_prop.HorAxis.LabelStep);
 }
 
@@ -247,13 +254,14 @@ void Curves::CompleteLooks(const OpenPlaces& open) {
     FillUpMarkers(plot.CurveDotStyle, count);
 }
 
-void Curves::CompleteSteps(const OpenPlaces& open) {
+/// So that of `labels` a few are left.
+void Curves::CompleteSteps(const OpenPlaces& open, std::size_t labels) {
     CurveHorAxisProp& axis = m_prop.HorAxis;
     for (const auto& [key, step] : {std::pair("ScaleStep", &axis.ScaleStep),
                                     {"LabelStep", &axis.LabelStep},
                                     {"VerGridStep", &axis.VerGridStep}}) {
         if (open.contains(kHorAxis + key)) {
-            *step = ReadableStep(m_data.Labels.size());
+            *step = ReadableStep(labels);
         }
     }
 }

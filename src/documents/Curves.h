@@ -40,7 +40,7 @@ public:
 
 private:
     void CompleteLooks(const OpenPlaces& open);
-    void CompleteSteps(const OpenPlaces& open);
+    void CompleteSteps(const OpenPlaces& open, std::size_t labels);
     template <class Look> void ForEachValue(const Look& look) const;
     void CheckRange(const CBasicCurve& chart, std::vector<penlode::Diagnostic>& diagnostics) const;
 

@@ -15,6 +15,8 @@ namespace {
 /// them in double precision.
 constexpr double kLeastSpan = 1e-11;
 constexpr double kLeastNumber = 1e-290;
+/// Of an axis, for the bar of the least value: bars stand on the minimum, and with no height it is not seen.
+constexpr double kLeastBar = 0.04;
 /// A quotient this near to a whole number is one.
 constexpr double kRounding = 1e-9;
 
@@ -154,6 +156,9 @@ std::array<double, 4> FittedRange(const ValueSpan& values, bool standsOnZero) {
     if (standsOnZero || areAlike || (min > 0.0 ? min : -max) <= max - min) {
         min = std::min(min, 0.0);
         max = std::max(max, 0.0);
+    }
+    if (standsOnZero && min < 0.0) {
+        min = InReach(min - (max - min) * kLeastBar);
     }
     max = min == max ? 1.0 : max;
     return RangeOf(BestAxis(min, max), min);

@@ -31,7 +31,8 @@ private:
 /// where only those have labels that say what they stand at, as an axis writes whole numbers from 1 on and
 /// two decimals below: up to 2.5 there are ticks at 0, 1, 2 and 3.
 ///
-/// An axis that bars stand on has a 0. Any other has one if it is no farther from the values than they are
+/// An axis that bars stand on has a 0, and begins so far below a negative value that its bar is seen. Any
+/// other has a 0 if it is no farther from the values than they are
 /// from each other, or if they are all alike.
 std::array<double, 4> FittedRange(const ValueSpan& values, bool standsOnZero);
 

@@ -21,6 +21,7 @@ namespace {
 constexpr float kLeastPlot = 5.0F;
 constexpr double kTolerance = 0.03;
 constexpr int kMostLayouts = 12;
+constexpr int kFewLayouts = 3;
 
 /// Looks for the size at which a measure that grows with it is as asked.
 class Approach {
@@ -51,6 +52,12 @@ public:
             next = std::isinf(m_tooLarge) ? 2.0 * m_size : (m_tooSmall + m_tooLarge) / 2.0;
         }
         m_size = std::max<double>(next, kLeastPlot);
+    }
+
+    /// How large is too large, as another size has changed what was measured.
+    void Forget() {
+        m_tooSmall = 0.0;
+        m_tooLarge = std::numeric_limits<double>::infinity();
     }
 
 private:
@@ -100,6 +107,11 @@ template <class Document> bool FitPlot(ChartDocument& chart, Document& document,
         height.Take(static_cast<double>(now->Height) - figure.Height);
         if ((width.IsThere() && height.IsThere()) || width.IsHopeless() || height.IsHopeless()) {
             break;
+        }
+        // Bars are the deeper the wider they are, which takes height.
+        if (i % kFewLayouts == kFewLayouts - 1) {
+            width.Forget();
+            height.Forget();
         }
         width.Move();
         height.Move();
@@ -161,7 +173,12 @@ bool FitSizes(const ChartDocument& chart, const Sizes& sizes, SizeF figure) {
     return first.IsThere();
 }
 
+/// A gap that the document leaves open is found with a layout: it is kept from here on.
 bool Fit(ChartDocument& chart, HistogramDocument& document, SizeF figure) {
+    const LaidOutChart before = chart.LayOut();
+    if (const auto* const bars = std::get_if<CBasicHistogram>(&before.Chart)) {
+        document.Prop.Plot.GroupDistane = bars->GetHistogramProp().Plot.GroupDistane;
+    }
     return FitPlot(chart, document, figure);
 }
 

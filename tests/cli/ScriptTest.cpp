@@ -1,5 +1,7 @@
 #include "CommandTest.h"
 
+#include <algorithm>
+
 using Script = cli_test::CommandTest;
 using cli_test::kSmallPie;
 
@@ -77,4 +79,12 @@ TEST_F(Script, DotsAreForPngAlone) {
     Write("a.json", kSmallPie);
     EXPECT_EQ(Run("millichart draw a.json --dpi 300 -o a.svg").Errors,
               "millichart: a.json: warning: --dpi is for a PNG; a picture .svg has no dots\n");
+}
+
+TEST_F(Script, AFontTakenForAnotherIsTold) {
+    Write("a.json", R"({"kind": "pie", "data": {"values": [1, 2]}, "property": {"PieLabelProp": {
+        "PieLabelTextProperty": {"字体": "No Such Face 4"}}}})");
+    const std::string told = Run("millichart draw a.json -o a.svg").Errors;
+    EXPECT_EQ(told.find("millichart: a.json: warning: No Such Face is drawn in "), 0U) << told;
+    EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
 }

@@ -3,6 +3,7 @@
 #include "documents/ChartDocument.h"
 #include "documents/FittedRange.h"
 #include "documents/Forms.h"
+#include "penlode/text/StringUtil.h"
 
 #include <cmath>
 #include <filesystem>
@@ -67,8 +68,9 @@ TEST(FittedRange, IsRoundAndFilled) {
                                      {1, 37, true, {0, 40, 5, 1}},
                                      {0, 0.0034, true, {0, 0.0035, 0.0005, 0.0001}},
                                      {0, 0.2, true, {0, 0.2, 0.02, 0.005}},
-                                     {-20, 63, true, {-20, 70, 10, 2}},
-                                     {-3, -2, true, {-3, 0, 0.5, 0.1}},
+                                     {-20, 63, false, {-20, 70, 10, 2}},
+                                     {-20, 63, true, {-40, 80, 20, 5}}, // bars stand on the minimum
+                                     {-3, -2, true, {-3.5, 0, 0.5, 0.1}},
                                      {1000, 1010, false, {1000, 1010, 2, 0.5}},
                                      {4, 9, false, {0, 9, 1, 0.2}}, // 0 is near
                                      {6, 9, false, {6, 9, 1, 0.2}},
@@ -149,8 +151,8 @@ TEST(FittedRange, IsAskedForByOneWordThatStays) {
         std::get<CBasicHistogram>(chart.Chart).GetNaturalValueRange(range[0], range[1], range[2], range[3]);
     };
     take(document.LayOut());
-    EXPECT_EQ(range[0], -20.0);
-    EXPECT_EQ(range[1], 120.0);
+    EXPECT_EQ(range[0], -25.0);
+    EXPECT_EQ(range[1], 125.0);
     auto& bars = std::get<HistogramDocument>(document.Content);
     bars.Data.Values[0][0] = 37.0;
     EXPECT_TRUE(Loaded(document.Text()).Content == document.Content);
@@ -278,6 +280,26 @@ TEST(Completion, OfAShortDocumentHasTextsWithoutBoxes) {
     EXPECT_TRUE(isTold("property/HistogramPlotProp/PlotWidth", "110"));
 }
 
+TEST(Completion, LabelsWholeTimesWhereNoEqualPartsDivideThem) {
+    const auto labelsOf = [](const char* times, const char* axis) {
+        const ChartDocument document =
+            Loaded(std::string(R"({"kind": "curve", "data": {"curves": [{"values": [1, 2], "times": )") +
+                   times + "}]}, \"property\": {\"CurveHorAxisProp\": " + axis + "}}");
+        std::string labels;
+        for (const ChartText& text : TextsOf(std::get<CBasicCurve>(document.LayOut().Chart))) {
+            if (text.Owner.Role == TextRole::HorAxisLabel) {
+                labels += penlode::CStringUtil::WideToUtf8(text.Text) + " ";
+            }
+        }
+        return labels;
+    };
+    EXPECT_EQ(labelsOf("[1, 12]", "{}"), "1 2 3 4 5 6 7 8 9 10 11 12 ");
+    EXPECT_EQ(labelsOf("[1, 30]", "{}"), "1 6 11 16 21 26 ");
+    EXPECT_EQ(labelsOf("[1, 30]", "{\"LabelStep\": 1}"), "1 30 ") << "as documents are that name a step";
+    EXPECT_EQ(labelsOf("[1, 10008]", "{}"), "1 10008 ");
+    EXPECT_EQ(labelsOf("[0, 100]", "{}"), "0 10 20 30 40 50 60 70 80 90 100 ");
+}
+
 TEST(FitTo, MakesTheWholeFigureAsLargeAsAskedFor) {
     for (const penlode::SizeF figure : {penlode::SizeF{80.0F, 60.0F}, penlode::SizeF{210.0F, 148.0F}}) {
         for (const ChartKind& kind : ChartKinds()) {
@@ -335,6 +357,20 @@ TEST(FitTo, LeavesRoomForHalfOfTheOutermostLabelsAndMarkers) {
         EXPECT_LE(text.Box().Right(), figure.Right());
         EXPECT_GE(text.Box().Y, figure.Y);
     });
+}
+
+TEST(FitTo, HoldsWhereTheDepthOfBarsFollowsTheWidthOfThePlot) {
+    for (const char* look : {R"("Juxtaposition": 0)", R"("GroupDistane": 3)", R"("LogarithmScale": 1)"}) {
+        std::string groups = R"({"name": "a", "values": [1, 2]})";
+        for (int i = 1; i < 12; ++i) {
+            groups += R"(, {"name": "b", "values": [3, 70]})";
+            ChartDocument document =
+                Loaded(R"({"kind": "histogram", "range": "fit", "data": {"groups": [)" + groups +
+                       R"(]}, "property": {"HistogramPlotProp": {"PieStyle": "3D", )" + look + "}}}");
+            const penlode::RectF own = document.LayOut().FullExtent();
+            EXPECT_TRUE(document.FitTo({own.Width - 1.0F, own.Height + 50.0F})) << look << " " << i;
+        }
+    }
 }
 
 TEST(FitTo, LeavesTheDocumentWhereThereIsNoRoom) {

@@ -52,8 +52,9 @@ FontReport ReportFonts(const millichart::LaidOutChart& chart) {
     for (const auto& [family, missing] : missingByFamily) {
         report.Faces.push_back(penlode::Note("", FaceMessage(family)));
         if (IsTakenForAnother(family)) {
-            report.Warnings.push_back(penlode::Warning(
-                "", FaceMessage(family) + ", as it is not installed; letters may have other widths"));
+            report.Warnings.push_back(
+                penlode::Warning("", FaceMessage(family) + ", which may have other widths, as it is not "
+                                                           "installed; install it, or name another font"));
         }
         if (!missing.empty()) {
             report.Warnings.push_back(penlode::Warning(

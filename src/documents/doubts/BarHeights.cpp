@@ -2,8 +2,12 @@
 
 #include "documents/Fields.h"
 #include "documents/doubts/BarWording.h"
+#include "penlode/text/StringUtil.h"
 
 namespace millichart::documents {
+
+using penlode::CStringUtil;
+
 namespace {
 
 bool IsNegative(const Bar& bar) {
@@ -25,10 +29,28 @@ void AddStackDoubts(const CBasicHistogram& chart, const TableOrigin& origin, Dia
     }
 }
 
+bool IsDigit(wchar_t letter) {
+    return letter >= L'0' && letter <= L'9';
+}
+
+/// Does a text name a number, and not one that has the same digits in it? Of a narrow text a letter may end
+/// in a byte that looks like a digit, a minus sign for one.
+bool Names(const std::wstring& text, const std::wstring& number) {
+    for (std::size_t at = text.find(number); at != std::wstring::npos; at = text.find(number, at + 1)) {
+        const std::size_t end = at + number.size();
+        const bool goesOn = end < text.size() && IsDigit(text[end]);
+        if (!goesOn && (at == 0 || !IsDigit(text[at - 1]))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Does the axis's caption, as "°C, bars from -300", name where they stand?
 bool IsSaid(const VerAxisProp& axis, double min) {
     return axis.ShowVerAxis != 0 && axis.ShowVerCaption != 0 &&
-           axis.VerCaption.find(NumberText(-min)) != std::string::npos;
+           Names(CStringUtil::AnsiToWideString(axis.VerCaption),
+                 CStringUtil::AnsiToWideString(NumberText(-min)));
 }
 
 void AddBaseDoubts(const CBasicHistogram& chart, Diagnostics& diagnostics) {

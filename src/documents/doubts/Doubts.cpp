@@ -40,10 +40,15 @@ void AddLegend(const LegendProp& prop, const std::vector<RectF>& items, std::siz
 template <class Chart> void AddTextDoubts(const Chart& chart, const Scene& scene, Diagnostics& diagnostics) {
     std::vector<ChartText> texts = TextsOf(chart);
     AddFontDoubts(texts, scene.Records, diagnostics);
+    const RectF whole = chart.GetPositionAll();
+    RectF page = whole;
+    for (const ChartText& text : texts) { // measured once
+        page = WithText(page, text, whole);
+    }
     const std::vector<SeenText> seen = SeenTexts(std::move(texts));
     AddOverlapDoubts(seen, scene.Records, diagnostics);
     AddLegendDoubts(seen, scene.Legends, scene.Records, diagnostics);
-    AddOutsideDoubts(seen, chart.InkExtent(), scene.Records, diagnostics);
+    AddOutsideDoubts(seen, page, scene.Records, diagnostics);
     AddContrastDoubts(seen, scene.Paints, scene.Records, diagnostics);
 }
 

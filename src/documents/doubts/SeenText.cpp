@@ -15,6 +15,7 @@ using Quad = std::array<PointF, 4>;
 
 constexpr float kFreeOfLine = 0.15F; ///< of a line's height, above the letters and below
 constexpr float kUnnoticed = 0.2F;   ///< mm by which texts may cover one another
+constexpr float kGap = 0.15F; ///< of a font's size, half a blank: nearer in one line texts run together
 
 bool IsBlank(std::wstring_view line) {
     return line.find_first_not_of(L" \t\r") == std::wstring_view::npos;
@@ -69,15 +70,19 @@ float CommonAlong(PointF from, PointF to, const Quad& a, const Quad& b) {
     return std::min(aMost, bMost) - std::max(aLeast, bLeast);
 }
 
-bool AreOverlapping(const Quad& a, const Quad& b) {
+/// Nearer to each other, where they are read along one line, than `gap`, counts too.
+bool AreOverlapping(const Quad& a, const Quad& b, float gap = -kUnnoticed) {
     for (const Quad* figure : {&a, &b}) {
-        for (const std::size_t corner : {1U, 3U}) {
-            if (!(CommonAlong(figure->front(), (*figure)[corner], a, b) > kUnnoticed)) {
-                return false;
-            }
+        if (!(CommonAlong(figure->front(), (*figure)[1], a, b) > -gap) ||
+            !(CommonAlong(figure->front(), (*figure)[3], a, b) > kUnnoticed)) {
+            return false;
         }
     }
     return true;
+}
+
+std::int32_t AngleOf(const SeenText& text) {
+    return text.Text.Property == nullptr ? 0 : text.Text.Property->Angle;
 }
 
 std::string GroupOf(TextRole role, const std::string& kind) {
@@ -122,8 +127,13 @@ std::vector<SeenText> SeenTexts(std::vector<ChartText> texts) {
     return seen;
 }
 
+float GapOf(const SeenText& text) {
+    return kGap * text.Text.Font->Size;
+}
+
 bool AreOverlapping(const SeenText& a, const SeenText& b) {
-    return AreOverlapping(a.Corners, b.Corners);
+    const float gap = std::min(GapOf(a), GapOf(b));
+    return AreOverlapping(a.Corners, b.Corners, AngleOf(a) == AngleOf(b) ? gap : -kUnnoticed);
 }
 
 bool IsOver(const RectF& box, const SeenText& text) {

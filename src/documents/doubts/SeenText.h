@@ -33,7 +33,10 @@ struct SeenText {
 /// Those that show anything.
 std::vector<SeenText> SeenTexts(std::vector<ChartText> texts);
 
-/// Do two cover one another by more than what nobody would notice?
+/// What must be free beside a text in one line, in mm, or it runs together with another.
+float GapOf(const SeenText& text);
+
+/// Do two cover one another by more than what nobody would notice, or run together in one line?
 bool AreOverlapping(const SeenText& a, const SeenText& b);
 bool IsOver(const penlode::RectF& box, const SeenText& text);
 

@@ -15,7 +15,7 @@ namespace {
 using penlode::Color;
 
 /// Of the lighter to the darker luminance; below it letters are hardly there.
-constexpr double kReadable = 1.5;
+constexpr double kReadable = 2.0;
 /// So many texts of a chart are looked at: where no one of them can be read, that is found long before.
 constexpr std::size_t kMaxTexts = 2000;
 
@@ -29,7 +29,7 @@ double Luminance(Color color) {
 }
 
 double Contrast(Color a, Color b) {
-    const auto [dark, light] = std::minmax(Luminance(a), Luminance(b));
+    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
     return (light + 0.05) / (dark + 0.05);
 }
 

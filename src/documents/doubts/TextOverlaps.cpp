@@ -41,7 +41,7 @@ struct Overlaps {
     }
 };
 
-/// Begin and end of a box in the direction in which boxes are gone through.
+/// Begin and end of a box, and the gap after it, in the direction in which boxes are gone through.
 struct Reach {
     float From = 0.0F;
     float To = 0.0F;
@@ -58,8 +58,9 @@ std::vector<Reach> ReachesOf(const std::vector<SeenText>& texts) {
     reaches.reserve(texts.size());
     for (const SeenText& text : texts) {
         const RectF& box = text.Box;
-        reaches.push_back(all.Width > all.Height ? Reach{box.X, box.Right(), reaches.size()}
-                                                 : Reach{box.Y, box.Bottom(), reaches.size()});
+        const float gap = GapOf(text);
+        reaches.push_back(all.Width > all.Height ? Reach{box.X, box.Right() + gap, reaches.size()}
+                                                 : Reach{box.Y, box.Bottom() + gap, reaches.size()});
     }
     std::sort(reaches.begin(), reaches.end(), [](const Reach& a, const Reach& b) { return a.From < b.From; });
     return reaches;
