@@ -6,6 +6,7 @@
 #include "documents/ValueRange.h"
 #include "documents/doubts/Wording.h"
 #include "documents/tables/TableKeys.h"
+#include "documents/tables/TimeAxis.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +30,6 @@ const std::string kHorAxis = "property/CurveHorAxisProp/";
 
 constexpr float kLineWidth = 0.4F;
 constexpr float kMarkerWidth = 1.6F;
-constexpr std::size_t kMaxLabels = 12;
 constexpr std::size_t kManyLabels = 2000;
 
 constexpr TableForm kCurveTable{.WidthForm = "as many as in the first row",
@@ -88,8 +88,9 @@ std::vector<double> WithGaps(std::vector<double> values) {
 }
 
 /// Labels for an axis over times that has none of its own: whole numbers, evenly spread, from the first to
-/// the last.
-std::vector<std::string> TimeLabels(const std::vector<Times>& curves) {
+/// the last. Where no few parts give whole numbers there is one for each time if a step may pass over some,
+/// else the ends alone.
+std::vector<std::string> TimeLabels(const std::vector<Times>& curves, bool isStepOpen) {
     std::int64_t first = INT64_MAX;
     std::int64_t last = INT64_MIN;
     for (const Times& times : curves) {
@@ -101,8 +102,8 @@ std::vector<std::string> TimeLabels(const std::vector<Times>& curves) {
     if (first >= last) {
         return {};
     }
-    // As many parts, of those that look well, as give whole numbers; the ends alone if none does.
-    std::int64_t parts = 1;
+    constexpr std::int64_t kMostTimes = 1000;
+    std::int64_t parts = isStepOpen && last - first <= kMostTimes ? last - first : 1;
     for (const std::int64_t good : {10, 8, 6, 5, 9, 7, 4, 3, 2}) {
         if ((last - first) % good == 0) {
             parts = good;
@@ -114,18 +115,6 @@ std::vector<std::string> TimeLabels(const std::vector<Times>& curves) {
         labels.push_back(std::to_string(first + (last - first) / parts * i));
     }
     return labels;
-}
-
-/// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
-std::int32_t ReadableStep(std::size_t count) {
-    for (std::int32_t power = 1; power < 1000000000; power *= 10) {
-        for (const std::int32_t digit : {1, 2, 5}) {
-            if (count / static_cast<std::size_t>(digit * power) < kMaxLabels) {
-                return digit * power;
-            }
-        }
-    }
-    return 1000000000;
 }
 
 /// A table of a million rows has as many labels. The chart measures all that it gets, whether a step passes
@@ -221,7 +210,7 @@ void Curves::Complete(const LayoutTask& task) {
     CompleteLooks(task.Open);
     CompleteLegend(m_prop.Legend, m_prop.Plot.CurveName, task.Open.contains(kLegend + kShowLegend));
     if (m_data.Labels.empty()) {
-        m_data.Labels = TimeLabels(m_data.Times);
+        m_data.Labels = TimeLabels(m_data.Times, task.Open.contains(kHorAxis + "LabelStep"));
     }
     CompleteSteps(task.Open);
     ForgetUnseen(m_data.Labels, m_prop.HorAxis.LabelStep);
