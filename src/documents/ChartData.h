@@ -18,6 +18,7 @@ struct TableOrigin {
     /// Where the columns stand in the table, from 1; empty when they stand as they are here.
     std::vector<std::uint32_t> Columns = {};
     std::string Sheet = {};    ///< of a spreadsheet file, UTF-8
+    bool ArePercent = false;   ///< every number is written as in 45%
     bool IsTransposed = false; ///< rows here are the table's columns: Lines are these, and Columns are lines
 
     friend bool operator==(const TableOrigin&, const TableOrigin&) = default;

@@ -43,11 +43,32 @@ void LoadVersion(ChartStream& stream) {
     }
 }
 
+/// A text's font has two names, of which a document holds one.
+std::string HeldPlace(const std::string& place, const penlode::CJsonSerializeStream& json) {
+    const std::string own = CStringUtil::AnsiToUtf8(FontTag());
+    const std::size_t end = place.rfind('/') + 1;
+    const std::string key = place.substr(end);
+    if (end == 0 || (key != own && key != kFontAlias)) {
+        return place;
+    }
+    penlode::CJsonSerializeStream held(json.Text());
+    held.BeginSaving();
+    for (std::size_t at = 0; at < end; at = place.find('/', at) + 1) {
+        const std::string group = place.substr(at, place.find('/', at) - at);
+        if (!held.Has(group) || !held.Push(group, -1)) {
+            return place;
+        }
+    }
+    const bool isOwn = key == own;
+    return held.Has(isOwn ? kFontAlias : FontTag()) ? place.substr(0, end) + (isOwn ? kFontAlias : own)
+                                                    : place;
+}
+
 /// Tells of the settings for which the document has no place.
 void Apply(const std::vector<Setting>& settings, penlode::CJsonSerializeStream& json,
            std::vector<Diagnostic>& diagnostics) {
     for (const Setting& setting : settings) {
-        if (!json.Set(setting.Place, setting.Value)) {
+        if (!json.Set(HeldPlace(setting.Place, json), setting.Value)) {
             diagnostics.push_back(penlode::Error(setting.Place, "no such place in the document"));
         }
     }

@@ -106,7 +106,8 @@ std::string ExpectedKind(const std::string& found) {
         known.emplace_back(other);
     }
     const std::string near = documents::NearestName(found, known);
-    return ChartKindNames() + (near.empty() ? "" : "; is \"" + near + "\" meant?");
+    return ChartKindNames() + ", or bar, line and the like" +
+           (near.empty() ? "" : "; is \"" + near + "\" meant?");
 }
 
 } // namespace millichart

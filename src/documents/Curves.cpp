@@ -6,6 +6,7 @@
 #include "documents/ValueRange.h"
 #include "documents/doubts/Wording.h"
 #include "documents/tables/TableKeys.h"
+#include "documents/tables/TimeAxis.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +30,6 @@ const std::string kHorAxis = "property/CurveHorAxisProp/";
 
 constexpr float kLineWidth = 0.4F;
 constexpr float kMarkerWidth = 1.6F;
-constexpr std::size_t kMaxLabels = 12;
 constexpr std::size_t kManyLabels = 2000;
 
 constexpr TableForm kCurveTable{.WidthForm = "as many as in the first row",
@@ -119,18 +119,6 @@ std::vector<std::string> TimeLabels(const std::vector<Times>& curves, bool mayPa
         labels.push_back(std::to_string(first + (last - first) / parts * i));
     }
     return labels;
-}
-
-/// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
-std::int32_t ReadableStep(std::size_t count) {
-    for (std::int32_t power = 1; power < 1000000000; power *= 10) {
-        for (const std::int32_t digit : {1, 2, 5}) {
-            if (count / static_cast<std::size_t>(digit * power) < kMaxLabels) {
-                return digit * power;
-            }
-        }
-    }
-    return 1000000000;
 }
 
 /// A table of a million rows has as many labels. The chart measures all that it gets, whether a step passes

@@ -11,4 +11,10 @@ namespace millichart::documents {
 /// where the record's own default stands.
 const char* DocumentDefault(std::string_view kind, std::string_view place, std::string_view key);
 
+/// They follow the data where a document leaves them open.
+inline constexpr std::string_view kKeysOfData[] = {
+    "ComponentName",  "ComponentColor", "CurveName",     "CurveColor",    "CurveWidth",
+    "CurveDashStyle", "CurveDotStyle",  "CurveDotColor", "CurveDotWidth", "NullValueStyle",
+    "ScaleStep",      "LabelStep",      "VerGridStep"};
+
 } // namespace millichart::documents

@@ -1,8 +1,10 @@
 #include "documents/ChartStream.h"
+#include "documents/DocumentDefaults.h"
 #include "documents/NearestName.h"
 #include "documents/tables/Table.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace millichart::documents {
@@ -44,15 +46,20 @@ std::string Guess(const std::string& place, const AskedKeys& asked) {
     return near.empty() ? PlaceElsewhere(key, asked) : near;
 }
 
+bool IsOfData(const std::string& key) {
+    return std::find(std::begin(kKeysOfData), std::end(kKeysOfData), key) != std::end(kKeysOfData);
+}
+
 } // namespace
 
 std::vector<Diagnostic> LoadDiagnostics(const penlode::CJsonSerializeStream& json,
                                         const ChartStream& stream) {
     std::vector<Diagnostic> diagnostics = json.Problems();
     const bool areCut = diagnostics.size() >= penlode::kMaxDiagnostics;
-    // A missing kind is told as an error.
+    // A missing kind is told as an error, and what follows the data is missing on purpose.
     std::erase_if(diagnostics, [](const Diagnostic& problem) {
-        return problem.Kind == DiagnosticKind::MissingKey && problem.Place == "kind";
+        return problem.Kind == DiagnosticKind::MissingKey &&
+               (problem.Place == "kind" || IsOfData(GroupAndKey(problem.Place).second));
     });
     if (areCut) {
         diagnostics.push_back(penlode::Error("", "too many problems; those after the first " +

@@ -1,6 +1,7 @@
 #include "documents/NewDocument.h"
 
 #include "documents/ChartLayouts.h"
+#include "documents/DocumentDefaults.h"
 #include "documents/tables/QuerySource.h"
 #include "documents/tables/Table.h"
 #include "foundation/TextPropertyOperation.h"
@@ -35,12 +36,6 @@ constexpr std::array kGroups{"property/CaptionProp",
                              "property/CurvePlotProp"};
 constexpr std::array kTexts{"title", "description", "source", "Caption", "VerCaption"};
 constexpr std::array kFlags{"ShowCaption", "ShowVerCaption"};
-/// They follow the data where a document leaves them open.
-constexpr std::array kOfData{"ComponentName", "ComponentColor", "CurveName",     "CurveColor",
-                             "CurveWidth",    "CurveDashStyle", "CurveDotStyle", "CurveDotColor",
-                             "CurveDotWidth", "NullValueStyle", "ScaleStep",     "LabelStep",
-                             "VerGridStep"};
-
 constexpr std::array kOrderNames{"", "ascending", "descending", "name"};
 
 /// Empties the group that is open, at a place that ends in "/".
@@ -55,8 +50,8 @@ void EmptyGroup(CJsonSerializeStream& json, const std::string& place) {
             json.Set(place + flag, "false");
         }
     }
-    for (const char* const key : kOfData) {
-        json.Remove(key);
+    for (const std::string_view key : documents::kKeysOfData) {
+        json.Remove(std::string(key));
     }
 }
 
@@ -164,18 +159,28 @@ public:
 
     void operator()(HistogramDocument& document) const {
         HistogramProp& prop = document.Prop;
-        const std::size_t series = document.Data.Components();
-        SetFlag("property/HistogramLegendProp/ShowLegend", prop.Legend.ShowLegend, series > 1);
+        SetFlag("property/HistogramLegendProp/ShowLegend", prop.Legend.ShowLegend,
+                document.Data.Components() > 1 && AreNamed(document.Data.ComponentNames));
         SetFlag("property/HistogramPlotProp/ShowComponentValue", prop.Plot.ShowComponentValue,
                 prop.Plot.PieStyle == BarStyle::Flat && AreReadable(document.Data.Values));
         SetValueCaption("property/HistogramVerAxisProp", prop.VerAxis, document.Data.ComponentNames);
+        if (document.Data.Origin.ArePercent) {
+            SetPercent("property/HistogramVerAxisProp/VerAxisLabelTextProperty",
+                       prop.VerAxis.VerAxisLabelTextProperty);
+            SetPercent("property/HistogramPlotProp/ComponentInfoTextProperty",
+                       prop.Plot.ComponentInfoTextProperty);
+        }
         SuitWidth(prop, document.Data.GroupNames, std::max<std::size_t>(document.Data.Values.size(), 1));
     }
 
     void operator()(CurveDocument& document) const {
         SetFlag("property/CurveLegendProp/ShowLegend", document.Prop.Legend.ShowLegend,
-                document.Data.Values.size() > 1);
+                document.Data.Values.size() > 1 && AreNamed(document.Data.CurveNames));
         SetValueCaption("property/CurveVerAxisProp", document.Prop.VerAxis, document.Data.CurveNames);
+        if (document.Data.Origin.ArePercent) {
+            SetPercent("property/CurveVerAxisProp/VerAxisLabelTextProperty",
+                       document.Prop.VerAxis.VerAxisLabelTextProperty);
+        }
     }
 
     template <class Document> void operator()(Document&) const {}
@@ -197,6 +202,16 @@ private:
         if (areWide && !IsAsked("property/HistogramHorAxisProp/GroupNameTextProperty/Angle")) {
             look.Angle = kUpwards;
         }
+    }
+
+    void SetPercent(const std::string& place, TextProperty& look) const {
+        if (!IsAsked(place + "/Postfix")) {
+            look.Postfix = "%";
+        }
+    }
+
+    static bool AreNamed(const std::vector<std::string>& names) {
+        return std::any_of(names.begin(), names.end(), [](const std::string& name) { return !name.empty(); });
     }
 
     bool IsAsked(const std::string& place) const {

@@ -57,7 +57,7 @@ inline const std::string kKinds = [] {
     for (const std::string& kind : kKindNames) {
         kinds += (kinds.empty() ? "\"" : ", \"") + kind + "\"";
     }
-    return kinds;
+    return kinds + ", or bar, line and the like";
 }();
 
 /// A pie of 20 mm that draws without a word.

@@ -88,6 +88,12 @@ TEST_F(FirstStep, SuitsItsData) {
     EXPECT_EQ(Count(Inspected("pie in/sales.csv"), "legendName"), 4U);
     EXPECT_EQ(Count(Inspected("bar in/drinks.csv --legend none"), "legendName"), 0U);
     EXPECT_EQ(Count(Inspected("line in/sales.csv --legend right"), "legendName"), 1U);
+    Write("share.csv", "Party,Share\nA,45%\nB,55 %\n");
+    EXPECT_NE(Inspected("bar share.csv").find("\"45%\""), std::string::npos) << "at the bar";
+    EXPECT_NE(Inspected("line share.csv").find("\"50%\""), std::string::npos) << "at the axis";
+    Write("bare.csv", "N,1,2\nS,3,4\n");
+    EXPECT_EQ(Run("millichart draw --kind bar bare.csv -o b.svg --strict").Status, 0)
+        << "no legend of nothing";
     Write("titled.csv", std::string("Sales of 2024\n") + kSales);
     EXPECT_NE(Inspected("bar titled.csv").find("\"Sales of 2024\\n\""), std::string::npos);
     EXPECT_EQ(Count(Inspected("bar titled.csv --title Mine"), "Sales of 2024"), 0U);
@@ -110,7 +116,7 @@ TEST_F(FirstStep, KindsHaveTheNamesThatPeopleUse) {
 /// With the page as large as the figure.
 TEST_F(FirstStep, AFigureHasItsSize) {
     for (const auto& [size, head] : {std::pair("80x60", "width=\"80mm\" height=\"60mm\""),
-                                     {"8x6cm", "width=\"80mm\" height=\"60mm\""},
+                                     {"80mmx6cm", "width=\"80mm\" height=\"60mm\""},
                                      {"A6-landscape", "width=\"148mm\" height=\"105mm\""},
                                      {"4x3in", "width=\"101.6mm\" height=\"76.2mm\""}}) {
         for (const std::string kind : {"bar", "pie"}) {
@@ -137,6 +143,11 @@ TEST_F(FirstStep, SettingsReachEveryKey) {
         Run("millichart inspect d.json --set data/values/1=7 --set property/PieLabelProp/ShowValueLabel=true")
             .Output.find("\"7.0\""),
         std::string::npos);
+    EXPECT_EQ(Run("millichart new pie | millichart inspect - --set "
+                  "'property/PieLabelProp/PieLabelTextProperty/Font=Arial 12pt'")
+                  .Status,
+              0)
+        << "which holds it under its other name";
     const auto complaint = [this](const std::string& setting) {
         const Outcome outcome = Run("millichart draw d.json --set '" + setting + "'");
         EXPECT_EQ(outcome.Status, 1) << setting;

@@ -116,6 +116,8 @@ TEST(Table, FindsItsHeading) {
         "false beside data/csv, says so\n");
     EXPECT_EQ(Read("a,1\nb,2\n", kPie, Options([](auto& o) { o.HasHeading = true; })), "1\nb 2\n");
     EXPECT_EQ(Read("n,2022-23,2024-01\nb,2,3\n", kBars), "2022-23|2024-01\nb 2 3\n");
+    EXPECT_EQ(Read("n,2 % a year\n1,5\n", kPie), "2 % a year\n1 5\n");
+    EXPECT_EQ(Read("n,2 %/a,3 %/a\nx,5,6\n", kBars), "2 %/a|3 %/a\nx 5 6\n");
     EXPECT_EQ(Read(",2023\nb,2\n", kBars, Options([](auto& o) { o.HasHeading = false; })), "\n 2023\nb 2\n");
 }
 
@@ -189,6 +191,9 @@ TEST(Table, DatesStandAtTheirTrueDistances) {
     EXPECT_EQ(Read("08:00,1\n09:00,2\n14:00,3\n", kLines),
               "\n0 1\n1 2\n6 3\n08:00|09:00|10:00|11:00|12:00|13:00|14:00\n");
     EXPECT_EQ(Read("1.2.2024,1\n3.2.2024,1\n", kLines), "\n0 1\n2 1\n2024-02-01|2024-02-02|2024-02-03\n");
+    EXPECT_EQ(Read("2024-01-05,1\n2024-01-06,1\n2024-01-18,2\n", kLines),
+              "\n0 1\n1 1\n13 2\n2024-01-05||||2024-01-09||||2024-01-13||||2024-01-17|\n")
+        << "13 days have no equal parts";
     EXPECT_EQ(Read("1/31/2024,1\n2/1/2024,1\n", kLines).substr(0, 9), "\n0 1\n1 1\n");
     EXPECT_EQ(Read("12/1/2024,1\n1/2/2024,1\n", kLines).find("read with"), std::string::npos)
         << "only as days first are they in order";

@@ -49,11 +49,11 @@ bool ParseTop(const std::string& text, std::size_t& top) {
 
 bool ParseSetting(const std::string& text, millichart::Setting& setting) {
     const std::size_t equals = text.find('=');
-    if (equals == std::string::npos || equals == 0) {
+    if (equals == std::string::npos) {
         return false;
     }
     setting = {text.substr(0, equals), text.substr(equals + 1)};
-    return true;
+    return !setting.Place.empty() && ('/' + setting.Place + '/').find("//") == std::string::npos;
 }
 
 bool ParseLegend(const std::string& text, std::string& place) {

@@ -72,8 +72,9 @@ LoadedChart Load(const std::string& input, const ChartSource& source) {
     const millichart::ChartKind* const kind = millichart::KindOf(loaded.Document.Content);
     if (source.Look.Title && kind != nullptr && !DrawsTitle(*kind)) {
         loaded.Diagnostics.push_back(penlode::Warning(
-            "title", std::string("a chart of the kind ") + kind->Name +
-                         " has no caption; an SVG or a PDF has the title, and a picture does not show it"));
+            "title",
+            std::string("a chart of the kind ") + kind->Name +
+                " has no caption, so that the title is not drawn; it becomes that of an SVG or PDF file"));
     }
     TellOfOptions(ShownName(input), source, loaded.Diagnostics);
     return loaded;

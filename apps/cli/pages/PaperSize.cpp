@@ -13,7 +13,8 @@ namespace cli {
 namespace {
 
 constexpr float kMaxSide = 5000.0F;
-constexpr std::pair<std::string_view, float> kUnits[] = {{"mm", 1.0F}, {"cm", 10.0F}, {"in", 25.4F}};
+constexpr std::pair<std::string_view, float> kUnits[] = {
+    {"mm", 1.0F}, {"cm", 10.0F}, {"in", 25.4F}, {"pt", 25.4F / 72.0F}};
 
 /// Takes an ending away, and tells whether it was there.
 bool Drop(std::string& text, std::string_view ending) {
@@ -37,7 +38,26 @@ bool ParseSheet(std::string name, penlode::SizeF& size) {
     return true;
 }
 
+void DropBlanks(std::string& text) {
+    while (Drop(text, " ")) {
+    }
+}
+
+/// Takes a unit away; gives `otherwise` where there is none.
+float DropUnit(std::string& text, float otherwise) {
+    DropBlanks(text);
+    for (const auto& [name, length] : kUnits) {
+        if (Drop(text, name)) {
+            return length;
+        }
+    }
+    return otherwise;
+}
+
+/// `unit` is what the other side is in.
 bool ParseSide(std::string text, float unit, float& side) {
+    unit = DropUnit(text, unit);
+    DropBlanks(text);
     if (!penlode::ser_evaluate(side, text, false)) {
         return false;
     }
@@ -59,13 +79,17 @@ bool ParseSize(const std::string& text, penlode::SizeF& size) {
     if (ParseSheet(plain, size)) {
         return true;
     }
-    float unit = 1.0F;
-    for (const auto& [name, length] : kUnits) {
-        unit = Drop(plain, name) ? length : unit;
+    constexpr std::string_view kTimes = "\u00D7";
+    if (const std::size_t times = plain.find(kTimes); times != std::string::npos) {
+        plain.replace(times, kTimes.size(), "x");
     }
     const std::size_t cross = plain.find('x');
-    return cross != std::string::npos && ParseSide(plain.substr(0, cross), unit, size.Width) &&
-           ParseSide(plain.substr(cross + 1), unit, size.Height);
+    if (cross == std::string::npos) {
+        return false;
+    }
+    std::string height = plain.substr(cross + 1);
+    const float unit = DropUnit(height, 1.0F);
+    return ParseSide(plain.substr(0, cross), unit, size.Width) && ParseSide(height, unit, size.Height);
 }
 
 std::string Millimetres(penlode::SizeF size) {

@@ -25,18 +25,34 @@ bool BeginsWithYear(const std::string& cell) {
            std::string_view(".,:").find(cell[digits]) == std::string::npos;
 }
 
-/// A word, or a year with more behind it, and no malformed or missing number? "nan" and "inf" are numbers
-/// too, if not ones to draw.
-bool IsWord(const std::string& cell) {
-    const auto isOfWords = [](char c) {
+bool HasLetters(const std::string& cell) {
+    return std::any_of(cell.begin(), cell.end(), [](char c) {
         return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= 0x80U;
-    };
+    });
+}
+
+/// "nan" and "inf" are numbers too, if not ones to draw; "#N/A" stands for one.
+bool IsNoNumber(const std::string& cell) {
     double number = 0.0;
     std::string text = cell;
-    const bool isYear = BeginsWithYear(cell);
-    return (isYear || std::any_of(cell.begin(), cell.end(), isOfWords)) && cell.front() != '#' &&
-           (isYear || !IsDigit(cell.front())) && !IsNumberCell(cell) &&
-           !penlode::ser_evaluate(number, text, false);
+    return cell.front() != '#' && !IsNumberCell(cell) && !penlode::ser_evaluate(number, text, false);
+}
+
+/// A word, or a year with more behind it, and no malformed or missing number?
+bool IsWord(const std::string& cell) {
+    const bool isWord = HasLetters(cell) && !IsDigit(cell.front());
+    return (isWord || BeginsWithYear(cell)) && IsNoNumber(cell);
+}
+
+/// Do these cells name columns though they begin with digits, as "2 % a year" does? A single one may be a
+/// number that somebody wrote with its unit, unless more words follow.
+bool AreNamesWithDigits(const TableRow& row, const std::vector<std::size_t>& columns) {
+    const auto isName = [&](std::size_t column) {
+        const std::string& cell = row.Cells[column];
+        return HasLetters(cell) && IsNoNumber(cell) &&
+               (columns.size() > 1 || std::count(cell.begin(), cell.end(), ' ') > 1);
+    };
+    return !columns.empty() && std::all_of(columns.begin(), columns.end(), isName);
 }
 
 const std::string& CellOf(const TableRow& row, std::size_t column) {
@@ -137,7 +153,7 @@ HeadingGuess GuessHeading(Rows rows, bool mayLackNames) {
     }
     const std::vector<std::size_t>& columns = ofNumbers.empty() ? filled : ofNumbers;
     const auto isWord = [&](std::size_t column) { return IsWord(first.Cells[column]); };
-    if (std::any_of(columns.begin(), columns.end(), isWord)) {
+    if (std::any_of(columns.begin(), columns.end(), isWord) || AreNamesWithDigits(first, columns)) {
         return {true, false};
     }
     const std::string& corner = CellOf(first, 0);

@@ -130,7 +130,8 @@ void ReadOds(const ZipFile& file, const std::string& sheet, SheetRows& rows) {
     const std::optional<std::string> text = file.Part("content.xml");
     pugi::xml_document document;
     if (!text || !document.load_buffer(text->data(), text->size())) {
-        rows.SetFault("cannot be read: the spreadsheet is broken or encrypted");
+        rows.SetFault(
+            "cannot be read: the spreadsheet is broken or encrypted, or larger than 256 MB when unpacked");
         return;
     }
     std::vector<SheetEntry> entries;

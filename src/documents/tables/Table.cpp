@@ -85,6 +85,7 @@ public:
             }
         }
         CheckFault();
+        m_table.Origin.ArePercent = m_percents != 0 && m_percents == m_numbersRead;
         TakeTimes();
         TellSheetErrors();
         if (m_table.Heading.empty() && m_width > 0) {
@@ -374,6 +375,8 @@ private:
                 RefuseCell(row, column, NumberForm(written));
             }
         }
+        m_percents += !isPlain && (cell.ends_with('%') || cell.ends_with("\uFF05")) ? 1 : 0;
+        ++m_numbersRead;
         if (number && m_form.IsPositive && *number < 0.0) {
             RefuseCell(row, column, "0 or more");
         }
@@ -457,6 +460,8 @@ private:
     TableRow m_chosen;
     Times m_times = Times::Whole;
     std::vector<double> m_numbers; ///< times with decimals
+    std::size_t m_numbersRead = 0;
+    std::size_t m_percents = 0; ///< of these
     std::size_t m_sheetErrors = 0;
     Diagnostic m_firstSheetError;
     bool m_isOver = false;
@@ -481,7 +486,6 @@ OpenedTable Opened(const TableInput& input) {
     return opened;
 }
 
-/// A data base names its columns.
 TableOptions OptionsOf(const TableInput& input) {
     TableOptions options = input.Options;
     if (!input.Source.empty()) {
@@ -530,6 +534,9 @@ Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diag
     TableShape shape = ShapeOf(rows, form, options, told);
     if (!options.Sheet.empty() && opened.Rows->Sheet().empty() && opened.Rows->Fault().empty()) {
         told.push_back(penlode::Warning("sheet", "has no effect, as this table has no sheets"));
+    }
+    if (!options.Query.empty() && input.Source.empty()) {
+        told.push_back(penlode::Warning("query", "has no effect, as this table is no data base"));
     }
     for (Diagnostic& diagnostic : told) {
         diagnostic.File = input.Input.Name;

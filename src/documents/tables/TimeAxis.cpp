@@ -39,12 +39,21 @@ Count PartsOf(Count span, std::initializer_list<Count> steps, std::initializer_l
 /// A label stands on what was measured if it can, else on a whole day, hour, minute or second.
 std::vector<std::string> LabelsOfDates(Count first, Count span, Count step, bool areOfOneDay) {
     areOfOneDay = areOfOneDay || DayText(Milliseconds(first)) == DayText(Milliseconds(first + span));
-    const Count parts = areOfOneDay
-                            ? PartsOf(span, {step, kHour, kMinute, 1000, 1}, {6, 5, 8, 4, 7, 3, 2})
-                            : PartsOf(span, {step, kDay, kHour, kMinute, 1000, 1}, {4, 5, 3, 6, 7, 2});
+    Count parts = areOfOneDay ? PartsOf(span, {step, kHour, kMinute, 1000, 1}, {6, 5, 8, 4, 7, 3, 2})
+                              : PartsOf(span, {step, kDay, kHour, kMinute, 1000, 1}, {4, 5, 3, 6, 7, 2});
+    // Days that make no few equal parts have a place for a label each, and some of them a text: of those that
+    // a readable step leaves every other one, as dates are wide.
+    constexpr Count kMostDays = 400;
+    const bool isSplit = step % kDay == 0 && span / parts % kDay != 0 && span / kDay <= kMostDays;
+    parts = isSplit ? span / kDay : parts;
+    const Count shown = isSplit ? 2 * Count{ReadableStep(static_cast<std::size_t>(parts) + 1)} : 1;
     const Count common = std::gcd(first, span / parts);
     std::vector<std::string> labels;
     for (Count i = 0; i <= parts; ++i) {
+        if (i % shown != 0) {
+            labels.emplace_back();
+            continue;
+        }
         const Milliseconds moment(first + span / parts * i);
         const std::string clock = ClockText(moment, Milliseconds(common));
         labels.push_back(areOfOneDay          ? clock
@@ -62,6 +71,18 @@ int DecimalsOf(double number) {
 }
 
 } // namespace
+
+std::int32_t ReadableStep(std::size_t count) {
+    constexpr std::size_t kMaxLabels = 12;
+    for (std::int32_t power = 1; power < 1000000000; power *= 10) {
+        for (const std::int32_t digit : {1, 2, 5}) {
+            if (count / static_cast<std::size_t>(digit * power) < kMaxLabels) {
+                return digit * power;
+            }
+        }
+    }
+    return 1000000000;
+}
 
 TimeAxis AxisOfDates(const DateColumn& dates) {
     const auto [least, most] = std::minmax_element(dates.Moments.begin(), dates.Moments.end());

@@ -2,6 +2,7 @@
 
 #include "documents/tables/Dates.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -17,6 +18,9 @@ struct TimeAxis {
     std::vector<std::int32_t> Times;
     std::vector<std::string> Labels;
 };
+
+/// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
+std::int32_t ReadableStep(std::size_t count);
 
 /// Counted from the first in days, hours, minutes, seconds or less, whichever is the largest that fits all.
 /// There is one at least.

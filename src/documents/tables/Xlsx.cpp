@@ -101,7 +101,8 @@ public:
     }
 
 private:
-    static constexpr const char* kBroken = "cannot be read: the workbook is broken or encrypted";
+    static constexpr const char* kBroken =
+        "cannot be read: the workbook is broken or encrypted, or larger than 256 MB when unpacked";
 
     void LoadTexts() {
         xml_document document;
