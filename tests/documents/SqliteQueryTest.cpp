@@ -50,7 +50,7 @@ protected:
     TemporaryFolder m_folder;
 };
 
-constexpr const char* kEndless = "with recursive n(i) as (select 1 union all select i + 1 from n) ";
+const std::string kEndless = "with recursive n(i) as (select 1 union all select i + 1 from n) ";
 
 } // namespace
 
@@ -121,10 +121,10 @@ TEST_F(SqliteQuery, IsStoppedByItsWatchBeforeAndBetweenRows) {
         seen.Source = source;
         return std::make_unique<Watch>(seen);
     });
-    EXPECT_EQ(Answer(std::string(kEndless) + "select count(*) from n"), "stopped");
+    EXPECT_EQ(Answer(kEndless + "select count(*) from n"), "stopped");
     EXPECT_EQ(seen.Source, m_folder.Path("s.db"));
     EXPECT_EQ(seen.Rows, 0U);
-    const std::unique_ptr<RowReader> reader = OpenQuery(Asked(std::string(kEndless) + "select i from n"));
+    const std::unique_ptr<RowReader> reader = OpenQuery(Asked(kEndless + "select i from n"));
     for (TableRow row; reader->Next(row);) {
         EXPECT_EQ(row.Cells.size(), 1U);
     }
