@@ -52,7 +52,8 @@ TEST(QuerySource, ADocumentNamesNeitherPasswordsNorWhatIsLoadedOrWritten) {
 }
 
 TEST(QuerySource, AFileIsTheDocumentsAndAConnectionIsWhatTheManagerTakes) {
-    EXPECT_EQ(QuerySourceIn("charts", "sqlite:sales.db"), "sqlite:charts/sales.db");
+    EXPECT_EQ(QuerySourceIn("charts", "sqlite:sales.db"),
+              "sqlite:" + Utf8FromPath(PathFromUtf8("charts") / "sales.db"));
     EXPECT_EQ(QuerySourceIn("charts", "odbc:sales"), "odbc:sales");
     EXPECT_EQ(OdbcConnection("odbc:sales"), "DSN=sales");
     EXPECT_EQ(OdbcConnection("odbc:sales;UID=me"), "DSN=sales;UID=me");
