@@ -4,7 +4,6 @@
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
-#include <cwctype>
 #include <map>
 
 namespace cli {
@@ -22,9 +21,14 @@ void AddNew(std::wstring& characters, const std::wstring& more) {
     }
 }
 
+/// Of the letters that names of families are told apart by in no system.
+wchar_t Lowered(wchar_t c) {
+    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+}
+
 bool AreOneName(const std::wstring& a, const std::wstring& b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](wchar_t one, wchar_t other) { return std::towlower(one) == std::towlower(other); });
+                      [](wchar_t one, wchar_t other) { return Lowered(one) == Lowered(other); });
 }
 
 /// Is a family drawn in a face that has nothing to do with it?
