@@ -21,7 +21,7 @@ void AddNew(std::wstring& characters, const std::wstring& more) {
     }
 }
 
-/// Of the letters that names of families are told apart by in no system.
+/// Of Latin letters alone, whatever the locale.
 wchar_t Lowered(wchar_t c) {
     return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
 }
