@@ -87,18 +87,6 @@ std::vector<double> WithGaps(std::vector<double> values) {
     return values;
 }
 
-/// Into how many equal parts whole numbers divide a span, of those that look well; else, if labels may be
-/// passed over, into all that there are in a short one; else one, so that the ends alone have labels.
-std::int64_t PartsOf(std::int64_t span, bool mayPassOver) {
-    constexpr std::int64_t kShort = 300;
-    for (const std::int64_t good : {10, 8, 6, 5, 9, 7, 4, 3, 2}) {
-        if (span % good == 0) {
-            return good;
-        }
-    }
-    return mayPassOver && span <= kShort ? span : 1;
-}
-
 /// Labels for an axis over times that has none of its own: whole numbers, evenly spread, from the first to
 /// the last.
 std::vector<std::string> TimeLabels(const std::vector<Times>& curves, bool mayPassOver) {
@@ -113,12 +101,7 @@ std::vector<std::string> TimeLabels(const std::vector<Times>& curves, bool mayPa
     if (first >= last) {
         return {};
     }
-    const std::int64_t parts = PartsOf(last - first, mayPassOver);
-    std::vector<std::string> labels;
-    for (std::int64_t i = 0; i <= parts; ++i) {
-        labels.push_back(std::to_string(first + (last - first) / parts * i));
-    }
-    return labels;
+    return LabelsOfWholeTimes(first, last, mayPassOver);
 }
 
 /// A table of a million rows has as many labels. The chart measures all that it gets, whether a step passes

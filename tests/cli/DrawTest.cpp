@@ -197,12 +197,16 @@ TEST_F(Draw, ThePageHasTheChartInItsMiddle) {
     EXPECT_EQ(small.Status, 0);
 }
 
-TEST_F(Draw, TheBackgroundMayBeAbsent) {
+TEST_F(Draw, TheBackgroundMayBeAbsentOrNamed) {
     constexpr std::size_t kColorType = 25;
     Write("s.json", kSmallPie);
     Run("millichart draw s.json -o white.png; millichart draw s.json -o bare.png --background none");
     EXPECT_EQ(Read("white.png").at(kColorType), 2) << "RGB";
     EXPECT_EQ(Read("bare.png").at(kColorType), 6) << "RGBA";
+    EXPECT_EQ(Run("millichart draw s.json -o named.png --background steelblue && "
+                  "millichart draw s.json -o told.png --background '#4682B4' && cmp named.png told.png")
+                  .Status,
+              0);
 }
 
 TEST_F(Draw, WrongUsageIsStatusTwo) {
@@ -215,7 +219,7 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
                                   "draw a.json --page 1x",
                                   "draw a.json --page 1x6000",
                                   "draw a.json --page nanx1",
-                                  "draw a.json --background red",
+                                  "draw a.json --background reddish",
                                   "draw a.json --format gif",
                                   "draw a.json -o a.png --format svg",
                                   "draw a.json --format a.png",

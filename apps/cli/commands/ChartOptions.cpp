@@ -4,9 +4,9 @@
 #include "documents/ChartContent.h"
 #include "files/Streams.h"
 #include "pages/PaperSize.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
-#include <charconv>
 #include <sstream>
 
 namespace cli {
@@ -43,8 +43,8 @@ bool ParseDecimal(const std::string& text, char& mark) {
 }
 
 bool ParseTop(const std::string& text, std::size_t& top) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), top);
-    return error == std::errc() && end == text.data() + text.size() && top > 0;
+    top = penlode::NumberOf<std::size_t>(text).value_or(0);
+    return top > 0;
 }
 
 bool ParseSetting(const std::string& text, millichart::Setting& setting) {
@@ -61,13 +61,6 @@ bool ParseLegend(const std::string& text, std::string& place) {
     place = known.value_or("");
     return known.has_value();
 }
-
-/// A field that takes what was parsed, by assignment or at its end.
-struct Settings {
-    std::vector<millichart::Setting>& All;
-
-    void operator=(millichart::Setting&& setting) const { All.push_back(std::move(setting)); }
-};
 
 } // namespace
 

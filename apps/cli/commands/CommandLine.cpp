@@ -3,15 +3,16 @@
 #include "commands/ChartOptions.h"
 #include "commands/ParsedOption.h"
 #include "documents/ChartContent.h"
+#include "documents/Forms.h"
 #include "files/Console.h"
 #include "files/Streams.h"
 #include "pages/PaperSize.h"
 #include "pages/Platform.h"
 #include "penlode/streams/TextForms.h"
+#include "penlode/text/Digits.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <iostream>
 
 namespace cli {
@@ -27,17 +28,15 @@ bool ParseDpi(std::string text, double& dpi) {
     return penlode::ser_evaluate(dpi, text, false) && dpi >= kMinDpi && dpi <= kMaxDpi;
 }
 
-bool ParseBackground(std::string text, penlode::Color& color) {
-    if (text == "none") {
-        color = penlode::Color{0U};
-        return true;
-    }
-    return penlode::ser_evaluate(color, text, false);
+bool ParseBackground(const std::string& text, penlode::Color& color) {
+    const auto known = text == "none" ? penlode::Color{0U} : millichart::documents::ColorOf(text);
+    color = known.value_or(color);
+    return known.has_value();
 }
 
 bool ParseJobs(const std::string& text, std::size_t& jobs) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), jobs);
-    return error == std::errc() && end == text.data() + text.size() && jobs >= 1 && jobs <= kMaxJobs;
+    jobs = penlode::NumberOf<std::size_t>(text).value_or(0);
+    return jobs >= 1 && jobs <= kMaxJobs;
 }
 
 void AddSource(CLI::App& command, ChartSource& source) {
@@ -67,9 +66,10 @@ void AddPicture(CLI::App& draw, DrawOptions& options) {
                               "WIDTHxHEIGHT in mm, with the chart in its middle, or as of --size; without it "
                               "the chart and a margin of 5 mm");
     draw.add_flag("--fit", options.FillsPage, "the figure fills --page");
-    AddParsed<penlode::Color>(
-        draw, "--background", options.Background, ParseBackground, "a colour such as #FF336699, or none",
-        "#RRGGBB, #AARRGGBB or none; without it white, for " + pageName + " the bare paper");
+    AddParsed<penlode::Color>(draw, "--background", options.Background, ParseBackground,
+                              "a colour such as #FF336699 or steelblue, or none",
+                              "#RRGGBB, #AARRGGBB, a colour's name or none; without it white, for " +
+                                  pageName + " the bare paper");
     draw.add_flag("--outlines", options.TextAsOutlines, "write an SVG's texts as glyph outlines");
 }
 

@@ -104,10 +104,10 @@ Attempt DrawAhead(const DrawOptions& options, const std::string& input) {
     Attempt attempt;
     try {
         const LoadedChart loaded = LoadChart(input, options.Source);
+        attempt.Faces = loaded.Faces;
         attempt.Problems = loaded.Diagnostics;
         attempt.DataFiles = loaded.Document.DataFiles();
         if (loaded.Chart) {
-            attempt.Faces = ReportFonts(*loaded.Chart).Faces;
             const OutputName output = OutputOf(options, input);
             WarnOfOptions(options, output.Format, attempt.Problems);
             attempt.Bytes = Render(options, loaded, output, attempt.Problems);

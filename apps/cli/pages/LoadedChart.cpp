@@ -23,8 +23,9 @@ void LayOut(LoadedChart& loaded) {
     if (millichart::HasErrors(found)) {
         loaded.Chart.reset();
     } else {
-        const std::vector<Diagnostic> ofFonts = ReportFonts(*loaded.Chart).Warnings;
-        found.insert(found.end(), ofFonts.begin(), ofFonts.end());
+        FontReport fonts = ReportFonts(*loaded.Chart);
+        found.insert(found.end(), fonts.Warnings.begin(), fonts.Warnings.end());
+        loaded.Faces = std::move(fonts.Faces);
     }
     if (!found.empty()) {
         loaded.Diagnostics.insert(loaded.Diagnostics.end(), found.begin(), found.end());

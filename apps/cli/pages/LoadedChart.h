@@ -14,6 +14,7 @@ struct LoadedChart {
     millichart::ChartDocument Document;            ///< without its data, which the chart has
     std::optional<millichart::LaidOutChart> Chart; ///< none when there are errors
     std::vector<penlode::Diagnostic> Diagnostics;  ///< in the document's order, notes last
+    std::vector<penlode::Diagnostic> Faces;        ///< notes of the faces that its fonts are drawn in
 };
 
 /// Reads an input, "-" being the standard input. What is wrong is among the diagnostics, an input that cannot

@@ -1,6 +1,6 @@
 #include "pages/PaperSize.h"
 
-#include "penlode/streams/TextForms.h"
+#include "documents/Forms.h"
 #include "penlode/text/Digits.h"
 
 #include <algorithm>
@@ -13,8 +13,6 @@ namespace cli {
 namespace {
 
 constexpr float kMaxSide = 5000.0F;
-constexpr std::pair<std::string_view, float> kUnits[] = {
-    {"mm", 1.0F}, {"cm", 10.0F}, {"in", 25.4F}, {"pt", 25.4F / 72.0F}};
 
 /// Takes an ending away, and tells whether it was there.
 bool Drop(std::string& text, std::string_view ending) {
@@ -38,30 +36,22 @@ bool ParseSheet(std::string name, penlode::SizeF& size) {
     return true;
 }
 
-void DropBlanks(std::string& text) {
-    while (Drop(text, " ")) {
+constexpr std::string_view kDigits = "0123456789.";
+
+/// Without blanks, but for those within a number.
+std::string Unblanked(std::string text) {
+    const std::size_t blank = text.find(' ', std::min(text.find_first_of(kDigits), text.size()));
+    if (blank == std::string::npos || text.find_first_of(kDigits, blank) == std::string::npos) {
+        std::erase(text, ' ');
     }
+    return text;
 }
 
-/// Takes a unit away; gives `otherwise` where there is none.
-float DropUnit(std::string& text, float otherwise) {
-    DropBlanks(text);
-    for (const auto& [name, length] : kUnits) {
-        if (Drop(text, name)) {
-            return length;
-        }
-    }
-    return otherwise;
-}
-
-/// `unit` is what the other side is in.
-bool ParseSide(std::string text, float unit, float& side) {
-    unit = DropUnit(text, unit);
-    DropBlanks(text);
-    if (!penlode::ser_evaluate(side, text, false)) {
-        return false;
-    }
-    side *= unit;
+/// A side without a unit is in that of the other.
+bool ParseSide(const std::string& text, std::string_view unit, float& side) {
+    const bool isBare = !text.empty() && std::isalpha(static_cast<unsigned char>(text.back())) == 0;
+    const auto length = millichart::documents::LengthOf(isBare ? text + std::string(unit) : text);
+    side = static_cast<float>(length.value_or(0.0));
     return side > 0.0F && side <= kMaxSide;
 }
 
@@ -87,9 +77,10 @@ bool ParseSize(const std::string& text, penlode::SizeF& size) {
     if (cross == std::string::npos) {
         return false;
     }
-    std::string height = plain.substr(cross + 1);
-    const float unit = DropUnit(height, 1.0F);
-    return ParseSide(plain.substr(0, cross), unit, size.Width) && ParseSide(height, unit, size.Height);
+    const std::string width = Unblanked(plain.substr(0, cross));
+    const std::string height = Unblanked(plain.substr(cross + 1));
+    return ParseSide(width, std::string_view(height).substr(height.find_last_of(kDigits) + 1), size.Width) &&
+           ParseSide(height, "mm", size.Height);
 }
 
 std::string Millimetres(penlode::SizeF size) {

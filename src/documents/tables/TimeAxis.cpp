@@ -84,6 +84,18 @@ std::int32_t ReadableStep(std::size_t count) {
     return 1000000000;
 }
 
+std::vector<std::string> LabelsOfWholeTimes(std::int64_t first, std::int64_t last, bool mayPassOver) {
+    constexpr Count kShort = 300;
+    const Count span = last - first;
+    const Count few = PartsOf(span, {1}, {10, 8, 6, 5, 9, 7, 4, 3, 2});
+    const Count parts = few == 1 && mayPassOver && span <= kShort ? span : few;
+    std::vector<std::string> labels;
+    for (Count i = 0; i <= parts; ++i) {
+        labels.push_back(std::to_string(first + span / parts * i));
+    }
+    return labels;
+}
+
 TimeAxis AxisOfDates(const DateColumn& dates) {
     const auto [least, most] = std::minmax_element(dates.Moments.begin(), dates.Moments.end());
     const Count first = least->count();

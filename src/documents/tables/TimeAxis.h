@@ -22,6 +22,10 @@ struct TimeAxis {
 /// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
 std::int32_t ReadableStep(std::size_t count);
 
+/// Whole numbers from the first to the last, evenly spread: a few, or else one for each time of a short span
+/// if a step may pass over some of them, or else the ends alone.
+std::vector<std::string> LabelsOfWholeTimes(std::int64_t first, std::int64_t last, bool mayPassOver);
+
 /// Counted from the first in days, hours, minutes, seconds or less, whichever is the largest that fits all.
 /// There is one at least.
 TimeAxis AxisOfDates(const DateColumn& dates);
