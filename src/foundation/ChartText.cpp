@@ -30,8 +30,7 @@ bool ReachesOut(const RectF& box, const RectF& whole) {
 } // namespace
 
 RectF ChartText::Box() const {
-    penlode::Matrix toPage =
-        penlode::Matrix::Rotation(Property == nullptr ? 0.0F : -static_cast<float>(Property->Angle));
+    penlode::Matrix toPage = penlode::Matrix::Rotation(-static_cast<float>(Angle));
     toPage.Dx = Origin.X;
     toPage.Dy = Origin.Y;
     const PointF middle = Layout.Center();

@@ -5,6 +5,7 @@
 #include "penlode/Geometry.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <utility>
@@ -41,12 +42,14 @@ struct ChartText {
     TextOwner Owner;
     std::wstring Text;                      ///< may be empty
     const penlode::Font* Font = nullptr;    ///< null: nothing can be seen
-    const TextProperty* Property = nullptr; ///< null for a legend's name: black, level, without a box
+    const TextProperty* Property = nullptr; ///< what box it has; null for a legend's name, which has none
     /// The text stands in the middle of `Layout`, whose coordinates begin at `Origin` and are turned about it
-    /// by the property's angle. Moving the origin moves the text.
+    /// by `Angle`. Moving the origin moves the text.
     penlode::PointF Origin;
     penlode::RectF Layout;
     penlode::SizeF Size; ///< of the text before it is turned; (0, 0) without a font
+    std::int32_t Angle = 0; ///< degrees, counter-clockwise on screen
+    penlode::Color Color = penlode::kBlack;
 
     /// The upright rectangle round the text where it stands.
     MILLICHART_API penlode::RectF Box() const;

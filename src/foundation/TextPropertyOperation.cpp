@@ -117,8 +117,8 @@ private:
     std::uint32_t m_handle;
 };
 
-void Write(IGraphicsEngine& engine, const ChartText& text, penlode::Color color) {
-    const penlode::SolidBrush brush{color};
+void Write(IGraphicsEngine& engine, const ChartText& text) {
+    const penlode::SolidBrush brush{text.Color};
     engine.DrawString(text.Text.c_str(), -1, text.Font, text.Layout, &kCenteredFormat, &brush);
 }
 
@@ -142,20 +142,21 @@ void CTextPropertyOperation::Visit(const TextVisitor& visit, TextOwner owner, co
     const PointF center = BoxCenter(size, property.Angle, point, anchor);
     if (penlode::AreFinite(center.X, center.Y)) {
         const RectF layout{-size.Width * 0.5F, -size.Height * 0.5F, size.Width, size.Height + kLayoutSlack};
-        visit({owner, std::move(wide), font, &property, center, layout, size});
+        visit({owner, std::move(wide), font, &property, center, layout, size, property.Angle,
+               property.TextColor});
     }
 }
 
 void CTextPropertyOperation::Draw(IGraphicsEngine& engine, const ChartText& text) {
     if (text.Property == nullptr) {
-        Write(engine, text, penlode::kBlack);
+        Write(engine, text);
         return;
     }
     const Container container(engine);
     engine.TranslateTransform(text.Origin.X, text.Origin.Y, penlode::MatrixOrder::Prepend);
-    engine.RotateTransform(-static_cast<float>(text.Property->Angle), penlode::MatrixOrder::Prepend);
+    engine.RotateTransform(-static_cast<float>(text.Angle), penlode::MatrixOrder::Prepend);
     DrawBox(engine, *text.Property, {text.Layout.X, text.Layout.Y, text.Size.Width, text.Size.Height});
-    Write(engine, text, text.Property->TextColor);
+    Write(engine, text);
 }
 
 TextVisitor CTextPropertyOperation::DrawingOn(IGraphicsEngine& engine) {

@@ -90,7 +90,7 @@ Json DrawnTextsToJson(const LaidOutChart& chart) {
         texts.push_back({{"owner", ToJson(text.Owner)},
                          {"text", penlode::CStringUtil::WideToUtf8(text.Text)},
                          {"box", cli::ToJson(text.Box())},
-                         {"turn", text.Property == nullptr ? 0 : text.Property->Angle}});
+                         {"turn", text.Angle}});
     });
     return texts;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/cartesian/ValueAxis.h"
+#include "foundation/ChartOptions.h"
 #include "foundation/Export.h"
 #include "penlode/Geometry.h"
 
@@ -10,6 +11,11 @@ namespace millichart {
 /// share the axis.
 class MILLICHART_API CCartesianChart {
 public:
+    /// What the chart does so that it reads well; shows after the next Layout. At first nothing.
+    void SetOptions(const ChartOptions& options) { m_options = options; }
+
+    const ChartOptions& GetOptions() const { return m_options; }
+
     /// The top-left corner, legend included, in mm of the page.
     void SetLocation(penlode::PointF location) { m_location = location; }
 
@@ -33,6 +39,7 @@ public:
     void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
 
 protected:
+    ChartOptions m_options;
     ValueAxis m_axis;
     penlode::PointF m_location;
 };

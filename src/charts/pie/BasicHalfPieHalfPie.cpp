@@ -43,6 +43,11 @@ template <class Entry> std::optional<Halves<Entry>> Split(const std::vector<Entr
     return Halves<Entry>{{all.begin(), separator}, {separator + 1, all.end()}};
 }
 
+ChartOptions ForSecond(ChartOptions options) {
+    options.Title = options.SecondTitle;
+    return options;
+}
+
 } // namespace
 
 void CBasicHalfPieHalfPie::SetComponentValue(const std::vector<double>& first,
@@ -54,6 +59,8 @@ void CBasicHalfPieHalfPie::SetComponentValue(const std::vector<double>& first,
 void CBasicHalfPieHalfPie::Layout() {
     m_first.SetLocation(m_location);
     m_second.SetLocation(m_location);
+    m_first.SetOptions(m_options);
+    m_second.SetOptions(ForSecond(m_options));
     m_first.SetHalfPieProp(m_prop.First);
     m_second.SetHalfPieProp(m_prop.Second);
     m_first.SetComponentValue(m_firstValues);

@@ -30,6 +30,11 @@ struct HalfPieHalfPieShapes {
 /// kHalvesSeparator, the second half's.
 class MILLICHART_API CBasicHalfPieHalfPie {
 public:
+    /// What the chart does so that it reads well; shows after the next Layout. At first nothing.
+    void SetOptions(const ChartOptions& options) { m_options = options; }
+
+    const ChartOptions& GetOptions() const { return m_options; }
+
     /// Copies the record. At the next Layout each half's label offsets become as many as its names.
     void SetHalfPieHalfPieProp(const HalfPieHalfPieProp& prop) { m_prop = prop; }
 
@@ -85,6 +90,7 @@ public:
                         const std::vector<penlode::PointF>& legend);
 
 private:
+    ChartOptions m_options;
     HalfPieHalfPieProp m_prop;
     std::vector<double> m_firstValues;
     std::vector<double> m_secondValues;

@@ -43,6 +43,8 @@ void CBasicHalfPieHistogram::SetComponentValue(const std::vector<double>& slices
 void CBasicHalfPieHistogram::Layout() {
     m_halfPie.SetLocation(m_location);
     m_histogram.SetLocation(m_location);
+    m_halfPie.SetOptions(m_options);
+    m_histogram.SetOptions(m_options);
     m_halfPie.SetHalfPieProp(m_prop.HalfPie);
     if (m_histogram.SetHistogramProp(m_prop.Histogram)) {
         m_histogram.InitializeValueRange(m_largest);

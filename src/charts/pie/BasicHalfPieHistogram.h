@@ -24,6 +24,11 @@ struct HalfPieHistogramShapes {
 /// the getters read the last layout. Copies share the bar chart's value axis and nothing else.
 class MILLICHART_API CBasicHalfPieHistogram {
 public:
+    /// What the chart does so that it reads well; shows after the next Layout. At first nothing.
+    void SetOptions(const ChartOptions& options) { m_options = options; }
+
+    const ChartOptions& GetOptions() const { return m_options; }
+
     /// Copies the record and, in the copy, switches off what would stand round the bars: caption, axes with
     /// their labels and captions, grids. The plot's background, the bars with their labels and the legend
     /// stay as given. An upper half overlaps the bars.
@@ -89,6 +94,7 @@ public:
 private:
     void StandOnTheCentre();
 
+    ChartOptions m_options;
     HalfPieHistogramProp m_prop;
     std::vector<double> m_slices;
     std::vector<std::vector<double>> m_groups;

@@ -2,6 +2,7 @@
 
 #include "charts/pie/PieLayout.h"
 #include "charts/pie/PieProp.h"
+#include "foundation/ChartOptions.h"
 #include "foundation/ChartText.h"
 #include "foundation/Export.h"
 
@@ -12,6 +13,11 @@ namespace millichart {
 /// What a pie and a half pie have alike: values, a place, and labels that the user may move.
 class MILLICHART_API CSlicedCircle {
 public:
+    /// What the chart does so that it reads well; shows after the next Layout. At first nothing.
+    void SetOptions(const ChartOptions& options) { m_options = options; }
+
+    const ChartOptions& GetOptions() const { return m_options; }
+
     /// One a slice.
     void SetComponentValue(const std::vector<double>& values) { m_values = values; }
 
@@ -45,6 +51,7 @@ public:
 protected:
     void VisitLabels(const PieLabelProp& label, const TextVisitor& visit) const;
 
+    ChartOptions m_options;
     std::vector<double> m_values;
     penlode::PointF m_location;
     PieLayout m_layout;

@@ -36,8 +36,7 @@ RectF InkOf(const ChartText& text) {
 }
 
 Quad CornersOf(const ChartText& text) {
-    penlode::Matrix toPage = penlode::Matrix::Rotation(
-        text.Property == nullptr ? 0.0F : -static_cast<float>(text.Property->Angle));
+    penlode::Matrix toPage = penlode::Matrix::Rotation(-static_cast<float>(text.Angle));
     toPage.Dx = text.Origin.X;
     toPage.Dy = text.Origin.Y;
     const RectF ink = InkOf(text);
@@ -82,7 +81,7 @@ bool AreOverlapping(const Quad& a, const Quad& b, float gap = -kUnnoticed) {
 }
 
 std::int32_t AngleOf(const SeenText& text) {
-    return text.Text.Property == nullptr ? 0 : text.Text.Property->Angle;
+    return text.Text.Angle;
 }
 
 std::string GroupOf(TextRole role, const std::string& kind) {

@@ -49,7 +49,7 @@ struct Unreadable {
 
 Unreadable Look(const SeenText& text, const Ground& ground) {
     const TextProperty* const look = text.Text.Property;
-    Unreadable found{false, look == nullptr ? penlode::kBlack : look->TextColor, {}, false};
+    Unreadable found{false, text.Text.Color, {}, false};
     found.IsBoxed = look != nullptr && look->DrawBackGround != 0;
     int lost = 0;
     for (const float across : {0.1F, 0.3F, 0.5F, 0.7F, 0.9F}) {
