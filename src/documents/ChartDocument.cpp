@@ -110,7 +110,7 @@ void SaveDocument(SavingStream& stream, ChartDocument& document) {
         stream.Text("kind", kind->Name);
     }
     SerTexts(stream, document);
-    SaveContent(stream, document.Content, document.Location);
+    SaveContent(stream, document);
 }
 
 PlaceHashes HashesOf(ChartDocument& document) {
@@ -253,7 +253,7 @@ ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput
         SerTexts(stream, document);
         const DataSource source{PathFromUtf8(input.Name).parent_path(), table ? &*table : nullptr,
                                 &loaded->Diagnostics, &loaded->DataFiles};
-        LoadContent(stream, source, document.Content, document.Location);
+        LoadContent(stream, source, document);
     }
     const std::vector<Diagnostic> met = LoadDiagnostics(loaded->Json, stream);
     loaded->Diagnostics.insert(loaded->Diagnostics.end(), met.begin(), met.end());
@@ -309,6 +309,7 @@ LaidOutChart ChartDocument::LayOutAndSpend() {
     const std::set<std::string> changed = loaded.ChangedPlaces(now);
     LayoutTask task;
     task.Location = Location;
+    task.Options = Options;
     task.Open = loaded.Open(now);
     task.AreDataChanged = std::any_of(changed.begin(), changed.end(), IsOfData);
     task.Emptiness = penlode::Error("kind", "no kind", ChartKindNames());

@@ -87,6 +87,7 @@ public:
     std::string Description;
     std::string Source;
     penlode::PointF Location; ///< mm
+    ChartOptions Options;     ///< what the chart does beyond its record, so that it reads well
     ChartContent Content;     ///< none when the kind was not told
 
     /// Of the load, in the document's order, notes last: there is a note for each key that is missing.

@@ -7,6 +7,7 @@
 #include "documents/Bars.h"
 #include "documents/Curves.h"
 #include "documents/Fields.h"
+#include "documents/OptionsGroup.h"
 #include "documents/Slices.h"
 #include "documents/ValueRange.h"
 #include "documents/doubts/Doubts.h"
@@ -155,6 +156,7 @@ CBasicPie LayOut(PieDocument& document, LayoutTask& task, const Slices& slices) 
     CompleteLegend(document.Prop.Legend, document.Prop.Basic.ComponentName,
                    task.Open.contains(std::string("property/PieLegendProp") + kShowLegend));
     CBasicPie chart;
+    chart.SetOptions(task.Options);
     chart.SetPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
     LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Data),
@@ -172,6 +174,7 @@ CBasicPie LayOut(PieDocument& document, LayoutTask& task, const Slices& slices) 
 
 CBasicHalfPie LayOut(const HalfPieDocument& document, LayoutTask& task, const Slices& slices) {
     CBasicHalfPie chart;
+    chart.SetOptions(task.Options);
     chart.SetHalfPieProp(document.Prop);
     chart.SetComponentValue(document.Data.Values);
     LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Data));
@@ -191,6 +194,7 @@ CBasicHalfPieHalfPie LayOut(const HalfPieHalfPieDocument& document, LayoutTask& 
     offsets.insert(offsets.end(), ofSecond.begin(), ofSecond.end());
 
     CBasicHalfPieHalfPie chart;
+    chart.SetOptions(task.Options);
     chart.SetHalfPieHalfPieProp(document.Prop);
     chart.SetComponentValue(document.First.Values, document.Second.Values);
     LayOutAt(task.Location, chart, offsets);
@@ -207,6 +211,7 @@ CBasicHalfPieHalfPie LayOut(const HalfPieHalfPieDocument& document, LayoutTask& 
 CBasicHalfPieHistogram LayOut(const HalfPieHistogramDocument& document, LayoutTask& task,
                               const Slices& slices, const Bars& bars) {
     CBasicHalfPieHistogram chart;
+    chart.SetOptions(task.Options);
     chart.SetHalfPieHistogramProp(document.Prop);
     chart.SetComponentValue(document.Slices.Values, document.Bars.Values,
                             document.Largest.value_or(bars.Largest()));
@@ -230,6 +235,7 @@ CBasicHistogram LayOut(HistogramDocument& document, LayoutTask& task, const Bars
     CompleteLegend(document.Prop.Legend, document.Prop.Plot.ComponentName,
                    task.Open.contains(std::string("property/HistogramLegendProp") + kShowLegend));
     CBasicHistogram chart;
+    chart.SetOptions(task.Options);
     chart.SetHistogramProp(document.Prop);
     SetValueRange(chart, document.Range.IsFitted ? bars.FittedRange() : document.Range, bars.Largest());
     chart.SetComponentValue(document.Data.Values);
@@ -242,6 +248,7 @@ CBasicHistogram LayOut(HistogramDocument& document, LayoutTask& task, const Bars
 
 CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, const Curves& curves) {
     CBasicCurve chart;
+    chart.SetOptions(task.Options);
     chart.SetCurveProp(document.Prop);
     SetValueRange(chart, document.Range.IsFitted ? curves.FittedRange() : document.Range, curves.Largest());
     curves.Check(chart, task.Diagnostics);
@@ -254,17 +261,18 @@ CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, const Curves& curv
 
 } // namespace
 
-void LoadContent(ChartStream& stream, const DataSource& source, ChartContent& content, PointF& location) {
-    WithContent(content, [&](auto& document) {
+void LoadContent(ChartStream& stream, const DataSource& source, ChartDocument& whole) {
+    WithContent(whole.Content, [&](auto& document) {
         SerProp(stream, document.Prop);
         LoadData(stream, source, document);
-        SerPoint(stream, "location", location);
+        SerPoint(stream, "location", whole.Location);
         SerOffsets(stream, document);
+        whole.Options = LoadOptions(stream);
     });
 }
 
-void SaveContent(SavingStream& stream, ChartContent& content, PointF& location) {
-    WithContent(content, [&](auto& document) {
+void SaveContent(SavingStream& stream, ChartDocument& whole) {
+    WithContent(whole.Content, [&](auto& document) {
         SerProp(stream, document.Prop);
         ForEachPart(document, [&](const auto& part) { part.Save(stream); });
         if constexpr (requires { document.Range; }) {
@@ -272,8 +280,9 @@ void SaveContent(SavingStream& stream, ChartContent& content, PointF& location) 
         } else if constexpr (requires { document.Largest; }) {
             SaveValueRange(stream, {document.IsFitted, document.Largest, {}, {}});
         }
-        SerPoint(stream, "location", location);
+        SerPoint(stream, "location", whole.Location);
         SerOffsets(stream, document);
+        SaveOptions(stream, whole.Options);
     });
 }
 

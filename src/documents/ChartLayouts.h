@@ -22,11 +22,10 @@ template <class Variant, class Work> void WithContent(Variant& held, const Work&
         held);
 }
 
-/// Loads a record, its data and range, the chart's location and how far parts were moved. What is wrong is
-/// told.
-void LoadContent(ChartStream& stream, const DataSource& source, ChartContent& content,
-                 penlode::PointF& location);
-void SaveContent(SavingStream& stream, ChartContent& content, penlode::PointF& location);
+/// Loads a record, its data and range, the chart's location, how far parts were moved, and its options. What
+/// is wrong is told.
+void LoadContent(ChartStream& stream, const DataSource& source, ChartDocument& document);
+void SaveContent(SavingStream& stream, ChartDocument& document);
 
 /// Puts the names that came with a table into the record: those that it lacks, or in the place of its own.
 void TakeTableNames(ChartContent& content, bool inPlaceOfOwn);

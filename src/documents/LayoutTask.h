@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/ChartData.h"
+#include "foundation/ChartOptions.h"
 #include "foundation/Legend.h"
 #include "penlode/Geometry.h"
 #include "penlode/streams/Diagnostic.h"
@@ -24,6 +25,7 @@ using OpenPlaces = std::set<std::string>;
 /// What a layout is told besides the document's content.
 struct LayoutTask {
     penlode::PointF Location;
+    ChartOptions Options;
     OpenPlaces Open;
     bool AreDataChanged = false; ///< since they were loaded, so that they do not stand where they came from
     std::vector<penlode::Diagnostic> Diagnostics; ///< takes what was hardly meant
