@@ -1,5 +1,6 @@
 #include "foundation/Legend.h"
 
+#include "foundation/LegendSide.h"
 #include "foundation/NarrowText.h"
 #include "foundation/TextPropertyOperation.h"
 #include "penlode/text/StringUtil.h"
@@ -15,33 +16,8 @@ using penlode::SizeF;
 
 namespace {
 
-constexpr float kPlotGap = 2.0F;
 constexpr float kSwatchMargin = 1.0F;
 constexpr float kSwatchFrameWidth = 0.1F;
-constexpr std::int32_t kAlongEachSide = 3;
-
-enum class Side { Left, Right, Top, Bottom };
-
-Side SideOf(std::int32_t position) {
-    return static_cast<Side>(position / kAlongEachSide);
-}
-
-bool IsNamed(std::int32_t position) {
-    return position >= LegendPosition::LeftTop && position <= LegendPosition::BottomRight;
-}
-
-/// Where `length` begins along a side that begins at `start` and is `available` long: 0 at its start, 1 in
-/// the middle, 2 at its end.
-float Aligned(std::int32_t along, float start, float available, float length) {
-    switch (along) {
-    case 0:
-        return start;
-    case 1:
-        return start + (available - length) * 0.5F;
-    default:
-        return start + available - length;
-    }
-}
 
 std::vector<SizeF> ItemSizes(const LegendProp& prop, const std::vector<std::string>& names,
                              float swatchFactor) {
@@ -66,9 +42,9 @@ float TotalLength(const std::vector<SizeF>& sizes, float SizeF::*length, float g
 /// Where the first item of a row above or below the plot stands.
 PointF RowStart(const LegendProp& prop, const std::vector<SizeF>& sizes, const RectF& plot) {
     const float width = TotalLength(sizes, &SizeF::Width, prop.ItemDist);
-    const bool above = SideOf(prop.LegendPos) == Side::Top;
-    return {Aligned(prop.LegendPos % kAlongEachSide, plot.X, plot.Width, width),
-            above ? plot.Y - sizes.back().Height - kPlotGap : plot.Y + plot.Height + kPlotGap};
+    const bool above = SideOf(prop.LegendPos) == LegendSide::Top;
+    return {AlignedAlong(prop.LegendPos, plot.X, plot.Width, width),
+            above ? plot.Y - sizes.back().Height - kLegendDistance : plot.Y + plot.Height + kLegendDistance};
 }
 
 /// Where the first item of a column beside the plot stands.
@@ -78,9 +54,9 @@ PointF ColumnStart(const LegendProp& prop, const std::vector<SizeF>& sizes, cons
         width = std::max(width, size.Width);
     }
     const float height = TotalLength(sizes, &SizeF::Height, prop.ItemDist);
-    const bool onLeft = SideOf(prop.LegendPos) == Side::Left;
-    return {onLeft ? plot.X - width - kPlotGap : plot.X + plot.Width + kPlotGap,
-            Aligned(prop.LegendPos % kAlongEachSide, plot.Y, plot.Height, height)};
+    const bool onLeft = SideOf(prop.LegendPos) == LegendSide::Left;
+    return {onLeft ? plot.X - width - kLegendDistance : plot.X + plot.Width + kLegendDistance,
+            AlignedAlong(prop.LegendPos, plot.Y, plot.Height, height)};
 }
 
 /// Black and level, in the middle of what the swatch leaves of the item.
@@ -121,12 +97,11 @@ RectF UnionOf(const std::vector<RectF>& rects) {
 
 std::vector<RectF> CLegendOperation::PlaceItems(const LegendProp& prop, const std::vector<std::string>& names,
                                                 const RectF& plot, float swatchFactor) {
-    if (names.empty() || !IsNamed(prop.LegendPos)) {
+    if (names.empty() || !IsNamedLegendPosition(prop.LegendPos)) {
         return std::vector<RectF>(names.size());
     }
     const std::vector<SizeF> sizes = ItemSizes(prop, names, swatchFactor);
-    const Side side = SideOf(prop.LegendPos);
-    const bool inRow = side == Side::Top || side == Side::Bottom;
+    const bool inRow = IsInRows(prop.LegendPos);
     PointF at = inRow ? RowStart(prop, sizes, plot) : ColumnStart(prop, sizes, plot);
     std::vector<RectF> items;
     for (const SizeF& size : sizes) {

@@ -56,6 +56,20 @@ struct LegendProp {
     }
 };
 
+/// What a legend that sits on its plot has beside its items, in mm of the page.
+struct LegendFrame {
+    penlode::RectF Box;      ///< round everything, the room at its edges included
+    penlode::RectF Rest;     ///< where the count of the names left out stands; empty without
+    std::string RestText;    ///< "… 12"; narrow, empty without
+    std::size_t LeftOut = 0; ///< names at the list's end that the legend does not show
+    float NameGap = 0.0F;    ///< between what stands before a name and the name
+};
+
+/// A legend that sits on its plot.
+struct SeatedLegend : LegendFrame {
+    std::vector<penlode::RectF> Items; ///< one for each name that is shown, from the first
+};
+
 /// A colour square is as wide as its item is high.
 inline constexpr float kLegendSquareFactor = 1.0F;
 
