@@ -56,12 +56,13 @@ void PlaceFrame(const FrameSizes& sizes, PointF location, SizeF depth, Cartesian
                          horCaption.Height};
 }
 
-void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout) {
+void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, const NumberFormat& numbers,
+                   CartesianLayout& layout) {
     if (prop.ShowVerAxisLabel == 0) {
         return;
     }
     const TextProperty& look = prop.VerAxisLabelTextProperty;
-    layout.VerLabelTexts = axis.TickLabels();
+    layout.VerLabelTexts = axis.TickLabels(numbers);
     layout.VerLabelSizes.clear();
     for (std::string& text : layout.VerLabelTexts) {
         text = Decorated(text, look);

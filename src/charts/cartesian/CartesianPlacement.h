@@ -47,7 +47,8 @@ void PlaceFrame(const FrameSizes& sizes, penlode::PointF location, penlode::Size
                 CartesianLayout& layout);
 
 /// Takes the axis's label texts, between their prefix and postfix, and their sizes, if labels are shown.
-void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, CartesianLayout& layout);
+void TakeVerLabels(const VerAxisProp& prop, const ValueAxis& axis, const NumberFormat& numbers,
+                   CartesianLayout& layout);
 
 /// As wide as caption, labels and ticks, and `plotHeight` high. Labels must have been taken.
 penlode::SizeF VerAxisSize(const VerAxisProp& prop, float plotHeight, const CartesianLayout& layout);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Export.h"
+#include "foundation/NumberFormat.h"
 
 #include <cstddef>
 #include <span>
@@ -38,8 +39,13 @@ public:
     virtual float ValueToPosition(double value) const = 0;
     virtual void GetMajorTickPositions(std::vector<float>& positions) const = 0;
     virtual void GetMinorTickPositions(std::vector<float>& positions) const = 0;
+    /// The values at the major ticks.
+    virtual void GetMajorTickValues(std::vector<double>& values) const = 0;
     /// One text a major tick.
-    virtual void GetTickLabels(std::vector<std::string>& labels) const = 0;
+    virtual void GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const = 0;
+
+    void GetTickLabels(std::vector<std::string>& labels) const { GetTickLabels(labels, NumberFormat()); }
+
     /// ValueToPosition of each value, with the very same results, in one call for a whole run of data.
     /// `positions` is as long as `values`.
     virtual void ValuesToPositions(std::span<const double> values, std::span<float> positions) const;

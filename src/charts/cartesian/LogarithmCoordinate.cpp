@@ -1,6 +1,5 @@
 #include "charts/cartesian/LogarithmCoordinate.h"
 
-#include "foundation/NumberText.h"
 #include "penlode/text/Digits.h"
 
 #include <algorithm>
@@ -37,11 +36,6 @@ double DecadeAtOrAbove(double value) {
         --exponent;
     }
     return PowerOfTen(exponent);
-}
-
-int DecimalsOf(double value) {
-    constexpr double kMaxDecimals = 400.0;
-    return static_cast<int>(std::clamp(std::log10(1.0 / value) + 0.5, 0.0, kMaxDecimals));
 }
 
 } // namespace
@@ -103,11 +97,9 @@ void CLogarithmCoordinate::GetMinorTickPositions(std::vector<float>& positions) 
     }
 }
 
-void CLogarithmCoordinate::GetTickLabels(std::vector<std::string>& labels) const {
-    labels.clear();
-    for (const double tick : m_ticks) {
-        labels.push_back(FixedText(tick, DecimalsOf(tick)));
-    }
+void CLogarithmCoordinate::GetTickLabels(std::vector<std::string>& labels,
+                                         const NumberFormat& numbers) const {
+    labels = numbers.DecadeLabels(m_ticks);
 }
 
 } // namespace millichart

@@ -9,6 +9,7 @@ namespace millichart {
 class MILLICHART_API CLogarithmCoordinate final : public CCoordinate {
 public:
     using CCoordinate::GetRange;
+    using CCoordinate::GetTickLabels;
     using CCoordinate::SetRange;
 
     /// Up to the power of ten above `largest` (5000 gives 10000, 10 gives 100; below 1, the power at or above
@@ -25,8 +26,11 @@ public:
     void GetMajorTickPositions(std::vector<float>& positions) const override;
     /// The multiples of each major tick up to the next; the first falls on the major tick itself.
     void GetMinorTickPositions(std::vector<float>& positions) const override;
-    /// Each with the decimals that its power of ten needs: 0.001, 100.
-    void GetTickLabels(std::vector<std::string>& labels) const override;
+
+    void GetMajorTickValues(std::vector<double>& values) const override { values = m_ticks; }
+
+    /// Without exact numbers: each with the decimals that its power of ten needs: 0.001, 100.
+    void GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const override;
     void ValuesToPositions(std::span<const double> values, std::span<float> positions) const override;
 
 private:

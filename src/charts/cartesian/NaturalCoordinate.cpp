@@ -1,7 +1,5 @@
 #include "charts/cartesian/NaturalCoordinate.h"
 
-#include "foundation/NumberText.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -98,12 +96,8 @@ void CNaturalCoordinate::GetMinorTickPositions(std::vector<float>& positions) co
     }
 }
 
-void CNaturalCoordinate::GetTickLabels(std::vector<std::string>& labels) const {
-    labels.clear();
-    const int decimals = !m_ticks.empty() && m_ticks.back() >= 1.0 ? 0 : 2;
-    for (const double tick : m_ticks) {
-        labels.push_back(FixedText(tick, decimals));
-    }
+void CNaturalCoordinate::GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const {
+    labels = numbers.StepLabels(m_ticks, m_step);
 }
 
 void CNaturalCoordinate::ValuesToPositions(std::span<const double> values, std::span<float> positions) const {

@@ -8,6 +8,7 @@ namespace millichart {
 class MILLICHART_API CNaturalCoordinate final : public CCoordinate {
 public:
     using CCoordinate::GetRange;
+    using CCoordinate::GetTickLabels;
     using CCoordinate::SetRange;
 
     /// From 0 to the first of 1, 2 ... 10 times a power of ten (1 or more) that is greater than `largest`:
@@ -24,8 +25,11 @@ public:
     /// From each major tick a, the places of a + k × minor step up to the next one or the range's end. The
     /// first falls on the major tick itself.
     void GetMinorTickPositions(std::vector<float>& positions) const override;
-    /// Whole numbers if the largest tick is at least 1, else two decimals.
-    void GetTickLabels(std::vector<std::string>& labels) const override;
+
+    void GetMajorTickValues(std::vector<double>& values) const override { values = m_ticks; }
+
+    /// Without exact numbers: whole numbers if the largest tick is at least 1, else two decimals.
+    void GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const override;
     void ValuesToPositions(std::span<const double> values, std::span<float> positions) const override;
 
 private:

@@ -85,10 +85,18 @@ std::vector<float> ValueAxis::MinorTicks() const {
     return positions;
 }
 
-std::vector<std::string> ValueAxis::TickLabels() const {
+std::vector<double> ValueAxis::MajorTickValues() const {
+    std::vector<double> values;
+    if (m_axis != nullptr) {
+        m_axis->GetMajorTickValues(values);
+    }
+    return values;
+}
+
+std::vector<std::string> ValueAxis::TickLabels(const NumberFormat& numbers) const {
     std::vector<std::string> labels;
     if (m_axis != nullptr) {
-        m_axis->GetTickLabels(labels);
+        m_axis->GetTickLabels(labels, numbers);
     }
     return labels;
 }

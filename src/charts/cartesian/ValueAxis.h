@@ -27,7 +27,9 @@ public:
     void ValuesToPositions(std::span<const double> values, std::span<float> positions) const;
     std::vector<float> MajorTicks() const;
     std::vector<float> MinorTicks() const;
-    std::vector<std::string> TickLabels() const;
+    /// The values at the major ticks.
+    std::vector<double> MajorTickValues() const;
+    std::vector<std::string> TickLabels(const NumberFormat& numbers) const;
 
 private:
     std::shared_ptr<CCoordinate> m_axis;

@@ -87,7 +87,7 @@ SizeF CBasicCurve::CalcVerAxisSize() {
 }
 
 void CBasicCurve::CalcVerAxisLabelText() {
-    TakeVerLabels(m_prop.VerAxis, m_axis, m_layout);
+    TakeVerLabels(m_prop.VerAxis, m_axis, NumberFormat(m_options), m_layout);
 }
 
 SizeF CBasicCurve::CalcHorAxisSize() {

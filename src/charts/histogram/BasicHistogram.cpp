@@ -85,7 +85,7 @@ SizeF CBasicHistogram::CalcVerAxisSize() {
 }
 
 void CBasicHistogram::CalcVerAxisLabelText() {
-    TakeVerLabels(m_prop.VerAxis, m_axis, m_layout);
+    TakeVerLabels(m_prop.VerAxis, m_axis, NumberFormat(m_options), m_layout);
 }
 
 SizeF CBasicHistogram::CalcHorAxisSize() {

@@ -1,6 +1,6 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/histogram/BasicHistogram.h"
-#include "foundation/NumberText.h"
+#include "foundation/NumberFormat.h"
 #include "penlode/engine/Finite.h"
 
 #include <algorithm>
@@ -267,7 +267,7 @@ std::string CBasicHistogram::ComponentInfo(std::size_t group, std::size_t compon
         text += prop.ConponentInfoSeparator + (prop.ConponentInfoInSingleRow == 0 ? "\n" : "");
     }
     if (prop.ShowComponentValue != 0) {
-        text += FixedText(m_values[group][component], 0);
+        text += NumberFormat(m_options).ValueText(m_values[group][component], 0);
     }
     return Decorated(text, prop.ComponentInfoTextProperty);
 }

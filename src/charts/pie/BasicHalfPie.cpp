@@ -18,7 +18,7 @@ void CBasicHalfPie::Layout() {
     m_layout.Whole = {m_location.X, m_location.Y, 0.0F, 0.0F};
     const HalfPieBasicProp& basic = m_prop.Basic;
     if (PlacePie({m_location, PieDiameter(basic, m_values), StartAngle(), kHalfTurn, m_values,
-                  basic.ComponentName, m_prop.Label, m_labelOffsets},
+                  basic.ComponentName, m_prop.Label, m_labelOffsets, NumberFormat(m_options)},
                  m_layout)) {
         m_layout.Whole = WithLabels(VisibleHalf(), m_layout.LabelRects);
     }

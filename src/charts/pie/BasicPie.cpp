@@ -17,7 +17,7 @@ void CBasicPie::Layout() {
     m_layout.LegendItemRects.clear();
     const PieBasicProp& basic = m_prop.Basic;
     if (PlacePie({m_location, PieDiameter(basic, m_values), basic.StartAngle, kFullTurn, m_values,
-                  basic.ComponentName, m_prop.Label, m_labelOffsets},
+                  basic.ComponentName, m_prop.Label, m_labelOffsets, NumberFormat(m_options)},
                  m_layout)) {
         m_layout.Whole = WithLabels(m_layout.Pie, m_layout.LabelRects);
         PlaceLegend();

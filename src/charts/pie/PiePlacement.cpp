@@ -1,6 +1,5 @@
 #include "charts/pie/PiePlacement.h"
 
-#include "foundation/NumberText.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <cmath>
@@ -28,10 +27,10 @@ std::vector<std::string> LabelParts(const PiePlan& plan, std::size_t slice, doub
         parts.push_back(plan.Names[slice]);
     }
     if (plan.Label.ShowValueLabel == 1) {
-        parts.push_back(FixedText(value, 1));
+        parts.push_back(plan.Numbers.ValueText(value, 1));
     }
     if (plan.Label.ShowPercentLabel == 1) {
-        parts.push_back(FixedText(ShareOf(value, total) * 100.0, 1) + "%");
+        parts.push_back(plan.Numbers.PercentText(ShareOf(value, total) * 100.0));
     }
     return parts;
 }

@@ -3,6 +3,7 @@
 #include "charts/pie/PieLayout.h"
 #include "charts/pie/PieProp.h"
 #include "charts/pie/PieSlices.h"
+#include "foundation/NumberFormat.h"
 
 /// Where the circle of a pie or half pie and its labels stand.
 namespace millichart {
@@ -17,6 +18,7 @@ struct PiePlan {
     const std::vector<std::string>& Names;
     const PieLabelProp& Label;
     const std::vector<penlode::PointF>& LabelOffsets; ///< the user's displacements; a missing one is (0, 0)
+    NumberFormat Numbers;
 };
 
 /// `BasePieWidth` × total / `BaseValue`, or `FixedWidth` if `FixedSize` is non-zero. For a PieBasicProp or a

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace millichart {
+
+/// A name under an axis, as it reads there.
+struct FittedName {
+    std::string Text;   ///< narrow; with line breaks where it was wrapped; empty for one that is left out
+    penlode::RectF Box; ///< upright, round the turned text, in mm; empty for one that is left out
+    std::int32_t Angle = 0;
+};
+
+/// What stands where under an axis.
+struct NamesToFit {
+    const std::vector<std::string>& Names; ///< narrow
+    const std::vector<float>& Centers;     ///< parallel to the names, ascending, in mm
+    float Top;                             ///< of the names
+    std::int32_t Angle;                    ///< that the record gives them
+    bool AreOnScale;                       ///< what is left out can be told from its neighbours, as of numbers
+    /// The size of a level text of one or more lines.
+    std::function<penlode::SizeF(const std::string&)> Measure;
+};
+
+/// Names that would touch are, in this order, wrapped at blanks and between Chinese characters, turned by 45
+/// degrees and hung by their end, and thinned to every n-th. Names on a scale are rather thinned than turned,
+/// as long as five are left. Those that the record turns are thinned at most.
+///
+/// Every name is measured; beyond that it takes n log n steps for n names.
+std::vector<FittedName> FitNames(const NamesToFit& names);
+
+/// Narrow text in lines of at most `width` as far as its blanks and Chinese characters allow it.
+std::string WrappedText(const std::string& text, float width,
+                        const std::function<penlode::SizeF(const std::string&)>& measure);
+
+} // namespace millichart

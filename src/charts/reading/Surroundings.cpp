@@ -1,0 +1,64 @@
+#include "charts/reading/Surroundings.h"
+
+#include "foundation/Legend.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace millichart {
+
+using penlode::RectF;
+using penlode::SizeF;
+
+namespace {
+
+constexpr float kFar = std::numeric_limits<float>::max();
+
+bool MeetAcross(const RectF& a, const RectF& b) {
+    return a.X < b.Right() && b.X < a.Right();
+}
+
+bool MeetDown(const RectF& a, const RectF& b) {
+    return a.Y < b.Bottom() && b.Y < a.Bottom();
+}
+
+} // namespace
+
+RectF Surroundings::PlaceAbove(SizeF size, float centerX, float gap) {
+    RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};
+    float top = kFar;
+    for (const RectF& box : m_boxes) {
+        top = MeetAcross(box, placed) ? std::min(top, box.Y) : top;
+    }
+    placed.Y = (top == kFar ? All().Y : top) - gap - size.Height;
+    Add(placed);
+    return placed;
+}
+
+RectF Surroundings::PlaceBelow(SizeF size, float centerX, float gap) {
+    RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};
+    float bottom = -kFar;
+    for (const RectF& box : m_boxes) {
+        bottom = MeetAcross(box, placed) ? std::max(bottom, box.Bottom()) : bottom;
+    }
+    placed.Y = (bottom == -kFar ? All().Bottom() : bottom) + gap;
+    Add(placed);
+    return placed;
+}
+
+RectF Surroundings::PlaceLeft(SizeF size, float centerY, float gap) {
+    RectF placed{0.0F, centerY - size.Height * 0.5F, size.Width, size.Height};
+    float left = kFar;
+    for (const RectF& box : m_boxes) {
+        left = MeetDown(box, placed) ? std::min(left, box.X) : left;
+    }
+    placed.X = (left == kFar ? All().X : left) - gap - size.Width;
+    Add(placed);
+    return placed;
+}
+
+RectF Surroundings::All() const {
+    return UnionOf(m_boxes);
+}
+
+} // namespace millichart

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "penlode/Geometry.h"
+
+#include <vector>
+
+namespace millichart {
+
+/// The boxes round a plot. Each is placed as near to the plot as those before it let it, so that none lies
+/// over another. Placing takes as many steps as there are boxes.
+class Surroundings {
+public:
+    void Add(const penlode::RectF& box) { m_boxes.push_back(box); }
+
+    /// Above all boxes that it would be over or under, `gap` off them.
+    penlode::RectF PlaceAbove(penlode::SizeF size, float centerX, float gap);
+    penlode::RectF PlaceBelow(penlode::SizeF size, float centerX, float gap);
+    /// At the left of all boxes that it would be beside.
+    penlode::RectF PlaceLeft(penlode::SizeF size, float centerY, float gap);
+
+    /// The union of all boxes.
+    penlode::RectF All() const;
+
+private:
+    std::vector<penlode::RectF> m_boxes;
+};
+
+} // namespace millichart
