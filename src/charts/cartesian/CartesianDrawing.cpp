@@ -18,6 +18,11 @@ void DrawVerTicks(IGraphicsEngine& engine, const penlode::Pen* pen, const std::v
     }
 }
 
+/// A label that was thinned out; a classical one is drawn even if it is empty.
+bool IsLeftOut(const CartesianLayout& layout, std::size_t label) {
+    return layout.VerLabelTexts[label].empty() && layout.VerLabelRects[label].Height == 0.0F;
+}
+
 } // namespace
 
 TickSpan TickOf(std::int32_t style, float length) {
@@ -74,22 +79,38 @@ void FillRect(IGraphicsEngine& engine, const penlode::SolidBrush& brush, const R
 void VisitVerLabels(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout) {
     const bool isShown = prop.ShowVerAxis != 0 && prop.ShowVerAxisLabel != 0;
     for (std::size_t i = 0; isShown && i < layout.VerLabelRects.size(); ++i) {
+        if (IsLeftOut(layout, i)) {
+            continue;
+        }
         CTextPropertyOperation::Visit(visit, {TextRole::VerAxisLabel, i}, layout.VerLabelTexts[i],
                                       prop.VerAxisLabelTextProperty, layout.VerLabelRects[i].Center());
     }
 }
 
-void VisitVerCaption(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout) {
+void VisitVerCaption(const TextVisitor& visit, const ChartOptions& options, const VerAxisProp& prop,
+                     const CartesianLayout& layout) {
     if (prop.ShowVerAxis != 0 && prop.ShowVerCaption != 0) {
-        CTextPropertyOperation::Visit(visit, {TextRole::VerCaption}, prop.VerCaption,
+        CTextPropertyOperation::Visit(visit, {TextRole::VerCaption}, CaptionShown(options, prop.VerCaption),
                                       prop.VerCaptionTextProperty, layout.VerCaption.Center());
     }
 }
 
-void VisitCaption(const TextVisitor& visit, const CaptionProp& prop, const CartesianLayout& layout) {
+void VisitCaption(const TextVisitor& visit, const ChartOptions& options, const CaptionProp& prop,
+                  const CartesianLayout& layout) {
     if (prop.ShowCaption != 0) {
-        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, prop.Caption, prop.CaptionTextProperty,
-                                      layout.Caption.Center());
+        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, CaptionShown(options, prop.Caption),
+                                      prop.CaptionTextProperty, layout.Caption.Center());
+    }
+}
+
+void VisitFittedNames(const TextVisitor& visit, TextRole role, const TextProperty& look,
+                      const CartesianLayout& layout) {
+    for (const FittedName& name : layout.FittedNames) {
+        const auto turned = [&](ChartText&& text) {
+            text.Angle = name.Angle;
+            visit(std::move(text));
+        };
+        CTextPropertyOperation::Visit(turned, {role, name.Index}, name.Text, look, name.Box.Center());
     }
 }
 

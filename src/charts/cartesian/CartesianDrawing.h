@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/cartesian/CartesianPlacement.h"
+#include "charts/cartesian/ReadableFrame.h"
 #include "foundation/CaptionProp.h"
 #include "foundation/TextPropertyOperation.h"
 #include "penlode/IGraphicsEngine.h"
@@ -45,19 +46,26 @@ void FillRect(penlode::IGraphicsEngine& engine, const penlode::SolidBrush& brush
 void VisitVerLabels(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout);
 
 /// The value axis's caption, if axis and caption are shown.
-void VisitVerCaption(const TextVisitor& visit, const VerAxisProp& prop, const CartesianLayout& layout);
+void VisitVerCaption(const TextVisitor& visit, const ChartOptions& options, const VerAxisProp& prop,
+                     const CartesianLayout& layout);
 
 /// The horizontal axis's caption, if axis and caption are shown. For a HistogramHorAxisProp or a
 /// CurveHorAxisProp.
 template <class HorAxisProp>
-void VisitHorCaption(const TextVisitor& visit, const HorAxisProp& prop, const CartesianLayout& layout) {
+void VisitHorCaption(const TextVisitor& visit, const ChartOptions& options, const HorAxisProp& prop,
+                     const CartesianLayout& layout) {
     if (prop.ShowHorAxis != 0 && prop.ShowHorCaption != 0) {
-        CTextPropertyOperation::Visit(visit, {TextRole::HorCaption}, prop.HorCaption,
+        CTextPropertyOperation::Visit(visit, {TextRole::HorCaption}, CaptionShown(options, prop.HorCaption),
                                       prop.HorCaptionTextProperty, layout.HorCaption.Center());
     }
 }
 
 /// The chart's caption, if it is shown.
-void VisitCaption(const TextVisitor& visit, const CaptionProp& prop, const CartesianLayout& layout);
+void VisitCaption(const TextVisitor& visit, const ChartOptions& options, const CaptionProp& prop,
+                  const CartesianLayout& layout);
+
+/// The names below the plot as they read; `role` is what each is.
+void VisitFittedNames(const TextVisitor& visit, TextRole role, const TextProperty& look,
+                      const CartesianLayout& layout);
 
 } // namespace millichart

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "charts/reading/NamesThatFit.h"
+#include "foundation/Legend.h"
 #include "penlode/Geometry.h"
 
 #include <string>
@@ -23,6 +25,9 @@ struct CartesianLayout {
     std::vector<penlode::SizeF> VerLabelSizes;   ///< parallel to the texts
     std::vector<penlode::PointF> HorTicks;       ///< on the plot's bottom edge
     std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
+    LegendFrame Legend;                          ///< of a legend that sits on its plot
+    /// The names or labels below the plot that are drawn, where options say how; else none.
+    std::vector<FittedName> FittedNames;
 };
 
 } // namespace millichart

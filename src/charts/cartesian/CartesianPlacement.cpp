@@ -27,7 +27,7 @@ void Reset(CartesianLayout& layout, PointF location) {
     const RectF bare{location.X, location.Y, 0.0F, 0.0F};
     const SizeF verCaption = layout.VerCaptionSize;
     const SizeF horCaption = layout.HorCaptionSize;
-    layout = {bare, bare, bare, bare, bare, verCaption, horCaption, {}, {}, {}, {}, {}, {}, {}};
+    layout = {bare, bare, bare, bare, bare, verCaption, horCaption, {}, {}, {}, {}, {}, {}, {}, {}, {}};
 }
 
 SizeF CaptionSize(std::int32_t isShown, const std::string& caption, const TextProperty& property) {
@@ -134,6 +134,11 @@ void Move(CartesianLayout& layout, PointF by) {
     Move(layout.VerLabelRects, by);
     Move(layout.HorTicks, by);
     Move(layout.LegendItemRects, by);
+    layout.Legend.Box = penlode::Translated(layout.Legend.Box, by);
+    layout.Legend.Rest = penlode::Translated(layout.Legend.Rest, by);
+    for (FittedName& name : layout.FittedNames) {
+        name.Box = penlode::Translated(name.Box, by);
+    }
 }
 
 } // namespace millichart

@@ -1,6 +1,7 @@
 #include "charts/curve/BasicCurve.h"
 
 #include "charts/cartesian/CartesianPlacement.h"
+#include "charts/cartesian/ReadableFrame.h"
 #include "charts/curve/CurvePlacement.h"
 #include "foundation/TextPropertyOperation.h"
 
@@ -56,7 +57,11 @@ void CBasicCurve::Layout() {
     CalcVerAxisLabelRect();
     CalcHorAxisLabelRect();
     CalcCurvePoint();
-    PlaceLegendAndShift();
+    if (ReadsFrame(m_options)) {
+        ReadFrame();
+    } else {
+        PlaceLegendAndShift();
+    }
 }
 
 SizeF CBasicCurve::CalcHorCaptionSize() const {
@@ -167,14 +172,31 @@ void CBasicCurve::CalcCurvePoint() {
 /// Only a legend at the left or above moves anything; points are not written twice for nothing.
 void CBasicCurve::PlaceLegendAndShift() {
     PlaceLegend(m_prop.Legend, m_prop.Plot.CurveName, kLegendSampleFactor, m_layout);
-    const PointF shift = m_location - m_layout.Whole.TopLeft();
-    if (shift == PointF{}) {
+    MoveAll(m_location - m_layout.Whole.TopLeft());
+}
+
+void CBasicCurve::ReadFrame() {
+    const CurveHorAxisProp& hor = m_prop.HorAxis;
+    std::vector<std::string> labels = m_labels;
+    const std::size_t step = HorLabelStep();
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        labels[i] = i % step == 0 ? std::move(labels[i]) : std::string();
+    }
+    PlaceReadably({m_options, m_prop.Caption, m_prop.VerAxis, hor.HorCaption, hor.HorCaptionTextProperty,
+                   m_prop.Legend, m_prop.Plot.CurveName, kLegendSampleFactor, {}},
+                  {labels, m_layout.HorTicks, hor.HorLabelTextProperty, true, m_layout.HorLabelRects},
+                  m_layout);
+    MoveAll(m_location - m_layout.Whole.TopLeft());
+}
+
+void CBasicCurve::MoveAll(PointF by) {
+    if (by == PointF{}) {
         return;
     }
-    Move(m_layout, shift);
-    Move(m_layout.HorLabelRects, shift);
+    Move(m_layout, by);
+    Move(m_layout.HorLabelRects, by);
     for (CurveTrace& curve : m_layout.Curves) {
-        Move(curve.Points, shift);
+        Move(curve.Points, by);
     }
 }
 

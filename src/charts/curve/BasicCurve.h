@@ -8,6 +8,7 @@
 #include "foundation/Export.h"
 #include "penlode/IGraphicsEngine.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -124,7 +125,11 @@ private:
     static constexpr std::size_t kFewestLabels = 2;
 
     bool ShowsHorLabels() const;
+    std::size_t HorLabelStep() const { return static_cast<std::size_t>(std::max(m_prop.HorAxis.LabelStep, 1)); }
+
     void PlaceLegendAndShift();
+    void ReadFrame();
+    void MoveAll(penlode::PointF by);
     void VisitHorLabels(const TextVisitor& visit) const;
     void DrawSample(penlode::IGraphicsEngine& engine, std::size_t index, const penlode::RectF& item) const;
 

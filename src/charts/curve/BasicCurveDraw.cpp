@@ -105,7 +105,7 @@ void CBasicCurve::DrawVerAxis(IGraphicsEngine* engine) const {
     if (axis.ShowHorMajorGrid != 0) {
         DrawHorGrid(*engine, axis.HorMajorGridPen.Get(), m_layout.VerMajorTicks, m_layout.Plot.Width);
     }
-    VisitVerCaption(draw, axis, m_layout);
+    VisitVerCaption(draw, m_options, axis, m_layout);
 }
 
 void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
@@ -122,7 +122,7 @@ void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
     if (axis.ShowVerGrid != 0) {
         DrawVerGrid(*engine, axis.VerGridPen.Get(), m_layout.HorTicks, plot.Height, StepOf(axis.VerGridStep));
     }
-    VisitHorCaption(draw, axis, m_layout);
+    VisitHorCaption(draw, m_options, axis, m_layout);
 }
 
 void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
@@ -130,10 +130,10 @@ void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
         return;
     }
     VisitVerLabels(visit, m_prop.VerAxis, m_layout);
-    VisitVerCaption(visit, m_prop.VerAxis, m_layout);
+    VisitVerCaption(visit, m_options, m_prop.VerAxis, m_layout);
     VisitHorLabels(visit);
-    VisitHorCaption(visit, m_prop.HorAxis, m_layout);
-    VisitCaption(visit, m_prop.Caption, m_layout);
+    VisitHorCaption(visit, m_options, m_prop.HorAxis, m_layout);
+    VisitCaption(visit, m_options, m_prop.Caption, m_layout);
     CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Plot.CurveName, m_layout.LegendItemRects,
                                  kLegendSampleFactor);
 }
@@ -141,8 +141,12 @@ void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
 void CBasicCurve::VisitHorLabels(const TextVisitor& visit) const {
     const CurveHorAxisProp& axis = m_prop.HorAxis;
     const bool areShown = axis.ShowHorAxis != 0 && ShowsHorLabels();
+    if (areShown && !m_layout.FittedNames.empty()) {
+        VisitFittedNames(visit, TextRole::HorAxisLabel, axis.HorLabelTextProperty, m_layout);
+        return;
+    }
     const std::size_t count = std::min(m_layout.HorLabelRects.size(), m_labels.size());
-    for (std::size_t i = 0; areShown && i < count; i += StepOf(axis.LabelStep)) {
+    for (std::size_t i = 0; areShown && i < count; i += HorLabelStep()) {
         CTextPropertyOperation::Visit(visit, {TextRole::HorAxisLabel, i}, m_labels[i],
                                       axis.HorLabelTextProperty, m_layout.HorLabelRects[i].Center());
     }
@@ -197,7 +201,7 @@ void CBasicCurve::DrawSample(IGraphicsEngine& engine, std::size_t index, const R
 }
 
 void CBasicCurve::DrawCaption(IGraphicsEngine* engine) const {
-    VisitCaption(CTextPropertyOperation::DrawingOn(*engine), m_prop.Caption, m_layout);
+    VisitCaption(CTextPropertyOperation::DrawingOn(*engine), m_options, m_prop.Caption, m_layout);
 }
 
 } // namespace millichart

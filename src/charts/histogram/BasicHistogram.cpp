@@ -1,6 +1,7 @@
 #include "charts/histogram/BasicHistogram.h"
 
 #include "charts/cartesian/CartesianPlacement.h"
+#include "charts/cartesian/ReadableFrame.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
@@ -35,6 +36,8 @@ void CBasicHistogram::Layout() {
     m_layout.ComponentRects.clear();
     m_layout.ComponentWidth = -1.0F;
     m_layout.GroupGap = -1.0F;
+    m_layout.BaseLine = std::nullopt;
+    m_layout.ValueLabels.clear();
     if (m_values.empty()) {
         return;
     }
@@ -43,8 +46,20 @@ void CBasicHistogram::Layout() {
     CalcHorAxisScale();
     CalcVerAxisLabelRect();
     CalcGroupNameRect();
+    FindBaseLine();
     CalcConponentRect();
-    PlaceLegendAndShift();
+    Read();
+}
+
+void CBasicHistogram::Read() {
+    if (ReadsFrame(m_options)) {
+        ReadFrame();
+    } else {
+        PlaceLegendAndShift();
+    }
+    if (m_options.Labels == LabelFit::Fitted) {
+        PlaceValueLabels();
+    }
 }
 
 void CBasicHistogram::CalcFrame() {
@@ -177,7 +192,9 @@ void CBasicHistogram::CalcConponentRect() {
     float x = m_layout.Plot.X + gap * 0.5F;
     m_layout.ComponentRects.reserve(m_values.size());
     for (const std::vector<double>& values : m_values) {
-        m_layout.ComponentRects.push_back(isStacked ? Stacked(values, x) : SideBySide(values, x));
+        m_layout.ComponentRects.push_back(m_layout.BaseLine ? OnZero(values, x)
+                                          : isStacked       ? Stacked(values, x)
+                                                            : SideBySide(values, x));
         x += gap;
     }
 }
@@ -222,11 +239,17 @@ void CBasicHistogram::PlaceLegendAndShift() {
         return;
     }
     PlaceLegend(m_prop.Legend, m_prop.Plot.ComponentName, kLegendSquareFactor, m_layout);
-    const PointF shift = m_location - m_layout.Whole.TopLeft();
-    Move(m_layout, shift);
-    Move(m_layout.GroupNameRects, shift);
+    MoveAll(m_location - m_layout.Whole.TopLeft());
+}
+
+void CBasicHistogram::MoveAll(PointF by) {
+    Move(m_layout, by);
+    Move(m_layout.GroupNameRects, by);
     for (std::vector<RectF>& bars : m_layout.ComponentRects) {
-        Move(bars, shift);
+        Move(bars, by);
+    }
+    if (m_layout.BaseLine) {
+        *m_layout.BaseLine += by.Y;
     }
 }
 

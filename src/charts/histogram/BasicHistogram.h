@@ -3,11 +3,13 @@
 #include "charts/cartesian/CartesianChart.h"
 #include "charts/cartesian/CartesianLayout.h"
 #include "charts/histogram/HistogramProp.h"
+#include "charts/reading/ValueLabels.h"
 #include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "penlode/Geometry.h"
 #include "penlode/IGraphicsEngine.h"
 
+#include <optional>
 #include <vector>
 
 namespace millichart {
@@ -17,10 +19,14 @@ struct HistogramLayout : CartesianLayout {
     std::vector<penlode::RectF> GroupNameRects; ///< one per group, or none
     std::vector<penlode::SizeF> GroupNameSizes; ///< parallel to the rectangles
     /// One list a group, one bar a component that has both a name and a value. A negative value's bar has a
-    /// negative height, that of a value without a place one that is not finite.
+    /// negative height unless bars stand on 0, that of a value without a place one that is not finite.
     std::vector<std::vector<penlode::RectF>> ComponentRects;
     float ComponentWidth = -1.0F; ///< of one bar, 0 if none has a name; -1 before a layout with groups
     float GroupGap = -1.0F;       ///< between groups, as it came out; -1 before a layout with groups
+    /// Of bars that stand on the value 0: its place on the page, or that of the axis's end that is nearest.
+    std::optional<float> BaseLine;
+    /// Where labels stand that were made to fit: parallel to the bars, or none.
+    std::vector<std::vector<PlacedValue>> ValueLabels;
 };
 
 /// A bar as it is drawn: its front, in mm of the page. A negative value's has a negative height.
@@ -127,6 +133,15 @@ protected:
 private:
     void CalcFrame();
     void PlaceLegendAndShift();
+    /// What the options ask for once everything stands where the record puts it.
+    void Read();
+    void ReadFrame();
+    void PlaceValueLabels();
+    void MoveAll(penlode::PointF by);
+    void FindBaseLine();
+    float PositionInPlot(double value) const;
+    std::vector<penlode::RectF> OnZero(const std::vector<double>& values, float& x) const;
+    std::vector<std::size_t> DrawingOrder(std::size_t group, std::size_t bars) const;
     /// The bars of one group, whose left edge is at `x`; moves `x` to the group's right edge.
     std::vector<penlode::RectF> SideBySide(const std::vector<double>& values, float& x) const;
     std::vector<penlode::RectF> Stacked(const std::vector<double>& values, float& x) const;
@@ -139,6 +154,9 @@ private:
     std::string ComponentInfo(std::size_t group, std::size_t component) const;
     void VisitGroupNames(const TextVisitor& visit) const;
     void VisitBarLabels(const TextVisitor& visit) const;
+    void VisitFittedLabel(const TextVisitor& visit, std::size_t group, std::size_t component,
+                          const std::string& text) const;
+    void DrawBaseLine(penlode::IGraphicsEngine& engine) const;
     void DrawFlatBackground(penlode::IGraphicsEngine& engine) const;
     void DrawDeepBackground(penlode::IGraphicsEngine& engine) const;
     void DrawDeepWalls(penlode::IGraphicsEngine& engine, const penlode::RectF& back) const;

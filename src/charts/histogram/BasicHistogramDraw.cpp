@@ -1,5 +1,6 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/histogram/BasicHistogram.h"
+#include "charts/reading/Contrast.h"
 #include "foundation/NumberFormat.h"
 #include "penlode/engine/Finite.h"
 
@@ -153,7 +154,7 @@ void CBasicHistogram::DrawVerAxis(IGraphicsEngine* engine) const {
     const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
     DrawVerAxisLine(*engine, m_prop.VerAxis, m_layout);
     VisitVerLabels(draw, m_prop.VerAxis, m_layout);
-    VisitVerCaption(draw, m_prop.VerAxis, m_layout);
+    VisitVerCaption(draw, m_options, m_prop.VerAxis, m_layout);
 }
 
 void CBasicHistogram::DrawHorAxis(IGraphicsEngine* engine) const {
@@ -170,7 +171,7 @@ void CBasicHistogram::DrawHorAxis(IGraphicsEngine* engine) const {
     DrawHorTicks(*engine, pen, m_layout.HorTicks, tick);
     const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
     VisitGroupNames(draw);
-    VisitHorCaption(draw, axis, m_layout);
+    VisitHorCaption(draw, m_options, axis, m_layout);
 }
 
 /// All bars first, so that none covers a label.
@@ -182,7 +183,17 @@ void CBasicHistogram::DrawPlot(IGraphicsEngine* engine) const {
             DrawComponent3D(engine, bar.Front, bar.Fill);
         }
     });
+    DrawBaseLine(*engine);
     VisitBarLabels(CTextPropertyOperation::DrawingOn(*engine));
+}
+
+/// Where bars stand on 0 and that is not an edge of the plot.
+void CBasicHistogram::DrawBaseLine(IGraphicsEngine& engine) const {
+    const RectF& plot = m_layout.Plot;
+    const std::optional<float> y = m_layout.BaseLine;
+    if (y && m_prop.HorAxis.ShowHorAxis != 0 && *y > plot.Y && *y < plot.Bottom()) {
+        DrawFromTo(engine, m_prop.HorAxis.HorAxisPen.Get(), {plot.X, *y}, {plot.Right(), *y});
+    }
 }
 
 BarShapes CBasicHistogram::GetShapes() const {
@@ -197,11 +208,11 @@ void CBasicHistogram::VisitTexts(const TextVisitor& visit) const {
         return;
     }
     VisitVerLabels(visit, m_prop.VerAxis, m_layout);
-    VisitVerCaption(visit, m_prop.VerAxis, m_layout);
+    VisitVerCaption(visit, m_options, m_prop.VerAxis, m_layout);
     VisitGroupNames(visit);
-    VisitHorCaption(visit, m_prop.HorAxis, m_layout);
+    VisitHorCaption(visit, m_options, m_prop.HorAxis, m_layout);
     VisitBarLabels(visit);
-    VisitCaption(visit, m_prop.Caption, m_layout);
+    VisitCaption(visit, m_options, m_prop.Caption, m_layout);
     CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Plot.ComponentName, m_layout.LegendItemRects,
                                  kLegendSquareFactor);
 }
@@ -213,7 +224,7 @@ template <class Visit> void CBasicHistogram::VisitFronts(const Visit& visit) con
         const std::vector<RectF>& fronts = m_layout.ComponentRects[group];
         const std::size_t bars =
             std::min({fronts.size(), m_prop.Plot.ComponentName.size(), m_values[group].size()});
-        for (std::size_t i = 0; i < bars; ++i) {
+        for (const std::size_t i : DrawingOrder(group, bars)) {
             if (penlode::IsFinite(fronts[i])) {
                 visit(group, i, fronts[i]);
             }
@@ -234,6 +245,10 @@ void CBasicHistogram::VisitGroupNames(const TextVisitor& visit) const {
     const HistogramHorAxisProp& axis = m_prop.HorAxis;
     const bool areShown = axis.ShowHorAxis != 0 && ShowsGroupNames();
     const std::size_t names = std::min(m_layout.GroupNameRects.size(), m_groupNames.size());
+    if (areShown && !m_layout.FittedNames.empty()) {
+        VisitFittedNames(visit, TextRole::GroupName, axis.GroupNameTextProperty, m_layout);
+        return;
+    }
     for (std::size_t i = 0; areShown && i < names; ++i) {
         CTextPropertyOperation::Visit(visit, {TextRole::GroupName, i}, m_groupNames[i],
                                       axis.GroupNameTextProperty, m_layout.GroupNameRects[i].Center());
@@ -248,12 +263,30 @@ void CBasicHistogram::VisitBarLabels(const TextVisitor& visit) const {
         const PointF at = isStacked ? PointF{bar.X + bar.Width, bar.Y + bar.Height * 0.5F}
                                     : PointF{bar.X + bar.Width * 0.5F, bar.Y};
         const std::string text = ComponentInfo(group, i);
-        if (!text.empty()) {
+        if (!m_layout.ValueLabels.empty()) {
+            VisitFittedLabel(visit, group, i, text);
+        } else if (!text.empty()) {
             CTextPropertyOperation::Visit(visit, {TextRole::BarLabel, group, i}, text,
                                           prop.ComponentInfoTextProperty, at,
                                           isStacked ? TextAnchor::LeftCenter : TextAnchor::BottomCenter);
         }
     });
+}
+
+void CBasicHistogram::VisitFittedLabel(const TextVisitor& visit, std::size_t group, std::size_t component,
+                                       const std::string& text) const {
+    const PlacedValue& label = m_layout.ValueLabels[group][component];
+    const std::vector<Color>& colors = m_prop.Plot.ComponentColor;
+    const auto contrasting = [&](ChartText&& chartText) {
+        if (label.IsInside && component < colors.size()) {
+            chartText.Color = ReadableOn(colors[component]);
+        }
+        visit(std::move(chartText));
+    };
+    if (label.IsShown) {
+        CTextPropertyOperation::Visit(contrasting, {TextRole::BarLabel, group, component}, text,
+                                      m_prop.Plot.ComponentInfoTextProperty, label.Center);
+    }
 }
 
 /// Empty for a label that shows nothing.
@@ -289,7 +322,7 @@ void CBasicHistogram::DrawComponent3D(IGraphicsEngine* engine, const RectF& bar,
 }
 
 void CBasicHistogram::DrawCaption(IGraphicsEngine* engine) const {
-    VisitCaption(CTextPropertyOperation::DrawingOn(*engine), m_prop.Caption, m_layout);
+    VisitCaption(CTextPropertyOperation::DrawingOn(*engine), m_options, m_prop.Caption, m_layout);
 }
 
 } // namespace millichart

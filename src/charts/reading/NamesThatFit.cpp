@@ -120,18 +120,12 @@ bool Touch(const Form& form, const Placed& a, const Placed& b) {
            across < height * (1.0F + form.Gap);
 }
 
-/// Of every n-th name, those that have a text.
+/// Every n-th name.
 bool Fits(const Form& form, std::size_t n) {
-    const Placed* last = nullptr;
-    for (std::size_t i = 0; i < form.Names.size(); i += n) {
-        const Placed& name = form.Names[i];
-        if (name.Text.empty()) {
-            continue;
-        }
-        if (last != nullptr && Touch(form, *last, name)) {
+    for (std::size_t i = n; i < form.Names.size(); i += n) {
+        if (Touch(form, form.Names[i - n], form.Names[i])) {
             return false;
         }
-        last = &name;
     }
     return true;
 }
@@ -146,14 +140,8 @@ std::size_t LeastStep(const Form& form) {
 
 std::vector<FittedName> Every(std::size_t n, const Form& form) {
     std::vector<FittedName> fitted;
-    fitted.reserve(form.Names.size());
-    for (std::size_t i = 0; i < form.Names.size(); ++i) {
-        const Placed& name = form.Names[i];
-        if (i % n == 0) {
-            fitted.push_back({name.Text, name.Box, form.Angle});
-        } else {
-            fitted.push_back({{}, {name.Center.X, name.Box.Y, 0.0F, 0.0F}, form.Angle});
-        }
+    for (std::size_t i = 0; i < form.Names.size(); i += n) {
+        fitted.push_back({i, form.Names[i].Text, form.Names[i].Box, form.Angle});
     }
     return fitted;
 }
@@ -205,6 +193,9 @@ std::string WrappedText(const std::string& text, float width, const Measure& mea
 }
 
 std::vector<FittedName> FitNames(const NamesToFit& names) {
+    if (names.Names.empty()) {
+        return {};
+    }
     const Form own = FormOf(names, names.Angle, names.Names);
     const std::size_t step = LeastStep(own);
     if (step == 1 || names.Angle != 0) {

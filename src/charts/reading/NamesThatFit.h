@@ -2,6 +2,7 @@
 
 #include "penlode/Geometry.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -11,14 +12,15 @@ namespace millichart {
 
 /// A name under an axis, as it reads there.
 struct FittedName {
-    std::string Text;   ///< narrow; with line breaks where it was wrapped; empty for one that is left out
-    penlode::RectF Box; ///< upright, round the turned text, in mm; empty for one that is left out
+    std::size_t Index = 0; ///< of the name in its list
+    std::string Text;      ///< narrow; with line breaks where it was wrapped
+    penlode::RectF Box;    ///< upright, round the turned text, in mm
     std::int32_t Angle = 0;
 };
 
 /// What stands where under an axis.
 struct NamesToFit {
-    const std::vector<std::string>& Names; ///< narrow
+    const std::vector<std::string>& Names; ///< narrow, none of them empty
     const std::vector<float>& Centers;     ///< parallel to the names, ascending, in mm
     float Top;                             ///< of the names
     std::int32_t Angle;                    ///< that the record gives them
@@ -29,7 +31,7 @@ struct NamesToFit {
 
 /// Names that would touch are, in this order, wrapped at blanks and between Chinese characters, turned by 45
 /// degrees and hung by their end, and thinned to every n-th. Names on a scale are rather thinned than turned,
-/// as long as five are left. Those that the record turns are thinned at most.
+/// as long as five are left. Those that the record turns are thinned at most. Gives those that are left.
 ///
 /// Every name is measured; beyond that it takes n log n steps for n names.
 std::vector<FittedName> FitNames(const NamesToFit& names);

@@ -1,6 +1,7 @@
 #include "charts/reading/Surroundings.h"
 
 #include "foundation/Legend.h"
+#include "penlode/engine/Finite.h"
 
 #include <algorithm>
 #include <limits>
@@ -23,6 +24,12 @@ bool MeetDown(const RectF& a, const RectF& b) {
 }
 
 } // namespace
+
+void Surroundings::Add(const RectF& box) {
+    if (penlode::IsFinite(box)) {
+        m_boxes.push_back(box);
+    }
+}
 
 RectF Surroundings::PlaceAbove(SizeF size, float centerX, float gap) {
     RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};

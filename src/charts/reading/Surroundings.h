@@ -10,7 +10,8 @@ namespace millichart {
 /// over another. Placing takes as many steps as there are boxes.
 class Surroundings {
 public:
-    void Add(const penlode::RectF& box) { m_boxes.push_back(box); }
+    /// One without a finite place is not there.
+    void Add(const penlode::RectF& box);
 
     /// Above all boxes that it would be over or under, `gap` off them.
     penlode::RectF PlaceAbove(penlode::SizeF size, float centerX, float gap);

@@ -1,0 +1,201 @@
+#include "charts/cartesian/ReadableFrame.h"
+
+#include "charts/cartesian/CartesianPlacement.h"
+#include "charts/reading/LegendSeat.h"
+#include "charts/reading/NamesThatFit.h"
+#include "charts/reading/Surroundings.h"
+#include "foundation/TextPropertyOperation.h"
+#include "penlode/text/StringUtil.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace millichart {
+
+using penlode::PointF;
+using penlode::RectF;
+using penlode::SizeF;
+
+namespace {
+
+bool IsSeen(SizeF size) {
+    return size.Width > 0.0F || size.Height > 0.0F;
+}
+
+/// Labels that would touch are thinned to every n-th, those left out being empty.
+void ThinVerLabels(CartesianLayout& layout) {
+    std::vector<RectF>& rects = layout.VerLabelRects;
+    const auto fits = [&rects](std::size_t n) {
+        for (std::size_t i = n; i < rects.size(); i += n) {
+            if (rects[i].Bottom() > rects[i - n].Y) {
+                return false;
+            }
+        }
+        return true;
+    };
+    std::size_t n = 1;
+    while (n < rects.size() && !fits(n)) {
+        ++n;
+    }
+    for (std::size_t i = 0; i < rects.size(); ++i) {
+        if (i % n != 0) {
+            rects[i] = {rects[i].Right(), rects[i].Center().Y, 0.0F, 0.0F};
+            layout.VerLabelTexts[i].clear();
+            layout.VerLabelSizes[i] = {};
+        }
+    }
+}
+
+/// Moves labels away from the axis, so that air is between them.
+void PlaceVerLabels(const FramePlan& plan, Surroundings& around, CartesianLayout& layout) {
+    if (plan.Options.Labels == LabelFit::Fitted) {
+        ThinVerLabels(layout);
+    }
+    const float air = AirOf(plan.Options, plan.VerAxis.VerAxisLabelTextProperty.Font);
+    const float further = std::max(air - kTickRoom, 0.0F);
+    Move(layout.VerLabelRects, {-further, 0.0F});
+    for (const RectF& label : layout.VerLabelRects) {
+        if (IsSeen({label.Width, label.Height})) {
+            around.Add(label);
+        }
+    }
+}
+
+std::vector<FittedName> Fitted(const NamesBelow& names, float top) {
+    std::vector<std::string> texts;
+    std::vector<float> centers;
+    std::vector<std::size_t> indexes;
+    for (std::size_t i = 0; i < names.Names.size() && i < names.Stands.size(); ++i) {
+        if (!names.Names[i].empty()) {
+            texts.push_back(names.Names[i]);
+            centers.push_back(names.Stands[i].X);
+            indexes.push_back(i);
+        }
+    }
+    TextProperty level = names.Look;
+    level.Angle = 0;
+    std::vector<FittedName> fitted =
+        FitNames({texts, centers, top, names.Look.Angle, names.AreOnScale, [&level](const std::string& text) {
+                      return CTextPropertyOperation::GetTextSize(text, level);
+                  }});
+    for (FittedName& name : fitted) {
+        name.Index = indexes[name.Index];
+    }
+    return fitted;
+}
+
+/// The names where the record puts them, but for the gap above.
+std::vector<FittedName> Kept(const NamesBelow& names, float top) {
+    std::vector<FittedName> kept;
+    for (std::size_t i = 0; i < names.Rects.size() && i < names.Names.size(); ++i) {
+        if (!names.Names[i].empty()) {
+            const RectF& box = names.Rects[i];
+            kept.push_back({i, names.Names[i], {box.X, top, box.Width, box.Height}, names.Look.Angle});
+        }
+    }
+    return kept;
+}
+
+/// How far names have to go down so that none touches the lowest label of the value axis, the only one that
+/// may reach below the plot.
+float Overlap(const std::vector<FittedName>& names, const std::vector<RectF>& verLabels) {
+    const auto lowest =
+        std::max_element(verLabels.begin(), verLabels.end(),
+                         [](const RectF& a, const RectF& b) { return a.Bottom() < b.Bottom(); });
+    const bool touches =
+        lowest != verLabels.end() && std::any_of(names.begin(), names.end(), [&](const FittedName& name) {
+            return name.Box.X < lowest->Right() && name.Box.Right() > lowest->X &&
+                   name.Box.Y < lowest->Bottom();
+        });
+    return touches ? lowest->Bottom() - names.front().Box.Y : 0.0F;
+}
+
+void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, CartesianLayout& layout) {
+    if (names.Rects.empty()) {
+        return;
+    }
+    const float top =
+        layout.Plot.Bottom() + std::max(kTickRoom, AirOf(plan.Options, names.Look.Font));
+    layout.FittedNames =
+        plan.Options.Labels == LabelFit::Fitted ? Fitted(names, top) : Kept(names, top);
+    const float down = Overlap(layout.FittedNames, layout.VerLabelRects);
+    for (std::size_t i = 0; i < names.Rects.size(); ++i) {
+        names.Rects[i] = {names.Rects[i].Center().X, top + down, 0.0F, 0.0F};
+    }
+    for (FittedName& name : layout.FittedNames) {
+        name.Box.Y += down;
+        names.Rects[name.Index] = name.Box;
+        around.Add(name.Box);
+    }
+}
+
+void PlaceLegendBox(const FramePlan& plan, Surroundings& around, CartesianLayout& layout) {
+    const RectF whole = around.All();
+    if (plan.Options.Legend == LegendSeat::OnPlot) {
+        SeatedLegend legend =
+            SeatLegend(plan.Legend, plan.LegendNames, plan.SwatchFactor, layout.Plot, whole,
+                       plan.Options.Air == ChartAir::ThirdOfLine);
+        layout.LegendItemRects = std::move(legend.Items);
+        layout.Legend = std::move(legend);
+    } else if (plan.Legend.ShowLegend != 0) {
+        layout.LegendItemRects =
+            CLegendOperation::PlaceItems(plan.Legend, plan.LegendNames, whole, plan.SwatchFactor);
+        layout.Legend.Box = UnionOf(layout.LegendItemRects);
+    }
+    if (IsSeen({layout.Legend.Box.Width, layout.Legend.Box.Height})) {
+        around.Add(layout.Legend.Box);
+    }
+}
+
+SizeF SizeShown(const FramePlan& plan, SizeF size, const std::string& caption, const TextProperty& look) {
+    const std::string shown = CaptionShown(plan.Options, caption);
+    return !IsSeen(size) || shown == caption ? size : CTextPropertyOperation::GetTextSize(shown, look);
+}
+
+} // namespace
+
+bool ReadsFrame(const ChartOptions& options) {
+    return options.Labels == LabelFit::Fitted || options.Legend == LegendSeat::OnPlot ||
+           options.Air == ChartAir::ThirdOfLine;
+}
+
+float AirOf(const ChartOptions& options, const penlode::Owned<penlode::Font>& font) {
+    constexpr float kThird = 1.0F / 3.0F;
+    return options.Air == ChartAir::ThirdOfLine && font
+               ? penlode::CStringUtil::MeasureFont(*font).LineHeight * kThird
+               : 0.0F;
+}
+
+std::string CaptionShown(const ChartOptions& options, const std::string& caption) {
+    const bool isKept = options.Air != ChartAir::ThirdOfLine;
+    return isKept ? caption : caption.substr(0, caption.find_last_not_of('\n') + 1);
+}
+
+void PlaceReadably(const FramePlan& plan, NamesBelow names, CartesianLayout& layout) {
+    const RectF plot = layout.Plot;
+    Surroundings around;
+    around.Add(penlode::Union(plot, penlode::Translated(plot, plan.Depth)));
+    PlaceVerLabels(plan, around, layout);
+    PlaceNames(plan, names, around, layout);
+    const TextProperty& verLook = plan.VerAxis.VerCaptionTextProperty;
+    layout.VerCaptionSize = SizeShown(plan, layout.VerCaptionSize, plan.VerAxis.VerCaption, verLook);
+    if (IsSeen(layout.VerCaptionSize)) {
+        layout.VerCaption = around.PlaceLeft(layout.VerCaptionSize, plot.Center().Y,
+                                             AirOf(plan.Options, verLook.Font));
+    }
+    layout.HorCaptionSize = SizeShown(plan, layout.HorCaptionSize, plan.HorCaption, plan.HorCaptionLook);
+    if (IsSeen(layout.HorCaptionSize)) {
+        layout.HorCaption = around.PlaceBelow(layout.HorCaptionSize, plot.Center().X,
+                                              AirOf(plan.Options, plan.HorCaptionLook.Font));
+    }
+    PlaceLegendBox(plan, around, layout);
+    const TextProperty& look = plan.Caption.CaptionTextProperty;
+    const SizeF caption = SizeShown(plan, {layout.Caption.Width, layout.Caption.Height},
+                                    plan.Caption.Caption, look);
+    if (IsSeen(caption)) {
+        layout.Caption = around.PlaceAbove(caption, plot.Center().X, AirOf(plan.Options, look.Font));
+    }
+    layout.Whole = around.All();
+}
+
+} // namespace millichart
