@@ -1,7 +1,6 @@
 #include "documents/Bars.h"
 
 #include "documents/Fields.h"
-#include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
 #include "documents/doubts/BarWording.h"
@@ -113,10 +112,9 @@ double Bars::Largest() const {
     return largest;
 }
 
-ValueRange Bars::FittedRange() const {
-    ValueSpan span;
-    ForEachHeight([&span](double height, std::size_t, std::size_t) { span.Take(height); });
-    return RangeFilledBy(span, m_plot.LogarithmScale != 0, true);
+ValueRange Bars::FittedRange(const ChartOptions& options) const {
+    return RangeFilledBy(BarSpanOf(m_data.Values, m_plot.Juxtaposition == 0, options),
+                         m_plot.LogarithmScale != 0, true, options);
 }
 
 void Bars::Check(const CBasicHistogram& chart, bool mayBeSet, Diagnostics& diagnostics) const {

@@ -37,8 +37,8 @@ public:
     /// The largest value, or the largest sum on the way up a stack. -infinity when there is none.
     double Largest() const;
 
-    /// The range that they fill.
-    ValueRange FittedRange() const;
+    /// The range that they fill in a chart with such options.
+    ValueRange FittedRange(const ChartOptions& options) const;
 
     /// Warns of what was hardly meant in the chart that shows them; of a linear axis far too long for them
     /// too, if it may be set to another range.

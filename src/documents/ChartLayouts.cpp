@@ -218,7 +218,7 @@ CBasicHalfPieHistogram LayOut(const HalfPieHistogramDocument& document, LayoutTa
     LayOutAt(task.Location, chart, ForEachLabel(document.LabelOffsets, document.Slices));
     if (document.IsFitted) {
         CBasicHistogram sharer = chart.GetHistogram(); // of the axis, which exists since the layout
-        SetValueRange(sharer, bars.FittedRange(), 0.0);
+        SetValueRange(sharer, bars.FittedRange(chart.GetOptions()), 0.0);
         chart.Layout();
     }
     slices.Check(chart.GetHalfPie(), task.Diagnostics, document.LabelOffsets.size());
@@ -237,7 +237,10 @@ CBasicHistogram LayOut(HistogramDocument& document, LayoutTask& task, const Bars
     CBasicHistogram chart;
     chart.SetOptions(task.Options);
     chart.SetHistogramProp(document.Prop);
-    SetValueRange(chart, document.Range.IsFitted ? bars.FittedRange() : document.Range, bars.Largest());
+    SetValueRange(chart,
+                  IsFitted(document.Range, chart.GetOptions()) ? bars.FittedRange(chart.GetOptions())
+                                                               : document.Range,
+                  bars.Largest());
     chart.SetComponentValue(document.Data.Values);
     chart.SetGroupName(document.Data.GroupNames);
     chart.SetLocation(task.Location);
@@ -250,7 +253,10 @@ CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, const Curves& curv
     CBasicCurve chart;
     chart.SetOptions(task.Options);
     chart.SetCurveProp(document.Prop);
-    SetValueRange(chart, document.Range.IsFitted ? curves.FittedRange() : document.Range, curves.Largest());
+    SetValueRange(chart,
+                  IsFitted(document.Range, chart.GetOptions()) ? curves.FittedRange(chart.GetOptions())
+                                                               : document.Range,
+                  curves.Largest());
     curves.Check(chart, task.Diagnostics);
     chart.SetCurveData(std::move(document.Data.Values), std::move(document.Data.Times));
     chart.SetHorAxisLabel(std::move(document.Data.Labels));

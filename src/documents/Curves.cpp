@@ -1,7 +1,6 @@
 #include "documents/Curves.h"
 
 #include "documents/Fields.h"
-#include "documents/FittedRange.h"
 #include "documents/Palette.h"
 #include "documents/ValueRange.h"
 #include "documents/doubts/Wording.h"
@@ -275,10 +274,10 @@ template <class Look> void Curves::ForEachValue(const Look& look) const {
     }
 }
 
-ValueRange Curves::FittedRange() const {
+ValueRange Curves::FittedRange(const ChartOptions& options) const {
     ValueSpan span;
     ForEachValue([&span](double value, std::size_t, std::size_t) { span.Take(value); });
-    return RangeFilledBy(span, m_prop.Plot.LogarithmScale != 0, false);
+    return RangeFilledBy(span, m_prop.Plot.LogarithmScale != 0, false, options);
 }
 
 void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {

@@ -29,8 +29,8 @@ public:
     /// The largest value that is not null. -infinity when there is none.
     double Largest() const;
 
-    /// The range that they fill.
-    ValueRange FittedRange() const;
+    /// The range that they fill in a chart with such options.
+    ValueRange FittedRange(const ChartOptions& options) const;
 
     /// Warns of what was hardly meant. The chart has its range.
     void Check(const CBasicCurve& chart, std::vector<penlode::Diagnostic>& diagnostics) const;

@@ -179,12 +179,13 @@ void SaveValueRange(SavingStream& stream, const ValueRange& range) {
     stream.Pop();
 }
 
-ValueRange RangeFilledBy(const ValueSpan& values, bool isLogarithmic, bool areBars) {
+ValueRange RangeFilledBy(const ValueSpan& values, bool isLogarithmic, bool areBars,
+                         const ChartOptions& options) {
     ValueRange range;
     if (isLogarithmic) {
         range.Logarithm = FittedDecades(values, areBars);
     } else {
-        range.Natural = FittedRange(values, areBars);
+        range.Natural = FittedRange(values, RangeNeeds::Of(options, areBars));
     }
     return range;
 }

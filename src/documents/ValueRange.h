@@ -1,8 +1,8 @@
 #pragma once
 
+#include "charts/cartesian/FittedRange.h"
 #include "documents/ChartContent.h"
 #include "documents/ChartStream.h"
-#include "documents/FittedRange.h"
 #include "documents/SavingStream.h"
 #include "penlode/streams/Diagnostic.h"
 
@@ -19,9 +19,6 @@
 ///     "range": {"NaturalValueRange": [0, 40, 10, 2]}
 ///     "range": {"LogarithmValueRange": [1, 1000]}
 namespace millichart::documents {
-
-/// Beyond it in either direction an axis cannot tell values apart, nor place them.
-inline constexpr double kMaxValue = 1e300;
 
 /// Refuses what is not one sound range of the chart's scale.
 ValueRange LoadValueRange(ChartStream& stream, bool isLogarithmic,
@@ -42,8 +39,14 @@ template <class Chart> void SetValueRange(Chart& chart, const ValueRange& range,
     }
 }
 
-/// The range that the values fill on an axis, which bars stand on and lines do not.
-ValueRange RangeFilledBy(const ValueSpan& values, bool isLogarithmic, bool areBars);
+/// Whether a chart with such options finds its range from both ends of its values.
+inline bool IsFitted(const ValueRange& range, const ChartOptions& options) {
+    return range.IsFitted || (range == ValueRange() && options.ValueRange == RangeStyle::BothEnds);
+}
+
+/// The range that the values of a chart with such options fill.
+ValueRange RangeFilledBy(const ValueSpan& values, bool isLogarithmic, bool areBars,
+                         const ChartOptions& options);
 
 /// An error for each extent of the plot of a bar or line chart that is not above 0. `place` is its record's.
 std::vector<penlode::Diagnostic> PlotSizeFaults(const std::string& place, float width, float height);

@@ -21,9 +21,14 @@ public:
 
     penlode::PointF GetLocation() const { return m_location; }
 
-    /// Takes a round range that holds `largest`. The range operations do nothing before the chart has its
-    /// first record, nor those of the other scale.
-    void InitializeValueRange(double largest) { m_axis.AutoRange(largest); }
+    /// Takes a round range that holds `largest`; with RangeStyle::BothEnds and a linear scale, one that goes
+    /// from 0 to it or the other way. The range operations do nothing before the chart has its first record,
+    /// nor those of the other scale.
+    void InitializeValueRange(double largest);
+
+    /// Takes a round range that values from `smallest` to `largest` fill, in five to nine steps or whole
+    /// decades; see FittedRange. On a logarithmic scale a `smallest` that is not above 0 is as if not given.
+    void InitializeValueRange(double smallest, double largest);
 
     /// A range that would need more than 100,000 ticks has none.
     void SetNaturalValueRange(double min, double max, double step, double minorStep) {
@@ -39,9 +44,14 @@ public:
     void GetLogarithmValueRange(double& min, double& max) const { m_axis.GetLogarithmRange(min, max); }
 
 protected:
+    explicit CCartesianChart(bool areBars) : m_areBars(areBars) {}
+
     ChartOptions m_options;
     ValueAxis m_axis;
     penlode::PointF m_location;
+
+private:
+    bool m_areBars;
 };
 
 } // namespace millichart

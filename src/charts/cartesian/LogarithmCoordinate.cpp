@@ -1,24 +1,15 @@
 #include "charts/cartesian/LogarithmCoordinate.h"
 
-#include "penlode/text/Digits.h"
+#include "charts/cartesian/PowerOfTen.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <string>
 
 namespace millichart {
 namespace {
 
 constexpr double kBase = 10.0;
 constexpr double kDecadesShown = 100.0;
-
-/// The same on every platform, which std::pow is not: of one that ends a bit lower, an axis would lose its
-/// last tick.
-double PowerOfTen(int exponent) {
-    return penlode::NumberOf<double>("1e" + std::to_string(exponent))
-        .value_or(exponent < 0 ? 0.0 : std::numeric_limits<double>::infinity());
-}
 
 /// The power of ten above a value of 1 or more: 9.99 gives 10, and 10 gives 100.
 double DecadeAbove(double value) {

@@ -43,6 +43,8 @@ struct CurveLayout : CartesianLayout {
 /// has no marker there. If all times are equal, all points stand at the plot's left edge.
 class MILLICHART_API CBasicCurve : public CCartesianChart {
 public:
+    CBasicCurve() : CCartesianChart(false) {}
+
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
     /// long and has no range yet. An axis that stays keeps its range and its length, whatever the plot's
     /// height is now.

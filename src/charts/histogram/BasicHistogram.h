@@ -60,6 +60,8 @@ struct BarShapes {
 /// segment of a stack without a finite place is not drawn and carries none of the others away.
 class MILLICHART_API CBasicHistogram : public CCartesianChart {
 public:
+    CBasicHistogram() : CCartesianChart(true) {}
+
     /// Copies the record. True when that chose another scale for the values: the new axis is `PlotHeight`
     /// long and has no range yet. An axis that stays keeps its range and its length, whatever the plot's
     /// height is now.

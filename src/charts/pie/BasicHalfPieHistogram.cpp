@@ -1,5 +1,7 @@
 #include "charts/pie/BasicHalfPieHistogram.h"
 
+#include "charts/cartesian/FittedRange.h"
+
 namespace millichart {
 
 using penlode::IGraphicsEngine;
@@ -40,6 +42,18 @@ void CBasicHalfPieHistogram::SetComponentValue(const std::vector<double>& slices
     m_largest = largest;
 }
 
+void CBasicHalfPieHistogram::ResetValueRange() {
+    m_histogram.SetOptions(m_options);
+    if (m_options.ValueRange == RangeStyle::BothEnds) {
+        ValueSpan span = BarSpanOf(m_groups, m_prop.Histogram.Plot.Juxtaposition == 0, m_options);
+        span.Take(m_largest);
+        m_histogram.InitializeValueRange(
+            m_prop.Histogram.Plot.LogarithmScale != 0 ? span.SmallestPositive() : span.Min(), span.Max());
+    } else {
+        m_histogram.InitializeValueRange(m_largest);
+    }
+}
+
 void CBasicHalfPieHistogram::Layout() {
     m_halfPie.SetLocation(m_location);
     m_histogram.SetLocation(m_location);
@@ -47,7 +61,7 @@ void CBasicHalfPieHistogram::Layout() {
     m_histogram.SetOptions(m_options);
     m_halfPie.SetHalfPieProp(m_prop.HalfPie);
     if (m_histogram.SetHistogramProp(m_prop.Histogram)) {
-        m_histogram.InitializeValueRange(m_largest);
+        ResetValueRange();
     }
     m_halfPie.SetComponentValue(m_slices);
     m_histogram.SetComponentValue(m_groups);

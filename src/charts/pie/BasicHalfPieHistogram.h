@@ -37,14 +37,15 @@ public:
     const HalfPieHistogramProp& GetHalfPieHistogramProp() const { return m_prop; }
 
     /// The half pie's values; the bars', one list a group; and the largest value that the bars' axis has to
-    /// hold. The axis takes its range from the last at the first Layout and at any that follows a change of
-    /// scale, and keeps it otherwise (see ResetValueRange).
+    /// hold. The axis takes its range from the last, and with RangeStyle::BothEnds from the groups too, at
+    /// the first Layout and at any that follows a change of scale, and keeps it otherwise (see
+    /// ResetValueRange).
     void SetComponentValue(const std::vector<double>& slices, const std::vector<std::vector<double>>& groups,
                            double largest);
 
     /// Gives the bars' axis the range of the present largest value. To be called after SetComponentValue, and
     /// before Layout, when new data shall have an axis of their own and not that of the first.
-    void ResetValueRange() { m_histogram.InitializeValueRange(m_largest); }
+    void ResetValueRange();
 
     /// The slices', as set, whether or not they have been laid out since.
     const std::vector<double>& GetHalfPieValue() const { return m_slices; }

@@ -1,14 +1,12 @@
-#include "documents/FittedRange.h"
+#include "charts/cartesian/FittedRange.h"
 
-#include "documents/ValueRange.h"
-#include "penlode/text/Digits.h"
+#include "charts/cartesian/PowerOfTen.h"
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 #include <tuple>
 
-namespace millichart::documents {
+namespace millichart {
 namespace {
 
 /// Values nearer to each other than this part of themselves are all alike: there is no room for ticks between
@@ -19,11 +17,6 @@ constexpr double kLeastNumber = 1e-290;
 constexpr double kLeastBar = 0.04;
 /// A quotient this near to a whole number is one.
 constexpr double kRounding = 1e-9;
-
-/// The same on every platform, which std::pow is not.
-double PowerOfTen(int exponent) {
-    return penlode::NumberOf<double>("1e" + std::to_string(exponent)).value_or(0.0);
-}
 
 int FloorOfLog(double positive) {
     int exponent = static_cast<int>(std::floor(std::log10(positive)));
@@ -58,20 +51,20 @@ struct Axis {
     double Steps() const { return Last - First; }
 };
 
-/// One that would end at 1 for values below it ends before it, as a tick at 1 would have all labels written
-/// as whole numbers.
-Axis AxisRound(const Step& step, double min, double max) {
+/// One with classical labels that would end at 1 for values below it ends before it, as a tick at 1 would
+/// have all labels written as whole numbers.
+Axis AxisRound(const Step& step, double min, double max, RangeNeeds needs) {
     constexpr double kBelowOne = 0.99;
     const double unit = step.Times(1.0);
     Axis axis{step, std::floor(min / unit + kRounding), std::ceil(max / unit - kRounding), max};
-    if (step.Times(axis.Last) == 1.0 && max < 1.0) {
+    if (needs.HasClassicalLabels && step.Times(axis.Last) == 1.0 && max < 1.0) {
         axis.Last -= 1.0;
         axis.End = std::max(kBelowOne, max);
     }
     return axis;
 }
 
-/// Does each label say what it stands at?
+/// Does each classical label say what it stands at?
 bool IsWrittenExactly(const Axis& axis) {
     const bool isWhole = axis.Each.Times(axis.Last) >= 1.0;
     const double steps = axis.Each.Times(1.0) * (isWhole ? 1.0 : 100.0);
@@ -80,25 +73,26 @@ bool IsWrittenExactly(const Axis& axis) {
 
 /// What is better comes first: labels that are right on an axis that is half filled or more; the number of
 /// steps; how much of the axis is filled.
-auto Rank(const Axis& axis, double min, double max) {
+auto Rank(const Axis& axis, double min, double max, RangeNeeds needs) {
     constexpr double kFewest = 5.0;
     constexpr double kMost = 9.0;
     constexpr double kHalf = 0.5;
     const double filled =
         (max - min) / (std::max(axis.End, axis.Each.Times(axis.Last)) - axis.Each.Times(axis.First));
     const double beyond = std::max({kFewest - axis.Steps(), axis.Steps() - kMost, 0.0});
-    return std::tuple(!(IsWrittenExactly(axis) && filled >= kHalf), beyond, -filled);
+    const bool isRight = !needs.HasClassicalLabels || IsWrittenExactly(axis);
+    return std::tuple(!(isRight && filled >= kHalf), beyond, -filled);
 }
 
-Axis BestAxis(double min, double max) {
+Axis BestAxis(double min, double max, RangeNeeds needs) {
     const int middle = FloorOfLog(max - min);
     Axis best{};
     bool isFirst = true;
     for (int exponent = middle - 3; exponent <= middle; ++exponent) {
         for (Step step : kSteps) {
             step.Exponent = exponent;
-            const Axis axis = AxisRound(step, min, max);
-            if (isFirst || Rank(axis, min, max) < Rank(best, min, max)) {
+            const Axis axis = AxisRound(step, min, max, needs);
+            if (isFirst || Rank(axis, min, max, needs) < Rank(best, min, max, needs)) {
                 best = axis;
                 isFirst = false;
             }
@@ -107,7 +101,7 @@ Axis BestAxis(double min, double max) {
     return best;
 }
 
-/// Where step on step ends, and whether it passes so closely below 0 that a label would say -0.00.
+/// Where step on step ends, and whether it passes so closely below 0 that a classical label would say -0.00.
 struct Walk {
     double End;
     bool IsBelowZero;
@@ -124,11 +118,11 @@ Walk WalkBy(double step, double first, double steps) {
 }
 
 /// An axis adds step on step, so that the sum may end a little beside the last multiple: the last tick
-/// counts. A step may be longer by a hair.
-std::array<double, 4> RangeOf(const Axis& axis, double min) {
+/// counts. For classical labels a step may be longer by a hair.
+std::array<double, 4> RangeOf(const Axis& axis, double min, RangeNeeds needs) {
     double step = axis.Each.Times(1.0);
     const double first = std::min(axis.Each.Times(axis.First), min);
-    while (WalkBy(step, first, axis.Steps()).IsBelowZero) {
+    while (needs.HasClassicalLabels && WalkBy(step, first, axis.Steps()).IsBelowZero) {
         step = std::nextafter(step, std::numeric_limits<double>::infinity());
     }
     return {first, std::max({WalkBy(step, first, axis.Steps()).End, axis.Each.Times(axis.Last), axis.End}),
@@ -149,27 +143,47 @@ void ValueSpan::Take(double value) {
     }
 }
 
-std::array<double, 4> FittedRange(const ValueSpan& values, bool standsOnZero) {
+ValueSpan BarSpanOf(const std::vector<std::vector<double>>& groups, bool areStacked,
+                    const ChartOptions& options) {
+    const bool growsBothWays = options.BarBase == BarBase::Zero;
+    ValueSpan span;
+    for (const std::vector<double>& values : groups) {
+        double up = 0.0;
+        double down = 0.0;
+        for (const double value : values) {
+            double& sum = growsBothWays && value < 0.0 ? down : up;
+            sum = std::isfinite(value) ? sum + value : sum;
+            span.Take(areStacked ? sum : value);
+        }
+    }
+    return span;
+}
+
+RangeNeeds RangeNeeds::Of(const ChartOptions& options, bool areBars) {
+    return {areBars, areBars && options.BarBase != BarBase::Zero, options.Numbers != NumberStyle::Exact};
+}
+
+std::array<double, 4> FittedRange(const ValueSpan& values, RangeNeeds needs) {
     double min = values.IsEmpty() ? 0.0 : InReach(values.Min());
     double max = values.IsEmpty() ? 0.0 : InReach(values.Max());
     const bool areAlike = max - min <= std::max(std::abs(min), std::abs(max)) * kLeastSpan;
-    if (standsOnZero || areAlike || (min > 0.0 ? min : -max) <= max - min) {
+    if (needs.HasZero || areAlike || (min > 0.0 ? min : -max) <= max - min) {
         min = std::min(min, 0.0);
         max = std::max(max, 0.0);
     }
-    if (standsOnZero && min < 0.0) {
+    if (needs.HasRoomBelow && min < 0.0) {
         min = InReach(min - (max - min) * kLeastBar);
     }
     max = min == max ? 1.0 : max;
-    return RangeOf(BestAxis(min, max), min);
+    return RangeOf(BestAxis(min, max, needs), min, needs);
 }
 
-std::array<double, 2> FittedDecades(const ValueSpan& values, bool standsOnMinimum) {
+std::array<double, 2> FittedDecades(const ValueSpan& values, bool areBars) {
     if (!std::isfinite(values.SmallestPositive())) {
         return {1.0, 10.0};
     }
     const double least =
-        std::clamp(values.SmallestPositive() / (standsOnMinimum ? 2.0 : 1.0), kLeastNumber, kMaxValue);
+        std::clamp(values.SmallestPositive() / (areBars ? 2.0 : 1.0), kLeastNumber, kMaxValue);
     const double largest = std::clamp(values.Max(), least, kMaxValue);
     const int first = FloorOfLog(least);
     int last = FloorOfLog(largest);
@@ -182,4 +196,4 @@ std::array<double, 2> FittedDecades(const ValueSpan& values, bool standsOnMinimu
     return {PowerOfTen(first), std::max(end, PowerOfTen(last))};
 }
 
-} // namespace millichart::documents
+} // namespace millichart
