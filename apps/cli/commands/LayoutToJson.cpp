@@ -7,12 +7,19 @@ namespace {
 
 using namespace millichart;
 
-/// Without the legend, which only a whole pie has.
+/// Without the legend, which only a whole pie has. What only options bring shows where it is.
 Json ToJson(const PieLayout& layout) {
-    return {{"whole", cli::ToJson(layout.Whole)},
-            {"pie", cli::ToJson(layout.Pie)},
-            {"labelTexts", TextsToJson(layout.LabelTexts)},
-            {"labelRects", ListToJson(layout.LabelRects)}};
+    Json json = {{"whole", cli::ToJson(layout.Whole)},
+                 {"pie", cli::ToJson(layout.Pie)},
+                 {"labelTexts", TextsToJson(layout.LabelTexts)},
+                 {"labelRects", ListToJson(layout.LabelRects)}};
+    for (const LeadLine& line : layout.LeadLines) {
+        json["leadLines"].push_back({cli::ToJson(line.From), cli::ToJson(line.To)});
+    }
+    if (layout.Title) {
+        json["title"] = cli::ToJson(*layout.Title);
+    }
+    return json;
 }
 
 /// What bar and line charts share.

@@ -2,6 +2,7 @@
 
 #include "charts/pie/PiePlacement.h"
 #include "charts/pie/PieSlices.h"
+#include "charts/pie/SliceLabels.h"
 #include "foundation/TextPropertyOperation.h"
 
 namespace millichart {
@@ -20,8 +21,20 @@ void CBasicHalfPie::Layout() {
     if (PlacePie({m_location, PieDiameter(basic, m_values), StartAngle(), kHalfTurn, m_values,
                   basic.ComponentName, m_prop.Label, m_labelOffsets, NumberFormat(m_options)},
                  m_layout)) {
+        if (m_options.SliceLabels == SliceLabelFit::Apart) {
+            const float radius = m_layout.Pie.Width * 0.5F;
+            KeepLabelsApart({m_layout.Pie.Center(), radius, radius, 0.0F, IsUpper(), !IsUpper()},
+                            {StartAngle(), SliceSweeps(m_values, kHalfTurn), m_prop.Label, m_labelOffsets},
+                            m_layout);
+        }
         m_layout.Whole = WithLabels(VisibleHalf(), m_layout.LabelRects);
+        PlaceTitle(IsUpper() ? TitleSide::Above : TitleSide::Below);
     }
+}
+
+void CBasicHalfPie::VisitTexts(const TextVisitor& visit) const {
+    VisitLabels(m_prop.Label, visit);
+    VisitTitle(visit);
 }
 
 RectF CBasicHalfPie::VisibleHalf() const {
@@ -41,6 +54,7 @@ void CBasicHalfPie::Draw(IGraphicsEngine* engine) const {
         return;
     }
     DrawHalfPie(engine);
+    DrawLeadLines(*engine, m_prop.Label, m_layout.LeadLines);
     VisitTexts(CTextPropertyOperation::DrawingOn(*engine));
 }
 

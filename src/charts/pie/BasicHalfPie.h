@@ -30,8 +30,8 @@ public:
     /// The slices as they would be drawn now, flat ones.
     PieShapes GetShapes() const;
 
-    /// The labels as they would be drawn now.
-    void VisitTexts(const TextVisitor& visit) const { VisitLabels(m_prop.Label, visit); }
+    /// The texts as they would be drawn now: labels, then the title.
+    void VisitTexts(const TextVisitor& visit) const;
 
     /// GetPositionAll with the texts that reach out of it.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }

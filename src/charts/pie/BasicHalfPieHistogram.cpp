@@ -67,14 +67,21 @@ void CBasicHalfPieHistogram::Layout() {
     m_histogram.SetComponentValue(m_groups);
     m_halfPie.Layout();
     m_histogram.Layout();
-    StandOnTheCentre();
+    StandOnTheBase();
     m_whole = penlode::Union(m_halfPie.GetPositionAll(), m_histogram.GetPositionAll());
 }
 
+/// The line through the centre, or the top of an upper half that keeps its labels apart.
+float CBasicHalfPieHistogram::BarsBase() const {
+    const bool isBelow =
+        m_options.SliceLabels == SliceLabelFit::Apart && m_prop.HalfPie.Basic.WhichPart == HalfPiePart::Upper;
+    return isBelow ? m_halfPie.GetPositionAll().Y : m_location.Y;
+}
+
 /// The bar chart's size is known only from a layout, and its place from its size: it is laid out again.
-void CBasicHalfPieHistogram::StandOnTheCentre() {
+void CBasicHalfPieHistogram::StandOnTheBase() {
     const RectF bars = m_histogram.GetPositionAll();
-    m_histogram.SetLocation({m_location.X - bars.Width * 0.5F, m_location.Y - bars.Height});
+    m_histogram.SetLocation({m_location.X - bars.Width * 0.5F, BarsBase() - bars.Height});
     m_histogram.Layout();
 }
 

@@ -31,7 +31,8 @@ public:
 
     /// Copies the record and, in the copy, switches off what would stand round the bars: caption, axes with
     /// their labels and captions, grids. The plot's background, the bars with their labels and the legend
-    /// stay as given. An upper half overlaps the bars.
+    /// stay as given. An upper half overlaps the bars, unless options keep
+    /// its labels apart: the bars then stand on top of it.
     void SetHalfPieHistogramProp(const HalfPieHistogramProp& prop);
 
     const HalfPieHistogramProp& GetHalfPieHistogramProp() const { return m_prop; }
@@ -93,7 +94,8 @@ public:
                         const std::vector<penlode::PointF>& legend);
 
 private:
-    void StandOnTheCentre();
+    float BarsBase() const;
+    void StandOnTheBase();
 
     ChartOptions m_options;
     HalfPieHistogramProp m_prop;

@@ -1,6 +1,7 @@
 #include "charts/pie/BasicPie.h"
 
 #include "charts/pie/PiePlacement.h"
+#include "charts/pie/SliceLabels.h"
 
 namespace millichart {
 
@@ -19,9 +20,22 @@ void CBasicPie::Layout() {
     if (PlacePie({m_location, PieDiameter(basic, m_values), basic.StartAngle, kFullTurn, m_values,
                   basic.ComponentName, m_prop.Label, m_labelOffsets, NumberFormat(m_options)},
                  m_layout)) {
+        if (m_options.SliceLabels == SliceLabelFit::Apart) {
+            KeepLabelsApart(
+                Rim(), {basic.StartAngle, SliceSweeps(m_values, kFullTurn), m_prop.Label, m_labelOffsets},
+                m_layout);
+        }
         m_layout.Whole = WithLabels(m_layout.Pie, m_layout.LabelRects);
         PlaceLegend();
+        PlaceTitle(TitleSide::Above);
     }
+}
+
+SliceRim CBasicPie::Rim() const {
+    float depth = 0.0F;
+    const bool isDeep = m_prop.Basic.PieStyle == PieStyle::WithDepth;
+    const RectF face = isDeep ? Get3DEllipseRect(m_layout.Pie, depth) : m_layout.Pie;
+    return {face.Center(), face.Width * 0.5F, face.Height * 0.5F, depth};
 }
 
 void CBasicPie::PlaceLegend() {

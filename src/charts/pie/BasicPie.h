@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/pie/SlicedCircle.h"
+#include "charts/reading/SlicesApart.h"
 #include "penlode/IGraphicsEngine.h"
 
 namespace millichart {
@@ -34,7 +35,7 @@ public:
     /// The slices as they would be drawn now; none for a style that draws none.
     PieShapes GetShapes() const;
 
-    /// The texts as they would be drawn now: labels, then the legend's names.
+    /// The texts as they would be drawn now: labels, the title, then the legend's names.
     void VisitTexts(const TextVisitor& visit) const;
 
     /// GetPositionAll with the texts that reach out of it.
@@ -61,6 +62,7 @@ protected:
     void DrawPie3D(penlode::IGraphicsEngine* engine) const;
 
 private:
+    SliceRim Rim() const;
     void PlaceLegend();
     PieShapes FlatShapes() const;
     PieShapes DeepShapes() const;

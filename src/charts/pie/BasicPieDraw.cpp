@@ -1,5 +1,6 @@
 #include "charts/pie/BasicPie.h"
 #include "charts/pie/PieSlices.h"
+#include "charts/pie/SliceLabels.h"
 #include "foundation/TextPropertyOperation.h"
 
 namespace millichart {
@@ -67,6 +68,7 @@ void CBasicPie::DrawPie3D(IGraphicsEngine* engine) const {
 
 void CBasicPie::VisitTexts(const TextVisitor& visit) const {
     VisitLabels(m_prop.Label, visit);
+    VisitTitle(visit);
     CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Basic.ComponentName, m_layout.LegendItemRects,
                                  kLegendSquareFactor);
 }
@@ -80,7 +82,9 @@ void CBasicPie::Draw(IGraphicsEngine* engine) const {
     } else if (m_prop.Basic.PieStyle == PieStyle::WithDepth) {
         DrawPie3D(engine);
     }
+    DrawLeadLines(*engine, m_prop.Label, m_layout.LeadLines);
     VisitLabels(m_prop.Label, CTextPropertyOperation::DrawingOn(*engine));
+    VisitTitle(CTextPropertyOperation::DrawingOn(*engine));
     CLegendOperation::Draw(engine, m_prop.Legend, m_prop.Basic.ComponentName, m_prop.Basic.ComponentColor,
                            m_layout.LegendItemRects);
 }

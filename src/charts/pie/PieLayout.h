@@ -17,13 +17,24 @@ namespace millichart {
 inline constexpr float kFullTurn = 360.0F;
 inline constexpr float kHalfTurn = 180.0F;
 
+/// From the middle of a slice's rim to its label.
+struct LeadLine {
+    penlode::PointF From;
+    penlode::PointF To;
+
+    friend bool operator==(const LeadLine&, const LeadLine&) = default;
+};
+
 /// Where everything of a pie stands, in mm of the page.
 struct PieLayout {
-    penlode::RectF Whole;                        ///< pie, labels and legend
-    penlode::RectF Pie;                          ///< the square round the whole circle
-    std::vector<std::string> LabelTexts;         ///< one per slice, or none; prefix and postfix included
+    penlode::RectF Whole;                ///< pie, labels, legend and title
+    penlode::RectF Pie;                  ///< the square round the whole circle
+    std::vector<std::string> LabelTexts; ///< one per slice, or none; prefix and postfix included. Of a label
+                                         ///< that options leave out: empty
     std::vector<penlode::RectF> LabelRects;      ///< parallel to the texts
     std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
+    std::vector<LeadLine> LeadLines;             ///< of labels that options keep apart
+    std::optional<penlode::RectF> Title;         ///< of the options, where it is shown
 };
 
 /// A part of a slice's rim that faces the viewer and has a wall below it: degrees of the face's ellipse,

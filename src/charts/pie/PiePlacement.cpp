@@ -103,6 +103,8 @@ bool PlacePie(const PiePlan& plan, PieLayout& layout) {
     layout.Pie = {plan.Center.X, plan.Center.Y, 0.0F, 0.0F};
     layout.LabelTexts.clear();
     layout.LabelRects.clear();
+    layout.LeadLines.clear();
+    layout.Title.reset();
     const std::vector<float> sweeps = SliceSweeps(plan.Values, plan.TotalSweep);
     if (sweeps.empty()) {
         return false;

@@ -49,7 +49,7 @@ struct PieLabelProp {
     std::string LabelSeparator = ";";   ///< narrow (GBK; CStringUtil::Utf8ToAnsi)
     TextProperty PieLabelTextProperty;
     float DistBetweenLabelCenterAndPieCenter = 0.0F; ///< mm from the pie's rim to the label's nearest corner
-    std::int32_t ShowLabelLeadLine = 1;              ///< travels with the record; no lead lines are drawn
+    std::int32_t ShowLabelLeadLine = 1;              ///< 1: drawn where options keep labels apart
     penlode::Owned<penlode::Pen> LabelLeadLinePen = penlode::Pen(penlode::kBlack, 0.1F);
 
     friend bool operator==(const PieLabelProp& a, const PieLabelProp& b) {

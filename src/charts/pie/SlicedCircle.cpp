@@ -1,6 +1,7 @@
 #include "charts/pie/SlicedCircle.h"
 
 #include "foundation/TextPropertyOperation.h"
+#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 
@@ -8,6 +9,19 @@ namespace millichart {
 
 using penlode::PointF;
 using penlode::RectF;
+using penlode::SizeF;
+
+namespace {
+
+/// Between a title and what it stands beside.
+float AirBeside(const CaptionProp& title, std::int32_t air) {
+    const penlode::Font* font = title.CaptionTextProperty.Font.Get();
+    return air == ChartAir::ThirdOfLine && font != nullptr
+               ? penlode::CStringUtil::MeasureFont(*font).LineHeight / 3.0F
+               : 0.0F;
+}
+
+} // namespace
 
 void CSlicedCircle::GetChildPosition(RectF& pie, std::vector<RectF>& labels, std::vector<RectF>&) const {
     pie = m_layout.Pie;
@@ -29,6 +43,28 @@ void CSlicedCircle::GetChildOffset(std::vector<PointF>& labels, std::vector<Poin
 
 void CSlicedCircle::SetChildOffset(const std::vector<PointF>& labels, const std::vector<PointF>&) {
     m_labelOffsets = labels;
+}
+
+void CSlicedCircle::PlaceTitle(TitleSide side) {
+    const CaptionProp& title = m_options.Title;
+    if (title.ShowCaption == 0 || title.Caption.empty()) {
+        return;
+    }
+    const RectF& whole = m_layout.Whole;
+    const SizeF size = CTextPropertyOperation::GetTextSize(title.Caption, title.CaptionTextProperty);
+    const float air = AirBeside(title, m_options.Air);
+    m_layout.Title = RectF{m_layout.Pie.Center().X - size.Width * 0.5F,
+                           side == TitleSide::Above ? whole.Y - air - size.Height : whole.Bottom() + air,
+                           size.Width, size.Height};
+    m_layout.Whole = penlode::Union(whole, *m_layout.Title);
+}
+
+void CSlicedCircle::VisitTitle(const TextVisitor& visit) const {
+    const CaptionProp& title = m_options.Title;
+    if (m_layout.Title && title.ShowCaption != 0) {
+        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, title.Caption, title.CaptionTextProperty,
+                                      m_layout.Title->Center());
+    }
 }
 
 void CSlicedCircle::VisitLabels(const PieLabelProp& label, const TextVisitor& visit) const {

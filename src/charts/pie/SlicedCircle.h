@@ -49,7 +49,12 @@ public:
                         const std::vector<penlode::PointF>& legend);
 
 protected:
+    enum class TitleSide { Above, Below };
+
+    /// Places the options' title beside everything else of the layout, whose whole it becomes a part of.
+    void PlaceTitle(TitleSide side);
     void VisitLabels(const PieLabelProp& label, const TextVisitor& visit) const;
+    void VisitTitle(const TextVisitor& visit) const;
 
     ChartOptions m_options;
     std::vector<double> m_values;
