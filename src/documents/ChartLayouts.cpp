@@ -222,7 +222,7 @@ CBasicHalfPieHistogram LayOut(const HalfPieHistogramDocument& document, LayoutTa
         chart.Layout();
     }
     slices.Check(chart.GetHalfPie(), task.Diagnostics, document.LabelOffsets.size());
-    if (IsUpper(document.Prop.HalfPie)) {
+    if (IsUpper(document.Prop.HalfPie) && task.Options.SliceLabels != SliceLabelFit::Apart) {
         task.Diagnostics.push_back(
             penlode::Warning("property/HalfPie/HalfPieBasicProp/WhichPart",
                              "the upper half lies behind the bars; \"Lower\" lies below them"));

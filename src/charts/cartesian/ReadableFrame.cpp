@@ -114,10 +114,8 @@ void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, 
     if (names.Rects.empty()) {
         return;
     }
-    const float top =
-        layout.Plot.Bottom() + std::max(kTickRoom, AirOf(plan.Options, names.Look.Font));
-    layout.FittedNames =
-        plan.Options.Labels == LabelFit::Fitted ? Fitted(names, top) : Kept(names, top);
+    const float top = layout.Plot.Bottom() + std::max(kTickRoom, AirOf(plan.Options, names.Look.Font));
+    layout.FittedNames = plan.Options.Labels == LabelFit::Fitted ? Fitted(names, top) : Kept(names, top);
     const float down = Overlap(layout.FittedNames, layout.VerLabelRects);
     for (std::size_t i = 0; i < names.Rects.size(); ++i) {
         names.Rects[i] = {names.Rects[i].Center().X, top + down, 0.0F, 0.0F};
@@ -132,9 +130,8 @@ void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, 
 void PlaceLegendBox(const FramePlan& plan, Surroundings& around, CartesianLayout& layout) {
     const RectF whole = around.All();
     if (plan.Options.Legend == LegendSeat::OnPlot) {
-        SeatedLegend legend =
-            SeatLegend(plan.Legend, plan.LegendNames, plan.SwatchFactor, layout.Plot, whole,
-                       plan.Options.Air == ChartAir::ThirdOfLine);
+        SeatedLegend legend = SeatLegend(plan.Legend, plan.LegendNames, plan.SwatchFactor, layout.Plot, whole,
+                                         plan.Options.Air == ChartAir::ThirdOfLine);
         layout.LegendItemRects = std::move(legend.Items);
         layout.Legend = std::move(legend);
     } else if (plan.Legend.ShowLegend != 0) {
@@ -180,8 +177,8 @@ void PlaceReadably(const FramePlan& plan, NamesBelow names, CartesianLayout& lay
     const TextProperty& verLook = plan.VerAxis.VerCaptionTextProperty;
     layout.VerCaptionSize = SizeShown(plan, layout.VerCaptionSize, plan.VerAxis.VerCaption, verLook);
     if (IsSeen(layout.VerCaptionSize)) {
-        layout.VerCaption = around.PlaceLeft(layout.VerCaptionSize, plot.Center().Y,
-                                             AirOf(plan.Options, verLook.Font));
+        layout.VerCaption =
+            around.PlaceLeft(layout.VerCaptionSize, plot.Center().Y, AirOf(plan.Options, verLook.Font));
     }
     layout.HorCaptionSize = SizeShown(plan, layout.HorCaptionSize, plan.HorCaption, plan.HorCaptionLook);
     if (IsSeen(layout.HorCaptionSize)) {
@@ -190,8 +187,8 @@ void PlaceReadably(const FramePlan& plan, NamesBelow names, CartesianLayout& lay
     }
     PlaceLegendBox(plan, around, layout);
     const TextProperty& look = plan.Caption.CaptionTextProperty;
-    const SizeF caption = SizeShown(plan, {layout.Caption.Width, layout.Caption.Height},
-                                    plan.Caption.Caption, look);
+    const SizeF caption =
+        SizeShown(plan, {layout.Caption.Width, layout.Caption.Height}, plan.Caption.Caption, look);
     if (IsSeen(caption)) {
         layout.Caption = around.PlaceAbove(caption, plot.Center().X, AirOf(plan.Options, look.Font));
     }

@@ -127,7 +127,10 @@ private:
     static constexpr std::size_t kFewestLabels = 2;
 
     bool ShowsHorLabels() const;
-    std::size_t HorLabelStep() const { return static_cast<std::size_t>(std::max(m_prop.HorAxis.LabelStep, 1)); }
+
+    std::size_t HorLabelStep() const {
+        return static_cast<std::size_t>(std::max(m_prop.HorAxis.LabelStep, 1));
+    }
 
     void PlaceLegendAndShift();
     void ReadFrame();

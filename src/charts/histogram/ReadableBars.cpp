@@ -89,8 +89,7 @@ void CBasicHistogram::ReadFrame() {
     std::vector<PointF> stands;
     const float slot = m_layout.Plot.Width / static_cast<float>(m_values.size());
     for (std::size_t i = 0; i < m_layout.GroupNameRects.size(); ++i) {
-        stands.push_back(
-            {m_layout.Plot.X + (static_cast<float>(i) + 0.5F) * slot, m_layout.Plot.Bottom()});
+        stands.push_back({m_layout.Plot.X + (static_cast<float>(i) + 0.5F) * slot, m_layout.Plot.Bottom()});
     }
     PlaceReadably({m_options, m_prop.Caption, m_prop.VerAxis, hor.HorCaption, hor.HorCaptionTextProperty,
                    m_prop.Legend, m_prop.Plot.ComponentName, kLegendSquareFactor, depth},
@@ -110,10 +109,10 @@ void CBasicHistogram::PlaceValueLabels() {
     for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
         for (std::size_t i = 0; i < m_layout.ComponentRects[group].size(); ++i) {
             const double value = m_values[group][i];
-            values.push_back({Normal(m_layout.ComponentRects[group][i]),
-                              CTextPropertyOperation::GetTextSize(ComponentInfo(group, i),
-                                                                  prop.ComponentInfoTextProperty),
-                              value, value < 0.0, prop.Juxtaposition == 0});
+            values.push_back(
+                {Normal(m_layout.ComponentRects[group][i]),
+                 CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), prop.ComponentInfoTextProperty),
+                 value, value < 0.0, prop.Juxtaposition == 0});
         }
     }
     const RectF& plot = m_layout.Plot;

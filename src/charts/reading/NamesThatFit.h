@@ -24,7 +24,7 @@ struct NamesToFit {
     const std::vector<float>& Centers;     ///< parallel to the names, ascending, in mm
     float Top;                             ///< of the names
     std::int32_t Angle;                    ///< that the record gives them
-    bool AreOnScale;                       ///< what is left out can be told from its neighbours, as of numbers
+    bool AreOnScale; ///< what is left out can be told from its neighbours, as of numbers
     /// The size of a level text of one or more lines.
     std::function<penlode::SizeF(const std::string&)> Measure;
 };

@@ -93,9 +93,9 @@ public:
 
     /// Does a box touch another bar than its own, its back included?
     bool Meet(const RectF& box, std::size_t own) const {
-        const auto first = std::lower_bound(
-            m_order.begin(), m_order.end(), box.X - m_widest,
-            [this](std::size_t bar, float left) { return m_values[bar].Front.X < left; });
+        const auto first =
+            std::lower_bound(m_order.begin(), m_order.end(), box.X - m_widest,
+                             [this](std::size_t bar, float left) { return m_values[bar].Front.X < left; });
         std::size_t looked = 0;
         for (auto bar = first; bar != m_order.end() && m_values[*bar].Front.X < box.Right(); ++bar) {
             const RectF& front = m_values[*bar].Front;
@@ -119,9 +119,8 @@ PointF Outside(const ValueToPlace& value, PointF depth) {
     if (value.IsBeside) {
         return {bar.Right() + depth.X + kGap + value.Label.Width * 0.5F, bar.Center().Y};
     }
-    return value.Hangs
-               ? PointF{bar.Center().X, bar.Bottom() + value.Label.Height * 0.5F}
-               : PointF{bar.Center().X + depth.X * 0.5F, bar.Y + depth.Y - value.Label.Height * 0.5F};
+    return value.Hangs ? PointF{bar.Center().X, bar.Bottom() + value.Label.Height * 0.5F}
+                       : PointF{bar.Center().X + depth.X * 0.5F, bar.Y + depth.Y - value.Label.Height * 0.5F};
 }
 
 /// At the bar's end, or in the middle of a segment of a stack; nothing if it is too small.
@@ -134,8 +133,8 @@ std::optional<PointF> Inside(const ValueToPlace& value) {
     if (value.IsBeside) {
         return bar.Center();
     }
-    return PointF{bar.Center().X, value.Hangs ? bar.Bottom() - label.Height * 0.5F
-                                              : bar.Y + label.Height * 0.5F};
+    return PointF{bar.Center().X,
+                  value.Hangs ? bar.Bottom() - label.Height * 0.5F : bar.Y + label.Height * 0.5F};
 }
 
 } // namespace
@@ -168,10 +167,10 @@ std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, co
             placed[i] = {true, isInside, center};
             return true;
         };
-        if (!take(Outside(values[i], depth), false)) {
-            if (const std::optional<PointF> inside = Inside(values[i])) {
-                take(*inside, true);
-            }
+        const std::optional<PointF> inside = Inside(values[i]);
+        const auto takeInside = [&] { return inside && take(*inside, true); };
+        if (!(values[i].IsBeside && takeInside()) && !take(Outside(values[i], depth), false)) {
+            takeInside();
         }
     }
     return placed;

@@ -22,10 +22,11 @@ std::string FirstOf(const FoundBars& found, const CBasicHistogram& chart) {
 void AddStackDoubts(const CBasicHistogram& chart, const TableOrigin& origin, Diagnostics& diagnostics) {
     const FoundBars falls = FindBars(chart, IsNegative);
     if (falls.Count > 0) {
-        diagnostics.push_back(AtFirst(
-            falls, origin,
-            CountedAre(falls.Count, "negative value") + " not drawn in a stack, whose sum falls there" +
-                FirstOf(falls, chart) + "; a Juxtaposition of 1 sets the bars side by side"));
+        diagnostics.push_back(
+            AtFirst(falls, origin,
+                    CountedAre(falls.Count, "negative value") +
+                        " not drawn in a stack, whose sum falls there" + FirstOf(falls, chart) +
+                        "; set options/BarBase to \"Zero\", or Juxtaposition to 1 for bars side by side"));
     }
 }
 
@@ -63,7 +64,7 @@ void AddBaseDoubts(const CBasicHistogram& chart, Diagnostics& diagnostics) {
             "range", "bars stand on " + NumberText(min) +
                          ", where the value axis begins, and not on 0, those of " +
                          Counted(negative.Count, "negative value") + " too" + FirstOf(negative, chart) +
-                         "; name " + NumberText(min) + " in VerCaption, or draw a curve"));
+                         "; set options/BarBase to \"Zero\", or name " + NumberText(min) + " in VerCaption"));
     }
 }
 
@@ -71,7 +72,9 @@ void AddBaseDoubts(const CBasicHistogram& chart, Diagnostics& diagnostics) {
 
 void AddBarHeightDoubts(const CBasicHistogram& chart, const TableOrigin& origin, Diagnostics& diagnostics) {
     const HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
-    if (plot.Juxtaposition == 0) {
+    if (chart.GetOptions().BarBase == BarBase::Zero) {
+        // Every bar stands on 0.
+    } else if (plot.Juxtaposition == 0) {
         AddStackDoubts(chart, origin, diagnostics);
     } else if (plot.LogarithmScale == 0) {
         AddBaseDoubts(chart, diagnostics);

@@ -3,6 +3,7 @@
 #include "documents/Fields.h"
 #include "documents/ValueRange.h"
 #include "documents/doubts/BarWording.h"
+#include "foundation/NumberFormat.h"
 #include "foundation/NumberText.h"
 #include "penlode/text/Digits.h"
 
@@ -75,16 +76,24 @@ void AddLabelDoubts(TickWalk walk, const VerAxisProp& prop, const CartesianLayou
                          " not say where " + (wrong == 1 ? "its tick is, " : "their ticks are, ") +
                          ToFirst(wrong) + first + "; give " +
                          (walk.IsLogarithmic ? "a range that begins at a power of ten"
-                                             : "a range with whole steps, or the values in a smaller unit")));
+                                             : "a range with whole steps, or the values in a smaller unit") +
+                         ", or set options/Numbers to \"Exact\""));
     }
 }
 
 template <class Chart>
 void AddLabelDoubtsOf(const Chart& chart, const VerAxisProp& prop, bool isLogarithmic,
                       Diagnostics& diagnostics) {
-    if (prop.ShowVerAxis != 0 && prop.ShowVerAxisLabel != 0) {
+    const bool areExact = chart.GetOptions().Numbers == NumberStyle::Exact;
+    if (!areExact && prop.ShowVerAxis != 0 && prop.ShowVerAxisLabel != 0) {
         AddLabelDoubts(WalkOf(chart, isLogarithmic), prop, chart.GetLayout(), diagnostics);
     }
+}
+
+/// A value as the chart writes it, but for what stands between its thousands.
+std::string Written(double value, ChartOptions options, int classicalDecimals) {
+    options.Thousands = ThousandsStyle::None;
+    return NumberFormat(options).ValueText(value, classicalDecimals);
 }
 
 bool IsFalse(double value, const std::string& text, double slack) {
@@ -110,17 +119,20 @@ void AddBarValueDoubts(const CBasicHistogram& chart, const TableOrigin& origin, 
         return;
     }
     const auto& drawn = chart.GetLayout().ComponentRects;
-    const FoundBars rounded = FindBars(chart, [&drawn](const Bar& bar) {
+    const FoundBars rounded = FindBars(chart, [&](const Bar& bar) {
         return bar.Group < drawn.size() && bar.Component < drawn[bar.Group].size() &&
-               IsFalse(bar.Value, FixedText(bar.Value, 0), kBarSlack);
+               IsFalse(bar.Value, Written(bar.Value, chart.GetOptions(), 0), kBarSlack);
     });
+    const char* const advice = chart.GetOptions().Numbers == NumberStyle::Exact
+                                   ? "a greater options/MaxDecimals shows more"
+                                   : "give the values in a smaller unit, set options/Numbers to \"Exact\" or "
+                                     "ShowComponentValue to 0";
     if (rounded.Count > 0) {
-        diagnostics.push_back(
-            AtFirst(rounded, origin,
-                    CountedAre(rounded.Count, "value") + " written without decimals, " +
-                        ToFirst(rounded.Count) + NumberText(rounded.First.Value) +
-                        BarNamed(chart, rounded.First) + " as \"" + FixedText(rounded.First.Value, 0) +
-                        "\"; give the values in a smaller unit, or set ShowComponentValue to 0"));
+        diagnostics.push_back(AtFirst(
+            rounded, origin,
+            CountedAre(rounded.Count, "value") + " written with too few decimals, " + ToFirst(rounded.Count) +
+                NumberText(rounded.First.Value) + BarNamed(chart, rounded.First) + " as \"" +
+                Written(rounded.First.Value, chart.GetOptions(), 0) + "\"; " + advice));
     }
 }
 
@@ -132,20 +144,22 @@ void AddSliceValueDoubts(const CSlicedCircle& circle, const PieLabelProp& label,
     std::size_t lost = 0;
     std::string first;
     for (std::size_t i = 0; i < values.size() && i < circle.GetLayout().LabelTexts.size(); ++i) {
-        const std::string value = FixedText(values[i], 1);
-        const std::string percent = FixedText(values[i] / total * 100.0, 1);
+        const std::string value = Written(values[i], circle.GetOptions(), 1);
+        const std::string percent = NumberFormat(circle.GetOptions()).PercentText(values[i] / total * 100.0);
         const bool isFalse = label.ShowValueLabel == 1 && IsFalse(values[i], value, kSliceSlack);
-        const bool isNone = label.ShowPercentLabel == 1 && values[i] > 0.0 && percent == "0.0";
+        const bool isNone = label.ShowPercentLabel == 1 && values[i] > 0.0 && percent == "0.0%";
         if ((isFalse || isNone) && lost++ == 0) {
             const std::string name = NameAt(names, i);
             first = NumberText(values[i]) + (name.empty() ? "" : " of " + Quoted(name)) + " as \"" +
-                    (isFalse ? value : percent + "%") + '"';
+                    (isFalse ? value : percent) + '"';
         }
     }
     if (lost > 0) {
         diagnostics.push_back(penlode::Warning(
-            place, CountedAre(lost, "value") + " too small for the one decimal of the labels, " +
-                       ToFirst(lost) + first + "; join small slices, or give the values in a smaller unit"));
+            place, CountedAre(lost, "value") + " too small for the decimals of the labels, " + ToFirst(lost) +
+                       first + "; join small slices, give the values in a smaller unit, or set " +
+                       (circle.GetOptions().Numbers == NumberStyle::Exact ? "a greater options/MaxDecimals"
+                                                                          : "options/Numbers to \"Exact\"")));
     }
 }
 

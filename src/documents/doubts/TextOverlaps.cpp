@@ -93,16 +93,20 @@ AllOverlaps FindOverlaps(const std::vector<SeenText>& texts) {
 const char* AdviceFor(TextRole role) {
     switch (role) {
     case TextRole::SliceLabel:
-        return "join small slices, move labels with labelOffsets, or take a smaller font";
+        return "set options/SliceLabels to \"Apart\", join small slices, move labels with labelOffsets, or "
+               "take a smaller font";
     case TextRole::VerAxisLabel:
-        return "take larger steps in range, a smaller font or a larger PlotHeight";
+        return "set options/Labels to \"Fitted\", or take larger steps in range, a smaller font or a larger "
+               "PlotHeight";
     case TextRole::HorAxisLabel:
-        return "take a larger LabelStep, a smaller font, a larger PlotWidth or an Angle";
+        return "set options/Labels to \"Fitted\", or take a larger LabelStep, a smaller font, a larger "
+               "PlotWidth or an Angle";
     case TextRole::GroupName:
-        return "take fewer or shorter names, a smaller font, a larger PlotWidth or an Angle";
+        return "set options/Labels to \"Fitted\", or take fewer or shorter names, a smaller font, a larger "
+               "PlotWidth or an Angle";
     case TextRole::BarLabel:
-        return "set ShowComponentName or ShowComponentValue to 0, or take a smaller font or a larger "
-               "PlotWidth";
+        return "set options/Labels to \"Fitted\" or ShowComponentValue to 0, or take a smaller font or a "
+               "larger PlotWidth";
     case TextRole::LegendName:
         return "take a larger ItemDist";
     default:
