@@ -1,5 +1,6 @@
 #include "foundation/Legend.h"
 
+#include "foundation/Hatching.h"
 #include "foundation/LegendSide.h"
 #include "foundation/NarrowText.h"
 #include "foundation/TextPropertyOperation.h"
@@ -17,6 +18,8 @@ using penlode::SizeF;
 namespace {
 
 constexpr float kSwatchMargin = 1.0F;
+/// Of an item's height: at most so much is free round a square of a legend that sits.
+constexpr float kSeatedMargin = 0.25F;
 constexpr float kSwatchFrameWidth = 0.1F;
 
 std::vector<SizeF> ItemSizes(const LegendProp& prop, const std::vector<std::string>& names,
@@ -59,20 +62,27 @@ PointF ColumnStart(const LegendProp& prop, const std::vector<SizeF>& sizes, cons
             AlignedAlong(prop.LegendPos, plot.Y, plot.Height, height)};
 }
 
-/// Black and level, in the middle of what the swatch leaves of the item.
-ChartText NameOf(const LegendProp& prop, std::size_t index, const std::string& name, const RectF& item,
-                 float swatchFactor) {
+/// Black and level, in the middle of `box`.
+ChartText NameIn(const LegendProp& prop, std::size_t index, const std::string& name, const RectF& box) {
     const penlode::Font* font = prop.Font.Get();
-    const float swatch = swatchFactor * item.Height;
     std::wstring wide = WideText(name);
     const SizeF size = penlode::CStringUtil::MeasureWideString(wide, font);
-    return {{TextRole::LegendName, index},
-            std::move(wide),
-            font,
-            nullptr,
-            {},
-            {item.X + swatch, item.Y, item.Width - swatch, item.Height},
-            size};
+    return {{TextRole::LegendName, index}, std::move(wide), font, nullptr, {}, box, size};
+}
+
+/// In what the swatch leaves of the item.
+ChartText NameOf(const LegendProp& prop, std::size_t index, const std::string& name, const RectF& item,
+                 float swatchFactor, const LegendFrame& frame) {
+    const float swatch = swatchFactor * item.Height + frame.NameGap;
+    return NameIn(prop, index, name, {item.X + swatch, item.Y, item.Width - swatch, item.Height});
+}
+
+ChartText RestOf(const LegendProp& prop, std::size_t shown, const LegendFrame& frame) {
+    return NameIn(prop, shown, frame.RestText, frame.Rest);
+}
+
+float SwatchMargin(const RectF& item, const LegendFrame& frame) {
+    return frame.IsSeated() ? std::min(kSwatchMargin, item.Height * kSeatedMargin) : kSwatchMargin;
 }
 
 void DrawBox(penlode::IGraphicsEngine& engine, const LegendProp& prop, const RectF& box) {
@@ -111,45 +121,65 @@ std::vector<RectF> CLegendOperation::PlaceItems(const LegendProp& prop, const st
     return items;
 }
 
+RectF LegendBoxOf(const std::vector<RectF>& items, const LegendFrame& frame) {
+    return frame.IsSeated() ? frame.Box : UnionOf(items);
+}
+
 void CLegendOperation::VisitNames(const TextVisitor& visit, const LegendProp& prop,
                                   const std::vector<std::string>& names, const std::vector<RectF>& items,
-                                  float swatchFactor) {
-    const std::size_t count = prop.ShowLegend == 0 ? 0 : std::min(names.size(), items.size());
-    for (std::size_t i = 0; i < count; ++i) {
-        visit(NameOf(prop, i, names[i], items[i], swatchFactor));
+                                  float swatchFactor, const LegendFrame& frame) {
+    if (prop.ShowLegend == 0) {
+        return;
+    }
+    for (std::size_t i = 0; i < std::min(names.size(), items.size()); ++i) {
+        visit(NameOf(prop, i, names[i], items[i], swatchFactor, frame));
+    }
+    if (frame.LeftOut > 0) {
+        visit(RestOf(prop, items.size(), frame));
     }
 }
 
 void CLegendOperation::Draw(penlode::IGraphicsEngine* engine, const LegendProp& prop,
                             const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
                             const std::vector<RectF>& items) {
-    if (engine == nullptr) {
-        return;
+    if (engine != nullptr) {
+        Draw(*engine, prop, names, FillsOf({}, colors, colors.size()), items, {});
     }
-    const penlode::Pen frame(penlode::kBlack, kSwatchFrameWidth);
-    Draw(*engine, prop, names, items, kLegendSquareFactor, [&](std::size_t i, const RectF& item) {
-        const float side = item.Height - 2.0F * kSwatchMargin;
-        const PointF corner{item.X + kSwatchMargin, item.Y + kSwatchMargin};
-        if (i < colors.size()) {
-            const penlode::SolidBrush fill{colors[i]};
-            engine->FillRectangle(&fill, corner.X, corner.Y, side, side);
+}
+
+void CLegendOperation::Draw(penlode::IGraphicsEngine& engine, const LegendProp& prop,
+                            const std::vector<std::string>& names, const std::vector<Fill>& fills,
+                            const std::vector<RectF>& items, const LegendFrame& frame) {
+    const penlode::Pen pen(penlode::kBlack, kSwatchFrameWidth);
+    const auto drawSquare = [&](std::size_t i, const RectF& item) {
+        const float margin = SwatchMargin(item, frame);
+        const float side = item.Height - 2.0F * margin;
+        const RectF square{item.X + margin, item.Y + margin, side, side};
+        if (i < fills.size()) {
+            const penlode::SolidBrush brush{fills[i].Color};
+            engine.FillRectangle(&brush, square.X, square.Y, side, side);
+            HatchRectangle(engine, square, fills[i].Hatch);
         }
-        engine->DrawRectangle(&frame, corner.X, corner.Y, side, side);
-    });
+        engine.DrawRectangle(&pen, square.X, square.Y, side, side);
+    };
+    Draw(engine, prop, names, items, kLegendSquareFactor, drawSquare, frame);
 }
 
 void CLegendOperation::Draw(penlode::IGraphicsEngine& engine, const LegendProp& prop,
                             const std::vector<std::string>& names, const std::vector<RectF>& items,
-                            float swatchFactor, const LegendSwatch& drawSwatch) {
+                            float swatchFactor, const LegendSwatch& drawSwatch, const LegendFrame& frame) {
     if (prop.ShowLegend == 0 || items.empty()) {
         return;
     }
-    DrawBox(engine, prop, UnionOf(items));
+    DrawBox(engine, prop, LegendBoxOf(items, frame));
     for (std::size_t i = 0; i < items.size(); ++i) {
         drawSwatch(i, items[i]);
         if (i < names.size()) {
-            CTextPropertyOperation::Draw(engine, NameOf(prop, i, names[i], items[i], swatchFactor));
+            CTextPropertyOperation::Draw(engine, NameOf(prop, i, names[i], items[i], swatchFactor, frame));
         }
+    }
+    if (frame.LeftOut > 0) {
+        CTextPropertyOperation::Draw(engine, RestOf(prop, items.size(), frame));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "foundation/ChartText.h"
 #include "foundation/Export.h"
+#include "foundation/Palette.h"
 #include "penlode/Color.h"
 #include "penlode/Equality.h"
 #include "penlode/Font.h"
@@ -63,6 +64,8 @@ struct LegendFrame {
     std::string RestText;    ///< "… 12"; narrow, empty without
     std::size_t LeftOut = 0; ///< names at the list's end that the legend does not show
     float NameGap = 0.0F;    ///< between what stands before a name and the name
+
+    bool IsSeated() const { return NameGap > 0.0F; }
 };
 
 /// A legend that sits on its plot.
@@ -91,16 +94,26 @@ public:
                      const std::vector<std::string>& names, const std::vector<penlode::Color>& colors,
                      const std::vector<penlode::RectF>& items);
 
+    /// The same with squares that may be hatched. A legend that sits on its plot has its frame's box, names
+    /// off the squares and, as the last name, the count of those that are left out.
+    static void Draw(penlode::IGraphicsEngine& engine, const LegendProp& prop,
+                     const std::vector<std::string>& names, const std::vector<Fill>& fills,
+                     const std::vector<penlode::RectF>& items, const LegendFrame& frame);
+
     /// Draws a legend whose items begin with swatches of another kind, `swatchFactor` times as wide as high.
     static void Draw(penlode::IGraphicsEngine& engine, const LegendProp& prop,
                      const std::vector<std::string>& names, const std::vector<penlode::RectF>& items,
-                     float swatchFactor, const LegendSwatch& drawSwatch);
+                     float swatchFactor, const LegendSwatch& drawSwatch, const LegendFrame& frame = {});
 
-    /// The names that a legend shows, each in the middle of what its swatch leaves of its item.
+    /// The names that a legend shows, each in the middle of what its swatch leaves of its item. The index of
+    /// the count of those left out is that of the first of them.
     static void VisitNames(const TextVisitor& visit, const LegendProp& prop,
                            const std::vector<std::string>& names, const std::vector<penlode::RectF>& items,
-                           float swatchFactor);
+                           float swatchFactor, const LegendFrame& frame = {});
 };
+
+/// A legend's rectangle: its frame's if it sits on its plot, else that round its items.
+MILLICHART_API penlode::RectF LegendBoxOf(const std::vector<penlode::RectF>& items, const LegendFrame& frame);
 
 /// The union of all rectangles; (0, 0, 0, 0) for none.
 MILLICHART_API penlode::RectF UnionOf(const std::vector<penlode::RectF>& rects);

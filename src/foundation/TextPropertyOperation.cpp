@@ -1,5 +1,6 @@
 #include "foundation/TextPropertyOperation.h"
 
+#include "foundation/Container.h"
 #include "foundation/NarrowText.h"
 #include "penlode/engine/Finite.h"
 #include "penlode/text/StringUtil.h"
@@ -95,27 +96,6 @@ void DrawHeld(IGraphicsEngine* engine, const std::string& text, const TextProper
                                       anchor);
     }
 }
-
-/// A container in the units outside. The surface comes back as it was found, even when memory runs out.
-class Container {
-public:
-    explicit Container(IGraphicsEngine& engine) : m_engine(engine) {
-        const float scale = engine.GetPageScale();
-        const penlode::Unit unit = engine.GetPageUnit();
-        m_handle = engine.BeginContainer();
-        engine.SetPageScale(scale);
-        engine.SetPageUnit(unit);
-    }
-
-    ~Container() { m_engine.EndContainer(m_handle); }
-
-    Container(const Container&) = delete;
-    Container& operator=(const Container&) = delete;
-
-private:
-    IGraphicsEngine& m_engine;
-    std::uint32_t m_handle;
-};
 
 void Write(IGraphicsEngine& engine, const ChartText& text) {
     const penlode::SolidBrush brush{text.Color};

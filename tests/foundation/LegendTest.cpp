@@ -68,6 +68,30 @@ TEST(Legend, DrawsBoxSquaresAndNames) {
                              "DrawString \"煤炭\" 宋体/4 (15 25 8 5) center-center #FF000000\n");
 }
 
+TEST(Legend, OneThatSitsHasItsBoxItsGapAndARest) {
+    LegendProp prop;
+    prop.ShowLegend = 1;
+    LegendFrame frame;
+    frame.Box = {9, 19, 15, 9};
+    frame.NameGap = 1.0F;
+    frame.LeftOut = 2;
+    frame.RestText = "+ 2";
+    frame.Rest = {14, 22, 6, 2};
+    penlode::CRecordingEngine engine;
+    // An item of 2 mm leaves a square of 1 mm.
+    CLegendOperation::Draw(engine, prop, {"A", "B", "C"}, std::vector<Fill>{{penlode::Color{0xFF112233}}},
+                           {{10, 20, 7, 2}}, frame);
+    EXPECT_EQ(engine.Text(), "DrawRectangle #FF000000/0.1 (9 19 15 9)\n"
+                             "FillRectangle #FF112233 (10.5 20.5 1 1)\n"
+                             "DrawRectangle #FF000000/0.1 (10.5 20.5 1 1)\n"
+                             "DrawString \"A\" 宋体/4 (13 20 4 2) center-center #FF000000\n"
+                             "DrawString \"+ 2\" 宋体/4 (14 22 6 2) center-center #FF000000\n");
+    std::vector<TextOwner> owners;
+    CLegendOperation::VisitNames([&](ChartText&& text) { owners.push_back(text.Owner); }, prop,
+                                 {"A", "B", "C"}, {{10, 20, 7, 2}}, kLegendSquareFactor, frame);
+    EXPECT_EQ(owners, (std::vector<TextOwner>{{TextRole::LegendName, 0}, {TextRole::LegendName, 1}}));
+}
+
 TEST(Legend, DrawsNothingWhenOffOrEmpty) {
     LegendProp prop;
     prop.ShowBackground = 1;

@@ -24,7 +24,7 @@ struct CartesianLayout {
     std::vector<penlode::RectF> VerLabelRects;   ///< parallel to the texts
     std::vector<penlode::SizeF> VerLabelSizes;   ///< parallel to the texts
     std::vector<penlode::PointF> HorTicks;       ///< on the plot's bottom edge
-    std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
+    std::vector<penlode::RectF> LegendItemRects; ///< one per name that is shown, or none
     LegendFrame Legend;                          ///< of a legend that sits on its plot
     /// The names or labels below the plot that are drawn, where options say how; else none.
     std::vector<FittedName> FittedNames;

@@ -136,6 +136,8 @@ private:
     void ReadFrame();
     void MoveAll(penlode::PointF by);
     void VisitHorLabels(const TextVisitor& visit) const;
+    void DrawHorGrids(penlode::IGraphicsEngine& engine) const;
+    void DrawVerGrids(penlode::IGraphicsEngine& engine) const;
     void DrawSample(penlode::IGraphicsEngine& engine, std::size_t index, const penlode::RectF& item) const;
 
     CurveProp m_prop;

@@ -2,6 +2,7 @@
 #include "charts/curve/BasicCurve.h"
 #include "charts/curve/CurveMarker.h"
 #include "charts/curve/CurveStyle.h"
+#include "charts/reading/Contrast.h"
 
 #include <algorithm>
 #include <cmath>
@@ -84,6 +85,10 @@ void CBasicCurve::Draw(IGraphicsEngine* engine) const {
     if (m_prop.Plot.ShowBackground != 0) {
         FillRect(*engine, {m_prop.Plot.PlotBackgroundColor}, m_layout.Plot);
     }
+    if (GridsAreBehind(m_options)) {
+        DrawHorGrids(*engine);
+        DrawVerGrids(*engine);
+    }
     DrawVerAxis(engine);
     DrawHorAxis(engine);
     DrawPlot(engine);
@@ -99,13 +104,29 @@ void CBasicCurve::DrawVerAxis(IGraphicsEngine* engine) const {
     const TextVisitor draw = CTextPropertyOperation::DrawingOn(*engine);
     DrawVerAxisLine(*engine, axis, m_layout);
     VisitVerLabels(draw, axis, m_layout);
-    if (axis.ShowHorMinorGrid != 0) {
-        DrawHorGrid(*engine, axis.HorMinorGridPen.Get(), m_layout.VerMinorTicks, m_layout.Plot.Width);
-    }
-    if (axis.ShowHorMajorGrid != 0) {
-        DrawHorGrid(*engine, axis.HorMajorGridPen.Get(), m_layout.VerMajorTicks, m_layout.Plot.Width);
+    if (!GridsAreBehind(m_options)) {
+        DrawHorGrids(*engine);
     }
     VisitVerCaption(draw, m_options, axis, m_layout);
+}
+
+void CBasicCurve::DrawHorGrids(IGraphicsEngine& engine) const {
+    const CurveVerAxisProp& axis = m_prop.VerAxis;
+    const float width = m_layout.Plot.Width;
+    if (axis.ShowVerAxis != 0 && axis.ShowHorMinorGrid != 0) {
+        DrawHorGrid(engine, GridPen(axis.HorMinorGridPen.Get(), m_options), m_layout.VerMinorTicks, width);
+    }
+    if (axis.ShowVerAxis != 0 && axis.ShowHorMajorGrid != 0) {
+        DrawHorGrid(engine, GridPen(axis.HorMajorGridPen.Get(), m_options), m_layout.VerMajorTicks, width);
+    }
+}
+
+void CBasicCurve::DrawVerGrids(IGraphicsEngine& engine) const {
+    const CurveHorAxisProp& axis = m_prop.HorAxis;
+    if (axis.ShowHorAxis != 0 && axis.ShowVerGrid != 0) {
+        DrawVerGrid(engine, GridPen(axis.VerGridPen.Get(), m_options), m_layout.HorTicks,
+                    m_layout.Plot.Height, StepOf(axis.VerGridStep));
+    }
 }
 
 void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
@@ -119,8 +140,8 @@ void CBasicCurve::DrawHorAxis(IGraphicsEngine* engine) const {
     DrawHorTicks(*engine, axis.HorAxisPen.Get(), m_layout.HorTicks, TickOf(axis.ScaleStyle, kMajorTickLength),
                  StepOf(axis.ScaleStep));
     VisitHorLabels(draw);
-    if (axis.ShowVerGrid != 0) {
-        DrawVerGrid(*engine, axis.VerGridPen.Get(), m_layout.HorTicks, plot.Height, StepOf(axis.VerGridStep));
+    if (!GridsAreBehind(m_options)) {
+        DrawVerGrids(*engine);
     }
     VisitHorCaption(draw, m_options, axis, m_layout);
 }
@@ -135,7 +156,7 @@ void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
     VisitHorCaption(visit, m_options, m_prop.HorAxis, m_layout);
     VisitCaption(visit, m_options, m_prop.Caption, m_layout);
     CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Plot.CurveName, m_layout.LegendItemRects,
-                                 kLegendSampleFactor);
+                                 kLegendSampleFactor, m_layout.Legend);
 }
 
 void CBasicCurve::VisitHorLabels(const TextVisitor& visit) const {
@@ -169,7 +190,7 @@ std::vector<CurveShape> CBasicCurve::GetShapes() const {
     const std::size_t curves = std::min(m_prop.Plot.CurveName.size(), m_layout.Curves.size());
     for (std::size_t i = 0; i < curves; ++i) {
         const CurveTrace& trace = m_layout.Curves[i];
-        const CurveStyle style = StyleOf(m_prop.Plot, i);
+        const CurveStyle style = StyleOf(m_prop.Plot, i, m_options);
         shapes.push_back({style, LinesOf(PointsOf(trace), style.NullValue), &trace});
     }
     return shapes;
@@ -185,16 +206,16 @@ void CBasicCurve::DrawLine(IGraphicsEngine* engine, const std::vector<PointF>& l
 }
 
 void CBasicCurve::DrawLegend(IGraphicsEngine* engine) const {
-    CLegendOperation::Draw(*engine, m_prop.Legend, m_prop.Plot.CurveName, m_layout.LegendItemRects,
-                           kLegendSampleFactor,
-                           [&](std::size_t index, const RectF& item) { DrawSample(*engine, index, item); });
+    CLegendOperation::Draw(
+        *engine, m_prop.Legend, m_prop.Plot.CurveName, m_layout.LegendItemRects, kLegendSampleFactor,
+        [&](std::size_t index, const RectF& item) { DrawSample(*engine, index, item); }, m_layout.Legend);
 }
 
 /// A piece of the curve with a marker on it. The marker is drawn twice, as a line of two points has two.
 void CBasicCurve::DrawSample(IGraphicsEngine& engine, std::size_t index, const RectF& item) const {
     const float middle = item.Y + item.Height * 0.5F;
     const PointF center{item.X + item.Height, middle};
-    const CurveStyle style = StyleOf(m_prop.Plot, index);
+    const CurveStyle style = StyleOf(m_prop.Plot, index, m_options);
     DrawLine(&engine, {{item.X, middle}, {item.X + kLegendSampleFactor * item.Height, middle}},
              {center, center}, {false, false}, style.LineColor, style.Width, style.Dash, style.Dot,
              style.DotColor, style.DotWidth, style.NullValue);

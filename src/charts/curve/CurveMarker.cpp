@@ -30,10 +30,6 @@ std::span<const PointF> CornersOf(std::int32_t style) {
     }
 }
 
-bool IsSolid(std::int32_t style) {
-    return style % 2 == 1;
-}
-
 } // namespace
 
 CurveMarker::CurveMarker(const CurveStyle& style)
@@ -80,7 +76,7 @@ void CurveMarker::DrawPolygon(IGraphicsEngine& engine, PointF at) const {
     for (const PointF corner : CornersOf(m_style)) {
         corners[static_cast<std::size_t>(count++)] = {at.X + corner.X * m_radius, at.Y + corner.Y * m_radius};
     }
-    if (IsSolid(m_style)) {
+    if (IsSolidMarker(m_style)) {
         engine.FillPolygon(&m_brush, corners.data(), count);
     } else {
         engine.DrawPolygon(&m_pen, corners.data(), count);

@@ -47,6 +47,11 @@ inline constexpr std::int32_t SolidInvertedTriangle = 9; ///< apex down
 inline constexpr std::int32_t HollowInvertedTriangle = 10;
 } // namespace CurveDotStyle
 
+constexpr bool IsSolidMarker(std::int32_t dotStyle) {
+    return dotStyle >= CurveDotStyle::SolidSquare && dotStyle <= CurveDotStyle::SolidInvertedTriangle &&
+           dotStyle % 2 == 1;
+}
+
 /// What a line does where a value is null; there is no marker either way. Any number but 0 is as zero.
 namespace CurveNullValueStyle {
 inline constexpr std::int32_t Break = 0;

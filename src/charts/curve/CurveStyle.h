@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/curve/CurveProp.h"
+#include "foundation/ChartOptions.h"
 #include "foundation/Export.h"
 
 namespace millichart {
@@ -18,5 +19,9 @@ struct CurveStyle {
 
 /// The entries at `index` of the plot's lists; the values above where a list has none.
 MILLICHART_API CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index);
+
+/// The same with the options' palette. For print, solid lines are dashed in turn and solid markers get other
+/// shapes.
+CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index, const ChartOptions& options);
 
 } // namespace millichart

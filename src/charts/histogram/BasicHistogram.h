@@ -35,6 +35,7 @@ struct BarShape {
     std::size_t Component = 0; ///< of the group
     penlode::RectF Front;
     penlode::Color Fill; ///< of the front
+    millichart::Hatch Hatch = millichart::Hatch::None;
 };
 
 /// All bars, in the order in which they are drawn. The top and the right side of each join its front to the
@@ -154,12 +155,14 @@ private:
     template <class Visit> void VisitFronts(const Visit& visit) const;
     template <class Visit> void VisitBars(const Visit& visit) const;
     std::string ComponentInfo(std::size_t group, std::size_t component) const;
+    std::vector<Fill> FillsOfBars() const;
     void VisitGroupNames(const TextVisitor& visit) const;
     void VisitBarLabels(const TextVisitor& visit) const;
     void VisitFittedLabel(const TextVisitor& visit, std::size_t group, std::size_t component,
                           const std::string& text) const;
     void DrawBaseLine(penlode::IGraphicsEngine& engine) const;
     void DrawFlatBackground(penlode::IGraphicsEngine& engine) const;
+    void DrawFlatGrids(penlode::IGraphicsEngine& engine) const;
     void DrawDeepBackground(penlode::IGraphicsEngine& engine) const;
     void DrawDeepWalls(penlode::IGraphicsEngine& engine, const penlode::RectF& back) const;
     void DrawDeepGrids(penlode::IGraphicsEngine& engine, penlode::PointF depth) const;

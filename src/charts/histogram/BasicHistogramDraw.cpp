@@ -1,6 +1,8 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/histogram/BasicHistogram.h"
 #include "charts/reading/Contrast.h"
+#include "charts/reading/Shade.h"
+#include "foundation/Hatching.h"
 #include "foundation/NumberFormat.h"
 #include "penlode/engine/Finite.h"
 
@@ -15,9 +17,6 @@ using penlode::PointF;
 using penlode::RectF;
 
 namespace {
-
-constexpr std::uint32_t kTopShade = 60;
-constexpr std::uint32_t kSideShade = 100;
 
 using Quad = std::array<PointF, 4>;
 
@@ -63,8 +62,8 @@ void CBasicHistogram::Draw(IGraphicsEngine* engine) const {
     DrawHorAxis(engine);
     DrawPlot(engine);
     DrawCaption(engine);
-    CLegendOperation::Draw(engine, m_prop.Legend, m_prop.Plot.ComponentName, m_prop.Plot.ComponentColor,
-                           m_layout.LegendItemRects);
+    CLegendOperation::Draw(*engine, m_prop.Legend, m_prop.Plot.ComponentName, FillsOfBars(),
+                           m_layout.LegendItemRects, m_layout.Legend);
 }
 
 void CBasicHistogram::DrawBackground(IGraphicsEngine* engine) const {
@@ -81,18 +80,31 @@ void CBasicHistogram::DrawFlatBackground(IGraphicsEngine& engine) const {
     if (prop.ShowBackground != 0) {
         FillRect(engine, {prop.PlotBackgroundColor}, plot);
     }
+    if (GridsAreBehind(m_options)) {
+        DrawFlatGrids(engine);
+    }
     if (prop.ShowEdge != 0) {
         engine.DrawRectangle(prop.EdgePen.Get(), plot.X, plot.Y, plot.Width, plot.Height);
     }
+    if (!GridsAreBehind(m_options)) {
+        DrawFlatGrids(engine);
+    }
+}
+
+void CBasicHistogram::DrawFlatGrids(IGraphicsEngine& engine) const {
+    const RectF& plot = m_layout.Plot;
     const HistogramVerAxisProp& ver = m_prop.VerAxis;
     if (ver.ShowVerAxis != 0 && ver.ShowHorMinorGrid != 0) {
-        DrawHorGrid(engine, ver.HorMinorGridPen.Get(), m_layout.VerMinorTicks, plot.Width);
+        DrawHorGrid(engine, GridPen(ver.HorMinorGridPen.Get(), m_options), m_layout.VerMinorTicks,
+                    plot.Width);
     }
     if (ver.ShowVerAxis != 0 && ver.ShowHorMajorGrid != 0) {
-        DrawHorGrid(engine, ver.HorMajorGridPen.Get(), m_layout.VerMajorTicks, plot.Width);
+        DrawHorGrid(engine, GridPen(ver.HorMajorGridPen.Get(), m_options), m_layout.VerMajorTicks,
+                    plot.Width);
     }
     if (m_prop.HorAxis.ShowHorAxis != 0 && m_prop.HorAxis.ShowVerGrid != 0) {
-        DrawVerGrid(engine, m_prop.HorAxis.VerGridPen.Get(), m_layout.HorTicks, plot.Height);
+        DrawVerGrid(engine, GridPen(m_prop.HorAxis.VerGridPen.Get(), m_options), m_layout.HorTicks,
+                    plot.Height);
     }
 }
 
@@ -104,6 +116,9 @@ void CBasicHistogram::DrawDeepBackground(IGraphicsEngine& engine) const {
     if (m_prop.Plot.ShowBackground != 0) {
         DrawDeepWalls(engine, back);
     }
+    if (GridsAreBehind(m_options)) {
+        DrawDeepGrids(engine, depth);
+    }
     if (m_prop.Plot.ShowEdge != 0) {
         const penlode::Pen* pen = m_prop.Plot.EdgePen.Get();
         engine.DrawRectangle(pen, back.X, back.Y, back.Width, back.Height);
@@ -111,7 +126,9 @@ void CBasicHistogram::DrawDeepBackground(IGraphicsEngine& engine) const {
         DrawFromTo(engine, pen, BottomLeft(plot), BottomLeft(back));
         DrawFromTo(engine, pen, BottomRight(plot), BottomRight(back));
     }
-    DrawDeepGrids(engine, depth);
+    if (!GridsAreBehind(m_options)) {
+        DrawDeepGrids(engine, depth);
+    }
 }
 
 /// The back, the left wall and the floor; the front stays open.
@@ -126,7 +143,7 @@ void CBasicHistogram::DrawDeepWalls(IGraphicsEngine& engine, const RectF& back) 
 /// A major line shows its own pen on the left wall only, and the minor pen on the back.
 void CBasicHistogram::DrawDeepGrids(IGraphicsEngine& engine, PointF depth) const {
     const HistogramVerAxisProp& ver = m_prop.VerAxis;
-    const penlode::Pen* minorPen = ver.HorMinorGridPen.Get();
+    const penlode::Pen* minorPen = GridPen(ver.HorMinorGridPen.Get(), m_options);
     const PointF across{m_layout.Plot.Width, 0.0F};
     if (ver.ShowVerAxis != 0 && ver.ShowHorMinorGrid != 0) {
         for (const PointF tick : m_layout.VerMinorTicks) {
@@ -135,12 +152,13 @@ void CBasicHistogram::DrawDeepGrids(IGraphicsEngine& engine, PointF depth) const
     }
     if (ver.ShowVerAxis != 0 && ver.ShowHorMajorGrid != 0) {
         for (const PointF tick : m_layout.VerMajorTicks) {
-            DrawBentLine(engine, ver.HorMajorGridPen.Get(), minorPen, tick, depth, across);
+            DrawBentLine(engine, GridPen(ver.HorMajorGridPen.Get(), m_options), minorPen, tick, depth,
+                         across);
         }
     }
     const HistogramHorAxisProp& hor = m_prop.HorAxis;
     if (hor.ShowHorAxis != 0 && hor.ShowVerGrid != 0) {
-        const penlode::Pen* pen = hor.VerGridPen.Get();
+        const penlode::Pen* pen = GridPen(hor.VerGridPen.Get(), m_options);
         for (const PointF tick : m_layout.HorTicks) {
             DrawBentLine(engine, pen, pen, tick, depth, {0.0F, -m_layout.Plot.Height});
         }
@@ -182,6 +200,7 @@ void CBasicHistogram::DrawPlot(IGraphicsEngine* engine) const {
         } else {
             DrawComponent3D(engine, bar.Front, bar.Fill);
         }
+        HatchRectangle(*engine, bar.Front, bar.Hatch);
     });
     DrawBaseLine(*engine);
     VisitBarLabels(CTextPropertyOperation::DrawingOn(*engine));
@@ -214,7 +233,7 @@ void CBasicHistogram::VisitTexts(const TextVisitor& visit) const {
     VisitBarLabels(visit);
     VisitCaption(visit, m_options, m_prop.Caption, m_layout);
     CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Plot.ComponentName, m_layout.LegendItemRects,
-                                 kLegendSquareFactor);
+                                 kLegendSquareFactor, m_layout.Legend);
 }
 
 /// The bars of the last layout that have a place and still have both a name and a value.
@@ -232,11 +251,15 @@ template <class Visit> void CBasicHistogram::VisitFronts(const Visit& visit) con
     }
 }
 
+std::vector<Fill> CBasicHistogram::FillsOfBars() const {
+    return FillsOf(m_options, m_prop.Plot.ComponentColor, m_prop.Plot.ComponentName.size());
+}
+
 template <class Visit> void CBasicHistogram::VisitBars(const Visit& visit) const {
-    const std::vector<Color>& colors = m_prop.Plot.ComponentColor;
+    const std::vector<Fill> fills = FillsOfBars();
     VisitFronts([&](std::size_t group, std::size_t i, const RectF& front) {
-        if (i < colors.size()) {
-            visit({group, i, front, colors[i]});
+        if (i < fills.size()) {
+            visit({group, i, front, fills[i].Color, fills[i].Hatch});
         }
     });
 }
@@ -315,9 +338,9 @@ void CBasicHistogram::DrawComponent3D(IGraphicsEngine* engine, const RectF& bar,
     Calc3DComponentBackSurfaceOffset(depth.X, depth.Y);
     const RectF back = penlode::Translated(bar, depth);
     FillRect(*engine, {color}, bar);
-    FillQuad(*engine, {penlode::Shaded(color, kTopShade)},
+    FillQuad(*engine, {ShadeOf(color, ShadedFace::BarTop, m_options)},
              {TopLeft(bar), TopRight(bar), TopRight(back), TopLeft(back)});
-    FillQuad(*engine, {penlode::Shaded(color, kSideShade)},
+    FillQuad(*engine, {ShadeOf(color, ShadedFace::BarSide, m_options)},
              {TopRight(bar), BottomRight(bar), BottomRight(back), TopRight(back)});
 }
 

@@ -46,7 +46,7 @@ RectF CBasicHalfPie::VisibleHalf() const {
 PieShapes CBasicHalfPie::GetShapes() const {
     const HalfPieBasicProp& basic = m_prop.Basic;
     return {m_layout.Pie, 0.0F, basic.DrawSepLine == 1 ? basic.PenSepLine.Get() : nullptr,
-            FlatSlices(StartAngle(), SliceSweeps(m_values, kHalfTurn), basic.ComponentColor)};
+            FlatSlices(StartAngle(), SliceSweeps(m_values, kHalfTurn), FillsFor(basic))};
 }
 
 void CBasicHalfPie::Draw(IGraphicsEngine* engine) const {

@@ -2,6 +2,9 @@
 
 #include "charts/pie/PiePlacement.h"
 #include "charts/pie/SliceLabels.h"
+#include "charts/reading/LegendSeat.h"
+
+#include <utility>
 
 namespace millichart {
 
@@ -16,6 +19,7 @@ void CBasicPie::SetPieProp(const PieProp& prop) {
 void CBasicPie::Layout() {
     m_layout.Whole = {m_location.X, m_location.Y, 0.0F, 0.0F};
     m_layout.LegendItemRects.clear();
+    m_layout.Legend = {};
     const PieBasicProp& basic = m_prop.Basic;
     if (PlacePie({m_location, PieDiameter(basic, m_values), basic.StartAngle, kFullTurn, m_values,
                   basic.ComponentName, m_prop.Label, m_labelOffsets, NumberFormat(m_options)},
@@ -39,6 +43,10 @@ SliceRim CBasicPie::Rim() const {
 }
 
 void CBasicPie::PlaceLegend() {
+    if (m_options.Legend == LegendSeat::OnPlot) {
+        SeatOnPie();
+        return;
+    }
     if (m_prop.Legend.ShowLegend == 0) {
         return;
     }
@@ -50,11 +58,26 @@ void CBasicPie::PlaceLegend() {
     }
 }
 
+void CBasicPie::SeatOnPie() {
+    const SliceRim rim = Rim();
+    const RectF seen{rim.Center.X - rim.Across, rim.Center.Y - rim.Up, 2.0F * rim.Across,
+                     2.0F * rim.Up + rim.Depth};
+    SeatedLegend legend =
+        Translated(SeatLegend(m_prop.Legend, m_prop.Basic.ComponentName, kLegendSquareFactor, seen,
+                              m_layout.Whole, m_options.Air == ChartAir::ThirdOfLine),
+                   m_legendOffset);
+    if (!legend.Items.empty()) {
+        m_layout.Whole = penlode::Union(m_layout.Whole, legend.Box);
+    }
+    m_layout.LegendItemRects = std::move(legend.Items);
+    m_layout.Legend = std::move(legend);
+}
+
 void CBasicPie::GetChildPosition(RectF& pie, std::vector<RectF>& labels, std::vector<RectF>& legend) const {
     CSlicedCircle::GetChildPosition(pie, labels, legend);
     legend.clear();
     if (!m_layout.LegendItemRects.empty()) {
-        legend.push_back(UnionOf(m_layout.LegendItemRects));
+        legend.push_back(LegendBoxOf(m_layout.LegendItemRects, m_layout.Legend));
     }
 }
 
@@ -62,7 +85,7 @@ void CBasicPie::SetChildPosition(const RectF& pie, const std::vector<RectF>& lab
                                  const std::vector<RectF>& legend) {
     CSlicedCircle::SetChildPosition(pie, labels, legend);
     if (legend.size() == 1 && !m_layout.LegendItemRects.empty()) {
-        const PointF from = UnionOf(m_layout.LegendItemRects).TopLeft();
+        const PointF from = LegendBoxOf(m_layout.LegendItemRects, m_layout.Legend).TopLeft();
         m_legendOffset = m_legendOffset + (legend.front().TopLeft() - from);
     }
 }

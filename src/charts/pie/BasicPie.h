@@ -64,6 +64,7 @@ protected:
 private:
     SliceRim Rim() const;
     void PlaceLegend();
+    void SeatOnPie();
     PieShapes FlatShapes() const;
     PieShapes DeepShapes() const;
 

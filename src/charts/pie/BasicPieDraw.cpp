@@ -36,14 +36,15 @@ RectF CBasicPie::Get3DEllipseRect(const RectF& rect, float& depth) const {
 PieShapes CBasicPie::FlatShapes() const {
     const PieBasicProp& basic = m_prop.Basic;
     return {GetEllipseRect(m_layout.Pie), 0.0F, basic.DrawSepLine == 1 ? basic.PenSepLine.Get() : nullptr,
-            FlatSlices(basic.StartAngle, SliceSweeps(m_values, kFullTurn), basic.ComponentColor)};
+            FlatSlices(basic.StartAngle, SliceSweeps(m_values, kFullTurn), FillsFor(basic))};
 }
 
 PieShapes CBasicPie::DeepShapes() const {
     const PieBasicProp& basic = m_prop.Basic;
     PieShapes shapes;
     shapes.Face = Get3DEllipseRect(m_layout.Pie, shapes.Depth);
-    shapes.Slices = DeepSlices(basic.StartAngle, SliceSweeps(m_values, kFullTurn), basic.ComponentColor);
+    shapes.Slices =
+        DeepSlices(basic.StartAngle, SliceSweeps(m_values, kFullTurn), FillsFor(basic), m_options);
     return shapes;
 }
 
@@ -70,7 +71,7 @@ void CBasicPie::VisitTexts(const TextVisitor& visit) const {
     VisitLabels(m_prop.Label, visit);
     VisitTitle(visit);
     CLegendOperation::VisitNames(visit, m_prop.Legend, m_prop.Basic.ComponentName, m_layout.LegendItemRects,
-                                 kLegendSquareFactor);
+                                 kLegendSquareFactor, m_layout.Legend);
 }
 
 void CBasicPie::Draw(IGraphicsEngine* engine) const {
@@ -85,8 +86,8 @@ void CBasicPie::Draw(IGraphicsEngine* engine) const {
     DrawLeadLines(*engine, m_prop.Label, m_layout.LeadLines);
     VisitLabels(m_prop.Label, CTextPropertyOperation::DrawingOn(*engine));
     VisitTitle(CTextPropertyOperation::DrawingOn(*engine));
-    CLegendOperation::Draw(engine, m_prop.Legend, m_prop.Basic.ComponentName, m_prop.Basic.ComponentColor,
-                           m_layout.LegendItemRects);
+    CLegendOperation::Draw(*engine, m_prop.Legend, m_prop.Basic.ComponentName, FillsFor(m_prop.Basic),
+                           m_layout.LegendItemRects, m_layout.Legend);
 }
 
 } // namespace millichart

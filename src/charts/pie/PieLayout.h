@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Legend.h"
 #include "penlode/Color.h"
 #include "penlode/Geometry.h"
 #include "penlode/Pen.h"
@@ -32,7 +33,8 @@ struct PieLayout {
     std::vector<std::string> LabelTexts; ///< one per slice, or none; prefix and postfix included. Of a label
                                          ///< that options leave out: empty
     std::vector<penlode::RectF> LabelRects;      ///< parallel to the texts
-    std::vector<penlode::RectF> LegendItemRects; ///< one per name, or none
+    std::vector<penlode::RectF> LegendItemRects; ///< one per name that is shown, or none
+    LegendFrame Legend;                          ///< of a legend that sits on its plot
     std::vector<LeadLine> LeadLines;             ///< of labels that options keep apart
     std::optional<penlode::RectF> Title;         ///< of the options, where it is shown
 };
@@ -51,7 +53,9 @@ struct PieSlice {
     float StartAngle = 0.0F;
     float SweepAngle = 0.0F;
     std::optional<penlode::Color> Fill; ///< none: the slice is outlined at most
-    std::array<PieWall, 2> Walls;       ///< see FrontWalls
+    penlode::Color WallFill;
+    millichart::Hatch Hatch = millichart::Hatch::None;
+    std::array<PieWall, 2> Walls; ///< see FrontWalls
     std::size_t WallCount = 0;
 
     /// In the order in which they are drawn; none for a flat slice or one that is not filled. A slice that

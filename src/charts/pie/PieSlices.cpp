@@ -1,18 +1,18 @@
 #include "charts/pie/PieSlices.h"
 
+#include "charts/reading/Shade.h"
+#include "foundation/Hatching.h"
+
 #include <algorithm>
 #include <iterator>
 #include <numeric>
 
 namespace millichart {
 
-using penlode::Color;
 using penlode::IGraphicsEngine;
 using penlode::RectF;
 
 namespace {
-
-constexpr std::uint32_t kWallShade = 60;
 
 /// The walls of a slice that begins at `start`: what of its rim lies on the front half of the ellipse. Angles
 /// outside the ranges have none.
@@ -31,7 +31,7 @@ void FindWalls(float start, PieSlice& slice) {
 }
 
 /// Along the face's rim one way, down, and back along the bottom's.
-void FillWall(IGraphicsEngine& engine, const PieWall& wall, const PieShapes& shapes, Color color) {
+void FillWall(IGraphicsEngine& engine, const PieWall& wall, const PieShapes& shapes, penlode::Color color) {
     penlode::GraphicsPath path;
     path.AddArc(shapes.Face, wall.From, wall.To - wall.From);
     path.AddArc(penlode::Translated(shapes.Face, {0.0F, shapes.Depth}), wall.To, wall.From - wall.To);
@@ -39,10 +39,13 @@ void FillWall(IGraphicsEngine& engine, const PieWall& wall, const PieShapes& sha
     engine.FillPath(&brush, &path);
 }
 
-PieSlice SliceOf(float start, float sweep, const std::vector<Color>& colors, std::size_t index) {
-    PieSlice slice{start, sweep, {}, {}, 0};
-    if (index < colors.size()) {
-        slice.Fill = colors[index];
+PieSlice SliceOf(float start, float sweep, const std::vector<Fill>& fills, std::size_t index) {
+    PieSlice slice;
+    slice.StartAngle = start;
+    slice.SweepAngle = sweep;
+    if (index < fills.size()) {
+        slice.Fill = fills[index].Color;
+        slice.Hatch = fills[index].Hatch;
     }
     return slice;
 }
@@ -69,24 +72,25 @@ std::vector<float> SliceSweeps(const std::vector<double>& values, float totalSwe
 }
 
 std::vector<PieSlice> FlatSlices(float startAngle, const std::vector<float>& sweeps,
-                                 const std::vector<Color>& colors) {
+                                 const std::vector<Fill>& fills) {
     std::vector<PieSlice> slices;
     float angle = startAngle;
     for (std::size_t i = 0; i < sweeps.size(); ++i) {
-        slices.push_back(SliceOf(angle, sweeps[i], colors, i));
+        slices.push_back(SliceOf(angle, sweeps[i], fills, i));
         angle += sweeps[i];
     }
     return slices;
 }
 
 std::vector<PieSlice> DeepSlices(float startAngle, const std::vector<float>& sweeps,
-                                 const std::vector<Color>& colors) {
+                                 const std::vector<Fill>& fills, const ChartOptions& options) {
     std::vector<PieSlice> slices;
     float angle = startAngle;
     for (std::size_t i = 0; i < sweeps.size(); ++i) {
         const float seen = angle < kFullTurn ? angle : angle - kFullTurn;
-        slices.push_back(SliceOf(angle, sweeps[i], colors, i));
+        slices.push_back(SliceOf(angle, sweeps[i], fills, i));
         if (slices.back().Fill) {
+            slices.back().WallFill = ShadeOf(*slices.back().Fill, ShadedFace::PieWall, options);
             FindWalls(seen, slices.back());
         }
         angle = seen + sweeps[i];
@@ -99,8 +103,9 @@ void DrawSlices(IGraphicsEngine& engine, const PieShapes& shapes) {
         if (slice.Fill) {
             const penlode::SolidBrush brush{*slice.Fill};
             engine.FillPie(&brush, shapes.Face, slice.StartAngle, slice.SweepAngle);
+            HatchPie(engine, shapes.Face, slice.StartAngle, slice.SweepAngle, slice.Hatch);
             for (const PieWall& wall : slice.FrontWalls()) {
-                FillWall(engine, wall, shapes, penlode::Shaded(*slice.Fill, kWallShade));
+                FillWall(engine, wall, shapes, slice.WallFill);
             }
         }
         if (shapes.Outline != nullptr) {

@@ -5,7 +5,9 @@
 #include "foundation/ChartOptions.h"
 #include "foundation/ChartText.h"
 #include "foundation/Export.h"
+#include "foundation/Palette.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace millichart {
@@ -55,6 +57,12 @@ protected:
     void PlaceTitle(TitleSide side);
     void VisitLabels(const PieLabelProp& label, const TextVisitor& visit) const;
     void VisitTitle(const TextVisitor& visit) const;
+
+    /// What the slices, and the names in a legend, are filled with. For a PieBasicProp or a HalfPieBasicProp.
+    template <class Basic> std::vector<Fill> FillsFor(const Basic& basic) const {
+        return FillsOf(m_options, basic.ComponentColor,
+                       std::max(m_values.size(), basic.ComponentName.size()));
+    }
 
     ChartOptions m_options;
     std::vector<double> m_values;

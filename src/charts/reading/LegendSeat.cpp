@@ -119,7 +119,7 @@ private:
                LengthOf(tracks.Heights, m_between.Height) <= m_room.Height;
     }
 
-    /// As if all entries were as high as the highest.
+    /// As if all entries were as high as the highest. Two at least, a name and the count of the others.
     std::size_t MostRows() const {
         float highest = 0.0F;
         for (const SizeF& entry : m_entries) {
@@ -127,7 +127,8 @@ private:
         }
         const float rows = (m_room.Height + m_between.Height) / (highest + m_between.Height);
         const auto count = static_cast<float>(m_entries.size());
-        return rows >= 1.0F ? static_cast<std::size_t>(std::min(rows, count)) : 1;
+        const auto most = rows >= 2.0F ? static_cast<std::size_t>(std::min(rows, count)) : 2;
+        return std::min(most, m_entries.size());
     }
 
     /// One at least, the most up to `most` that find room side by side.
@@ -271,6 +272,15 @@ SeatedLegend SeatLegend(const LegendProp& prop, const std::vector<std::string>& 
     if (legend.LeftOut > 0) {
         TakeRest(swatchFactor, legend);
     }
+    return legend;
+}
+
+SeatedLegend Translated(SeatedLegend legend, penlode::PointF offset) {
+    for (RectF& item : legend.Items) {
+        item = penlode::Translated(item, offset);
+    }
+    legend.Box = penlode::Translated(legend.Box, offset);
+    legend.Rest = penlode::Translated(legend.Rest, offset);
     return legend;
 }
 

@@ -25,4 +25,7 @@ namespace millichart {
 SeatedLegend SeatLegend(const LegendProp& prop, const std::vector<std::string>& names, float swatchFactor,
                         const penlode::RectF& plot, const penlode::RectF& whole, bool hasAir);
 
+/// All of it moved.
+SeatedLegend Translated(SeatedLegend legend, penlode::PointF offset);
+
 } // namespace millichart

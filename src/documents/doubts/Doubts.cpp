@@ -27,13 +27,15 @@ struct Scene {
     std::vector<LegendBox> Legends;
 };
 
-void AddLegend(const LegendProp& prop, const std::vector<RectF>& items, std::size_t part, Scene& scene) {
-    if (prop.ShowLegend == 0 || items.empty()) {
+template <class Layout>
+void AddLegend(const LegendProp& prop, const Layout& layout, std::size_t part, Scene& scene) {
+    if (prop.ShowLegend == 0 || layout.LegendItemRects.empty()) {
         return;
     }
-    scene.Legends.push_back({UnionOf(items), part});
+    const RectF box = LegendBoxOf(layout.LegendItemRects, layout.Legend);
+    scene.Legends.push_back({box, part});
     if (prop.ShowBackground != 0) {
-        scene.Paints.push_back(PaintOf(UnionOf(items), prop.BackgroundColor));
+        scene.Paints.push_back(PaintOf(box, prop.BackgroundColor));
     }
 }
 
@@ -66,8 +68,7 @@ void AddBars(const CBasicHistogram& chart, const BarData& data, const std::strin
     AddBarValueDoubts(chart, data.Origin, diagnostics);
     AddBarHeightDoubts(chart, data.Origin, diagnostics);
     scene.Paints.push_back(PaintOf(chart));
-    AddLegend(chart.GetHistogramProp().Legend, chart.GetLayout().LegendItemRects, scene.Records.size(),
-              scene);
+    AddLegend(chart.GetHistogramProp().Legend, chart.GetLayout(), scene.Records.size(), scene);
     scene.Records.push_back({place, "Histogram"});
 }
 
@@ -93,7 +94,7 @@ void AddDoubts(const PieDocument& document, const CBasicPie& chart, Diagnostics&
     Scene scene{{{kRecord, "Pie"}}, {PaintOf(chart.GetShapes())}, {}};
     AddRecordDoubts(document.Prop, kRecord, diagnostics);
     AddSliceValueDoubts(chart, document.Prop.Label, document.Prop.Basic.ComponentName, "data", diagnostics);
-    AddLegend(document.Prop.Legend, chart.GetLayout().LegendItemRects, 0, scene);
+    AddLegend(document.Prop.Legend, chart.GetLayout(), 0, scene);
     AddTextDoubts(chart, scene, diagnostics);
 }
 
@@ -134,7 +135,7 @@ void AddDoubts(const CurveDocument& document, const CBasicCurve& chart, Diagnost
     AddRecordDoubts(document.Prop, kRecord, diagnostics);
     AddAxisLabelDoubts(chart, diagnostics);
     AddCurveSightDoubts(chart, document.Data.Origin, diagnostics);
-    AddLegend(document.Prop.Legend, chart.GetLayout().LegendItemRects, 0, scene);
+    AddLegend(document.Prop.Legend, chart.GetLayout(), 0, scene);
     AddTextDoubts(chart, scene, diagnostics);
 }
 

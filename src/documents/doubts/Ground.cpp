@@ -1,5 +1,8 @@
 #include "documents/doubts/Ground.h"
 
+#include "charts/reading/Shade.h"
+#include "foundation/Light.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -12,17 +15,8 @@ using penlode::Color;
 using penlode::PointF;
 using penlode::RectF;
 
-// How much darker the charts draw the sides of what has depth.
-constexpr std::uint32_t kTopShade = 60;
-constexpr std::uint32_t kSideShade = 100;
-constexpr std::uint32_t kWallShade = 60;
-
 bool Holds(const RectF& box, PointF point) {
     return point.X >= box.X && point.X <= box.Right() && point.Y >= box.Y && point.Y <= box.Bottom();
-}
-
-std::uint32_t Mixed(std::uint32_t over, std::uint32_t below, std::uint32_t alpha) {
-    return (over * alpha + below * (255U - alpha)) / 255U;
 }
 
 /// The slice in whose angles a point of the face's plane is; null where there is none.
@@ -53,12 +47,12 @@ void PaintSlice(const PieShapes& shapes, PointF point, Color& seen) {
     const bool isOnWall = down > rim;
     const PieSlice* const slice = SliceAt(shapes, isOnWall ? PointF{point.X, center.Y + rim} : point);
     if (slice != nullptr && slice->Fill) {
-        seen = isOnWall ? penlode::Shaded(*slice->Fill, kWallShade) : Over(*slice->Fill, seen);
+        seen = isOnWall ? slice->WallFill : Over(*slice->Fill, seen);
     }
 }
 
 /// The front, and the top and the side of a bar with depth.
-void PaintBar(const BarShape& bar, PointF depth, PointF point, Color& seen) {
+void PaintBar(const BarShape& bar, PointF depth, const ChartOptions& options, PointF point, Color& seen) {
     const RectF& front = bar.Front;
     if (Holds(front, point)) {
         seen = Over(bar.Fill, seen);
@@ -68,11 +62,11 @@ void PaintBar(const BarShape& bar, PointF depth, PointF point, Color& seen) {
     }
     const float up = (point.Y - front.Y) / depth.Y;
     if (up > 0.0F && up < 1.0F && Holds(front, {point.X - up * depth.X, front.Y})) {
-        seen = penlode::Shaded(bar.Fill, kTopShade);
+        seen = ShadeOf(bar.Fill, ShadedFace::BarTop, options);
     }
     const float right = (point.X - front.Right()) / depth.X;
     if (right > 0.0F && right < 1.0F && Holds(front, {front.Right(), point.Y - right * depth.Y})) {
-        seen = penlode::Shaded(bar.Fill, kSideShade);
+        seen = ShadeOf(bar.Fill, ShadedFace::BarSide, options);
     }
 }
 
@@ -88,12 +82,6 @@ Paint PlotPaint(std::int32_t isShown, const RectF& plot, Color color) {
 }
 
 } // namespace
-
-Color Over(Color color, Color below) {
-    const std::uint32_t alpha = color.A();
-    return Color::FromArgb(0xFFU, Mixed(color.R(), below.R(), alpha), Mixed(color.G(), below.G(), alpha),
-                           Mixed(color.B(), below.B(), alpha));
-}
 
 Paint PaintOf(const RectF& box, Color fill) {
     return [box, fill](PointF point, Color& seen) { seen = Holds(box, point) ? Over(fill, seen) : seen; };
@@ -112,7 +100,8 @@ Paint PaintOf(const CBasicHistogram& chart) {
     const Paint back =
         PlotPaint(prop.ShowBackground, penlode::Translated(plot, shapes.Depth), prop.PlotBackgroundColor);
     const float reach = chart.GetLayout().ComponentWidth + shapes.Depth.X;
-    return [shapes = std::move(shapes), front, back, reach](PointF point, Color& seen) {
+    return [shapes = std::move(shapes), options = chart.GetOptions(), front, back, reach](PointF point,
+                                                                                          Color& seen) {
         const Color page = seen;
         front(point, seen);
         if (seen == page) {
@@ -121,7 +110,7 @@ Paint PaintOf(const CBasicHistogram& chart) {
         const auto begin = std::lower_bound(shapes.Bars.begin(), shapes.Bars.end(), point.X - reach,
                                             [](const BarShape& bar, float x) { return bar.Front.X < x; });
         for (auto bar = begin; bar != shapes.Bars.end() && bar->Front.X <= point.X; ++bar) {
-            PaintBar(*bar, shapes.Depth, point, seen);
+            PaintBar(*bar, shapes.Depth, options, point, seen);
         }
     };
 }

@@ -18,9 +18,6 @@ using Paint = std::function<void(penlode::PointF, penlode::Color& seen)>;
 /// What the parts of a chart show, in the order in which they are drawn.
 using Ground = std::vector<Paint>;
 
-/// `color` over an opaque one.
-penlode::Color Over(penlode::Color color, penlode::Color below);
-
 Paint PaintOf(const PieShapes& shapes);
 /// The chart must outlive it.
 Paint PaintOf(const CBasicHistogram& chart);

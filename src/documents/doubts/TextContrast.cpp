@@ -1,6 +1,7 @@
 #include "documents/doubts/TextContrast.h"
 
 #include "documents/Fields.h"
+#include "foundation/Light.h"
 #include "penlode/streams/TextForms.h"
 
 #include <algorithm>
@@ -18,20 +19,6 @@ using penlode::Color;
 constexpr double kReadable = 2.0;
 /// So many texts of a chart are looked at: where no one of them can be read, that is found long before.
 constexpr std::size_t kMaxTexts = 2000;
-
-double Linear(std::uint32_t channel) {
-    const double share = channel / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(Color color) {
-    return 0.2126 * Linear(color.R()) + 0.7152 * Linear(color.G()) + 0.0722 * Linear(color.B());
-}
-
-double Contrast(Color a, Color b) {
-    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
-    return (light + 0.05) / (dark + 0.05);
-}
 
 std::string ColorText(Color color) {
     std::string text;
@@ -55,7 +42,7 @@ Unreadable Look(const SeenText& text, const Ground& ground) {
     for (const float across : {0.1F, 0.3F, 0.5F, 0.7F, 0.9F}) {
         const Color below = ColorAt(ground, text.At(across, 0.5F));
         const Color under = found.IsBoxed ? Over(look->BkColor, below) : below;
-        if (Contrast(Over(found.Text, under), under) < kReadable) {
+        if (ContrastOf(Over(found.Text, under), under) < kReadable) {
             found.Ground = under;
             ++lost;
         }
