@@ -4,7 +4,6 @@
 #include "documents/DocumentDefaults.h"
 #include "documents/tables/QuerySource.h"
 #include "documents/tables/Table.h"
-#include "foundation/TextPropertyOperation.h"
 #include "penlode/streams/JsonSerializeStream.h"
 #include "penlode/text/Digits.h"
 #include "penlode/text/StringUtil.h"
@@ -33,7 +32,9 @@ constexpr std::array kGroups{"property/CaptionProp",
                              "property/HalfPie/HalfPieBasicProp",
                              "property/Histogram/HistogramPlotProp",
                              "property/HistogramPlotProp",
-                             "property/CurvePlotProp"};
+                             "property/CurvePlotProp",
+                             "options/Title",
+                             "options/SecondTitle"};
 constexpr std::array kTexts{"title", "description", "source", "Caption", "VerCaption"};
 constexpr std::array kFlags{"ShowCaption", "ShowVerCaption"};
 constexpr std::array kOrderNames{"", "ascending", "descending", "name"};
@@ -109,17 +110,22 @@ std::string TitleAbove(const TableInput& table) {
     return isThere ? documents::TableTitle(table) : "";
 }
 
-/// Also as the caption, if the kind has one; the line break keeps it off the plot.
+/// Also as the caption, or as the title of a chart without one.
 void SaveTitle(CJsonSerializeStream& json, const std::string& title) {
     SaveText(json, "title", title);
     json.Push("property", -1);
-    if (!title.empty() && json.Has("CaptionProp")) {
-        json.Push("CaptionProp", -1);
-        SaveText(json, "Caption", title + "\n");
-        json.Set("property/CaptionProp/ShowCaption", "true");
+    const bool hasCaption = json.Has("CaptionProp");
+    json.Pop();
+    const char* const group = hasCaption ? "property" : "options";
+    const char* const caption = hasCaption ? "CaptionProp" : "Title";
+    if (!title.empty()) {
+        json.Push(group, -1);
+        json.Push(caption, -1);
+        SaveText(json, "Caption", title);
+        json.Set(std::string(group) + "/" + caption + "/ShowCaption", "true");
+        json.Pop();
         json.Pop();
     }
-    json.Pop();
 }
 
 /// The kind's example without what is of its own data, on a table if that has a name.
@@ -162,7 +168,7 @@ public:
         SetFlag("property/HistogramLegendProp/ShowLegend", prop.Legend.ShowLegend,
                 document.Data.Components() > 1 && AreNamed(document.Data.ComponentNames));
         SetFlag("property/HistogramPlotProp/ShowComponentValue", prop.Plot.ShowComponentValue,
-                prop.Plot.PieStyle == BarStyle::Flat && AreReadable(document.Data.Values));
+                AreFew(document.Data.Values));
         SetValueCaption("property/HistogramVerAxisProp", prop.VerAxis, document.Data.ComponentNames);
         if (document.Data.Origin.ArePercent) {
             SetPercent("property/HistogramVerAxisProp/VerAxisLabelTextProperty",
@@ -170,7 +176,7 @@ public:
             SetPercent("property/HistogramPlotProp/ComponentInfoTextProperty",
                        prop.Plot.ComponentInfoTextProperty);
         }
-        SuitWidth(prop, document.Data.GroupNames, std::max<std::size_t>(document.Data.Values.size(), 1));
+        SuitWidth(prop, std::max<std::size_t>(document.Data.Values.size(), 1));
     }
 
     void operator()(CurveDocument& document) const {
@@ -186,21 +192,13 @@ public:
     template <class Document> void operator()(Document&) const {}
 
 private:
-    /// Gaps leave room for the bars, and names that are wider than their groups are turned.
-    void SuitWidth(HistogramProp& prop, const std::vector<std::string>& names, std::size_t groups) const {
+    /// Gaps leave room for the bars.
+    void SuitWidth(HistogramProp& prop, std::size_t groups) const {
         constexpr float kGapPart = 0.35F;
-        constexpr std::int32_t kUpwards = 90;
-        const float width = prop.Plot.PlotWidth / static_cast<float>(groups);
         if (!IsAsked("property/HistogramPlotProp/GroupDistane")) {
+            const float width = prop.Plot.PlotWidth / static_cast<float>(groups);
             const float gap = std::round(width * kGapPart * 10.0F) / 10.0F;
             prop.Plot.GroupDistane = std::min(prop.Plot.GroupDistane, gap);
-        }
-        TextProperty& look = prop.HorAxis.GroupNameTextProperty;
-        const bool areWide = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-            return CTextPropertyOperation::GetTextSize(name, look).Width > width;
-        });
-        if (areWide && !IsAsked("property/HistogramHorAxisProp/GroupNameTextProperty/Angle")) {
-            look.Angle = kUpwards;
         }
     }
 
@@ -232,20 +230,16 @@ private:
         const bool isNamed = names.size() == 1 && !names.front().empty();
         if (isNamed && !IsAsked(place + "/VerCaption") && !IsAsked(place + "/ShowVerCaption")) {
             axis.ShowVerCaption = 1;
-            axis.VerCaption = names.front() + "\n";
+            axis.VerCaption = names.front();
         }
     }
 
-    /// Bars show whole values, and many have no place for them.
-    static bool AreReadable(const std::vector<std::vector<double>>& groups) {
-        constexpr std::size_t kFewBars = 24;
+    /// Many values at bars have no place.
+    static bool AreFew(const std::vector<std::vector<double>>& groups) {
+        constexpr std::size_t kFewBars = 40;
         std::size_t bars = 0;
         for (const std::vector<double>& group : groups) {
             bars += group.size();
-            if (std::any_of(group.begin(), group.end(),
-                            [](double value) { return value != std::trunc(value) && !std::isnan(value); })) {
-                return false;
-            }
         }
         return bars <= kFewBars;
     }

@@ -158,8 +158,7 @@ private:
     std::vector<Fill> FillsOfBars() const;
     void VisitGroupNames(const TextVisitor& visit) const;
     void VisitBarLabels(const TextVisitor& visit) const;
-    void VisitFittedLabel(const TextVisitor& visit, std::size_t group, std::size_t component,
-                          const std::string& text) const;
+    void VisitFittedLabels(const TextVisitor& visit) const;
     void DrawBaseLine(penlode::IGraphicsEngine& engine) const;
     void DrawFlatBackground(penlode::IGraphicsEngine& engine) const;
     void DrawFlatGrids(penlode::IGraphicsEngine& engine) const;

@@ -280,15 +280,17 @@ void CBasicHistogram::VisitGroupNames(const TextVisitor& visit) const {
 
 /// On the bar's top side by side, at its right when stacked.
 void CBasicHistogram::VisitBarLabels(const TextVisitor& visit) const {
+    if (!m_layout.ValueLabels.empty()) {
+        VisitFittedLabels(visit);
+        return;
+    }
     const HistogramPlotProp& prop = m_prop.Plot;
     const bool isStacked = prop.Juxtaposition == 0;
     VisitFronts([&](std::size_t group, std::size_t i, const RectF& bar) {
         const PointF at = isStacked ? PointF{bar.X + bar.Width, bar.Y + bar.Height * 0.5F}
                                     : PointF{bar.X + bar.Width * 0.5F, bar.Y};
         const std::string text = ComponentInfo(group, i);
-        if (!m_layout.ValueLabels.empty()) {
-            VisitFittedLabel(visit, group, i, text);
-        } else if (!text.empty()) {
+        if (!text.empty()) {
             CTextPropertyOperation::Visit(visit, {TextRole::BarLabel, group, i}, text,
                                           prop.ComponentInfoTextProperty, at,
                                           isStacked ? TextAnchor::LeftCenter : TextAnchor::BottomCenter);
@@ -296,20 +298,20 @@ void CBasicHistogram::VisitBarLabels(const TextVisitor& visit) const {
     });
 }
 
-void CBasicHistogram::VisitFittedLabel(const TextVisitor& visit, std::size_t group, std::size_t component,
-                                       const std::string& text) const {
-    const PlacedValue& label = m_layout.ValueLabels[group][component];
-    const std::vector<Color>& colors = m_prop.Plot.ComponentColor;
-    const auto contrasting = [&](ChartText&& chartText) {
-        if (label.IsInside && component < colors.size()) {
-            chartText.Color = ReadableOn(colors[component]);
+void CBasicHistogram::VisitFittedLabels(const TextVisitor& visit) const {
+    const std::vector<Fill> fills = FillsOfBars();
+    VisitFronts([&](std::size_t group, std::size_t i, const RectF&) {
+        const PlacedValue& label = m_layout.ValueLabels[group][i];
+        if (!label.IsShown) {
+            return;
         }
-        visit(std::move(chartText));
-    };
-    if (label.IsShown) {
-        CTextPropertyOperation::Visit(contrasting, {TextRole::BarLabel, group, component}, text,
+        const auto contrasting = [&](ChartText&& text) {
+            text.Color = label.IsInside && i < fills.size() ? ReadableOn(fills[i].Color) : text.Color;
+            visit(std::move(text));
+        };
+        CTextPropertyOperation::Visit(contrasting, {TextRole::BarLabel, group, i}, ComponentInfo(group, i),
                                       m_prop.Plot.ComponentInfoTextProperty, label.Center);
-    }
+    });
 }
 
 /// Empty for a label that shows nothing.

@@ -105,6 +105,7 @@ void CBasicHistogram::PlaceValueLabels() {
     }
     PointF depth;
     Calc3DComponentBackSurfaceOffset(depth.X, depth.Y);
+    const std::vector<Fill> fills = FillsOfBars();
     std::vector<ValueToPlace> values;
     for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
         for (std::size_t i = 0; i < m_layout.ComponentRects[group].size(); ++i) {
@@ -112,7 +113,8 @@ void CBasicHistogram::PlaceValueLabels() {
             values.push_back(
                 {Normal(m_layout.ComponentRects[group][i]),
                  CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), prop.ComponentInfoTextProperty),
-                 value, value < 0.0, prop.Juxtaposition == 0});
+                 value, value < 0.0, prop.Juxtaposition == 0,
+                 i < fills.size() && fills[i].Hatch != Hatch::None});
         }
     }
     const RectF& plot = m_layout.Plot;

@@ -127,7 +127,7 @@ PointF Outside(const ValueToPlace& value, PointF depth) {
 std::optional<PointF> Inside(const ValueToPlace& value) {
     const RectF& bar = value.Front;
     const SizeF& label = value.Label;
-    if (label.Width + 2.0F * kGap > bar.Width || label.Height > bar.Height) {
+    if (value.IsHatched || label.Width + 2.0F * kGap > bar.Width || label.Height > bar.Height) {
         return std::nullopt;
     }
     if (value.IsBeside) {

@@ -14,6 +14,7 @@ struct ValueToPlace {
     double Value = 0.0;    ///< labels of greater values, whatever their sign, come first
     bool Hangs = false;    ///< the bar is below what it stands on
     bool IsBeside = false; ///< the label stands at the bar's right, not at its end
+    bool IsHatched = false; ///< nothing can be read on the front
 };
 
 /// Where a value's label stands.
