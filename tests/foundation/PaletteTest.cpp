@@ -80,7 +80,7 @@ TEST(Palette, LaterSafeColoursStayReadableAndUnlikeTheirNeighbours) {
     for (std::size_t i = 0; i < fills.size(); ++i) {
         colours.insert(fills[i].Color.Argb);
         EXPECT_GE(ContrastOf(fills[i].Color, penlode::kWhite), 1.5) << i;
-        EXPECT_GE(Distance(fills[i].Color, fills[(i + 1) % fills.size()].Color, kDeuteranopia), 0.08) << i;
+        EXPECT_GE(Distance(fills[i].Color, fills[(i + 1) % fills.size()].Color, kDeuteranopia), 0.07) << i;
     }
     EXPECT_EQ(colours.size(), fills.size());
 }

@@ -166,6 +166,34 @@ TEST(BasicPie, LegendStandsBesidePieAndLabelsAndCountsIntoTheWhole) {
     ExpectNear(pie.GetPositionAll(), {45, 40, 19, 20});
 }
 
+TEST(BasicPie, ALegendOnThePlotStandsAtItAndFollowsItsOffset) {
+    PieProp prop = TwoSlices();
+    prop.Legend.ShowLegend = 1;
+    prop.Legend.LegendPos = LegendPosition::BottomCenter;
+    CBasicPie pie = LaidOut(prop, {50, 50});
+    ChartOptions options;
+    options.Legend = LegendSeat::OnPlot;
+    pie.SetOptions(options);
+    pie.Layout();
+    const LegendFrame seated = pie.GetLayout().Legend;
+    EXPECT_FLOAT_EQ(seated.Box.Center().X, 50);
+    EXPECT_FLOAT_EQ(seated.Box.Y, 57);
+    ExpectNear(pie.GetPositionAll(), penlode::Union({45, 45, 10, 10}, seated.Box));
+
+    pie.SetChildOffset({}, {{3, 4}});
+    pie.Layout();
+    RectF whole;
+    std::vector<RectF> labels;
+    std::vector<RectF> legend;
+    pie.GetChildPosition(whole, labels, legend);
+    ASSERT_EQ(legend.size(), 1U);
+    ExpectNear(legend[0], penlode::Translated(seated.Box, {3, 4}));
+
+    pie.SetOptions({});
+    pie.Layout();
+    EXPECT_FALSE(pie.GetLayout().Legend.IsSeated());
+}
+
 TEST(BasicPie, DraggedPartsKeepTheirOffsets) {
     PieProp prop = TwoSlices();
     prop.Label.ShowNameLabel = 1;
