@@ -43,6 +43,18 @@ template <class Entry> std::optional<Halves<Entry>> Split(const std::vector<Entr
     return Halves<Entry>{{all.begin(), separator}, {separator + 1, all.end()}};
 }
 
+HalfPieProp WithoutLabels(HalfPieProp half) {
+    half.Label.ShowNameLabel = 0;
+    half.Label.ShowValueLabel = 0;
+    half.Label.ShowPercentLabel = 0;
+    return half;
+}
+
+ChartOptions WithoutTitle(ChartOptions options) {
+    options.Title.ShowCaption = 0;
+    return options;
+}
+
 ChartOptions ForSecond(ChartOptions options) {
     options.Title = options.SecondTitle;
     return options;
@@ -59,15 +71,22 @@ void CBasicHalfPieHalfPie::SetComponentValue(const std::vector<double>& first,
 void CBasicHalfPieHalfPie::Layout() {
     m_first.SetLocation(m_location);
     m_second.SetLocation(m_location);
-    m_first.SetOptions(m_options);
     m_second.SetOptions(ForSecond(m_options));
-    m_first.SetHalfPieProp(m_prop.First);
     m_second.SetHalfPieProp(m_prop.Second);
     m_first.SetComponentValue(m_firstValues);
     m_second.SetComponentValue(m_secondValues);
-    m_first.Layout();
     m_second.Layout();
+    const bool isSilent = IsFirstCovered();
+    m_first.SetOptions(isSilent ? WithoutTitle(m_options) : m_options);
+    m_first.SetHalfPieProp(isSilent ? WithoutLabels(m_prop.First) : m_prop.First);
+    m_first.Layout();
     m_whole = penlode::Union(m_first.GetPositionAll(), m_second.GetPositionAll());
+}
+
+bool CBasicHalfPieHalfPie::IsFirstCovered() const {
+    const auto isUpper = [](const HalfPieProp& half) { return half.Basic.WhichPart == HalfPiePart::Upper; };
+    return m_options.SliceLabels == SliceLabelFit::Apart && isUpper(m_prop.First) == isUpper(m_prop.Second) &&
+           m_second.GetLayout().Pie.Width > 0.0F;
 }
 
 void CBasicHalfPieHalfPie::Draw(IGraphicsEngine* engine) const {

@@ -26,6 +26,8 @@ struct HalfPieHalfPieShapes {
 /// Setters only store; Layout hands everything to the two halves and lays them out; Draw and the getters read
 /// the last layout. A plain value: copies share nothing.
 ///
+/// Where options keep labels apart and both fill the same half, the first has neither labels nor title.
+///
 /// The labels of both halves are exchanged as one list: the first half's,
 /// kHalvesSeparator, the second half's.
 class MILLICHART_API CBasicHalfPieHalfPie {
@@ -90,6 +92,9 @@ public:
                         const std::vector<penlode::PointF>& legend);
 
 private:
+    /// By the second, which fills the same half. Its labels would lie under the second's.
+    bool IsFirstCovered() const;
+
     ChartOptions m_options;
     HalfPieHalfPieProp m_prop;
     std::vector<double> m_firstValues;

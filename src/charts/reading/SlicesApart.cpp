@@ -255,13 +255,6 @@ double AcrossForLead(const Member& member, const SliceRim& rim, const Orbit& orb
     return across / narrowing;
 }
 
-void Widen(Orbit& orbit, const Side& side, const SliceRim& rim) {
-    const double most = std::max(orbit.Across, rim.Across * (1.0 + kMostWidening));
-    for (const Member& member : side) {
-        orbit.Across = std::max(orbit.Across, std::min(most, AcrossForLead(member, rim, orbit)));
-    }
-}
-
 /// The tops beyond which not even a line to the widest orbit would pass outside the pie. On an ellipse as on
 /// the circle that it was squeezed from.
 void LimitLeads(Side& side, const SliceRim& rim, const Orbit& orbit) {
@@ -278,21 +271,32 @@ void LimitLeads(Side& side, const SliceRim& rim, const Orbit& orbit) {
     }
 }
 
-/// Beside the orbit if possible; else the orbit is stretched as far as its labels need it.
-void Stack(Side& side, const SliceRim& rim, Orbit& orbit, double mostHeight) {
-    if (SideSpread(side, rim, orbit, true).Spread()) {
-        return;
+/// Beside the orbit if possible; else as far above and below it as the highest stack reaches.
+void Stack(Side& side, const SliceRim& rim, Orbit orbit, double mostHeight) {
+    if (!SideSpread(side, rim, orbit, true).Spread()) {
+        orbit.Up = std::max(orbit.Up, NeededUp(mostHeight, side, rim, orbit));
+        SideSpread(side, rim, orbit, false).Spread();
     }
-    const double up = orbit.Up;
-    orbit.Up = std::max(up, NeededUp(mostHeight, side, rim, orbit));
-    SideSpread(side, rim, orbit, false).Spread();
-    orbit.Up = std::accumulate(side.begin(), side.end(), up, [&](double most, const Member& member) {
-        return std::max(most, orbit.Beyond(member.Top, member.Bottom()));
+}
+
+/// Stretches the orbit as far as these members need it, widens it for their lead lines, and leans them on it.
+void LeanOnOrbit(Side::iterator begin, Side::iterator end, const SliceRim& rim, Orbit orbit, bool hasLeads) {
+    std::for_each(begin, end, [&](const Member& member) {
+        orbit.Up = std::max(orbit.Up, orbit.Beyond(member.Top, member.Bottom()));
+    });
+    const double widest = std::max(orbit.Across, rim.Across * (1.0 + kMostWidening));
+    std::for_each(begin, hasLeads ? end : begin, [&](const Member& member) {
+        orbit.Across = std::max(orbit.Across, std::min(widest, AcrossForLead(member, rim, orbit)));
+    });
+    std::for_each(begin, end, [&](Member& member) {
+        member.Inner = orbit.Inner(member.Top, member.Bottom());
+        member.Tip = orbit.TipHeight(member.Rim.Y, member.Top, member.Bottom());
     });
 }
 
-/// Leaves every member of a side with its place.
-void SpreadSide(Side& side, const SliceRim& rim, Orbit orbit, bool hasLeads) {
+/// Leaves every member of a side with its place. Each quarter has an orbit of its own, so that a crowd moves
+/// nothing in the other, unless labels have come over the line between them.
+void SpreadSide(Side& side, const SliceRim& rim, const Orbit& orbit, bool hasLeads) {
     if (side.empty()) {
         return;
     }
@@ -302,13 +306,13 @@ void SpreadSide(Side& side, const SliceRim& rim, Orbit orbit, bool hasLeads) {
         LimitLeads(side, rim, orbit);
     }
     Stack(side, rim, orbit, std::max(mostHeight, StackHeight(side)));
-    if (hasLeads) {
-        Widen(orbit, side, rim);
-    }
-    for (Member& member : side) {
-        member.Inner = orbit.Inner(member.Top, member.Bottom());
-        member.Tip = orbit.TipHeight(member.Rim.Y, member.Top, member.Bottom());
-    }
+    const auto lower =
+        std::find_if(side.begin(), side.end(), [](const Member& member) { return member.Down >= 0.0; });
+    const bool areQuartersApart = (lower == side.begin() || std::prev(lower)->Bottom() <= 0.0) &&
+                                  (lower == side.end() || lower->Top >= rim.Depth);
+    const auto middle = areQuartersApart ? lower : side.end();
+    LeanOnOrbit(side.begin(), middle, rim, orbit, hasLeads);
+    LeanOnOrbit(middle, side.end(), rim, orbit, hasLeads);
 }
 
 /// Only the highest of both sides, and the lowest, can come as near to the middle.
@@ -381,7 +385,8 @@ private:
         const Member member = MemberAt(index, label, isRight ? angle : 180.0 - angle, m_rim, m_orbit);
         const PointF rim = OnPage(isRight ? 1.0 : -1.0, member.Rim.X, member.Rim.Y);
         m_placed[index] = {false, {rim.X, rim.Y, 0.0F, 0.0F}, rim, rim};
-        const bool hasPlace = penlode::AreFinite(rim.X, rim.Y, member.Wanted, member.Width, member.Height);
+        const bool hasPlace =
+            penlode::AreFinite(rim.X, rim.Y, member.Wanted, member.Width, member.Height, member.Share);
         if (hasPlace && member.Width > 0.0 && member.Height > 0.0) {
             (isRight ? m_right : m_left).push_back(member);
         }
