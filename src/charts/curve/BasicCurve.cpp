@@ -2,7 +2,9 @@
 
 #include "charts/cartesian/CartesianPlacement.h"
 #include "charts/cartesian/ReadableFrame.h"
+#include "charts/curve/CurveMarker.h"
 #include "charts/curve/CurvePlacement.h"
+#include "charts/reading/TimeTicks.h"
 #include "foundation/TextPropertyOperation.h"
 
 #include <algorithm>
@@ -13,15 +15,6 @@ namespace millichart {
 using penlode::PointF;
 using penlode::RectF;
 using penlode::SizeF;
-
-namespace {
-
-/// The distance between neighbours of `count` labels, two or more, that stand over the plot's whole width.
-float LabelDistance(const RectF& plot, std::size_t count) {
-    return plot.Width / static_cast<float>(count - 1);
-}
-
-} // namespace
 
 bool CBasicCurve::SetCurveProp(const CurveProp& prop) {
     m_prop = prop;
@@ -44,12 +37,16 @@ void CBasicCurve::Layout() {
     Reset(m_layout, m_location);
     m_layout.VerCaptionSize = {};
     m_layout.HorCaptionSize = {};
+    m_layout.LabelsBelow = HorLabels::Spread;
+    m_layout.HorLabelTimes.clear();
+    m_layout.HorLabelTexts.clear();
     m_layout.HorLabelRects.clear();
     m_layout.HorLabelSizes.clear();
     m_layout.Curves.resize(m_values.size());
     if (m_values.empty()) {
         return;
     }
+    TakeHorLabels();
     const FrameSizes sizes{CalcHorCaptionSize(), CalcVerAxisSize(), CalcHorAxisSize(), CalcPlotSize()};
     PlaceFrame(sizes, m_location, {}, m_layout);
     CalcVerAxisScale();
@@ -106,8 +103,68 @@ SizeF CBasicCurve::CalcHorAxisSize() {
             m_layout.HorCaptionSize.Height + labelHeight + TickAllowance(axis.ScaleStyle)};
 }
 
+HorLabels CBasicCurve::ChooseLabels() const {
+    if (m_options.TimeLabels != TimeLabels::AtTimes) {
+        return HorLabels::Spread;
+    }
+    if (m_options.TimeUnit == TimeUnit::Days || m_options.TimeUnit == TimeUnit::Seconds) {
+        return HorLabels::Made;
+    }
+    return m_labelTimes.empty() ? HorLabels::Spread : HorLabels::AtTimes;
+}
+
+void CBasicCurve::TakeHorLabels() {
+    m_layout.LabelsBelow = ChooseLabels();
+    std::vector<TimeTick> ticks;
+    if (m_layout.LabelsBelow == HorLabels::Made && HasTimes()) {
+        const TextProperty& look = m_prop.HorAxis.HorLabelTextProperty;
+        ticks = TimeTicksThatFit(
+            {m_timeSpan.Min, m_timeSpan.Max, m_options.TimeUnit}, m_prop.Plot.PlotWidth - 2.0F * Inset(),
+            [&look](const std::string& text) { return CTextPropertyOperation::GetTextSize(text, look); });
+    } else if (m_layout.LabelsBelow == HorLabels::AtTimes) {
+        ticks = LabelsWithin(m_timeSpan.Min, m_timeSpan.Max, m_labelTimes, m_labels);
+    }
+    for (TimeTick& tick : ticks) {
+        m_layout.HorLabelTimes.push_back(tick.Time);
+        m_layout.HorLabelTexts.push_back(std::move(tick.Text));
+    }
+}
+
+bool CBasicCurve::HasTimes() const {
+    const std::size_t curves = std::min(m_values.size(), m_times.size());
+    return std::any_of(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(curves),
+                       [](const std::vector<std::int32_t>& times) { return !times.empty(); });
+}
+
+/// Those that are spread are the present ones, which may have changed since the layout.
+const std::vector<std::string>& CBasicCurve::HorLabelTexts() const {
+    return m_layout.LabelsBelow == HorLabels::Spread ? m_labels : m_layout.HorLabelTexts;
+}
+
 bool CBasicCurve::ShowsHorLabels() const {
-    return m_prop.HorAxis.ShowLabel != 0 && m_labels.size() >= kFewestLabels;
+    const std::size_t fewest = m_layout.LabelsBelow == HorLabels::Spread ? kFewestLabels : 1;
+    return m_prop.HorAxis.ShowLabel != 0 && HorLabelTexts().size() >= fewest;
+}
+
+/// Half of the widest marker that is drawn.
+float CBasicCurve::Inset() const {
+    constexpr float kMostOfWidth = 0.1F;
+    if (m_options.Air != ChartAir::ThirdOfLine) {
+        return 0.0F;
+    }
+    float widest = 0.0F;
+    const std::size_t curves = std::min(m_prop.Plot.CurveName.size(), m_values.size());
+    for (std::size_t i = 0; i < curves; ++i) {
+        const CurveStyle style = StyleOf(m_prop.Plot, i, m_options);
+        widest = CurveMarker(style).IsDrawn() ? std::max(widest, style.DotWidth) : widest;
+    }
+    return std::min(widest * 0.5F, std::max(m_prop.Plot.PlotWidth, 0.0F) * kMostOfWidth);
+}
+
+RectF CBasicCurve::TimeArea() const {
+    const float inset = Inset();
+    const RectF& plot = m_layout.Plot;
+    return {plot.X + inset, plot.Y, plot.Width - 2.0F * inset, plot.Height};
 }
 
 SizeF CBasicCurve::CalcHorAxisLabelSize() {
@@ -116,7 +173,7 @@ SizeF CBasicCurve::CalcHorAxisLabelSize() {
     if (!ShowsHorLabels()) {
         return largest;
     }
-    for (const std::string& label : m_labels) {
+    for (const std::string& label : HorLabelTexts()) {
         const SizeF size = CTextPropertyOperation::GetTextSize(label, m_prop.HorAxis.HorLabelTextProperty);
         m_layout.HorLabelSizes.push_back(size);
         largest = {std::max(largest.Width, size.Width), std::max(largest.Height, size.Height)};
@@ -130,13 +187,18 @@ void CBasicCurve::CalcVerAxisScale() {
 
 void CBasicCurve::CalcHorAxisScale() {
     m_layout.HorTicks.clear();
-    if (m_labels.size() < kFewestLabels) {
+    const RectF area = TimeArea();
+    const float bottom = area.Y + area.Height;
+    const TimeScale across(area, m_timeSpan);
+    for (const std::int32_t time : m_layout.HorLabelTimes) {
+        m_layout.HorTicks.push_back({across.At(time), bottom});
+    }
+    if (m_layout.LabelsBelow != HorLabels::Spread || m_labels.size() < kFewestLabels) {
         return;
     }
-    const RectF& plot = m_layout.Plot;
-    const float distance = LabelDistance(plot, m_labels.size());
+    const float distance = area.Width / static_cast<float>(m_labels.size() - 1);
     for (std::size_t i = 0; i < m_labels.size(); ++i) {
-        m_layout.HorTicks.push_back({plot.X + static_cast<float>(i) * distance, plot.Y + plot.Height});
+        m_layout.HorTicks.push_back({area.X + static_cast<float>(i) * distance, bottom});
     }
 }
 
@@ -144,22 +206,19 @@ void CBasicCurve::CalcVerAxisLabelRect() {
     PlaceVerLabels(m_prop.VerAxis, m_layout);
 }
 
+/// Under the ticks, of which there is one a label.
 void CBasicCurve::CalcHorAxisLabelRect() {
-    const std::vector<SizeF>& sizes = m_layout.HorLabelSizes;
     m_layout.HorLabelRects.clear();
-    if (m_prop.HorAxis.ShowLabel == 0 || sizes.size() < kFewestLabels) {
-        return;
-    }
-    const RectF& plot = m_layout.Plot;
-    const float distance = LabelDistance(plot, sizes.size());
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        m_layout.HorLabelRects.push_back({plot.X + static_cast<float>(i) * distance - sizes[i].Width * 0.5F,
-                                          plot.Y + plot.Height + kTickRoom, sizes[i].Width, sizes[i].Height});
+    for (std::size_t i = 0; i < m_layout.HorLabelSizes.size(); ++i) {
+        const SizeF size = m_layout.HorLabelSizes[i];
+        const PointF tick = m_layout.HorTicks[i];
+        m_layout.HorLabelRects.push_back(
+            {tick.X - size.Width * 0.5F, tick.Y + kTickRoom, size.Width, size.Height});
     }
 }
 
 void CBasicCurve::CalcCurvePoint() {
-    const CurveScales scales{m_layout.Plot, m_timeSpan, m_axis};
+    const CurveScales scales{TimeArea(), m_timeSpan, m_axis};
     m_layout.Curves.resize(m_values.size());
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         const std::size_t count = i < m_times.size() ? std::min(m_values[i].size(), m_times[i].size()) : 0;
@@ -177,8 +236,8 @@ void CBasicCurve::PlaceLegendAndShift() {
 
 void CBasicCurve::ReadFrame() {
     const CurveHorAxisProp& hor = m_prop.HorAxis;
-    std::vector<std::string> labels = m_labels;
-    const std::size_t step = HorLabelStep();
+    std::vector<std::string> labels = HorLabelTexts();
+    const std::size_t step = StepOf(hor.LabelStep);
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i] = i % step == 0 ? std::move(labels[i]) : std::string();
     }

@@ -8,7 +8,7 @@
 #include "foundation/Export.h"
 #include "penlode/IGraphicsEngine.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,8 +18,18 @@ namespace millichart {
 /// A curve's sample in the legend is twice as wide as its item is high.
 inline constexpr float kLegendSampleFactor = 2.0F;
 
+/// Which labels stand below a line chart, and where.
+enum class HorLabels {
+    Spread,  ///< the host's, evenly
+    AtTimes, ///< the host's, at their times
+    Made     ///< the chart's own, at round dates
+};
+
 /// Where everything of a line chart stands, in mm of the page.
 struct CurveLayout : CartesianLayout {
+    HorLabels LabelsBelow = HorLabels::Spread;
+    std::vector<std::int32_t> HorLabelTimes;   ///< of those that are not spread, ascending
+    std::vector<std::string> HorLabelTexts;    ///< parallel to the times
     std::vector<penlode::RectF> HorLabelRects; ///< one per label, or none
     std::vector<penlode::SizeF> HorLabelSizes; ///< parallel to the rectangles
     std::vector<CurveTrace> Curves;            ///< one per list of values
@@ -63,11 +73,19 @@ public:
     const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_times; }
 
     /// Narrow texts (GBK; CStringUtil::Utf8ToAnsi), spread evenly over the plot's width whatever the times
-    /// are; shown if there are two or more.
+    /// are, and shown if there are two or more; or at times of their own (see SetHorAxisLabelTimes).
     void SetHorAxisLabel(std::vector<std::string> labels) { m_labels = std::move(labels); }
 
     /// As set, whether or not they have been laid out since.
     const std::vector<std::string>& GetHorAxisLabel() const { return m_labels; }
+
+    /// With TimeLabels::AtTimes label j stands at time j of these, in the unit of the data's times. A label
+    /// without a time, a time without a label, and one outside the data's times is not there. With a unit of
+    /// dates the chart has labels of its own.
+    void SetHorAxisLabelTimes(std::vector<std::int32_t> times) { m_labelTimes = std::move(times); }
+
+    /// As set, whether or not they have been laid out since.
+    const std::vector<std::int32_t>& GetHorAxisLabelTimes() const { return m_labelTimes; }
 
     /// With no curves, everything is empty at the location.
     void Layout();
@@ -126,12 +144,17 @@ private:
     /// The fewest labels that can be spread from edge to edge.
     static constexpr std::size_t kFewestLabels = 2;
 
+    HorLabels ChooseLabels() const;
+    /// The texts and times of labels that are not spread.
+    void TakeHorLabels();
+    bool HasTimes() const;
+    const std::vector<std::string>& HorLabelTexts() const;
     bool ShowsHorLabels() const;
-
-    std::size_t HorLabelStep() const {
-        return static_cast<std::size_t>(std::max(m_prop.HorAxis.LabelStep, 1));
-    }
-
+    float Inset() const;
+    /// The part of the plot over whose width the times span.
+    penlode::RectF TimeArea() const;
+    /// Of ticks, labels and lines below the plot; the chart's own are all drawn.
+    std::size_t StepOf(std::int32_t step) const;
     void PlaceLegendAndShift();
     void ReadFrame();
     void MoveAll(penlode::PointF by);
@@ -144,6 +167,7 @@ private:
     std::vector<std::vector<double>> m_values;
     std::vector<std::vector<std::int32_t>> m_times;
     std::vector<std::string> m_labels;
+    std::vector<std::int32_t> m_labelTimes;
     CurveLayout m_layout;
     TimeSpan m_timeSpan;
 };

@@ -16,10 +16,6 @@ using penlode::RectF;
 
 namespace {
 
-std::size_t StepOf(std::int32_t step) {
-    return static_cast<std::size_t>(std::max(step, 1));
-}
-
 bool IsPlaced(PointF point) {
     return std::isfinite(point.X) && std::isfinite(point.Y);
 }
@@ -159,6 +155,10 @@ void CBasicCurve::VisitTexts(const TextVisitor& visit) const {
                                  kLegendSampleFactor, m_layout.Legend);
 }
 
+std::size_t CBasicCurve::StepOf(std::int32_t step) const {
+    return m_layout.LabelsBelow == HorLabels::Made ? 1 : static_cast<std::size_t>(std::max(step, 1));
+}
+
 void CBasicCurve::VisitHorLabels(const TextVisitor& visit) const {
     const CurveHorAxisProp& axis = m_prop.HorAxis;
     const bool areShown = axis.ShowHorAxis != 0 && ShowsHorLabels();
@@ -166,9 +166,10 @@ void CBasicCurve::VisitHorLabels(const TextVisitor& visit) const {
         VisitFittedNames(visit, TextRole::HorAxisLabel, axis.HorLabelTextProperty, m_layout);
         return;
     }
-    const std::size_t count = std::min(m_layout.HorLabelRects.size(), m_labels.size());
-    for (std::size_t i = 0; areShown && i < count; i += HorLabelStep()) {
-        CTextPropertyOperation::Visit(visit, {TextRole::HorAxisLabel, i}, m_labels[i],
+    const std::vector<std::string>& labels = HorLabelTexts();
+    const std::size_t count = std::min(m_layout.HorLabelRects.size(), labels.size());
+    for (std::size_t i = 0; areShown && i < count; i += StepOf(axis.LabelStep)) {
+        CTextPropertyOperation::Visit(visit, {TextRole::HorAxisLabel, i}, labels[i],
                                       axis.HorLabelTextProperty, m_layout.HorLabelRects[i].Center());
     }
 }

@@ -38,14 +38,11 @@ void TakeDistances(std::span<const double> values, std::size_t first, const Valu
 /// Points at the times, `distances` up from the plot's bottom.
 void TakePoints(std::span<const std::int32_t> times, std::span<const float> distances,
                 const CurveScales& scales, std::span<PointF> points, CurveTrace& curve) {
-    const double left = scales.Plot.X;
-    const double start = scales.Times.Min;
-    const double span = scales.Times.Max - start;
-    const double perTime = span > 0.0 ? scales.Plot.Width / span : 0.0;
-    const float bottom = scales.Plot.Y + scales.Plot.Height;
-    unsigned unplaced = std::isfinite(static_cast<float>(span * perTime + left)) ? 0 : 1;
+    const TimeScale across(scales.Area, scales.Times);
+    const float bottom = scales.Area.Y + scales.Area.Height;
+    unsigned unplaced = std::isfinite(across.At(scales.Times.Max)) ? 0 : 1;
     for (std::size_t i = 0; i < points.size(); ++i) {
-        points[i] = {static_cast<float>((times[i] - start) * perTime + left), bottom - distances[i]};
+        points[i] = {across.At(times[i]), bottom - distances[i]};
     }
     for (const float distance : distances) {
         unplaced |= std::isfinite(bottom - distance) ? 0U : 1U;

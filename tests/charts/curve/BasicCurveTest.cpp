@@ -251,3 +251,82 @@ TEST(BasicCurve, TheAxisIsReplacedOnlyWithItsScaleAndSharedByCopies) {
     copy.GetNaturalValueRange(min, max, step, step);
     EXPECT_EQ(max, 120.0);
 }
+
+TEST(BasicCurve, LabelsStandAtTheirTimes) {
+    CBasicCurve chart;
+    chart.SetCurveProp(PlotAlone());
+    const auto placed = [&chart] {
+        chart.Layout();
+        std::vector<float> across;
+        for (const PointF tick : chart.GetLayout().HorTicks) {
+            across.push_back(tick.X);
+        }
+        return across;
+    };
+    chart.SetCurveData({{1, 2, 3}}, {{0, 10, 80}});
+    chart.SetHorAxisLabel({"late", "early", "never", "without a time"});
+    chart.SetHorAxisLabelTimes({70, 20, 81});
+    EXPECT_EQ(placed().size(), 4U) << "without options they are spread";
+    ChartOptions options;
+    options.TimeLabels = TimeLabels::AtTimes;
+    chart.SetOptions(options);
+    EXPECT_EQ(placed(), (std::vector<float>{20, 70}));
+    EXPECT_EQ(chart.GetLayout().HorLabelTexts, (std::vector<std::string>{"early", "late"}));
+    chart.SetHorAxisLabelTimes({});
+    EXPECT_EQ(placed().size(), 4U) << "there are no times";
+    options.TimeUnit = TimeUnit::Days;
+    chart.SetOptions(options);
+    EXPECT_EQ(placed(), (std::vector<float>{0, 31, 59})) << "months from 1 January 1970 on";
+    chart.SetCurveData({{1}}, {{}});
+    EXPECT_TRUE(placed().empty());
+}
+
+TEST(BasicCurve, ItsOwnLabelsAreDrawnAllAndMeasured) {
+    CurveProp prop;
+    prop.HorAxis.LabelStep = 2;
+    CBasicCurve chart;
+    chart.SetCurveProp(prop);
+    chart.InitializeValueRange(9);
+    chart.SetCurveData({{1, 2, 3}}, {{0, 10, 80}});
+    ChartOptions options;
+    options.TimeLabels = TimeLabels::AtTimes;
+    options.TimeUnit = TimeUnit::Days;
+    chart.SetOptions(options);
+    chart.Layout();
+    const CurveLayout& layout = chart.GetLayout();
+    ASSERT_EQ(layout.HorLabelRects.size(), 3U);
+    EXPECT_EQ(layout.HorLabelRects[0], (RectF{layout.Plot.X - 4, layout.Plot.Y + 31, 8, 10}))
+        << "over a year";
+    EXPECT_EQ(layout.HorLabelRects[1].X, layout.Plot.X + 31 - 3);
+    std::size_t labels = 0;
+    chart.VisitTexts(
+        [&labels](const ChartText& text) { labels += text.Owner.Role == TextRole::HorAxisLabel ? 1 : 0; });
+    EXPECT_EQ(labels, 3U);
+}
+
+TEST(BasicCurve, AirInsetsWhatStandsAtTimesByHalfAMarker) {
+    CurveProp prop = PlotAlone();
+    prop.Plot.CurveName = {"a"};
+    prop.Plot.CurveDotStyle = {CurveDotStyle::SolidCircle, CurveDotStyle::SolidCircle};
+    prop.Plot.CurveDotWidth = {4.0F, 60.0F};
+    CBasicCurve chart;
+    chart.SetCurveData({{1, 2}, {1, 2}}, {{0, 1}, {0, 1}});
+    chart.SetHorAxisLabel({"x", "y"});
+    ChartOptions options;
+    options.Air = ChartAir::ThirdOfLine;
+    chart.SetOptions(options);
+    const auto ends = [&] {
+        chart.SetCurveProp(prop);
+        chart.Layout();
+        const CurveLayout& layout = chart.GetLayout();
+        const std::vector<PointF>& points = layout.Curves[0].Points;
+        EXPECT_EQ(layout.HorTicks[0].X, points[0].X);
+        EXPECT_EQ(layout.HorTicks[1].X, points[1].X);
+        return std::pair(points[0].X, points[1].X);
+    };
+    EXPECT_EQ(ends(), std::pair(2.0F, 78.0F)) << "the second is not drawn";
+    prop.Plot.CurveName = {"a", "b"};
+    EXPECT_EQ(ends(), std::pair(8.0F, 72.0F)) << "at most a tenth";
+    prop.Plot.CurveDotStyle = {};
+    EXPECT_EQ(ends(), std::pair(0.0F, 80.0F));
+}
