@@ -46,7 +46,9 @@ inline constexpr std::int32_t Fitted =
 /// Where the labels of slices stand.
 namespace SliceLabelFit {
 inline constexpr std::int32_t AsPlaced = 0; ///< each at its slice
-inline constexpr std::int32_t Apart = 1; ///< moved along the rim until none touches another, with lead lines
+/// Moved along the rim until none touches another, with lead lines. Where a side has more than one and a
+/// half times the pie's height and four labels hold, those of the smallest slices are left out.
+inline constexpr std::int32_t Apart = 1;
 } // namespace SliceLabelFit
 
 /// How a legend stands.

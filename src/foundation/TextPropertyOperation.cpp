@@ -114,6 +114,11 @@ SizeF CTextPropertyOperation::GetTextSize(const std::string& text, const TextPro
     return TurnedSize(MeasuredSize(text, property), property.Angle);
 }
 
+RectF CTextPropertyOperation::GetReach(const RectF& box, std::int32_t angle) {
+    const Corners turned = TurnedCorners({0.0F, kLayoutSlack * 0.5F}, angle);
+    return penlode::Union(box, penlode::Translated(box, turned[3]));
+}
+
 void CTextPropertyOperation::Visit(const TextVisitor& visit, TextOwner owner, const std::string& text,
                                    const TextProperty& property, PointF point, TextAnchor anchor) {
     const penlode::Font* font = property.Font.Get();

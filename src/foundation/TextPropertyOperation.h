@@ -30,6 +30,10 @@ public:
     /// Width and height of the axis-aligned box that holds the turned text; (0, 0) for an empty text.
     static penlode::SizeF GetTextSize(const std::string& text, const TextProperty& property);
 
+    /// What a text covers whose bounding box stands there: the box and the letters, which are a little low in
+    /// it.
+    static penlode::RectF GetReach(const penlode::RectF& box, std::int32_t angle);
+
     /// Hands on a text that looks as `property` says and is held at `point`; nothing where that is not
     /// finite.
     static void Visit(const TextVisitor& visit, TextOwner owner, const std::string& text,

@@ -22,6 +22,11 @@ bool IsSeen(SizeF size) {
     return size.Width > 0.0F || size.Height > 0.0F;
 }
 
+/// Round a plot, with all that its letters cover.
+void AddText(Surroundings& around, const RectF& box, std::int32_t angle) {
+    around.Add(CTextPropertyOperation::GetReach(box, angle));
+}
+
 /// Labels that would touch are thinned to every n-th, those left out being empty.
 void ThinVerLabels(CartesianLayout& layout) {
     std::vector<RectF>& rects = layout.VerLabelRects;
@@ -56,7 +61,7 @@ void PlaceVerLabels(const FramePlan& plan, Surroundings& around, CartesianLayout
     Move(layout.VerLabelRects, {-further, 0.0F});
     for (const RectF& label : layout.VerLabelRects) {
         if (IsSeen({label.Width, label.Height})) {
-            around.Add(label);
+            AddText(around, label, plan.VerAxis.VerAxisLabelTextProperty.Angle);
         }
     }
 }
@@ -98,16 +103,18 @@ std::vector<FittedName> Kept(const NamesBelow& names, float top) {
 
 /// How far names have to go down so that none touches the lowest label of the value axis, the only one that
 /// may reach below the plot.
-float Overlap(const std::vector<FittedName>& names, const std::vector<RectF>& verLabels) {
+float Overlap(const std::vector<FittedName>& names, const std::vector<RectF>& verLabels, std::int32_t angle) {
     const auto lowest =
         std::max_element(verLabels.begin(), verLabels.end(),
                          [](const RectF& a, const RectF& b) { return a.Bottom() < b.Bottom(); });
-    const bool touches =
-        lowest != verLabels.end() && std::any_of(names.begin(), names.end(), [&](const FittedName& name) {
-            return name.Box.X < lowest->Right() && name.Box.Right() > lowest->X &&
-                   name.Box.Y < lowest->Bottom();
-        });
-    return touches ? lowest->Bottom() - names.front().Box.Y : 0.0F;
+    if (lowest == verLabels.end()) {
+        return 0.0F;
+    }
+    const RectF label = CTextPropertyOperation::GetReach(*lowest, angle);
+    const bool touches = std::any_of(names.begin(), names.end(), [&label](const FittedName& name) {
+        return name.Box.X < label.Right() && name.Box.Right() > label.X && name.Box.Y < label.Bottom();
+    });
+    return touches ? label.Bottom() - names.front().Box.Y : 0.0F;
 }
 
 void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, CartesianLayout& layout) {
@@ -116,14 +123,15 @@ void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, 
     }
     const float top = layout.Plot.Bottom() + std::max(kTickRoom, AirOf(plan.Options, names.Look.Font));
     layout.FittedNames = plan.Options.Labels == LabelFit::Fitted ? Fitted(names, top) : Kept(names, top);
-    const float down = Overlap(layout.FittedNames, layout.VerLabelRects);
+    const float down =
+        Overlap(layout.FittedNames, layout.VerLabelRects, plan.VerAxis.VerAxisLabelTextProperty.Angle);
     for (std::size_t i = 0; i < names.Rects.size(); ++i) {
         names.Rects[i] = {names.Rects[i].Center().X, top + down, 0.0F, 0.0F};
     }
     for (FittedName& name : layout.FittedNames) {
         name.Box.Y += down;
         names.Rects[name.Index] = name.Box;
-        around.Add(name.Box);
+        AddText(around, name.Box, name.Angle);
     }
 }
 
@@ -179,11 +187,13 @@ void PlaceReadably(const FramePlan& plan, NamesBelow names, CartesianLayout& lay
     if (IsSeen(layout.VerCaptionSize)) {
         layout.VerCaption =
             around.PlaceLeft(layout.VerCaptionSize, plot.Center().Y, AirOf(plan.Options, verLook.Font));
+        AddText(around, layout.VerCaption, verLook.Angle);
     }
     layout.HorCaptionSize = SizeShown(plan, layout.HorCaptionSize, plan.HorCaption, plan.HorCaptionLook);
     if (IsSeen(layout.HorCaptionSize)) {
         layout.HorCaption = around.PlaceBelow(layout.HorCaptionSize, plot.Center().X,
                                               AirOf(plan.Options, plan.HorCaptionLook.Font));
+        AddText(around, layout.HorCaption, plan.HorCaptionLook.Angle);
     }
     PlaceLegendBox(plan, around, layout);
     const TextProperty& look = plan.Caption.CaptionTextProperty;
@@ -191,6 +201,7 @@ void PlaceReadably(const FramePlan& plan, NamesBelow names, CartesianLayout& lay
         SizeShown(plan, {layout.Caption.Width, layout.Caption.Height}, plan.Caption.Caption, look);
     if (IsSeen(caption)) {
         layout.Caption = around.PlaceAbove(caption, plot.Center().X, AirOf(plan.Options, look.Font));
+        AddText(around, layout.Caption, look.Angle);
     }
     layout.Whole = around.All();
 }

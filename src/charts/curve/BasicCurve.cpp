@@ -53,10 +53,11 @@ void CBasicCurve::Layout() {
     CalcHorAxisScale();
     CalcVerAxisLabelRect();
     CalcHorAxisLabelRect();
-    CalcCurvePoint();
     if (ReadsFrame(m_options)) {
         ReadFrame();
+        CalcCurvePoint();
     } else {
+        CalcCurvePoint();
         PlaceLegendAndShift();
     }
 }
@@ -231,7 +232,14 @@ void CBasicCurve::CalcCurvePoint() {
 /// Only a legend at the left or above moves anything; points are not written twice for nothing.
 void CBasicCurve::PlaceLegendAndShift() {
     PlaceLegend(m_prop.Legend, m_prop.Plot.CurveName, kLegendSampleFactor, m_layout);
-    MoveAll(m_location - m_layout.Whole.TopLeft());
+    const PointF by = m_location - m_layout.Whole.TopLeft();
+    if (by == PointF{}) {
+        return;
+    }
+    MoveFrame(by);
+    for (CurveTrace& curve : m_layout.Curves) {
+        Move(curve.Points, by);
+    }
 }
 
 void CBasicCurve::ReadFrame() {
@@ -252,18 +260,12 @@ void CBasicCurve::ReadFrame() {
                    {}},
                   {labels, m_layout.HorTicks, hor.HorLabelTextProperty, true, m_layout.HorLabelRects},
                   m_layout);
-    MoveAll(m_location - m_layout.Whole.TopLeft());
+    MoveFrame(m_location - m_layout.Whole.TopLeft());
 }
 
-void CBasicCurve::MoveAll(PointF by) {
-    if (by == PointF{}) {
-        return;
-    }
+void CBasicCurve::MoveFrame(PointF by) {
     Move(m_layout, by);
     Move(m_layout.HorLabelRects, by);
-    for (CurveTrace& curve : m_layout.Curves) {
-        Move(curve.Points, by);
-    }
 }
 
 } // namespace millichart

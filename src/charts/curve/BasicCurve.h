@@ -157,7 +157,8 @@ private:
     std::size_t StepOf(std::int32_t step) const;
     void PlaceLegendAndShift();
     void ReadFrame();
-    void MoveAll(penlode::PointF by);
+    /// Everything but the points.
+    void MoveFrame(penlode::PointF by);
     void VisitHorLabels(const TextVisitor& visit) const;
     void DrawHorGrids(penlode::IGraphicsEngine& engine) const;
     void DrawVerGrids(penlode::IGraphicsEngine& engine) const;

@@ -11,6 +11,7 @@ namespace millichart {
 
 using penlode::PointF;
 using penlode::RectF;
+using penlode::SizeF;
 
 namespace {
 
@@ -19,6 +20,11 @@ constexpr float kNoHeight = std::numeric_limits<float>::quiet_NaN();
 /// With a height that is not negative.
 RectF Normal(const RectF& bar) {
     return bar.Height < 0.0F ? RectF{bar.X, bar.Y + bar.Height, bar.Width, -bar.Height} : bar;
+}
+
+/// A label with all that its letters cover; `letters` is what they do of an empty box at (0, 0).
+SizeF WithLetters(SizeF size, const RectF& letters) {
+    return size.Width > 0.0F ? SizeF{size.Width + letters.Width, size.Height + letters.Height} : size;
 }
 
 } // namespace
@@ -105,21 +111,25 @@ void CBasicHistogram::PlaceValueLabels() {
     }
     PointF depth;
     Calc3DComponentBackSurfaceOffset(depth.X, depth.Y);
+    const TextProperty& look = prop.ComponentInfoTextProperty;
+    const RectF letters = CTextPropertyOperation::GetReach({}, look.Angle);
     const std::vector<Fill> fills = FillsOfBars();
     std::vector<ValueToPlace> values;
     for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
         for (std::size_t i = 0; i < m_layout.ComponentRects[group].size(); ++i) {
             const double value = m_values[group][i];
-            values.push_back(
-                {Normal(m_layout.ComponentRects[group][i]),
-                 CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), prop.ComponentInfoTextProperty),
-                 value, value < 0.0, prop.Juxtaposition == 0,
-                 i < fills.size() && fills[i].Hatch != Hatch::None});
+            const SizeF size = CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), look);
+            const bool isHatched = i < fills.size() && fills[i].Hatch != Hatch::None;
+            values.push_back({Normal(m_layout.ComponentRects[group][i]), WithLetters(size, letters), value,
+                              value < 0.0, prop.Juxtaposition == 0, isHatched});
         }
     }
     const RectF& plot = m_layout.Plot;
-    const std::vector<PlacedValue> placed =
+    std::vector<PlacedValue> placed =
         PlaceValues(values, penlode::Union(plot, penlode::Translated(plot, depth)), depth);
+    for (PlacedValue& label : placed) {
+        label.Center = label.Center - letters.Center();
+    }
     auto from = placed.begin();
     for (const std::vector<RectF>& bars : m_layout.ComponentRects) {
         const auto end = from + static_cast<std::ptrdiff_t>(bars.size());

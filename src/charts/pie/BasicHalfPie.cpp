@@ -27,7 +27,7 @@ void CBasicHalfPie::Layout() {
                             {StartAngle(), SliceSweeps(m_values, kHalfTurn), m_prop.Label, m_labelOffsets},
                             m_layout);
         }
-        m_layout.Whole = WithLabels(VisibleHalf(), m_layout.LabelRects);
+        TakeWhole(VisibleHalf(), m_prop.Label.PieLabelTextProperty);
         PlaceTitle(IsUpper() ? TitleSide::Above : TitleSide::Below);
     }
 }

@@ -29,7 +29,7 @@ void CBasicPie::Layout() {
                 Rim(), {basic.StartAngle, SliceSweeps(m_values, kFullTurn), m_prop.Label, m_labelOffsets},
                 m_layout);
         }
-        m_layout.Whole = WithLabels(m_layout.Pie, m_layout.LabelRects);
+        TakeWhole(m_layout.Pie, m_prop.Label.PieLabelTextProperty);
         PlaceLegend();
         PlaceTitle(TitleSide::Above);
     }

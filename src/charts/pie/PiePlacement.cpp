@@ -3,7 +3,6 @@
 #include "foundation/TextPropertyOperation.h"
 
 #include <cmath>
-#include <numeric>
 
 namespace millichart {
 
@@ -120,11 +119,6 @@ bool PlacePie(const PiePlan& plan, PieLayout& layout) {
         PlaceLabels(plan, sweeps, layout);
     }
     return true;
-}
-
-RectF WithLabels(const RectF& pie, const std::vector<RectF>& labels) {
-    return std::accumulate(labels.begin(), labels.end(), pie,
-                           [](const RectF& all, const RectF& label) { return penlode::Union(all, label); });
 }
 
 } // namespace millichart

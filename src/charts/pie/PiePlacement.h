@@ -32,7 +32,4 @@ template <class Basic> float PieDiameter(const Basic& basic, const std::vector<d
 /// to show.
 bool PlacePie(const PiePlan& plan, PieLayout& layout);
 
-/// The pie's rectangle united with every label's.
-penlode::RectF WithLabels(const penlode::RectF& pie, const std::vector<penlode::RectF>& labels);
-
 } // namespace millichart

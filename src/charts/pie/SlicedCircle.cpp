@@ -45,6 +45,16 @@ void CSlicedCircle::SetChildOffset(const std::vector<PointF>& labels, const std:
     m_labelOffsets = labels;
 }
 
+void CSlicedCircle::TakeWhole(const RectF& pie, const TextProperty& look) {
+    m_layout.Whole = pie;
+    for (std::size_t i = 0; i < m_layout.LabelRects.size(); ++i) {
+        const RectF& label = m_layout.LabelRects[i];
+        const bool hasRoom = m_options.SliceLabels == SliceLabelFit::Apart && !m_layout.LabelTexts[i].empty();
+        m_layout.Whole = penlode::Union(
+            m_layout.Whole, hasRoom ? CTextPropertyOperation::GetReach(label, look.Angle) : label);
+    }
+}
+
 void CSlicedCircle::PlaceTitle(TitleSide side) {
     const CaptionProp& title = m_options.Title;
     if (title.ShowCaption == 0 || title.Caption.empty()) {
@@ -56,7 +66,8 @@ void CSlicedCircle::PlaceTitle(TitleSide side) {
     m_layout.Title = RectF{m_layout.Pie.Center().X - size.Width * 0.5F,
                            side == TitleSide::Above ? whole.Y - air - size.Height : whole.Bottom() + air,
                            size.Width, size.Height};
-    m_layout.Whole = penlode::Union(whole, *m_layout.Title);
+    m_layout.Whole = penlode::Union(
+        whole, CTextPropertyOperation::GetReach(*m_layout.Title, title.CaptionTextProperty.Angle));
 }
 
 void CSlicedCircle::VisitTitle(const TextVisitor& visit) const {

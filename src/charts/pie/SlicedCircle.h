@@ -53,6 +53,8 @@ public:
 protected:
     enum class TitleSide { Above, Below };
 
+    /// Unites `pie` and the labels; of labels that are kept apart, all that their letters cover.
+    void TakeWhole(const penlode::RectF& pie, const TextProperty& look);
     /// Places the options' title beside everything else of the layout, whose whole it becomes a part of.
     void PlaceTitle(TitleSide side);
     void VisitLabels(const PieLabelProp& label, const TextVisitor& visit) const;

@@ -21,6 +21,7 @@ namespace {
 
 constexpr double kGap = 0.4;       ///< mm between stacked labels
 constexpr double kBesideGap = 1.5; ///< mm between labels beside each other
+constexpr double kHalvesGap = 0.3; ///< mm between a half pie's straight side and its labels
 constexpr double kMostHeights = 1.5;
 constexpr double kMoreLabels = 4.0;
 /// How much of the pie's half width an orbit is widened at most for lead lines.
@@ -129,9 +130,9 @@ private:
     /// As near to where its labels want it as the bounds allow.
     void Push(Block block) {
         const double highest =
-            m_rim.HasUpper ? -m_orbit.Up - m_side[block.Begin].Height : m_orbit.Depth + kGap * 0.5;
+            m_rim.HasUpper ? -m_orbit.Up - m_side[block.Begin].Height : m_orbit.Depth + kHalvesGap;
         const double lowest =
-            (m_rim.HasLower ? m_orbit.Depth + m_orbit.Up + m_side[block.End - 1].Height : -kGap * 0.5) -
+            (m_rim.HasLower ? m_orbit.Depth + m_orbit.Up + m_side[block.End - 1].Height : -kHalvesGap) -
             block.Height;
         const double wanted = block.WantedTops / static_cast<double>(block.End - block.Begin);
         const double led = std::max(block.HighestTop, std::min(wanted, block.LowestTop));
@@ -237,7 +238,7 @@ double NeededUp(double stack, const Side& side, const SliceRim& rim, const Orbit
     if (rim.HasUpper && rim.HasLower) {
         return (stack - first - last - orbit.Depth) * 0.5;
     }
-    return stack - (rim.HasUpper ? first : last) + kGap * 0.5;
+    return stack - (rim.HasUpper ? first : last) + kHalvesGap;
 }
 
 /// How far across the orbit must reach for a line from the member's slice to stay outside the pie: beyond the

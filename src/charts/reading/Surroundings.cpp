@@ -15,12 +15,15 @@ namespace {
 
 constexpr float kFar = std::numeric_limits<float>::max();
 
+/// What is less than this apart, in mm, stands beside each other, or above, and not past each other.
+constexpr float kNear = 0.5F;
+
 bool MeetAcross(const RectF& a, const RectF& b) {
-    return a.X < b.Right() && b.X < a.Right();
+    return a.X < b.Right() + kNear && b.X < a.Right() + kNear;
 }
 
 bool MeetDown(const RectF& a, const RectF& b) {
-    return a.Y < b.Bottom() && b.Y < a.Bottom();
+    return a.Y < b.Bottom() + kNear && b.Y < a.Bottom() + kNear;
 }
 
 } // namespace
@@ -31,36 +34,33 @@ void Surroundings::Add(const RectF& box) {
     }
 }
 
-RectF Surroundings::PlaceAbove(SizeF size, float centerX, float gap) {
+RectF Surroundings::PlaceAbove(SizeF size, float centerX, float gap) const {
     RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};
     float top = kFar;
     for (const RectF& box : m_boxes) {
         top = MeetAcross(box, placed) ? std::min(top, box.Y) : top;
     }
     placed.Y = (top == kFar ? All().Y : top) - gap - size.Height;
-    Add(placed);
     return placed;
 }
 
-RectF Surroundings::PlaceBelow(SizeF size, float centerX, float gap) {
+RectF Surroundings::PlaceBelow(SizeF size, float centerX, float gap) const {
     RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};
     float bottom = -kFar;
     for (const RectF& box : m_boxes) {
         bottom = MeetAcross(box, placed) ? std::max(bottom, box.Bottom()) : bottom;
     }
     placed.Y = (bottom == -kFar ? All().Bottom() : bottom) + gap;
-    Add(placed);
     return placed;
 }
 
-RectF Surroundings::PlaceLeft(SizeF size, float centerY, float gap) {
+RectF Surroundings::PlaceLeft(SizeF size, float centerY, float gap) const {
     RectF placed{0.0F, centerY - size.Height * 0.5F, size.Width, size.Height};
     float left = kFar;
     for (const RectF& box : m_boxes) {
         left = MeetDown(box, placed) ? std::min(left, box.X) : left;
     }
     placed.X = (left == kFar ? All().X : left) - gap - size.Width;
-    Add(placed);
     return placed;
 }
 

@@ -6,18 +6,18 @@
 
 namespace millichart {
 
-/// The boxes round a plot. Each is placed as near to the plot as those before it let it, so that none lies
-/// over another. Placing takes as many steps as there are boxes.
+/// The boxes round a plot. Each finds its place as near to the plot as those before it let it, and is then
+/// added, so that none lies over another. Finding takes as many steps as there are boxes.
 class Surroundings {
 public:
     /// One without a finite place is not there.
     void Add(const penlode::RectF& box);
 
     /// Above all boxes that it would be over or under, `gap` off them.
-    penlode::RectF PlaceAbove(penlode::SizeF size, float centerX, float gap);
-    penlode::RectF PlaceBelow(penlode::SizeF size, float centerX, float gap);
+    penlode::RectF PlaceAbove(penlode::SizeF size, float centerX, float gap) const;
+    penlode::RectF PlaceBelow(penlode::SizeF size, float centerX, float gap) const;
     /// At the left of all boxes that it would be beside.
-    penlode::RectF PlaceLeft(penlode::SizeF size, float centerY, float gap);
+    penlode::RectF PlaceLeft(penlode::SizeF size, float centerY, float gap) const;
 
     /// The union of all boxes.
     penlode::RectF All() const;
