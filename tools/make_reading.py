@@ -176,7 +176,7 @@ def mixed_bars():
            "HistogramPlotProp": {"PlotWidth": "150", "ShowComponentValue": "1", "ComponentName": list(places),
                                  "ComponentInfoTextProperty": {"字体": "Arial 2.4"}},
            "HistogramLegendProp": {"ShowLegend": "1", "LegendPos": "BottomCenter"}},
-          groups(MONTHS, *heights))
+          groups(MONTHS, *heights), range={"NaturalValueRange": [-20, 70, 10, 2]})
 
 
 def mixed_stacks():
@@ -223,9 +223,9 @@ def log_bars():
              "Bi-214": 1194, "Pb-212": 38300, "Rn-222": 330350, "Po-210": 11955686, "Pb-210": 7.006e8}
     write("log-bars", "histogram", "Half-lives in the series of decay", "NUBASE2020, Chinese Physics C 45 (2021) 030001",
           {"CaptionProp": {"Caption": "Half-lives (seconds)"},
-           "HistogramPlotProp": {"LogarithmScale": "1", "PlotWidth": "150", "PlotHeight": "70",
+           "HistogramPlotProp": {"LogarithmScale": "1", "PlotWidth": "170", "PlotHeight": "70",
                                  "ShowComponentValue": "1"}},
-          groups(lives, lives.values()), with_options(MaxDecimals="9"), range={"LogarithmValueRange": [1e-6, 1e10]})
+          groups(lives, lives.values()), with_options(MaxDecimals="7"), range={"LogarithmValueRange": [1e-6, 1e10]})
 
 
 def one_value():

@@ -22,10 +22,12 @@ namespace {
 using Measure = std::function<SizeF(const std::string&)>;
 
 constexpr std::int32_t kHalfUpright = 45;
-/// What lies between neighbours, as a part of their height: a blank, and for turned ones a little.
+/// What lies between neighbours, as a part of a line's height: a blank, and for turned ones a little.
 constexpr float kLevelGap = 0.3F;
 constexpr float kTurnedGap = 0.05F;
-constexpr std::size_t kMostLines = 3;
+constexpr std::ptrdiff_t kMostLines = 3;
+/// What a line may be longer than its share of a name, as a part of its height.
+constexpr float kEvenSlack = 0.6F;
 constexpr std::size_t kEnoughOfScale = 5;
 
 bool IsChinese(wchar_t c) {
@@ -74,9 +76,14 @@ std::wstring WrappedLine(std::wstring_view line, float width, const Measure& mea
     return text.append(WithoutBlanksAtEnd(line.substr(start)));
 }
 
+std::ptrdiff_t Breaks(const std::string& text) {
+    return std::count(text.begin(), text.end(), '\n');
+}
+
 struct Placed {
     std::string Text;
     SizeF Size; ///< level
+    float Line; ///< the height of one
     PointF Center;
     RectF Box;
 };
@@ -105,6 +112,7 @@ Form FormOf(const NamesToFit& names, std::int32_t angle, const std::vector<std::
                             names.Top + upright.Height * 0.5F};
         form.Names.push_back({texts[i],
                               size,
+                              size.Height / static_cast<float>(Breaks(texts[i]) + 1),
                               center,
                               {center.X - upright.Width * 0.5F, names.Top, upright.Width, upright.Height}});
     }
@@ -116,7 +124,7 @@ bool Touch(const Form& form, const Placed& a, const Placed& b) {
     const float along = std::abs(by.X * form.Along.X + by.Y * form.Along.Y);
     const float across = std::abs(by.Y * form.Along.X - by.X * form.Along.Y);
     const float height = (a.Size.Height + b.Size.Height) * 0.5F;
-    return along < (a.Size.Width + b.Size.Width) * 0.5F + kLevelGap * height &&
+    return along < (a.Size.Width + b.Size.Width + kLevelGap * (a.Line + b.Line)) * 0.5F &&
            across < height * (1.0F + form.Gap);
 }
 
@@ -154,6 +162,15 @@ float LeastDistance(const std::vector<float>& centers) {
     return least;
 }
 
+/// In as many lines as that width makes of it, but of like lengths.
+std::string WrappedEvenly(const Placed& name, float width, const Measure& measure) {
+    std::string wrapped = WrappedText(name.Text, width, measure);
+    const auto lines = static_cast<float>(Breaks(wrapped) + 1);
+    const float even = name.Size.Width / lines + name.Line * kEvenSlack;
+    std::string evenly = WrappedText(name.Text, std::min(even, width), measure);
+    return Breaks(evenly) == Breaks(wrapped) ? evenly : wrapped;
+}
+
 std::optional<Form> Wrapped(const NamesToFit& names, const Form& level) {
     float height = 0.0F;
     for (const Placed& name : level.Names) {
@@ -164,10 +181,9 @@ std::optional<Form> Wrapped(const NamesToFit& names, const Form& level) {
         return std::nullopt;
     }
     std::vector<std::string> texts;
-    for (const std::string& name : names.Names) {
-        texts.push_back(WrappedText(name, width, names.Measure));
-        if (std::count(texts.back().begin(), texts.back().end(), '\n') >=
-            static_cast<std::ptrdiff_t>(kMostLines)) {
+    for (const Placed& name : level.Names) {
+        texts.push_back(WrappedEvenly(name, width, names.Measure));
+        if (Breaks(texts.back()) >= kMostLines) {
             return std::nullopt;
         }
     }

@@ -45,7 +45,7 @@ struct Member {
     double LowestTop = kUnlimited;
     double Top = 0.0;
     double Inner = 0.0; ///< from the centre to the edge that faces it
-    double Tip = 0.0;   ///< how far down that edge is nearest to the pie
+    PointD Tip;         ///< where a lead line meets the box
 
     double Bottom() const { return Top + Height; }
 };
@@ -241,19 +241,24 @@ double NeededUp(double stack, const Side& side, const SliceRim& rim, const Orbit
     return stack - (rim.HasUpper ? first : last) + kHalvesGap;
 }
 
-/// How far across the orbit must reach for a line from the member's slice to stay outside the pie: beyond the
-/// tangent there. Heights are scaled so that the ellipse is a circle.
-double AcrossForLead(const Member& member, const SliceRim& rim, const Orbit& orbit) {
-    const double narrowing = orbit.Narrowing(orbit.Beyond(member.Top, member.Bottom()));
-    if (member.Rim.X < rim.Across * kSteep || narrowing < kSteep) {
+/// How far across the tangent at the member's slice is at a height: what is farther out can be seen from
+/// there past the pie. Heights are scaled so that the ellipse is a circle.
+double TangentAcross(const Member& member, const SliceRim& rim, double height) {
+    if (member.Rim.X < rim.Across * kSteep) {
         return 0.0;
     }
     const double middle = member.Down < 0.0 ? 0.0 : rim.Depth;
     const double scale = static_cast<double>(rim.Across) / rim.Up;
     const double rimDown = (member.Rim.Y - middle) * scale;
-    const double tipDown = (orbit.TipHeight(member.Rim.Y, member.Top, member.Bottom()) - middle) * scale;
-    const double across = (static_cast<double>(rim.Across) * rim.Across - rimDown * tipDown) / member.Rim.X;
-    return across / narrowing;
+    const double down = (height - middle) * scale;
+    return (static_cast<double>(rim.Across) * rim.Across - rimDown * down) / member.Rim.X;
+}
+
+/// How far across the orbit must reach for a line from the member's slice to stay outside the pie.
+double AcrossForLead(const Member& member, const SliceRim& rim, const Orbit& orbit) {
+    const double narrowing = orbit.Narrowing(orbit.Beyond(member.Top, member.Bottom()));
+    const double tip = orbit.TipHeight(member.Rim.Y, member.Top, member.Bottom());
+    return narrowing < kSteep ? 0.0 : TangentAcross(member, rim, tip) / narrowing;
 }
 
 /// The tops beyond which not even a line to the widest orbit would pass outside the pie. On an ellipse as on
@@ -280,6 +285,16 @@ void Stack(Side& side, const SliceRim& rim, Orbit orbit, double mostHeight) {
     }
 }
 
+/// How far across a lead line may end at a height without touching the next label outwards on its way.
+double PastOuter(const Member& member, const Member& outer, double height, bool isBelow) {
+    const double inWay = (isBelow ? outer.Top : outer.Bottom()) - member.Rim.Y;
+    const double all = height - member.Rim.Y;
+    if (member.Rim.X <= outer.Inner || inWay * all <= 0.0) {
+        return outer.Inner;
+    }
+    return member.Rim.X + (outer.Inner - member.Rim.X) * all / inWay;
+}
+
 /// Stretches the orbit as far as these members need it, widens it for their lead lines, and leans them on it.
 void LeanOnOrbit(Side::iterator begin, Side::iterator end, const SliceRim& rim, Orbit orbit, bool hasLeads) {
     std::for_each(begin, end, [&](const Member& member) {
@@ -289,10 +304,23 @@ void LeanOnOrbit(Side::iterator begin, Side::iterator end, const SliceRim& rim, 
     std::for_each(begin, hasLeads ? end : begin, [&](const Member& member) {
         orbit.Across = std::max(orbit.Across, std::min(widest, AcrossForLead(member, rim, orbit)));
     });
-    std::for_each(begin, end, [&](Member& member) {
-        member.Inner = orbit.Inner(member.Top, member.Bottom());
-        member.Tip = orbit.TipHeight(member.Rim.Y, member.Top, member.Bottom());
-    });
+    std::for_each(begin, end,
+                  [&](Member& member) { member.Inner = orbit.Inner(member.Top, member.Bottom()); });
+    for (auto member = begin; member != end; ++member) {
+        const bool isBelow = member->Top >= std::max(orbit.Depth, member->Rim.Y);
+        const bool isAbove = member->Bottom() <= std::min(0.0, member->Rim.Y);
+        const double height = orbit.TipHeight(member->Rim.Y, member->Top, member->Bottom());
+        double across = member->Inner;
+        if (isBelow || isAbove) {
+            const bool isOutermost = isBelow ? member == begin : std::next(member) == end;
+            const double most = isOutermost ? kUnlimited
+                                : isBelow   ? PastOuter(*member, *std::prev(member), height, true)
+                                            : PastOuter(*member, *std::next(member), height, false);
+            across = std::max(
+                across, std::min({TangentAcross(*member, rim, height), most, member->Inner + member->Width}));
+        }
+        member->Tip = {across, height};
+    }
 }
 
 /// Leaves every member of a side with its place. Each quarter has an orbit of its own, so that a crowd moves
@@ -310,7 +338,7 @@ void SpreadSide(Side& side, const SliceRim& rim, const Orbit& orbit, bool hasLea
     const auto lower =
         std::find_if(side.begin(), side.end(), [](const Member& member) { return member.Down >= 0.0; });
     const bool areQuartersApart = (lower == side.begin() || std::prev(lower)->Bottom() <= 0.0) &&
-                                  (lower == side.end() || lower->Top >= rim.Depth);
+                                  (lower == side.end() || lower->Top >= 0.0);
     const auto middle = areQuartersApart ? lower : side.end();
     LeanOnOrbit(side.begin(), middle, rim, orbit, hasLeads);
     LeanOnOrbit(middle, side.end(), rim, orbit, hasLeads);
@@ -320,8 +348,10 @@ void SpreadSide(Side& side, const SliceRim& rim, const Orbit& orbit, bool hasLea
 void PartOverMiddle(Member& left, Member& right) {
     const bool shareHeight = left.Top < right.Bottom() + kGap && right.Top < left.Bottom() + kGap;
     if (shareHeight && left.Inner + right.Inner < kBesideGap) {
-        left.Inner = std::max(left.Inner, kBesideGap * 0.5);
-        right.Inner = std::max(right.Inner, kBesideGap * 0.5);
+        for (Member* member : {&left, &right}) {
+            member->Inner = std::max(member->Inner, kBesideGap * 0.5);
+            member->Tip.X = std::max(member->Tip.X, member->Inner);
+        }
     }
 }
 
@@ -405,7 +435,7 @@ private:
             PlacedSliceLabel& placed = m_placed[member.Index];
             placed.Box = {corner.X, corner.Y, static_cast<float>(member.Width),
                           static_cast<float>(member.Height)};
-            placed.Tip = OnPage(sign, member.Inner, member.Tip);
+            placed.Tip = OnPage(sign, member.Tip.X, member.Tip.Y);
             placed.IsShown = true;
         }
     }

@@ -45,13 +45,7 @@ RectF Surroundings::PlaceAbove(SizeF size, float centerX, float gap) const {
 }
 
 RectF Surroundings::PlaceBelow(SizeF size, float centerX, float gap) const {
-    RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};
-    float bottom = -kFar;
-    for (const RectF& box : m_boxes) {
-        bottom = MeetAcross(box, placed) ? std::max(bottom, box.Bottom()) : bottom;
-    }
-    placed.Y = (bottom == -kFar ? All().Bottom() : bottom) + gap;
-    return placed;
+    return {centerX - size.Width * 0.5F, All().Bottom() + gap, size.Width, size.Height};
 }
 
 RectF Surroundings::PlaceLeft(SizeF size, float centerY, float gap) const {

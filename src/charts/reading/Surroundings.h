@@ -15,6 +15,7 @@ public:
 
     /// Above all boxes that it would be over or under, `gap` off them.
     penlode::RectF PlaceAbove(penlode::SizeF size, float centerX, float gap) const;
+    /// Below all boxes, wherever they are: what names several does not stand between two.
     penlode::RectF PlaceBelow(penlode::SizeF size, float centerX, float gap) const;
     /// At the left of all boxes that it would be beside.
     penlode::RectF PlaceLeft(penlode::SizeF size, float centerY, float gap) const;

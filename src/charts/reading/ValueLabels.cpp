@@ -3,6 +3,7 @@
 #include "penlode/engine/Finite.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <numeric>
@@ -123,6 +124,13 @@ PointF Outside(const ValueToPlace& value, PointF depth) {
                        : PointF{bar.Center().X + depth.X * 0.5F, bar.Y + depth.Y - value.Label.Height * 0.5F};
 }
 
+/// How far labels that are wider than their bar may go to either side, if a higher neighbour or the plot's
+/// edge is in their way: until they end where the bar does.
+std::array<float, 3> WaysAside(const ValueToPlace& value) {
+    const float way = value.IsBeside ? 0.0F : std::max(value.Label.Width - value.Front.Width, 0.0F) * 0.5F;
+    return {0.0F, -way, way};
+}
+
 /// At the bar's end, or in the middle of a segment of a stack; nothing if it is too small.
 std::optional<PointF> Inside(const ValueToPlace& value) {
     const RectF& bar = value.Front;
@@ -169,7 +177,14 @@ std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, co
         };
         const std::optional<PointF> inside = Inside(values[i]);
         const auto takeInside = [&] { return inside && take(*inside, true); };
-        if (!(values[i].IsBeside && takeInside()) && !take(Outside(values[i], depth), false)) {
+        const auto takeOutside = [&] {
+            const PointF center = Outside(values[i], depth);
+            const std::array<float, 3> ways = WaysAside(values[i]);
+            return std::any_of(ways.begin(), ways.end(), [&](float way) {
+                return take(center + PointF{way, 0.0F}, false);
+            });
+        };
+        if (!(values[i].IsBeside && takeInside()) && !takeOutside()) {
             takeInside();
         }
     }
