@@ -173,8 +173,8 @@ def mixed_bars():
           "90° less the distance of the latitude from -23.44° cos(360°/365 (day + 10)), on the 21st of each month",
           {"CaptionProp": {"Caption": "Height of the sun at noon on the 21st"},
            "HistogramVerAxisProp": {"VerCaption": "degrees"},
-           "HistogramPlotProp": {"PlotWidth": "150", "ShowComponentValue": "1", "ComponentName": list(places),
-                                 "ComponentInfoTextProperty": {"字体": "Arial 2.4"}},
+           "HistogramPlotProp": {"PlotWidth": "170", "ShowComponentValue": "1", "ComponentName": list(places),
+                                 "ComponentInfoTextProperty": {"字体": "Arial 2.2"}},
            "HistogramLegendProp": {"ShowLegend": "1", "LegendPos": "BottomCenter"}},
           groups(MONTHS, *heights), range={"NaturalValueRange": [-20, 70, 10, 2]})
 
@@ -223,6 +223,7 @@ def log_bars():
              "Bi-214": 1194, "Pb-212": 38300, "Rn-222": 330350, "Po-210": 11955686, "Pb-210": 7.006e8}
     write("log-bars", "histogram", "Half-lives in the series of decay", "NUBASE2020, Chinese Physics C 45 (2021) 030001",
           {"CaptionProp": {"Caption": "Half-lives (seconds)"},
+           "HistogramVerAxisProp": {"MajorScaleStyle": "outer"},
            "HistogramPlotProp": {"LogarithmScale": "1", "PlotWidth": "170", "PlotHeight": "70",
                                  "ShowComponentValue": "1"}},
           groups(lives, lives.values()), with_options(MaxDecimals="7"), range={"LogarithmValueRange": [1e-6, 1e10]})
@@ -248,7 +249,7 @@ def print_bars():
               "Icosahedron": (20, 12, 30)}
     write("print-bars", "histogram", "The five regular solids", "Euclid: Elements, book XIII",
           {"CaptionProp": {"Caption": "The five regular solids"},
-           "HistogramPlotProp": {"PieStyle": "3D", "PlotWidth": "130", "ShowComponentValue": "1",
+           "HistogramPlotProp": {"PieStyle": "3D", "PlotWidth": "150", "ShowComponentValue": "1",
                                  "ComponentName": ["faces", "vertices", "edges"]},
            "HistogramLegendProp": {"ShowLegend": "1"}},
           groups(solids, *zip(*solids.values())), with_options(Palette="Print"),
@@ -268,7 +269,7 @@ def dark_bars():
             "Factorials": shares(factorials), "Squares": shares([n * n for n in range(1, 1001)])}
     write("dark-bars", "histogram", "First digits", "counted over the first 1000 of each",
           {"CaptionProp": {"Caption": "How many of 1000 numbers begin with 1, 2 ... 9"},
-           "HistogramPlotProp": {"Juxtaposition": "0", "PlotHeight": "70", "ShowComponentValue": "1",
+           "HistogramPlotProp": {"Juxtaposition": "0", "PlotHeight": "80", "ShowComponentValue": "1",
                                  "ComponentName": [str(d) for d in range(1, 10)],
                                  "ComponentColor": ["#FF10243F", "#FF1C3D66", "#FF28568E", "#FF3B6FB6", "#FF6E97CC",
                                                     "#FF9DB9DD", "#FF4A2545", "#FF7A3B6E", "#FFB98BB0"]},

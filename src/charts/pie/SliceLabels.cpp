@@ -10,8 +10,8 @@ using penlode::RectF;
 
 namespace {
 
-/// Shorter lead lines would be dots between a label and its slice.
-constexpr float kShortestLead = 1.0F;
+/// A label that is nearer to its slice needs no lead line, which would be a dot between them.
+constexpr float kShortestLead = 2.0F;
 constexpr float kLeadGap = 0.4F;
 /// What is as near as this to its classical place stays there.
 constexpr float kSamePlace = 1e-3F;

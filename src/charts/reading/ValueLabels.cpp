@@ -20,6 +20,8 @@ namespace {
 
 /// Between a label and what it stands at, in mm.
 constexpr float kGap = 0.4F;
+/// Half a blank, as a part of a label's height: nearer in one line numbers run together.
+constexpr float kBlank = 0.15F;
 /// Bars that a label would pass in front of; behind so many it could not be read anyway.
 constexpr std::size_t kManyBars = 32;
 
@@ -124,11 +126,17 @@ PointF Outside(const ValueToPlace& value, PointF depth) {
                        : PointF{bar.Center().X + depth.X * 0.5F, bar.Y + depth.Y - value.Label.Height * 0.5F};
 }
 
-/// How far labels that are wider than their bar may go to either side, if a higher neighbour or the plot's
-/// edge is in their way: until they end where the bar does.
-std::array<float, 3> WaysAside(const ValueToPlace& value) {
-    const float way = value.IsBeside ? 0.0F : std::max(value.Label.Width - value.Front.Width, 0.0F) * 0.5F;
-    return {0.0F, -way, way};
+/// Where a label stands outside: rather than over a higher neighbour or the plot's edge above the front
+/// alone, or ending or beginning where the bar does.
+std::array<PointF, 4> PlacesOutside(const ValueToPlace& value, PointF depth) {
+    const PointF first = Outside(value, depth);
+    if (value.IsBeside) {
+        return {first, first, first, first};
+    }
+    const RectF& bar = value.Front;
+    const float half = value.Label.Width * 0.5F;
+    return {first, PointF{bar.Center().X, first.Y}, PointF{bar.Right() - half, first.Y},
+            PointF{bar.X + half, first.Y}};
 }
 
 /// At the bar's end, or in the middle of a segment of a stack; nothing if it is too small.
@@ -168,7 +176,9 @@ std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, co
     for (const std::size_t i : order) {
         const auto take = [&](PointF center, bool isInside) {
             const RectF box = Around(center, values[i].Label);
-            if (!Holds(room, box) || taken.Meets(box) || (!isInside && bars.Meet(box, i))) {
+            const float blank = values[i].Label.Height * kBlank;
+            const RectF apart{box.X - blank, box.Y, box.Width + 2.0F * blank, box.Height};
+            if (!Holds(room, box) || taken.Meets(apart) || (!isInside && bars.Meet(box, i))) {
                 return false;
             }
             taken.Add(box);
@@ -178,11 +188,9 @@ std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, co
         const std::optional<PointF> inside = Inside(values[i]);
         const auto takeInside = [&] { return inside && take(*inside, true); };
         const auto takeOutside = [&] {
-            const PointF center = Outside(values[i], depth);
-            const std::array<float, 3> ways = WaysAside(values[i]);
-            return std::any_of(ways.begin(), ways.end(), [&](float way) {
-                return take(center + PointF{way, 0.0F}, false);
-            });
+            const std::array<PointF, 4> places = PlacesOutside(values[i], depth);
+            return std::any_of(places.begin(), places.end(),
+                               [&take](PointF center) { return take(center, false); });
         };
         if (!(values[i].IsBeside && takeInside()) && !takeOutside()) {
             takeInside();

@@ -87,16 +87,20 @@ TEST(PieReading, CrowdedLabelsPartAndTheUsersOffsetsWin) {
     }
 }
 
-TEST(PieReading, LeadLinesGoFromTheRimToTheLabelsUnderThem) {
+TEST(PieReading, LeadLinesGoFromTheRimToTheLabelsThatMovedUnderThem) {
     CBasicPie pie = Pie(kCrowded, Apart());
-    ASSERT_EQ(pie.GetLayout().LeadLines.size(), kCrowded.size());
-    for (std::size_t i = 0; i < kCrowded.size(); ++i) {
-        const LeadLine& line = pie.GetLayout().LeadLines[i];
+    EXPECT_EQ(pie.GetLayout().LeadLines.size(), 3U) << "the others have room, or moved by less than a line";
+    for (const LeadLine& line : pie.GetLayout().LeadLines) {
         EXPECT_NEAR(std::hypot(line.From.X - 50, line.From.Y - 50), 20, 1e-3);
-        const RectF& label = pie.GetLayout().LabelRects[i];
-        const PointF away = {std::max({label.X - line.To.X, line.To.X - label.Right(), 0.0F}),
-                             std::max({label.Y - line.To.Y, line.To.Y - label.Bottom(), 0.0F})};
-        EXPECT_LT(std::hypot(away.X, away.Y), 0.5F);
+        const std::vector<RectF>& labels = pie.GetLayout().LabelRects;
+        EXPECT_EQ(std::count_if(labels.begin(), labels.end(),
+                                [&line](const RectF& label) {
+                                    const PointF away = {
+                                        std::max({label.X - line.To.X, line.To.X - label.Right(), 0.0F}),
+                                        std::max({label.Y - line.To.Y, line.To.Y - label.Bottom(), 0.0F})};
+                                    return std::hypot(away.X, away.Y) < 0.5F;
+                                }),
+                  1);
     }
     const std::string drawn = Drawn(pie);
     EXPECT_LT(drawn.rfind("DrawLine"), drawn.find("DrawString"));
@@ -130,8 +134,8 @@ TEST(PieReading, TooManyLabelsAreDrawnAsTheyAreListed) {
         EXPECT_EQ(text.Text.empty(), layout.LabelRects[slice].Width == 0.0F);
         shown += text.Text.empty() ? 0U : 1U;
     }
-    EXPECT_EQ(layout.LeadLines.size(), shown);
-    EXPECT_GT(shown, 20U);
+    EXPECT_LE(layout.LeadLines.size(), shown);
+    EXPECT_GT(layout.LeadLines.size(), 20U);
     EXPECT_LT(shown, 60U);
 }
 
