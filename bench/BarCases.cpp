@@ -1,5 +1,6 @@
 #include "BarsByHand.h"
 #include "Suite.h"
+#include "Voices.h"
 #include "millichart.h"
 #include "penlode/GraphicsEngine.h"
 #include "penlode/svg/SvgEngine.h"
@@ -80,8 +81,10 @@ millichart::HistogramProp FullRecord(const byhand::Bars& bars) {
     return prop;
 }
 
-void Draw(const byhand::Bars& bars, const millichart::HistogramProp& prop, penlode::IGraphicsEngine& engine) {
+void Draw(const byhand::Bars& bars, const millichart::HistogramProp& prop,
+          const millichart::ChartOptions& options, penlode::IGraphicsEngine& engine) {
     millichart::CBasicHistogram chart;
+    chart.SetOptions(options);
     chart.SetHistogramProp(prop);
     chart.SetNaturalValueRange(0.0, bars.Largest, bars.Step, bars.MinorStep);
     chart.SetComponentValue(bars.Values);
@@ -105,16 +108,20 @@ penlode::SizeF PageOf(const byhand::Bars& bars) {
 void AddTwelve(Suite& suite) {
     const byhand::Bars bars = Twelve();
     const auto prop = std::make_shared<const millichart::HistogramProp>(FullRecord(bars));
-    suite.Add("bars 12 x 6, PNG", [=] {
-        const auto engine = penlode::CGraphicsEngine::ForRaster(PageOf(bars), kDpi, penlode::kWhite);
-        Draw(Moved(bars), *prop, *engine);
-        return engine->EncodePng().size();
-    });
-    suite.Add("bars 12 x 6, SVG", [=] {
-        penlode::CSvgEngine engine(PageOf(bars));
-        Draw(bars, *prop, engine);
-        return engine.Text().size();
-    });
+    for (const Voice& voice : Voices()) {
+        suite.Add("bars 12 x 6, PNG" + voice.Name, [=] {
+            const auto engine = penlode::CGraphicsEngine::ForRaster(PageOf(bars), kDpi, penlode::kWhite);
+            Draw(Moved(bars), *prop, voice.Options, *engine);
+            return engine->EncodePng().size();
+        });
+        suite.Add("bars 12 x 6, SVG" + voice.Name, [=] {
+            penlode::CSvgEngine engine(PageOf(bars));
+            Draw(bars, *prop, voice.Options, engine);
+            return engine.Text().size();
+        });
+    }
+    CompareVoices(suite, "bars 12 x 6, PNG");
+    CompareVoices(suite, "bars 12 x 6, SVG");
     suite.Add("bars 12 x 6, PNG by hand", [=] { return byhand::BarsPng(Moved(bars), kDpi).size(); });
     suite.Add("bars 12 x 6, SVG by hand", [=] { return byhand::BarsSvg(bars).size(); });
     suite.Compare("bars 12 x 6, PNG / by hand", "bars 12 x 6, PNG", "bars 12 x 6, PNG by hand", 1.5);
@@ -133,7 +140,7 @@ void AddMany(Suite& suite, std::size_t groups) {
     const std::shared_ptr<penlode::IGraphicsEngine> engine =
         penlode::CGraphicsEngine::ForRaster(PageOf(bars), kDpi, penlode::kWhite);
     const Way way = [=] {
-        Draw(bars, *prop, *engine);
+        Draw(bars, *prop, {}, *engine);
         return groups;
     };
     suite.AddPrepared(

@@ -1,6 +1,7 @@
 #include "MarkersByHand.h"
 #include "Series.h"
 #include "Suite.h"
+#include "Voices.h"
 #include "penlode/GraphicsEngine.h"
 
 #include <cmath>
@@ -69,9 +70,57 @@ std::size_t ChartPng(std::vector<Series> data, const millichart::CurveProp& prop
     return engine->EncodePng().size();
 }
 
+/// What people draw: axes, captions, a legend, three lines with markers.
+millichart::CurveProp ThreeRecord() {
+    millichart::CurveProp prop;
+    prop.Caption.ShowCaption = 1;
+    prop.Caption.Caption = "Three waves";
+    prop.HorAxis.ShowLabel = 1;
+    prop.Plot.PlotWidth = 120.0F;
+    prop.Plot.PlotHeight = 70.0F;
+    prop.Plot.CurveName = {"first", "second", "third"};
+    prop.Plot.CurveColor = {{0xFF3B6FB6U}, {0xFFE58A3CU}, {0xFF57A168U}};
+    prop.Plot.CurveWidth = {0.3F, 0.3F, 0.3F};
+    prop.Legend.ShowLegend = 1;
+    return prop;
+}
+
+std::vector<std::string> Years() {
+    std::vector<std::string> years;
+    for (int year = 2000; year <= 2020; ++year) {
+        years.push_back(std::to_string(year));
+    }
+    return years;
+}
+
+std::size_t ThreePng(const millichart::ChartOptions& options) {
+    constexpr double kDpi = 144.0;
+    constexpr std::size_t kFew = 100;
+    std::vector<Series> waves;
+    for (std::uint32_t i = 0; i < 3; ++i) {
+        waves.push_back(Wave(i));
+        waves.back().Values.resize(kFew);
+        waves.back().Times.resize(kFew);
+    }
+    millichart::CBasicCurve chart = ChartOf(std::move(waves), ThreeRecord());
+    chart.SetOptions(options);
+    chart.SetHorAxisLabel(Years());
+    const auto shift = static_cast<float>(NextShift());
+    chart.SetLocation({10.0F + shift, 10.0F + shift});
+    chart.Layout();
+    const auto engine = penlode::CGraphicsEngine::ForRaster({180.0F, 110.0F}, kDpi, penlode::kWhite);
+    chart.Draw(engine.get());
+    return engine->EncodePng().size();
+}
+
 } // namespace
 
 void AddCurveCases(Suite& suite) {
+    for (const Voice& voice : Voices()) {
+        suite.Add("3 curves of 100, PNG" + voice.Name,
+                  [options = voice.Options] { return ThreePng(options); });
+    }
+    CompareVoices(suite, "3 curves of 100, PNG");
     const auto curves = std::make_shared<const byhand::MarkedCurves>(Twenty());
     const auto prop = std::make_shared<const millichart::CurveProp>(RecordOf(*curves));
     suite.AddPrepared("20 curves of 500, PNG", [curves, prop] {

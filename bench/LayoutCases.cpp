@@ -1,5 +1,6 @@
 #include "Series.h"
 #include "Suite.h"
+#include "Voices.h"
 
 /// A million points placed on a linear axis, beside one plain loop that reads each time and value and writes
 /// the point.
@@ -22,6 +23,15 @@ void PlaceByHand(const Series& data, penlode::PointF* points) {
     }
 }
 
+/// With a legend below, which moves nothing.
+millichart::CurveProp LegendRecord() {
+    millichart::CurveProp prop = BareRecord();
+    prop.Plot.CurveName = {"curve"};
+    prop.Legend.ShowLegend = 1;
+    prop.Legend.LegendPos = millichart::LegendPosition::BottomCenter;
+    return prop;
+}
+
 std::size_t LaidOut(millichart::CBasicCurve& chart) {
     chart.Layout();
     return chart.GetLayout().Curves.front().Points.size();
@@ -31,17 +41,21 @@ std::size_t LaidOut(millichart::CBasicCurve& chart) {
 
 void AddLayoutCases(Suite& suite) {
     const auto data = MakeSeries(kPoints, Shape::Walk);
-    suite.AddPrepared("layout 1e6, first", [data] {
-        const auto chart = std::make_shared<millichart::CBasicCurve>(ChartOf({*data}, BareRecord()));
-        return [chart] { return LaidOut(*chart); };
-    });
+    for (const Voice& voice : Voices()) {
+        const auto chartOf = [data, options = voice.Options] {
+            const auto chart = std::make_shared<millichart::CBasicCurve>(ChartOf({*data}, LegendRecord()));
+            chart->SetOptions(options);
+            return chart;
+        };
+        suite.AddPrepared("layout 1e6, first" + voice.Name,
+                          [chartOf] { return [chart = chartOf()] { return LaidOut(*chart); }; });
+        suite.Add("layout 1e6, again" + voice.Name, [chart = chartOf()] { return LaidOut(*chart); });
+    }
     suite.Add("layout 1e6, first by hand", [data] {
         const Points points = RoomFor(kPoints);
         PlaceByHand(*data, points.get());
         return static_cast<std::size_t>(points[kPoints - 1].X);
     });
-    const auto chart = std::make_shared<millichart::CBasicCurve>(ChartOf({*data}, BareRecord()));
-    suite.Add("layout 1e6, again", [chart] { return LaidOut(*chart); });
     const std::shared_ptr<penlode::PointF[]> points = RoomFor(kPoints);
     suite.Add("layout 1e6, again by hand", [data, points] {
         PlaceByHand(*data, points.get());
@@ -49,6 +63,7 @@ void AddLayoutCases(Suite& suite) {
     });
     for (const std::string name : {"layout 1e6, first", "layout 1e6, again"}) {
         suite.Compare(name + " / by hand", name, name + " by hand", 4.0);
+        CompareVoices(suite, name, 1.2);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "PieByHand.h"
 #include "Suite.h"
+#include "Voices.h"
 #include "millichart.h"
 #include "penlode/GraphicsEngine.h"
 #include "penlode/svg/SvgEngine.h"
@@ -47,8 +48,10 @@ millichart::PieProp RecordOf(const byhand::Pie& pie) {
     return prop;
 }
 
-void Draw(const byhand::Pie& pie, const millichart::PieProp& prop, penlode::IGraphicsEngine& engine) {
+void Draw(const byhand::Pie& pie, const millichart::PieProp& prop, const millichart::ChartOptions& options,
+          penlode::IGraphicsEngine& engine) {
     millichart::CBasicPie chart;
+    chart.SetOptions(options);
     chart.SetPieProp(prop);
     chart.SetComponentValue(pie.Values);
     chart.SetLocation({static_cast<float>(pie.CenterX), static_cast<float>(pie.CenterY)});
@@ -69,16 +72,20 @@ void AddPieCases(Suite& suite) {
     const byhand::Pie pie = Twelve();
     const auto prop = std::make_shared<const millichart::PieProp>(RecordOf(pie));
     const penlode::SizeF page{static_cast<float>(pie.PageWidth), static_cast<float>(pie.PageHeight)};
-    suite.Add("pie of 12, PNG", [=] {
-        const auto engine = penlode::CGraphicsEngine::ForRaster(page, kDpi, penlode::kWhite);
-        Draw(Moved(pie), *prop, *engine);
-        return engine->EncodePng().size();
-    });
-    suite.Add("pie of 12, SVG", [=] {
-        penlode::CSvgEngine engine(page);
-        Draw(pie, *prop, engine);
-        return engine.Text().size();
-    });
+    for (const Voice& voice : Voices()) {
+        suite.Add("pie of 12, PNG" + voice.Name, [=] {
+            const auto engine = penlode::CGraphicsEngine::ForRaster(page, kDpi, penlode::kWhite);
+            Draw(Moved(pie), *prop, voice.Options, *engine);
+            return engine->EncodePng().size();
+        });
+        suite.Add("pie of 12, SVG" + voice.Name, [=] {
+            penlode::CSvgEngine engine(page);
+            Draw(pie, *prop, voice.Options, engine);
+            return engine.Text().size();
+        });
+    }
+    CompareVoices(suite, "pie of 12, PNG");
+    CompareVoices(suite, "pie of 12, SVG");
     suite.Add("pie of 12, PNG by hand", [=] { return byhand::PiePng(Moved(pie), kDpi).size(); });
     suite.Add("pie of 12, SVG by hand", [=] { return byhand::PieSvg(pie).size(); });
     suite.Compare("pie of 12, PNG / by hand", "pie of 12, PNG", "pie of 12, PNG by hand", 1.5);

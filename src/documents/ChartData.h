@@ -5,11 +5,21 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 /// The data of chart documents. Texts are narrow. A NaN equals a NaN here.
 namespace millichart {
+
+/// What the times of a table's first column count, where that holds dates: so many milliseconds each, from a
+/// moment since the beginning of 1970.
+struct DateCount {
+    std::int64_t First = 0;
+    std::int64_t Each = 0;
+
+    friend bool operator==(const DateCount&, const DateCount&) = default;
+};
 
 /// Where data that were read from a table stand in it, which diagnostics of their values tell.
 struct TableOrigin {
@@ -20,6 +30,7 @@ struct TableOrigin {
     std::string Sheet = {};    ///< of a spreadsheet file, UTF-8
     bool ArePercent = false;   ///< every number is written as in 45%
     bool IsTransposed = false; ///< rows here are the table's columns: Lines are these, and Columns are lines
+    std::optional<DateCount> Dates = {}; ///< none where times are no dates
 
     friend bool operator==(const TableOrigin&, const TableOrigin&) = default;
 };

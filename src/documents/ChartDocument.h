@@ -109,7 +109,8 @@ public:
     /// Sizes the plot, of pies the circle, so that the whole figure, texts included, is so large, in mm. A
     /// bar or line chart fills it in both directions, to a tenth of a millimetre, and gaps between groups
     /// shrink with the plot; of pies and what is composed of them one direction is filled, and their parts
-    /// keep their proportions. False, and the document is as it was, when this cannot be: there is nothing to
+    /// keep their proportions. Where a name is wrapped or left out, and the figure jumps with it, it is the
+    /// next smaller. False, and the document is as it was, when this cannot be: there is nothing to
     /// draw, the texts leave no room for a plot of 5 mm, or one of them is longer than the figure by itself.
     bool FitTo(penlode::SizeF figure);
 

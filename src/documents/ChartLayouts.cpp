@@ -249,8 +249,11 @@ CBasicHistogram LayOut(HistogramDocument& document, LayoutTask& task, const Bars
     return chart;
 }
 
-CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, const Curves& curves) {
+CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, Curves& curves) {
     CBasicCurve chart;
+    if (task.Options.TimeUnit == TimeUnit::Number && task.Options.TimeLabels == TimeLabels::AtTimes) {
+        task.Options.TimeUnit = curves.CountSince1970();
+    }
     chart.SetOptions(task.Options);
     chart.SetCurveProp(document.Prop);
     SetValueRange(chart,

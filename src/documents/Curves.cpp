@@ -274,6 +274,32 @@ template <class Look> void Curves::ForEachValue(const Look& look) const {
     }
 }
 
+std::int32_t Curves::CountSince1970() {
+    constexpr std::int64_t kSecond = 1000;
+    constexpr std::int64_t kDay = 86400 * kSecond;
+    if (!m_data.Origin.Dates) {
+        return TimeUnit::Number;
+    }
+    const auto [first, each] = *m_data.Origin.Dates;
+    const bool areDays = first % kDay == 0 && each == kDay;
+    const std::int64_t unit = areDays ? kDay : kSecond;
+    if (first % unit != 0 || each % unit != 0) {
+        return TimeUnit::Number;
+    }
+    std::vector<Times> since = m_data.Times;
+    for (Times& times : since) {
+        for (std::int32_t& time : times) {
+            const std::int64_t moment = (first + each * time) / unit;
+            if (moment < INT32_MIN || moment > INT32_MAX) {
+                return TimeUnit::Number;
+            }
+            time = static_cast<std::int32_t>(moment);
+        }
+    }
+    m_data.Times = std::move(since);
+    return areDays ? TimeUnit::Days : TimeUnit::Seconds;
+}
+
 ValueRange Curves::FittedRange(const ChartOptions& options) const {
     ValueSpan span;
     ForEachValue([&span](double value, std::size_t, std::size_t) { span.Take(value); });

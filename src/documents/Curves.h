@@ -29,6 +29,10 @@ public:
     /// The largest value that is not null. -infinity when there is none.
     double Largest() const;
 
+    /// Makes times that a table gave as dates those since 1970 and gives their unit; leaves others, and those
+    /// that do not fit in 32 bits, as numbers.
+    std::int32_t CountSince1970();
+
     /// The range that they fill in a chart with such options.
     ValueRange FittedRange(const ChartOptions& options) const;
 

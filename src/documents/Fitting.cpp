@@ -69,6 +69,28 @@ private:
     double m_tooLarge = std::numeric_limits<double>::infinity();
 };
 
+/// The largest figure seen that is not too large. Where a name is wrapped or left out a figure jumps, and no
+/// size makes it as large as asked.
+class Largest {
+public:
+    void Take(SizeF figure, SizeF asked, const std::vector<float>& sizes) {
+        const bool fits =
+            figure.Width <= asked.Width + kTolerance && figure.Height <= asked.Height + kTolerance;
+        const double area = static_cast<double>(figure.Width) * figure.Height;
+        if (fits && area > m_area) {
+            m_area = area;
+            m_sizes = sizes;
+        }
+    }
+
+    /// Empty when all were too large.
+    const std::vector<float>& Sizes() const { return m_sizes; }
+
+private:
+    double m_area = 0.0;
+    std::vector<float> m_sizes;
+};
+
 /// Nothing when there is no picture.
 std::optional<SizeF> FigureOf(const LaidOutChart& chart) {
     const penlode::RectF ink = chart.FullExtent();
@@ -95,6 +117,7 @@ template <class Document> bool FitPlot(ChartDocument& chart, Document& document,
     auto& plot = document.Prop.Plot;
     Approach width(std::min(before.PlotWidth, figure.Width));
     Approach height(std::min(before.PlotHeight, figure.Height));
+    Largest largest;
     for (int i = 0; i < kMostLayouts; ++i) {
         plot.PlotWidth = width.Size();
         plot.PlotHeight = height.Size();
@@ -103,6 +126,7 @@ template <class Document> bool FitPlot(ChartDocument& chart, Document& document,
         if (!now) {
             return false;
         }
+        largest.Take(*now, figure, {plot.PlotWidth, plot.PlotHeight});
         width.Take(static_cast<double>(now->Width) - figure.Width);
         height.Take(static_cast<double>(now->Height) - figure.Height);
         if ((width.IsThere() && height.IsThere()) || width.IsHopeless() || height.IsHopeless()) {
@@ -116,7 +140,13 @@ template <class Document> bool FitPlot(ChartDocument& chart, Document& document,
         width.Move();
         height.Move();
     }
-    return width.IsThere() && height.IsThere();
+    const bool isThere = width.IsThere() && height.IsThere();
+    if (!isThere && !largest.Sizes().empty()) {
+        plot.PlotWidth = largest.Sizes()[0];
+        plot.PlotHeight = largest.Sizes()[1];
+        FitGaps(document, before);
+    }
+    return isThere || !largest.Sizes().empty();
 }
 
 /// Sizes that grow alike.
@@ -155,14 +185,19 @@ bool FitSizes(const ChartDocument& chart, const Sizes& sizes, SizeF figure) {
         before.push_back(*size);
     }
     Approach first(std::min({before.front(), figure.Width, figure.Height}));
-    for (int i = 0; i < kMostLayouts; ++i) {
+    Largest largest;
+    const auto setTo = [&](float size) {
         for (std::size_t k = 0; k < sizes.size(); ++k) {
-            *sizes[k] = before[k] * (first.Size() / before.front());
+            *sizes[k] = before[k] * (size / before.front());
         }
+    };
+    for (int i = 0; i < kMostLayouts; ++i) {
+        setTo(first.Size());
         const std::optional<SizeF> now = FigureOf(chart.LayOut());
         if (!now) {
             return false;
         }
+        largest.Take(*now, figure, {first.Size()});
         first.Take(std::max(static_cast<double>(now->Width) - figure.Width,
                             static_cast<double>(now->Height) - figure.Height));
         if (first.IsThere() || first.IsHopeless()) {
@@ -170,7 +205,10 @@ bool FitSizes(const ChartDocument& chart, const Sizes& sizes, SizeF figure) {
         }
         first.Move();
     }
-    return first.IsThere();
+    if (!first.IsThere() && !largest.Sizes().empty()) {
+        setTo(largest.Sizes().front());
+    }
+    return first.IsThere() || !largest.Sizes().empty();
 }
 
 /// A gap that the document leaves open is found with a layout: it is kept from here on.

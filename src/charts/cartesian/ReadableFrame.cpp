@@ -112,7 +112,8 @@ float Overlap(const std::vector<FittedName>& names, const std::vector<RectF>& ve
     }
     const RectF label = CTextPropertyOperation::GetReach(*lowest, angle);
     const bool touches = std::any_of(names.begin(), names.end(), [&label](const FittedName& name) {
-        return name.Box.X < label.Right() && name.Box.Right() > label.X && name.Box.Y < label.Bottom();
+        const RectF box = CTextPropertyOperation::GetReach(name.Box, name.Angle);
+        return box.X < label.Right() && box.Right() > label.X && box.Y < label.Bottom();
     });
     return touches ? label.Bottom() - names.front().Box.Y : 0.0F;
 }

@@ -5,10 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
+#include <limits>
 #include <numeric>
 #include <optional>
-#include <unordered_map>
 
 namespace millichart {
 
@@ -38,46 +37,70 @@ RectF Around(PointF center, SizeF size) {
     return {center.X - size.Width * 0.5F, center.Y - size.Height * 0.5F, size.Width, size.Height};
 }
 
-/// Boxes in cells as large as the largest of them, so that each lies in four at most.
+/// Boxes in a room, by the cells of their centres. A cell is at least as large as the largest of them, so
+/// that those which a box meets are in its own cell or next to it.
 class Taken {
 public:
-    explicit Taken(SizeF largest) : m_cell{std::max(largest.Width, 1.0F), std::max(largest.Height, 1.0F)} {}
+    Taken(const RectF& room, SizeF largest, std::size_t count)
+        : m_room(room), m_columns(Parts(room.Width, largest.Width, 1 + count)),
+          m_rows(Parts(room.Height, largest.Height, 1 + count / m_columns)),
+          m_latest(m_columns * m_rows, kNone) {
+        m_boxes.reserve(count);
+    }
 
     bool Meets(const RectF& box) const {
-        return IsIn(box, [&](std::uint64_t cell) {
-            const auto found = m_boxes.find(cell);
-            return found != m_boxes.end() &&
-                   std::any_of(found->second.begin(), found->second.end(),
-                               [&box](const RectF& other) { return Overlap(box, other); });
-        });
-    }
-
-    void Add(const RectF& box) {
-        IsIn(box, [&](std::uint64_t cell) {
-            m_boxes[cell].push_back(box);
-            return false;
-        });
-    }
-
-private:
-    /// Calls `look` with each cell of a box until it says true.
-    template <class Look> bool IsIn(const RectF& box, const Look& look) const {
-        const auto cell = [](float at, float size) {
-            return static_cast<std::int64_t>(std::floor(std::clamp(at / size, -1e9F, 1e9F)));
-        };
-        for (std::int64_t x = cell(box.X, m_cell.Width); x <= cell(box.Right(), m_cell.Width); ++x) {
-            for (std::int64_t y = cell(box.Y, m_cell.Height); y <= cell(box.Bottom(), m_cell.Height); ++y) {
-                if (look((static_cast<std::uint64_t>(x) << 32U) ^
-                         (static_cast<std::uint64_t>(y) & 0xFFFFFFFFU))) {
-                    return true;
+        const std::size_t column = ColumnOf(box);
+        const std::size_t row = RowOf(box);
+        for (std::size_t y = row - std::min<std::size_t>(row, 1); y <= std::min(row + 1, m_rows - 1); ++y) {
+            for (std::size_t x = column - std::min<std::size_t>(column, 1);
+                 x <= std::min(column + 1, m_columns - 1); ++x) {
+                for (std::size_t i = m_latest[y * m_columns + x]; i != kNone; i = m_boxes[i].Before) {
+                    if (Overlap(box, m_boxes[i].Box)) {
+                        return true;
+                    }
                 }
             }
         }
         return false;
     }
 
-    SizeF m_cell;
-    std::unordered_map<std::uint64_t, std::vector<RectF>> m_boxes;
+    void Add(const RectF& box) {
+        std::size_t& latest = m_latest[RowOf(box) * m_columns + ColumnOf(box)];
+        m_boxes.push_back({box, latest});
+        latest = m_boxes.size() - 1;
+    }
+
+private:
+    static constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+    struct Entry {
+        RectF Box;
+        std::size_t Before; ///< in the same cell
+    };
+
+    static std::size_t Parts(float length, float part, std::size_t most) {
+        const float parts = length / part;
+        return parts >= 1.0F ? static_cast<std::size_t>(std::min(parts, static_cast<float>(most))) : 1;
+    }
+
+    static std::size_t PartAt(float at, float length, std::size_t parts) {
+        const float part = at / length * static_cast<float>(parts);
+        return part >= 0.0F ? static_cast<std::size_t>(std::min(part, static_cast<float>(parts - 1))) : 0;
+    }
+
+    std::size_t ColumnOf(const RectF& box) const {
+        return PartAt(box.Center().X - m_room.X, m_room.Width, m_columns);
+    }
+
+    std::size_t RowOf(const RectF& box) const {
+        return PartAt(box.Center().Y - m_room.Y, m_room.Height, m_rows);
+    }
+
+    RectF m_room;
+    std::size_t m_columns;
+    std::size_t m_rows;
+    std::vector<std::size_t> m_latest; ///< of each cell
+    std::vector<Entry> m_boxes;
 };
 
 /// The bars by their left edges.
@@ -172,7 +195,7 @@ std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, co
         return std::abs(values[a].Value) > std::abs(values[b].Value);
     });
     const Bars bars(values, depth);
-    Taken taken(largest);
+    Taken taken(room, largest, order.size());
     for (const std::size_t i : order) {
         const auto take = [&](PointF center, bool isInside) {
             const RectF box = Around(center, values[i].Label);

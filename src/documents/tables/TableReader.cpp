@@ -306,6 +306,7 @@ bool TableReader::TakeDates() {
 void TableReader::TakeAxis(TimeAxis axis) {
     m_table.Times = std::move(axis.Times);
     m_table.TimeLabels = std::move(axis.Labels);
+    m_table.Origin.Dates = axis.Dates;
 }
 
 void TableReader::TakeNumbers(const TableRow& row) {

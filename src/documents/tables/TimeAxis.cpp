@@ -111,6 +111,9 @@ TimeAxis AxisOfDates(const DateColumn& dates) {
     TimeAxis axis;
     std::transform(since.begin(), since.end(), std::back_inserter(axis.Times),
                    [unit](Count time) { return static_cast<std::int32_t>(time / unit); });
+    if (!dates.AreOfOneDay) {
+        axis.Dates = DateCount{first, unit};
+    }
     if (span > 0) {
         axis.Labels = LabelsOfDates(first, span, step, dates.AreOfOneDay);
     }

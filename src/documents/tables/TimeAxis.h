@@ -1,9 +1,11 @@
 #pragma once
 
+#include "documents/ChartData.h"
 #include "documents/tables/Dates.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,7 @@ inline constexpr double kMaxTimeNumber = 1e15;
 struct TimeAxis {
     std::vector<std::int32_t> Times;
     std::vector<std::string> Labels;
+    std::optional<DateCount> Dates = {}; ///< of dates that are more than times of one day
 };
 
 /// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
