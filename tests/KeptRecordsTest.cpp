@@ -107,6 +107,9 @@ TEST(KeptRecords, AreSavedAndLoadedAsEver) {
     ExpectKept("HistogramProp", SomeHistogram(), [](auto& s, auto& p, auto... tag) {
         CHistogramPropSerialize::SerializeHistogramProp(s, p, tag...);
     });
+    ExpectKept("ChartOptions", SomeOptions(), [](auto& s, auto& p, auto... tag) {
+        CChartOptionsSerialize::SerializeChartOptions(s, p, tag...);
+    });
     ExpectKept("CurveProp", SomeCurves(),
                [](auto& s, auto& p, auto... tag) { CCurvePropSerialize::SerializeCurveProp(s, p, tag...); });
 }

@@ -186,6 +186,38 @@ TEST(ChartDocument, SavesWhatWasChangedAndKeepsTheRest) {
     EXPECT_EQ(document.Text(), before) << "changed back is not changed";
 }
 
+TEST(ChartDocument, OptionsAreAGroupOrAWordOrNothing) {
+    ChartDocument document = Loaded(R"({"kind": "pie", "data": {"values": [1, 2]}})");
+    EXPECT_EQ(document.Options, ChartOptions());
+    EXPECT_EQ(document.LayOut().Chart.index(), 1U);
+    const std::string before = document.Text();
+    const auto saved = [&](const ChartOptions& options) {
+        document.Options = options;
+        const ChartDocument again = Loaded(document.Text());
+        EXPECT_TRUE(again.IsSound()) << document.Text();
+        EXPECT_EQ(again.Options, options) << document.Text();
+        return document.Text();
+    };
+    EXPECT_NE(saved(ChartOptions::Readable()).find(R"("options": "readable")"), std::string::npos);
+    ChartOptions exact;
+    exact.Numbers = NumberStyle::Exact;
+    exact.Title.Caption = "T";
+    EXPECT_NE(saved(exact).find(R"("Numbers": "Exact")"), std::string::npos);
+    EXPECT_EQ(saved({}), before);
+
+    ChartDocument word = Loaded(R"({"kind": "pie", "data": {"values": [1, 2]}, "options": "readable"})");
+    word.Options = exact;
+    EXPECT_EQ(Loaded(word.Text()).Options, exact) << word.Text();
+    ChartDocument group =
+        Loaded(R"({"kind": "pie", "data": {"values": [1, 2]}, "options": {"Numbers": "Exact"}})");
+    EXPECT_EQ(group.Options.Air, ChartAir::None) << "a missing key asks for nothing";
+    group.Options = ChartOptions::Readable();
+    EXPECT_EQ(Loaded(group.Text()).Options, ChartOptions::Readable()) << group.Text();
+    group.Options = {};
+    EXPECT_EQ(Loaded(group.Text()).Options, ChartOptions()) << group.Text();
+    EXPECT_FALSE(Loaded(R"({"kind": "pie", "data": {"values": [1]}, "options": "redable"})").IsSound());
+}
+
 TEST(ChartDocument, NumbersAndFlagsStayWhatTheyAre) {
     ChartDocument document = Loaded(R"({"kind": "curve", "data": {"curves": [{"values": [1, 2]}]},
         "property": {"CurvePlotProp": {"ShowEdge": true, "ShowBackground": 1, "PlotWidth": 90, "PlotHeight": "60",

@@ -173,3 +173,14 @@ CurveProp SomeCurves() {
     prop.Legend.LegendPos = LegendPosition::TopRight;
     return prop;
 }
+
+millichart::ChartOptions SomeOptions() {
+    millichart::ChartOptions options = millichart::ChartOptions::Readable();
+    options.Thousands = millichart::ThousandsStyle::Chinese;
+    options.MaxDecimals = 7;
+    options.TimeUnit = millichart::TimeUnit::Seconds;
+    options.Palette = millichart::ChartPalette::Print;
+    options.Title = SomeCaption();
+    options.SecondTitle.Caption = "b";
+    return options;
+}

@@ -6,6 +6,7 @@
 #include "charts/pie/HalfPieProp.h"
 #include "charts/pie/PieProp.h"
 #include "foundation/CaptionProp.h"
+#include "foundation/ChartOptions.h"
 #include "foundation/Legend.h"
 
 /// Records whose own fields differ from their neighbours and from both kinds of default, so that one that is
@@ -15,4 +16,5 @@ millichart::LegendProp SomeLegend(); ///< without a font
 millichart::PieProp SomePie();
 millichart::HalfPieProp SomeHalf();
 millichart::HistogramProp SomeHistogram();
+millichart::ChartOptions SomeOptions();
 millichart::CurveProp SomeCurves(); ///< its value axis is as constructed but for two fields
