@@ -59,11 +59,14 @@ void PlaceVerLabels(const FramePlan& plan, Surroundings& around, CartesianLayout
     const float air = AirOf(plan.Options, plan.VerAxis.VerAxisLabelTextProperty.Font);
     const float further = std::max(air - kTickRoom, 0.0F);
     Move(layout.VerLabelRects, {-further, 0.0F});
+    std::vector<RectF> reaches;
     for (const RectF& label : layout.VerLabelRects) {
         if (IsSeen({label.Width, label.Height})) {
-            AddText(around, label, plan.VerAxis.VerAxisLabelTextProperty.Angle);
+            reaches.push_back(
+                CTextPropertyOperation::GetReach(label, plan.VerAxis.VerAxisLabelTextProperty.Angle));
         }
     }
+    around.AddRow(reaches);
 }
 
 std::vector<FittedName> Fitted(const NamesBelow& names, float top) {
@@ -129,11 +132,13 @@ void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, 
     for (std::size_t i = 0; i < names.Rects.size(); ++i) {
         names.Rects[i] = {names.Rects[i].Center().X, top + down, 0.0F, 0.0F};
     }
+    std::vector<RectF> reaches;
     for (FittedName& name : layout.FittedNames) {
         name.Box.Y += down;
         names.Rects[name.Index] = name.Box;
-        AddText(around, name.Box, name.Angle);
+        reaches.push_back(CTextPropertyOperation::GetReach(name.Box, name.Angle));
     }
+    around.AddRow(reaches);
 }
 
 void PlaceLegendBox(const FramePlan& plan, Surroundings& around, CartesianLayout& layout) {

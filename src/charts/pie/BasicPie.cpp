@@ -3,6 +3,7 @@
 #include "charts/pie/PiePlacement.h"
 #include "charts/pie/SliceLabels.h"
 #include "charts/reading/LegendSeat.h"
+#include "foundation/LegendSide.h"
 
 #include <utility>
 
@@ -62,9 +63,11 @@ void CBasicPie::SeatOnPie() {
     const SliceRim rim = Rim();
     const RectF seen{rim.Center.X - rim.Across, rim.Center.Y - rim.Up, 2.0F * rim.Across,
                      2.0F * rim.Up + rim.Depth};
+    // Rows may be as wide as the title.
+    const RectF whole = IsInRows(m_prop.Legend.LegendPos) ? WholeUnderTitle() : m_layout.Whole;
     SeatedLegend legend =
-        Translated(SeatLegend(m_prop.Legend, m_prop.Basic.ComponentName, kLegendSquareFactor, seen,
-                              m_layout.Whole, m_options.Air == ChartAir::ThirdOfLine),
+        Translated(SeatLegend(m_prop.Legend, m_prop.Basic.ComponentName, kLegendSquareFactor, seen, whole,
+                              m_options.Air == ChartAir::ThirdOfLine),
                    m_legendOffset);
     if (!legend.Items.empty()) {
         m_layout.Whole = penlode::Union(m_layout.Whole, legend.Box);

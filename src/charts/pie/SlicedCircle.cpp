@@ -21,6 +21,14 @@ float AirBeside(const CaptionProp& title, std::int32_t air) {
                : 0.0F;
 }
 
+bool IsShown(const CaptionProp& title) {
+    return title.ShowCaption != 0 && !title.Caption.empty();
+}
+
+SizeF SizeOf(const CaptionProp& title) {
+    return CTextPropertyOperation::GetTextSize(title.Caption, title.CaptionTextProperty);
+}
+
 } // namespace
 
 void CSlicedCircle::GetChildPosition(RectF& pie, std::vector<RectF>& labels, std::vector<RectF>&) const {
@@ -55,13 +63,19 @@ void CSlicedCircle::TakeWhole(const RectF& pie, const TextProperty& look) {
     }
 }
 
+RectF CSlicedCircle::WholeUnderTitle() const {
+    const RectF& whole = m_layout.Whole;
+    const float width = IsShown(m_options.Title) ? SizeOf(m_options.Title).Width : 0.0F;
+    return penlode::Union(whole, {m_layout.Pie.Center().X - width * 0.5F, whole.Y, width, whole.Height});
+}
+
 void CSlicedCircle::PlaceTitle(TitleSide side) {
     const CaptionProp& title = m_options.Title;
-    if (title.ShowCaption == 0 || title.Caption.empty()) {
+    if (!IsShown(title)) {
         return;
     }
     const RectF& whole = m_layout.Whole;
-    const SizeF size = CTextPropertyOperation::GetTextSize(title.Caption, title.CaptionTextProperty);
+    const SizeF size = SizeOf(title);
     const float air = AirBeside(title, m_options.Air);
     m_layout.Title = RectF{m_layout.Pie.Center().X - size.Width * 0.5F,
                            side == TitleSide::Above ? whole.Y - air - size.Height : whole.Bottom() + air,

@@ -55,6 +55,8 @@ protected:
 
     /// Unites `pie` and the labels; of labels that are kept apart, all that their letters cover.
     void TakeWhole(const penlode::RectF& pie, const TextProperty& look);
+    /// The whole, and beside it as much room as the options' title will take.
+    penlode::RectF WholeUnderTitle() const;
     /// Places the options' title beside everything else of the layout, whose whole it becomes a part of.
     void PlaceTitle(TitleSide side);
     void VisitLabels(const PieLabelProp& label, const TextVisitor& visit) const;

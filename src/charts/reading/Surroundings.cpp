@@ -34,6 +34,16 @@ void Surroundings::Add(const RectF& box) {
     }
 }
 
+void Surroundings::AddRow(const std::vector<RectF>& boxes) {
+    Surroundings row;
+    for (const RectF& box : boxes) {
+        row.Add(box);
+    }
+    if (!row.m_boxes.empty()) {
+        Add(row.All());
+    }
+}
+
 RectF Surroundings::PlaceAbove(SizeF size, float centerX, float gap) const {
     RectF placed{centerX - size.Width * 0.5F, 0.0F, size.Width, size.Height};
     float top = kFar;
