@@ -2,6 +2,7 @@
 
 #include "documents/ChartLayouts.h"
 #include "documents/Fields.h"
+#include "documents/OptionsGroup.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -64,10 +65,26 @@ std::string HeldPlace(const std::string& place, const penlode::CJsonSerializeStr
                                                     : place;
 }
 
+/// A document that asks for all options by one word has a group of them where one is set.
+void OpenOptions(penlode::CJsonSerializeStream& json, const std::string& name) {
+    if (!json.IsText(kOptions)) {
+        return;
+    }
+    penlode::CJsonSerializeStream opened(json.Text());
+    opened.BeginSaving();
+    opened.Remove(kOptions);
+    ChartOptions all = ChartOptions::Readable();
+    CChartOptionsSerialize::SerializeChartOptions(opened, all, kOptions);
+    json = penlode::CJsonSerializeStream(opened.Text(), name);
+}
+
 /// Tells of the settings for which the document has no place.
-void Apply(const std::vector<Setting>& settings, penlode::CJsonSerializeStream& json,
+void Apply(const std::vector<Setting>& settings, const std::string& name, penlode::CJsonSerializeStream& json,
            std::vector<Diagnostic>& diagnostics) {
     for (const Setting& setting : settings) {
+        if (setting.Place != kOptions && IsPlaceIn(setting.Place, kOptions)) {
+            OpenOptions(json, name);
+        }
         if (!json.Set(HeldPlace(setting.Place, json), setting.Value)) {
             diagnostics.push_back(penlode::Error(setting.Place, "no such place in the document"));
         }
@@ -242,7 +259,7 @@ ChartDocument ChartDocument::FromInput(InputText input, std::optional<TableInput
     loaded->Json = penlode::CJsonSerializeStream(input.Text, input.Name);
     loaded->IsUnread = loaded->Json.IsUnreadable();
     if (!loaded->IsUnread && !settings.empty()) {
-        Apply(settings, loaded->Json, loaded->Diagnostics);
+        Apply(settings, input.Name, loaded->Json, loaded->Diagnostics);
         input.Text = loaded->Json.Text();
     }
     document.m_text = std::make_shared<const std::string>(std::move(input.Text));

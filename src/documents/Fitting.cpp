@@ -91,6 +91,11 @@ private:
     std::vector<float> m_sizes;
 };
 
+bool MayJump(const ChartDocument& chart) {
+    return chart.Options.Labels == LabelFit::Fitted || chart.Options.SliceLabels == SliceLabelFit::Apart ||
+           chart.Options.Legend == LegendSeat::OnPlot;
+}
+
 /// Nothing when there is no picture.
 std::optional<SizeF> FigureOf(const LaidOutChart& chart) {
     const penlode::RectF ink = chart.FullExtent();
@@ -141,12 +146,13 @@ template <class Document> bool FitPlot(ChartDocument& chart, Document& document,
         height.Move();
     }
     const bool isThere = width.IsThere() && height.IsThere();
-    if (!isThere && !largest.Sizes().empty()) {
+    const bool isNear = !isThere && MayJump(chart) && !largest.Sizes().empty();
+    if (isNear) {
         plot.PlotWidth = largest.Sizes()[0];
         plot.PlotHeight = largest.Sizes()[1];
         FitGaps(document, before);
     }
-    return isThere || !largest.Sizes().empty();
+    return isThere || isNear;
 }
 
 /// Sizes that grow alike.
@@ -205,10 +211,11 @@ bool FitSizes(const ChartDocument& chart, const Sizes& sizes, SizeF figure) {
         }
         first.Move();
     }
-    if (!first.IsThere() && !largest.Sizes().empty()) {
+    const bool isNear = !first.IsThere() && MayJump(chart) && !largest.Sizes().empty();
+    if (isNear) {
         setTo(largest.Sizes().front());
     }
-    return first.IsThere() || !largest.Sizes().empty();
+    return first.IsThere() || isNear;
 }
 
 /// A gap that the document leaves open is found with a layout: it is kept from here on.

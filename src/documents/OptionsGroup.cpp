@@ -5,7 +5,6 @@
 namespace millichart::documents {
 namespace {
 
-constexpr const char* kOptions = "options";
 constexpr const char* kReadable = "readable";
 
 } // namespace

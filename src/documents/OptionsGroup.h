@@ -8,6 +8,8 @@
 /// "readable". A document without it draws as it always has.
 namespace millichart::documents {
 
+inline constexpr const char* kOptions = "options";
+
 /// Missing keys of the group are as without it.
 ChartOptions LoadOptions(ChartStream& stream);
 

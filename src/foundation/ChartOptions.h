@@ -80,7 +80,7 @@ inline constexpr std::int32_t ThirdOfLine = 1; ///< also half a marker at both e
 namespace ChartContrast {
 inline constexpr std::int32_t Classical = 0;
 inline constexpr std::int32_t Kept =
-    1; ///< white on dark faces, walls of their face's hue, light grids behind all
+    1; ///< values that can be read on any plot, walls of their face's hue, light grids behind all
 } // namespace ChartContrast
 
 /// Where the colours of slices, bars and lines come from.

@@ -3,6 +3,7 @@
 #include "foundation/Container.h"
 #include "penlode/engine/Finite.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 

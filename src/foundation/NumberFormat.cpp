@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <string_view>
 
 namespace millichart {
@@ -204,8 +205,11 @@ std::string NumberFormat::ValueText(double value, int classicalDecimals) const {
     }
     const Decimal number = Decimal::Of(value);
     const bool isLost = !number.IsZero() && number.Rounded(m_maxDecimals).IsZero();
-    return Narrow(isLost || number.Point > kMostValueDigits ? PowerText(number, m_maxDecimals)
-                                                            : PlainText(number, m_maxDecimals, m_thousands));
+    const bool isTiny = isLost && number.Exponent() < kLeastPlainPower;
+    if (isTiny || number.Point > kMostValueDigits) {
+        return Narrow(PowerText(number, m_maxDecimals));
+    }
+    return Narrow(PlainText(number, isLost ? -number.Exponent() : m_maxDecimals, m_thousands));
 }
 
 std::string NumberFormat::PercentText(double percent) const {

@@ -104,21 +104,21 @@ std::vector<FittedName> Kept(const NamesBelow& names, float top) {
     return kept;
 }
 
-/// How far names have to go down so that none touches the lowest label of the value axis, the only one that
-/// may reach below the plot.
+/// How far names have to go down so that none touches a label of the value axis that reaches below the plot.
 float Overlap(const std::vector<FittedName>& names, const std::vector<RectF>& verLabels, std::int32_t angle) {
-    const auto lowest =
-        std::max_element(verLabels.begin(), verLabels.end(),
-                         [](const RectF& a, const RectF& b) { return a.Bottom() < b.Bottom(); });
-    if (lowest == verLabels.end()) {
-        return 0.0F;
+    float overlap = 0.0F;
+    for (const RectF& rect : verLabels) {
+        const RectF label = CTextPropertyOperation::GetReach(rect, angle);
+        const auto touches = [&label](const FittedName& name) {
+            const RectF box = CTextPropertyOperation::GetReach(name.Box, name.Angle);
+            return box.X < label.Right() && box.Right() > label.X && box.Y < label.Bottom();
+        };
+        const bool reachesThem = !names.empty() && label.Bottom() - names.front().Box.Y > overlap;
+        if (reachesThem && std::any_of(names.begin(), names.end(), touches)) {
+            overlap = label.Bottom() - names.front().Box.Y;
+        }
     }
-    const RectF label = CTextPropertyOperation::GetReach(*lowest, angle);
-    const bool touches = std::any_of(names.begin(), names.end(), [&label](const FittedName& name) {
-        const RectF box = CTextPropertyOperation::GetReach(name.Box, name.Angle);
-        return box.X < label.Right() && box.Right() > label.X && box.Y < label.Bottom();
-    });
-    return touches ? label.Bottom() - names.front().Box.Y : 0.0F;
+    return overlap;
 }
 
 void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, CartesianLayout& layout) {
@@ -168,18 +168,6 @@ SizeF SizeShown(const FramePlan& plan, SizeF size, const std::string& caption, c
 bool ReadsFrame(const ChartOptions& options) {
     return options.Labels == LabelFit::Fitted || options.Legend == LegendSeat::OnPlot ||
            options.Air == ChartAir::ThirdOfLine;
-}
-
-float AirOf(const ChartOptions& options, const penlode::Owned<penlode::Font>& font) {
-    constexpr float kThird = 1.0F / 3.0F;
-    return options.Air == ChartAir::ThirdOfLine && font
-               ? penlode::CStringUtil::MeasureFont(*font).LineHeight * kThird
-               : 0.0F;
-}
-
-std::string CaptionShown(const ChartOptions& options, const std::string& caption) {
-    const bool isKept = options.Air != ChartAir::ThirdOfLine;
-    return isKept ? caption : caption.substr(0, caption.find_last_not_of('\n') + 1);
 }
 
 void PlaceReadably(const FramePlan& plan, NamesBelow names, CartesianLayout& layout) {

@@ -2,6 +2,7 @@
 
 #include "charts/cartesian/CartesianLayout.h"
 #include "charts/cartesian/VerAxisProp.h"
+#include "charts/reading/Air.h"
 #include "foundation/CaptionProp.h"
 #include "foundation/ChartOptions.h"
 #include "foundation/Legend.h"
@@ -16,12 +17,6 @@ namespace millichart {
 
 /// Do the options ask for another place of anything round the plot?
 bool ReadsFrame(const ChartOptions& options);
-
-/// A third of a line of this font, if the options ask for air, else 0.
-float AirOf(const ChartOptions& options, const penlode::Owned<penlode::Font>& font);
-
-/// A caption as it is drawn: with air, without the line breaks at its end that stood for it.
-std::string CaptionShown(const ChartOptions& options, const std::string& caption);
 
 /// The names below the plot. Rectangles and sizes are the classical ones, and become those of the names as
 /// they read.

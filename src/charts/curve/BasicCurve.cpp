@@ -16,6 +16,18 @@ using penlode::PointF;
 using penlode::RectF;
 using penlode::SizeF;
 
+namespace {
+
+/// Do labels begin with digits, as numbers and dates do? What is left out can then be told from the others.
+bool AreOnScale(const std::vector<std::string>& labels) {
+    return std::all_of(labels.begin(), labels.end(), [](const std::string& label) {
+        const std::size_t first = label.find_first_not_of("+-.");
+        return label.empty() || (first != std::string::npos && label[first] >= '0' && label[first] <= '9');
+    });
+}
+
+} // namespace
+
 bool CBasicCurve::SetCurveProp(const CurveProp& prop) {
     m_prop = prop;
     return m_axis.ChooseScale(m_prop.Plot.LogarithmScale != 0, m_prop.Plot.PlotHeight);
@@ -258,7 +270,7 @@ void CBasicCurve::ReadFrame() {
                    m_prop.Plot.CurveName,
                    kLegendSampleFactor,
                    {}},
-                  {labels, m_layout.HorTicks, hor.HorLabelTextProperty, true, m_layout.HorLabelRects},
+                  {labels, m_layout.HorTicks, hor.HorLabelTextProperty, AreOnScale(labels), m_layout.HorLabelRects},
                   m_layout);
     MoveFrame(m_location - m_layout.Whole.TopLeft());
 }

@@ -299,6 +299,7 @@ void CBasicHistogram::VisitBarLabels(const TextVisitor& visit) const {
 }
 
 void CBasicHistogram::VisitFittedLabels(const TextVisitor& visit) const {
+    const bool isOnGround = m_options.Contrast == ChartContrast::Kept && m_prop.Plot.ShowBackground != 0;
     const std::vector<Fill> fills = FillsOfBars();
     VisitFronts([&](std::size_t group, std::size_t i, const RectF&) {
         const PlacedValue& label = m_layout.ValueLabels[group][i];
@@ -306,7 +307,11 @@ void CBasicHistogram::VisitFittedLabels(const TextVisitor& visit) const {
             return;
         }
         const auto contrasting = [&](ChartText&& text) {
-            text.Color = label.IsInside && i < fills.size() ? ReadableOn(fills[i].Color) : text.Color;
+            if (label.IsInside && i < fills.size()) {
+                text.Color = ReadableOn(fills[i].Color);
+            } else if (isOnGround) {
+                text.Color = ReadableOver(text.Color, m_prop.Plot.PlotBackgroundColor);
+            }
             visit(std::move(text));
         };
         CTextPropertyOperation::Visit(contrasting, {TextRole::BarLabel, group, i}, ComponentInfo(group, i),

@@ -118,9 +118,10 @@ void CBasicHistogram::PlaceValueLabels() {
     for (std::size_t group = 0; group < m_layout.ComponentRects.size(); ++group) {
         for (std::size_t i = 0; i < m_layout.ComponentRects[group].size(); ++i) {
             const double value = m_values[group][i];
+            const RectF& bar = m_layout.ComponentRects[group][i];
             const SizeF size = CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), look);
             const bool isHatched = i < fills.size() && fills[i].Hatch != Hatch::None;
-            values.push_back({Normal(m_layout.ComponentRects[group][i]), WithLetters(size, letters), value,
+            values.push_back({Normal(bar), WithLetters(size, letters), value,
                               value < 0.0, prop.Juxtaposition == 0, isHatched});
         }
     }

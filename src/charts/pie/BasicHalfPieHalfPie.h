@@ -32,7 +32,8 @@ struct HalfPieHalfPieShapes {
 /// kHalvesSeparator, the second half's.
 class MILLICHART_API CBasicHalfPieHalfPie {
 public:
-    /// What the chart does so that it reads well; shows after the next Layout. At first nothing.
+    /// What the chart does so that it reads well; at first nothing. To be followed by a Layout, as the places
+    /// that the last one found are not those of other options.
     void SetOptions(const ChartOptions& options) { m_options = options; }
 
     const ChartOptions& GetOptions() const { return m_options; }

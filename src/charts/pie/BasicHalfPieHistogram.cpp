@@ -1,5 +1,7 @@
 #include "charts/pie/BasicHalfPieHistogram.h"
 
+#include "charts/reading/Air.h"
+
 #include "charts/cartesian/FittedRange.h"
 
 namespace millichart {
@@ -75,7 +77,8 @@ void CBasicHalfPieHistogram::Layout() {
 float CBasicHalfPieHistogram::BarsBase() const {
     const bool isBelow =
         m_options.SliceLabels == SliceLabelFit::Apart && m_prop.HalfPie.Basic.WhichPart == HalfPiePart::Upper;
-    return isBelow ? m_halfPie.GetPositionAll().Y : m_location.Y;
+    const float air = AirOf(m_options, m_prop.HalfPie.Label.PieLabelTextProperty.Font);
+    return isBelow ? m_halfPie.GetPositionAll().Y - air : m_location.Y;
 }
 
 /// The bar chart's size is known only from a layout, and its place from its size: it is laid out again.

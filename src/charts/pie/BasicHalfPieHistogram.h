@@ -24,15 +24,16 @@ struct HalfPieHistogramShapes {
 /// the getters read the last layout. Copies share the bar chart's value axis and nothing else.
 class MILLICHART_API CBasicHalfPieHistogram {
 public:
-    /// What the chart does so that it reads well; shows after the next Layout. At first nothing.
+    /// What the chart does so that it reads well; at first nothing. To be followed by a Layout, as the places
+    /// that the last one found are not those of other options.
     void SetOptions(const ChartOptions& options) { m_options = options; }
 
     const ChartOptions& GetOptions() const { return m_options; }
 
     /// Copies the record and, in the copy, switches off what would stand round the bars: caption, axes with
     /// their labels and captions, grids. The plot's background, the bars with their labels and the legend
-    /// stay as given. An upper half overlaps the bars, unless options keep
-    /// its labels apart: the bars then stand on top of it.
+    /// stay as given. An upper half overlaps the bars, unless options keep its labels apart: the bars then
+    /// stand on top of it.
     void SetHalfPieHistogramProp(const HalfPieHistogramProp& prop);
 
     const HalfPieHistogramProp& GetHalfPieHistogramProp() const { return m_prop; }

@@ -27,8 +27,8 @@ std::vector<PieSlice> FlatSlices(float startAngle, const std::vector<float>& swe
 std::vector<PieSlice> DeepSlices(float startAngle, const std::vector<float>& sweeps,
                                  const std::vector<Fill>& fills, const ChartOptions& options);
 
-/// Fills and hatches each slice, paints its walls and outlines it before the next. Walls lie wholly below the face's rim,
-/// so no slice needs to be painted before another.
+/// Fills and hatches each slice, paints its walls and outlines it before the next. Walls lie wholly below the
+/// face's rim, so no slice needs to be painted before another.
 void DrawSlices(penlode::IGraphicsEngine& engine, const PieShapes& shapes);
 
 } // namespace millichart

@@ -16,12 +16,18 @@ constexpr float kLeadGap = 0.4F;
 /// What is as near as this to its classical place stays there.
 constexpr float kSamePlace = 1e-3F;
 
+PointF OffsetOf(const LabelledSlices& slices, std::size_t label) {
+    return label < slices.LabelOffsets.size() ? slices.LabelOffsets[label] : PointF{};
+}
+
+/// One that the user moved counts as a large slice's, so that it is not left out.
 std::vector<SliceLabel> LabelsOf(const LabelledSlices& slices, const std::vector<RectF>& rects) {
     std::vector<SliceLabel> labels;
     float angle = slices.StartAngle;
     for (std::size_t i = 0; i < rects.size(); ++i) {
         const float sweep = slices.Sweeps[i];
-        labels.push_back({angle + sweep * 0.5F, {rects[i].Width, rects[i].Height}, std::fabs(sweep)});
+        const float share = OffsetOf(slices, i) == PointF{} ? std::fabs(sweep) : kFullTurn;
+        labels.push_back({angle + sweep * 0.5F, {rects[i].Width, rects[i].Height}, share});
         angle += sweep;
     }
     return labels;
@@ -58,7 +64,7 @@ void KeepLabelsApart(const SliceRim& rim, const LabelledSlices& slices, PieLayou
         rim, slices.Label.DistBetweenLabelCenterAndPieCenter, hasLeads, LabelsOf(slices, layout.LabelRects));
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const PlacedSliceLabel& label = labels[i];
-        const PointF offset = i < slices.LabelOffsets.size() ? slices.LabelOffsets[i] : PointF{};
+        const PointF offset = OffsetOf(slices, i);
         RectF& rect = layout.LabelRects[i];
         if (!label.IsShown) {
             layout.LabelTexts[i].clear();

@@ -1,7 +1,7 @@
 #include "charts/pie/SlicedCircle.h"
 
+#include "charts/reading/Air.h"
 #include "foundation/TextPropertyOperation.h"
-#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 
@@ -13,20 +13,13 @@ using penlode::SizeF;
 
 namespace {
 
-/// Between a title and what it stands beside.
-float AirBeside(const CaptionProp& title, std::int32_t air) {
-    const penlode::Font* font = title.CaptionTextProperty.Font.Get();
-    return air == ChartAir::ThirdOfLine && font != nullptr
-               ? penlode::CStringUtil::MeasureFont(*font).LineHeight / 3.0F
-               : 0.0F;
-}
-
 bool IsShown(const CaptionProp& title) {
     return title.ShowCaption != 0 && !title.Caption.empty();
 }
 
-SizeF SizeOf(const CaptionProp& title) {
-    return CTextPropertyOperation::GetTextSize(title.Caption, title.CaptionTextProperty);
+SizeF SizeOf(const ChartOptions& options) {
+    return CTextPropertyOperation::GetTextSize(CaptionShown(options, options.Title.Caption),
+                                               options.Title.CaptionTextProperty);
 }
 
 } // namespace
@@ -65,7 +58,7 @@ void CSlicedCircle::TakeWhole(const RectF& pie, const TextProperty& look) {
 
 RectF CSlicedCircle::WholeUnderTitle() const {
     const RectF& whole = m_layout.Whole;
-    const float width = IsShown(m_options.Title) ? SizeOf(m_options.Title).Width : 0.0F;
+    const float width = IsShown(m_options.Title) ? SizeOf(m_options).Width : 0.0F;
     return penlode::Union(whole, {m_layout.Pie.Center().X - width * 0.5F, whole.Y, width, whole.Height});
 }
 
@@ -75,8 +68,8 @@ void CSlicedCircle::PlaceTitle(TitleSide side) {
         return;
     }
     const RectF& whole = m_layout.Whole;
-    const SizeF size = SizeOf(title);
-    const float air = AirBeside(title, m_options.Air);
+    const SizeF size = SizeOf(m_options);
+    const float air = AirOf(m_options, title.CaptionTextProperty.Font);
     m_layout.Title = RectF{m_layout.Pie.Center().X - size.Width * 0.5F,
                            side == TitleSide::Above ? whole.Y - air - size.Height : whole.Bottom() + air,
                            size.Width, size.Height};
@@ -87,7 +80,7 @@ void CSlicedCircle::PlaceTitle(TitleSide side) {
 void CSlicedCircle::VisitTitle(const TextVisitor& visit) const {
     const CaptionProp& title = m_options.Title;
     if (m_layout.Title && title.ShowCaption != 0) {
-        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, title.Caption, title.CaptionTextProperty,
+        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, CaptionShown(m_options, title.Caption), title.CaptionTextProperty,
                                       m_layout.Title->Center());
     }
 }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwctype>
 #include <limits>
 #include <numbers>
 #include <optional>
@@ -26,6 +25,8 @@ constexpr std::int32_t kHalfUpright = 45;
 constexpr float kLevelGap = 0.3F;
 constexpr float kTurnedGap = 0.05F;
 constexpr std::ptrdiff_t kMostLines = 3;
+/// Of a name that is turned, in its lines' heights; what is longer would take the picture for itself.
+constexpr float kLongest = 25.0F;
 /// What a line may be longer than its share of a name, as a part of its height.
 constexpr float kEvenSlack = 0.6F;
 constexpr std::size_t kEnoughOfScale = 5;
@@ -208,6 +209,50 @@ std::string WrappedText(const std::string& text, float width, const Measure& mea
     }
 }
 
+namespace {
+
+/// A text that is longer than `width` ends in "…".
+std::string Shortened(const std::string& text, float width, const Measure& measure) {
+    if (measure(text).Width <= width) {
+        return text;
+    }
+    const std::wstring wide = CStringUtil::AnsiToWideString(text);
+    const auto cut = [&wide](std::size_t count) {
+        return CStringUtil::WideToAnsiString(wide.substr(0, count) + L"…");
+    };
+    std::size_t fits = 0;
+    std::size_t tooMany = wide.size();
+    while (fits + 1 < tooMany) {
+        const std::size_t middle = (fits + tooMany) / 2;
+        (measure(cut(middle)).Width <= width ? fits : tooMany) = middle;
+    }
+    return cut(fits);
+}
+
+} // namespace
+
+namespace {
+
+/// A text that is longer than `width` ends in "…".
+std::string Shortened(const std::string& text, float width, const Measure& measure) {
+    if (measure(text).Width <= width) {
+        return text;
+    }
+    const std::wstring wide = CStringUtil::AnsiToWideString(text);
+    const auto cut = [&wide](std::size_t count) {
+        return CStringUtil::WideToAnsiString(wide.substr(0, count) + L"…");
+    };
+    std::size_t fits = 0;
+    std::size_t tooMany = wide.size();
+    while (fits + 1 < tooMany) {
+        const std::size_t middle = (fits + tooMany) / 2;
+        (measure(cut(middle)).Width <= width ? fits : tooMany) = middle;
+    }
+    return cut(fits);
+}
+
+} // namespace
+
 std::vector<FittedName> FitNames(const NamesToFit& names) {
     if (names.Names.empty()) {
         return {};
@@ -224,7 +269,11 @@ std::vector<FittedName> FitNames(const NamesToFit& names) {
     if (names.AreOnScale && areEnough) {
         return Every(step, own);
     }
-    const Form turned = FormOf(names, kHalfUpright, names.Names);
+    std::vector<std::string> shortened;
+    for (const Placed& name : own.Names) {
+        shortened.push_back(Shortened(name.Text, kLongest * name.Size.Height, names.Measure));
+    }
+    const Form turned = FormOf(names, kHalfUpright, shortened);
     return Every(LeastStep(turned), turned);
 }
 

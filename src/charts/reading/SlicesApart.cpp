@@ -381,7 +381,7 @@ public:
     Spreader(const SliceRim& rim, float distance) : m_rim(rim) {
         m_rim.Across = std::max(0.0F, rim.Across);
         m_rim.Up = std::max(0.0F, rim.Up);
-        const double out = distance;
+        const double out = std::max(0.0F, distance); // never on the pie
         m_orbit = {std::max(0.0, m_rim.Across + out), std::max(0.0, m_rim.Up + out), m_rim.Depth};
     }
 

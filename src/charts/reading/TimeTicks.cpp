@@ -11,7 +11,6 @@
 namespace millichart {
 namespace {
 
-using namespace std::chrono_literals;
 
 constexpr std::int64_t kMinute = 60;
 constexpr std::int64_t kHour = 60 * kMinute;

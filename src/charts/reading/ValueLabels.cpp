@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <optional>
 
 namespace millichart {
@@ -107,8 +106,11 @@ private:
 class Bars {
 public:
     Bars(const std::vector<ValueToPlace>& values, PointF depth) : m_values(values), m_depth(depth) {
-        m_order.resize(values.size());
-        std::iota(m_order.begin(), m_order.end(), std::size_t{0});
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            if (penlode::IsFinite(values[i].Front)) {
+                m_order.push_back(i);
+            }
+        }
         std::stable_sort(m_order.begin(), m_order.end(), [&values](std::size_t a, std::size_t b) {
             return values[a].Front.X < values[b].Front.X;
         });

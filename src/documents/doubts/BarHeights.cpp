@@ -72,11 +72,10 @@ void AddBaseDoubts(const CBasicHistogram& chart, Diagnostics& diagnostics) {
 
 void AddBarHeightDoubts(const CBasicHistogram& chart, const TableOrigin& origin, Diagnostics& diagnostics) {
     const HistogramPlotProp& plot = chart.GetHistogramProp().Plot;
-    if (chart.GetOptions().BarBase == BarBase::Zero) {
-        // Every bar stands on 0.
-    } else if (plot.Juxtaposition == 0) {
+    const bool standOnZero = chart.GetOptions().BarBase == BarBase::Zero;
+    if (!standOnZero && plot.Juxtaposition == 0) {
         AddStackDoubts(chart, origin, diagnostics);
-    } else if (plot.LogarithmScale == 0) {
+    } else if (!standOnZero && plot.LogarithmScale == 0) {
         AddBaseDoubts(chart, diagnostics);
     }
     const FoundBars zeros = FindBars(chart, [](const Bar& bar) { return bar.Value == 0.0; });
