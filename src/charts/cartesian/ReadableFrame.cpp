@@ -66,7 +66,7 @@ void PlaceVerLabels(const FramePlan& plan, Surroundings& around, CartesianLayout
                 CTextPropertyOperation::GetReach(label, plan.VerAxis.VerAxisLabelTextProperty.Angle));
         }
     }
-    around.AddRow(reaches);
+    around.AddAsOne(reaches);
 }
 
 std::vector<FittedName> Fitted(const NamesBelow& names, float top) {
@@ -132,13 +132,11 @@ void PlaceNames(const FramePlan& plan, NamesBelow& names, Surroundings& around, 
     for (std::size_t i = 0; i < names.Rects.size(); ++i) {
         names.Rects[i] = {names.Rects[i].Center().X, top + down, 0.0F, 0.0F};
     }
-    std::vector<RectF> reaches;
     for (FittedName& name : layout.FittedNames) {
         name.Box.Y += down;
         names.Rects[name.Index] = name.Box;
-        reaches.push_back(CTextPropertyOperation::GetReach(name.Box, name.Angle));
+        AddText(around, name.Box, name.Angle);
     }
-    around.AddRow(reaches);
 }
 
 void PlaceLegendBox(const FramePlan& plan, Surroundings& around, CartesianLayout& layout) {

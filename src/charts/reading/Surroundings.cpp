@@ -34,13 +34,13 @@ void Surroundings::Add(const RectF& box) {
     }
 }
 
-void Surroundings::AddRow(const std::vector<RectF>& boxes) {
-    Surroundings row;
+void Surroundings::AddAsOne(const std::vector<RectF>& boxes) {
+    Surroundings one;
     for (const RectF& box : boxes) {
-        row.Add(box);
+        one.Add(box);
     }
-    if (!row.m_boxes.empty()) {
-        Add(row.All());
+    if (!one.m_boxes.empty()) {
+        Add(one.All());
     }
 }
 

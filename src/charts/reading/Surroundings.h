@@ -12,8 +12,8 @@ class Surroundings {
 public:
     /// One without a finite place is not there.
     void Add(const penlode::RectF& box);
-    /// As one box, so that nothing finds a place between them.
-    void AddRow(const std::vector<penlode::RectF>& boxes);
+    /// Their union, so that nothing finds a place between them.
+    void AddAsOne(const std::vector<penlode::RectF>& boxes);
 
     /// Above all boxes that it would be over or under, `gap` off them.
     penlode::RectF PlaceAbove(penlode::SizeF size, float centerX, float gap) const;

@@ -155,6 +155,29 @@ TEST(PieReading, ATitleStandsOverEverything) {
     EXPECT_FALSE(Pie(kCrowded, options).GetLayout().Title);
 }
 
+TEST(PieReading, RowsOfALegendMayBeAsWideAsTheTitle) {
+    const auto isOneRow = [](const char* title) {
+        PieProp prop;
+        prop.Basic.FixedSize = 1;
+        prop.Basic.FixedWidth = 40;
+        prop.Basic.ComponentName.assign(6, "name");
+        prop.Legend.ShowLegend = 1;
+        prop.Legend.LegendPos = LegendPosition::BottomCenter;
+        ChartOptions options;
+        options.Legend = LegendSeat::OnPlot;
+        options.Title = Title(title);
+        CBasicPie pie;
+        pie.SetPieProp(prop);
+        pie.SetOptions(options);
+        pie.SetComponentValue({1, 2, 3, 4, 5, 6});
+        pie.Layout();
+        const std::vector<RectF>& items = pie.GetLayout().LegendItemRects;
+        return items.size() == 6 && items.front().Y == items.back().Y;
+    };
+    EXPECT_FALSE(isOneRow("short"));
+    EXPECT_TRUE(isOneRow("a title that is as long as six of the legend's entries are"));
+}
+
 TEST(PieReading, EachOfTwoHalvesHasItsTitleOutside) {
     ChartOptions options = Apart();
     options.Title = Title("one");
