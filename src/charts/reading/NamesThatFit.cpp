@@ -231,28 +231,6 @@ std::string Shortened(const std::string& text, float width, const Measure& measu
 
 } // namespace
 
-namespace {
-
-/// A text that is longer than `width` ends in "…".
-std::string Shortened(const std::string& text, float width, const Measure& measure) {
-    if (measure(text).Width <= width) {
-        return text;
-    }
-    const std::wstring wide = CStringUtil::AnsiToWideString(text);
-    const auto cut = [&wide](std::size_t count) {
-        return CStringUtil::WideToAnsiString(wide.substr(0, count) + L"…");
-    };
-    std::size_t fits = 0;
-    std::size_t tooMany = wide.size();
-    while (fits + 1 < tooMany) {
-        const std::size_t middle = (fits + tooMany) / 2;
-        (measure(cut(middle)).Width <= width ? fits : tooMany) = middle;
-    }
-    return cut(fits);
-}
-
-} // namespace
-
 std::vector<FittedName> FitNames(const NamesToFit& names) {
     if (names.Names.empty()) {
         return {};

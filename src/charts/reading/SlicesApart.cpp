@@ -285,14 +285,34 @@ void Stack(Side& side, const SliceRim& rim, Orbit orbit, double mostHeight) {
     }
 }
 
-/// How far across a lead line may end at a height without touching the next label outwards on its way.
-double PastOuter(const Member& member, const Member& outer, double height, bool isBelow) {
-    const double inWay = (isBelow ? outer.Top : outer.Bottom()) - member.Rim.Y;
-    const double all = height - member.Rim.Y;
-    if (member.Rim.X <= outer.Inner || inWay * all <= 0.0) {
+/// How far across a lead line may end without touching the next label outwards on its way to a height.
+double PastOuter(const Member& member, const Member& outer, double height) {
+    const double way = height - member.Rim.Y;
+    const double inWay = (way > 0.0 ? outer.Top : outer.Bottom()) - member.Rim.Y;
+    if (member.Rim.X <= outer.Inner || inWay * way <= 0.0) {
         return outer.Inner;
     }
-    return member.Rim.X + (outer.Inner - member.Rim.X) * all / inWay;
+    return member.Rim.X + (outer.Inner - member.Rim.X) * way / inWay;
+}
+
+/// Where a lead line meets a box above or below its slice: as far inwards as it can without crossing the pie.
+double LeadAcross(const Member& member, const Member* outer, const SliceRim& rim, double height) {
+    const double seen = std::min(TangentAcross(member, rim, height), member.Inner + member.Width);
+    const double most = outer ? PastOuter(member, *outer, height) : seen;
+    return std::max(member.Inner, std::min(seen, most));
+}
+
+void FindTips(Side::iterator begin, Side::iterator end, const SliceRim& rim, const Orbit& orbit) {
+    for (auto member = begin; member != end; ++member) {
+        const double height = orbit.TipHeight(member->Rim.Y, member->Top, member->Bottom());
+        member->Tip = {member->Inner, height};
+        if (member->Top >= std::max(orbit.Depth, member->Rim.Y)) {
+            member->Tip.X = LeadAcross(*member, member == begin ? nullptr : &*std::prev(member), rim, height);
+        } else if (member->Bottom() <= std::min(0.0, member->Rim.Y)) {
+            const auto next = std::next(member);
+            member->Tip.X = LeadAcross(*member, next == end ? nullptr : &*next, rim, height);
+        }
+    }
 }
 
 /// Stretches the orbit as far as these members need it, widens it for their lead lines, and leans them on it.
@@ -306,21 +326,7 @@ void LeanOnOrbit(Side::iterator begin, Side::iterator end, const SliceRim& rim, 
     });
     std::for_each(begin, end,
                   [&](Member& member) { member.Inner = orbit.Inner(member.Top, member.Bottom()); });
-    for (auto member = begin; member != end; ++member) {
-        const bool isBelow = member->Top >= std::max(orbit.Depth, member->Rim.Y);
-        const bool isAbove = member->Bottom() <= std::min(0.0, member->Rim.Y);
-        const double height = orbit.TipHeight(member->Rim.Y, member->Top, member->Bottom());
-        double across = member->Inner;
-        if (isBelow || isAbove) {
-            const bool isOutermost = isBelow ? member == begin : std::next(member) == end;
-            const double most = isOutermost ? kUnlimited
-                                : isBelow   ? PastOuter(*member, *std::prev(member), height, true)
-                                            : PastOuter(*member, *std::next(member), height, false);
-            across = std::max(
-                across, std::min({TangentAcross(*member, rim, height), most, member->Inner + member->Width}));
-        }
-        member->Tip = {across, height};
-    }
+    FindTips(begin, end, rim, orbit);
 }
 
 /// Leaves every member of a side with its place. Each quarter has an orbit of its own, so that a crowd moves

@@ -4,6 +4,7 @@
 #include "support/Drawings.h"
 #include "support/Rects.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 
