@@ -146,6 +146,13 @@ template <class Document> bool FitPlot(ChartDocument& chart, Document& document,
         height.Move();
     }
     const bool isThere = width.IsThere() && height.IsThere();
+    constexpr float kStepDown = 0.97F;
+    for (int i = 0; !isThere && MayJump(chart) && largest.Sizes().empty() && i < kMostLayouts; ++i) {
+        plot.PlotWidth *= kStepDown;
+        plot.PlotHeight *= kStepDown;
+        FitGaps(document, before);
+        largest.Take(FigureOf(chart.LayOut()).value_or(SizeF{}), figure, {plot.PlotWidth, plot.PlotHeight});
+    }
     const bool isNear = !isThere && MayJump(chart) && !largest.Sizes().empty();
     if (isNear) {
         plot.PlotWidth = largest.Sizes()[0];

@@ -47,7 +47,7 @@ struct ChartText {
     /// by `Angle`. Moving the origin moves the text.
     penlode::PointF Origin;
     penlode::RectF Layout;
-    penlode::SizeF Size; ///< of the text before it is turned; (0, 0) without a font
+    penlode::SizeF Size;    ///< of the text before it is turned; (0, 0) without a font
     std::int32_t Angle = 0; ///< degrees, counter-clockwise on screen
     penlode::Color Color = penlode::kBlack;
 

@@ -29,8 +29,8 @@ TEST_F(ReadingPages, HoldWhatDrawsWithoutAWarningAndAPictureOfEachWithAndWithout
         SCOPED_TRACE(name);
         const std::string document = name + ".chart.json";
         const Outcome drawn =
-            Run("millichart draw --strict " + document + " -o readable.png && " +
-                "millichart draw --quiet " + document + " --set 'options={}'" + " -o classical.png");
+            Run("millichart draw --strict " + document + " -o readable.png && " + "millichart draw --quiet " +
+                document + " --set 'options={}'" + " -o classical.png");
         ASSERT_EQ(drawn.Status, 0) << drawn.Errors;
         EXPECT_EQ(drawn.Errors, "");
         EXPECT_NE(Read("readable.png"), Read("classical.png"));

@@ -211,9 +211,9 @@ TEST(ChartDocument, OptionsAreAGroupOrAWordOrNothing) {
     ChartDocument group =
         Loaded(R"({"kind": "pie", "data": {"values": [1, 2]}, "options": {"Numbers": "Exact"}})");
     EXPECT_EQ(group.Options.Air, ChartAir::None) << "a missing key asks for nothing";
-    const ChartDocument set = ChartDocument::FromInput(
-        {"", R"({"kind": "pie", "data": {"values": [1]}, "options": "readable"})"}, std::nullopt,
-        {{"options/Palette", "Print"}});
+    const ChartDocument set =
+        ChartDocument::FromInput({"", R"({"kind": "pie", "data": {"values": [1]}, "options": "readable"})"},
+                                 std::nullopt, {{"options/Palette", "Print"}});
     EXPECT_TRUE(set.IsSound());
     EXPECT_EQ(set.Options.Palette, ChartPalette::Print);
     EXPECT_EQ(set.Options.Air, ChartAir::ThirdOfLine) << "the rest stays as the word has it";

@@ -105,7 +105,8 @@ TEST(NumberFormat, GivesValuesTheirOwnDecimals) {
     EXPECT_EQ(Value(0.1 + 0.2, Thousands::None, 15), "0.3");
     EXPECT_EQ(Value(-0.0), "0");
     EXPECT_EQ(Value(99.9999), "100");
-    EXPECT_EQ(Value(-0.00004), "-4×10⁻⁵");
+    EXPECT_EQ(Value(-0.00004), "-0.00004");
+    EXPECT_EQ(Value(-0.0000004), "-4×10⁻⁷");
     EXPECT_EQ(Value(0.00099996), "0.001");
     EXPECT_EQ(Value(123456789012345.0), "123456789012345");
     EXPECT_EQ(Value(9.9999e15), "1×10¹⁶");

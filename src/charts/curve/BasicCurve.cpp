@@ -261,17 +261,18 @@ void CBasicCurve::ReadFrame() {
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i] = i % step == 0 ? std::move(labels[i]) : std::string();
     }
-    PlaceReadably({m_options,
-                   m_prop.Caption,
-                   m_prop.VerAxis,
-                   hor.HorCaption,
-                   hor.HorCaptionTextProperty,
-                   m_prop.Legend,
-                   m_prop.Plot.CurveName,
-                   kLegendSampleFactor,
-                   {}},
-                  {labels, m_layout.HorTicks, hor.HorLabelTextProperty, AreOnScale(labels), m_layout.HorLabelRects},
-                  m_layout);
+    PlaceReadably(
+        {m_options,
+         m_prop.Caption,
+         m_prop.VerAxis,
+         hor.HorCaption,
+         hor.HorCaptionTextProperty,
+         m_prop.Legend,
+         m_prop.Plot.CurveName,
+         kLegendSampleFactor,
+         {}},
+        {labels, m_layout.HorTicks, hor.HorLabelTextProperty, AreOnScale(labels), m_layout.HorLabelRects},
+        m_layout);
     MoveFrame(m_location - m_layout.Whole.TopLeft());
 }
 

@@ -121,8 +121,8 @@ void CBasicHistogram::PlaceValueLabels() {
             const RectF& bar = m_layout.ComponentRects[group][i];
             const SizeF size = CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), look);
             const bool isHatched = i < fills.size() && fills[i].Hatch != Hatch::None;
-            values.push_back({Normal(bar), WithLetters(size, letters), value,
-                              value < 0.0, prop.Juxtaposition == 0, isHatched});
+            values.push_back({Normal(bar), WithLetters(size, letters), value, value < 0.0,
+                              prop.Juxtaposition == 0, isHatched});
         }
     }
     const RectF& plot = m_layout.Plot;

@@ -1,8 +1,7 @@
 #include "charts/pie/BasicHalfPieHistogram.h"
 
-#include "charts/reading/Air.h"
-
 #include "charts/cartesian/FittedRange.h"
+#include "charts/reading/Air.h"
 
 namespace millichart {
 

@@ -80,8 +80,8 @@ void CSlicedCircle::PlaceTitle(TitleSide side) {
 void CSlicedCircle::VisitTitle(const TextVisitor& visit) const {
     const CaptionProp& title = m_options.Title;
     if (m_layout.Title && title.ShowCaption != 0) {
-        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, CaptionShown(m_options, title.Caption), title.CaptionTextProperty,
-                                      m_layout.Title->Center());
+        CTextPropertyOperation::Visit(visit, {TextRole::Caption}, CaptionShown(m_options, title.Caption),
+                                      title.CaptionTextProperty, m_layout.Title->Center());
     }
 }
 

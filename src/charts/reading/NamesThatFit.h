@@ -31,7 +31,8 @@ struct NamesToFit {
 
 /// Names that would touch are, in this order, wrapped at blanks and between Chinese characters, turned by 45
 /// degrees and hung by their end, and thinned to every n-th. Names on a scale are rather thinned than turned,
-/// as long as five are left. A turned one that is longer than 25 times its height ends in "…". Those that the record turns are thinned at most. Gives those that are left.
+/// as long as five are left. A turned one that is longer than 25 times its height ends in "…". Those that the
+/// record turns are thinned at most. Gives those that are left.
 ///
 /// Every name is measured; beyond that it takes n log n steps for n names.
 std::vector<FittedName> FitNames(const NamesToFit& names);

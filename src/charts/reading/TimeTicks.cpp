@@ -11,7 +11,6 @@
 namespace millichart {
 namespace {
 
-
 constexpr std::int64_t kMinute = 60;
 constexpr std::int64_t kHour = 60 * kMinute;
 constexpr std::int64_t kDay = 24 * kHour;
