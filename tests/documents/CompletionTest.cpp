@@ -7,16 +7,11 @@
 #include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <limits>
-#include <random>
 
 namespace {
 
 using namespace millichart;
 using penlode::Color;
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 ChartDocument Loaded(const std::string& text) {
     return ChartDocument::FromText(text, "t.json");

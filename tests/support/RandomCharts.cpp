@@ -148,7 +148,7 @@ TextProperty AnyText(Choices& any) {
     text.BkColor = AnyColor(any);
     text.DrawEdge = any.OneIn(4) ? any.Flag() : 0;
     text.DrawBackGround = any.OneIn(4) ? any.Flag() : 0;
-    text.Prefix = any.OneIn(8) ? "<" : "";
+    text.Prefix = any.OneIn(8) ? std::string("<") : std::string();
     text.Postfix = any.OneIn(8) ? Narrow(L"吨") : "";
     text.Angle = any.IsFull() && any.OneIn(4) ? any.Between(-400, 400) : any.OneOf(kAngles);
     return text;
