@@ -22,6 +22,6 @@ MILLICHART_API CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index);
 
 /// The same with the options' palette. For print, solid lines are dashed in turn and solid markers get other
 /// shapes.
-CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index, const ChartOptions& options);
+MILLICHART_API CurveStyle StyleOf(const CurvePlotProp& prop, std::size_t index, const ChartOptions& options);
 
 } // namespace millichart

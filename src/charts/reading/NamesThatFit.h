@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Export.h"
 #include "penlode/Geometry.h"
 
 #include <cstddef>
@@ -35,10 +36,10 @@ struct NamesToFit {
 /// record turns are thinned at most. Gives those that are left.
 ///
 /// Every name is measured; beyond that it takes n log n steps for n names.
-std::vector<FittedName> FitNames(const NamesToFit& names);
+MILLICHART_API std::vector<FittedName> FitNames(const NamesToFit& names);
 
 /// Narrow text in lines of at most `width` as far as its blanks and Chinese characters allow it.
-std::string WrappedText(const std::string& text, float width,
-                        const std::function<penlode::SizeF(const std::string&)>& measure);
+MILLICHART_API std::string WrappedText(const std::string& text, float width,
+                                       const std::function<penlode::SizeF(const std::string&)>& measure);
 
 } // namespace millichart

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Export.h"
 #include "penlode/Geometry.h"
 
 #include <vector>
@@ -42,9 +43,9 @@ struct PlacedSliceLabel {
 ///
 /// A side holds one and a half times the pie's height and four labels; beyond that labels are left out.
 /// So is one without a size or a place.
-std::vector<PlacedSliceLabel> SlicesApart(const SliceRim& rim, float distance, bool hasLeads,
-                                          const std::vector<SliceLabel>& labels);
+MILLICHART_API std::vector<PlacedSliceLabel> SlicesApart(const SliceRim& rim, float distance, bool hasLeads,
+                                                         const std::vector<SliceLabel>& labels);
 
-bool IsOutside(const SliceRim& rim, penlode::PointF point);
+MILLICHART_API bool IsOutside(const SliceRim& rim, penlode::PointF point);
 
 } // namespace millichart

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Export.h"
 #include "penlode/Geometry.h"
 
 #include <cstddef>
@@ -30,7 +31,7 @@ struct PlacedValue {
 /// inside. `depth` leads from the fronts to the backs.
 ///
 /// Takes n log n steps for n bars whose labels are shown.
-std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, const penlode::RectF& room,
-                                     penlode::PointF depth);
+MILLICHART_API std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values,
+                                                    const penlode::RectF& room, penlode::PointF depth);
 
 } // namespace millichart
