@@ -35,7 +35,7 @@ bool Crosses(PointF from, PointF to, const RectF& box) {
             end = start > least && start < most ? end : -1.0F;
             return;
         }
-        const auto [enter, leave] = std::minmax((least - start) / way, (most - start) / way);
+        const auto [enter, leave] = std::minmax({(least - start) / way, (most - start) / way});
         begin = std::max(begin, enter);
         end = std::min(end, leave);
     };
