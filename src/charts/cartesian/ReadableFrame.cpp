@@ -1,11 +1,10 @@
 #include "charts/cartesian/ReadableFrame.h"
 
 #include "charts/cartesian/CartesianPlacement.h"
+#include "charts/reading/EveryNth.h"
 #include "charts/reading/LegendSeat.h"
-#include "charts/reading/NamesThatFit.h"
 #include "charts/reading/Surroundings.h"
 #include "foundation/TextPropertyOperation.h"
-#include "penlode/text/StringUtil.h"
 
 #include <algorithm>
 #include <utility>
@@ -30,18 +29,9 @@ void AddText(Surroundings& around, const RectF& box, std::int32_t angle) {
 /// Labels that would touch are thinned to every n-th, those left out being empty.
 void ThinVerLabels(CartesianLayout& layout) {
     std::vector<RectF>& rects = layout.VerLabelRects;
-    const auto fits = [&rects](std::size_t n) {
-        for (std::size_t i = n; i < rects.size(); i += n) {
-            if (rects[i].Bottom() > rects[i - n].Y) {
-                return false;
-            }
-        }
-        return true;
-    };
-    std::size_t n = 1;
-    while (n < rects.size() && !fits(n)) {
-        ++n;
-    }
+    const std::size_t n = LeastStepApart(rects.size(), [&rects](std::size_t lower, std::size_t upper) {
+        return rects[upper].Bottom() > rects[lower].Y;
+    });
     for (std::size_t i = 0; i < rects.size(); ++i) {
         if (i % n != 0) {
             rects[i] = {rects[i].Right(), rects[i].Center().Y, 0.0F, 0.0F};
@@ -149,10 +139,10 @@ void PlaceLegendBox(const FramePlan& plan, Surroundings& around, CartesianLayout
     } else if (plan.Legend.ShowLegend != 0) {
         layout.LegendItemRects =
             CLegendOperation::PlaceItems(plan.Legend, plan.LegendNames, whole, plan.SwatchFactor);
-        layout.Legend.Box = UnionOf(layout.LegendItemRects);
     }
-    if (IsSeen({layout.Legend.Box.Width, layout.Legend.Box.Height})) {
-        around.Add(layout.Legend.Box);
+    const RectF box = LegendBoxOf(layout.LegendItemRects, layout.Legend);
+    if (IsSeen({box.Width, box.Height})) {
+        around.Add(box);
     }
 }
 

@@ -71,18 +71,18 @@ std::vector<RectF> CBasicHistogram::OnZero(const std::vector<double>& values, fl
 /// The top of a bar with depth covers a part of the front above it, so that stacks are drawn from below; of
 /// the segments that hang from 0 the last is the lowest.
 std::vector<std::size_t> CBasicHistogram::DrawingOrder(std::size_t group, std::size_t bars) const {
-    std::vector<std::size_t> order(bars);
-    const auto first = order.begin();
     const bool isReversed = m_layout.BaseLine && m_prop.Plot.Juxtaposition == 0;
-    std::size_t hanging = 0;
-    for (std::size_t i = bars; isReversed && i-- > 0;) {
-        if (m_values[group][i] < 0.0) {
-            order[hanging++] = i;
+    const auto hangs = [&](std::size_t i) { return isReversed && m_values[group][i] < 0.0; };
+    std::vector<std::size_t> order;
+    order.reserve(bars);
+    for (std::size_t i = bars; i-- > 0;) {
+        if (hangs(i)) {
+            order.push_back(i);
         }
     }
-    for (std::size_t i = 0, at = hanging; i < bars; ++i) {
-        if (!isReversed || !(m_values[group][i] < 0.0)) {
-            *(first + static_cast<std::ptrdiff_t>(at++)) = i;
+    for (std::size_t i = 0; i < bars; ++i) {
+        if (!hangs(i)) {
+            order.push_back(i);
         }
     }
     return order;
@@ -121,8 +121,9 @@ void CBasicHistogram::PlaceValueLabels() {
             const RectF& bar = m_layout.ComponentRects[group][i];
             const SizeF size = CTextPropertyOperation::GetTextSize(ComponentInfo(group, i), look);
             const bool isHatched = i < fills.size() && fills[i].Hatch != Hatch::None;
-            values.push_back({Normal(bar), WithLetters(size, letters), value, value < 0.0,
-                              prop.Juxtaposition == 0, isHatched});
+            const bool hangs = m_layout.BaseLine ? value < 0.0 : bar.Height < 0.0F;
+            values.push_back(
+                {Normal(bar), WithLetters(size, letters), value, hangs, prop.Juxtaposition == 0, isHatched});
         }
     }
     const RectF& plot = m_layout.Plot;

@@ -1,5 +1,6 @@
 #include "charts/reading/NamesThatFit.h"
 
+#include "charts/reading/EveryNth.h"
 #include "penlode/text/StringUtil.h"
 
 #include <algorithm>
@@ -129,22 +130,10 @@ bool Touch(const Form& form, const Placed& a, const Placed& b) {
            across < height * (1.0F + form.Gap);
 }
 
-/// Every n-th name.
-bool Fits(const Form& form, std::size_t n) {
-    for (std::size_t i = n; i < form.Names.size(); i += n) {
-        if (Touch(form, form.Names[i - n], form.Names[i])) {
-            return false;
-        }
-    }
-    return true;
-}
-
 std::size_t LeastStep(const Form& form) {
-    std::size_t n = 1;
-    while (n < form.Names.size() && !Fits(form, n)) {
-        ++n;
-    }
-    return n;
+    return LeastStepApart(form.Names.size(), [&form](std::size_t a, std::size_t b) {
+        return Touch(form, form.Names[a], form.Names[b]);
+    });
 }
 
 std::vector<FittedName> Every(std::size_t n, const Form& form) {
@@ -172,6 +161,25 @@ std::string WrappedEvenly(const Placed& name, float width, const Measure& measur
     return Breaks(evenly) == Breaks(wrapped) ? evenly : wrapped;
 }
 
+/// One that is too long for a turned name ends in "…".
+std::string Shortened(const Placed& name, const Measure& measure) {
+    const float width = kLongest * name.Line;
+    if (name.Size.Width <= width) {
+        return name.Text;
+    }
+    const std::wstring wide = CStringUtil::AnsiToWideString(name.Text);
+    const auto cut = [&wide](std::size_t count) {
+        return CStringUtil::WideToAnsiString(wide.substr(0, count) + L"…");
+    };
+    std::size_t fits = 0;
+    std::size_t tooMany = wide.size();
+    while (fits + 1 < tooMany) {
+        const std::size_t middle = (fits + tooMany) / 2;
+        (measure(cut(middle)).Width <= width ? fits : tooMany) = middle;
+    }
+    return cut(fits);
+}
+
 std::optional<Form> Wrapped(const NamesToFit& names, const Form& level) {
     float height = 0.0F;
     for (const Placed& name : level.Names) {
@@ -189,7 +197,7 @@ std::optional<Form> Wrapped(const NamesToFit& names, const Form& level) {
         }
     }
     Form form = FormOf(names, 0, texts);
-    return Fits(form, 1) ? std::optional(std::move(form)) : std::nullopt;
+    return LeastStep(form) == 1 ? std::optional(std::move(form)) : std::nullopt;
 }
 
 } // namespace
@@ -209,28 +217,6 @@ std::string WrappedText(const std::string& text, float width, const Measure& mea
     }
 }
 
-namespace {
-
-/// A text that is longer than `width` ends in "…".
-std::string Shortened(const std::string& text, float width, const Measure& measure) {
-    if (measure(text).Width <= width) {
-        return text;
-    }
-    const std::wstring wide = CStringUtil::AnsiToWideString(text);
-    const auto cut = [&wide](std::size_t count) {
-        return CStringUtil::WideToAnsiString(wide.substr(0, count) + L"…");
-    };
-    std::size_t fits = 0;
-    std::size_t tooMany = wide.size();
-    while (fits + 1 < tooMany) {
-        const std::size_t middle = (fits + tooMany) / 2;
-        (measure(cut(middle)).Width <= width ? fits : tooMany) = middle;
-    }
-    return cut(fits);
-}
-
-} // namespace
-
 std::vector<FittedName> FitNames(const NamesToFit& names) {
     if (names.Names.empty()) {
         return {};
@@ -249,7 +235,7 @@ std::vector<FittedName> FitNames(const NamesToFit& names) {
     }
     std::vector<std::string> shortened;
     for (const Placed& name : own.Names) {
-        shortened.push_back(Shortened(name.Text, kLongest * name.Size.Height, names.Measure));
+        shortened.push_back(Shortened(name, names.Measure));
     }
     const Form turned = FormOf(names, kHalfUpright, shortened);
     return Every(LeastStep(turned), turned);

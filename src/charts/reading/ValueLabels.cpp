@@ -153,14 +153,10 @@ PointF Outside(const ValueToPlace& value, PointF depth) {
 
 /// Where a label stands outside: rather than over a higher neighbour or the plot's edge above the front
 /// alone, or ending or beginning where the bar does.
-std::array<PointF, 4> PlacesOutside(const ValueToPlace& value, PointF depth) {
-    const PointF first = Outside(value, depth);
-    if (value.IsBeside) {
-        return {first, first, first, first};
-    }
+std::array<PointF, 3> OtherPlaces(const ValueToPlace& value, PointF first) {
     const RectF& bar = value.Front;
     const float half = value.Label.Width * 0.5F;
-    return {first, PointF{bar.Center().X, first.Y}, PointF{bar.Right() - half, first.Y},
+    return {PointF{bar.Center().X, first.Y}, PointF{bar.Right() - half, first.Y},
             PointF{bar.X + half, first.Y}};
 }
 
@@ -213,9 +209,12 @@ std::vector<PlacedValue> PlaceValues(const std::vector<ValueToPlace>& values, co
         const std::optional<PointF> inside = Inside(values[i]);
         const auto takeInside = [&] { return inside && take(*inside, true); };
         const auto takeOutside = [&] {
-            const std::array<PointF, 4> places = PlacesOutside(values[i], depth);
-            return std::any_of(places.begin(), places.end(),
-                               [&take](PointF center) { return take(center, false); });
+            const PointF first = Outside(values[i], depth);
+            const std::array<PointF, 3> others = OtherPlaces(values[i], first);
+            return take(first, false) ||
+                   (!values[i].IsBeside && std::any_of(others.begin(), others.end(), [&take](PointF center) {
+                       return take(center, false);
+                   }));
         };
         if (!(values[i].IsBeside && takeInside()) && !takeOutside()) {
             takeInside();

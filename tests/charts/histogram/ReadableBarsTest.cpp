@@ -85,3 +85,14 @@ TEST(ReadableBars, HaveTheirValuesAtTheEndOrInsideOrNotAtAll) {
     const CBasicHistogram narrow = OnZero(prop, {{8.0, 20.0, -8.0}, {19.0, 19.0, 19.0}});
     EXPECT_FALSE(narrow.GetLayout().ValueLabels[0][1].IsShown) << "too wide for its bar";
 }
+
+TEST(ReadableBars, ThatStandOnTheMinimumHaveTheirValuesAbove) {
+    HistogramProp prop = Named({"a"});
+    prop.Plot.ShowComponentValue = 1;
+    CBasicHistogram chart = OnZero(prop, {{-8.0}});
+    ChartOptions options = chart.GetOptions();
+    options.BarBase = BarBase::AxisOrigin;
+    chart.SetOptions(options);
+    chart.Layout();
+    EXPECT_LT(chart.GetLayout().ValueLabels[0][0].Center.Y, chart.GetLayout().ComponentRects[0][0].Y);
+}
