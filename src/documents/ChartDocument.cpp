@@ -183,6 +183,12 @@ void LaidOutChart::VisitTexts(const TextVisitor& visit) const {
     WithContent(Chart, [&visit](const auto& chart) { chart.VisitTexts(visit); });
 }
 
+std::optional<PlacedPart> LaidOutChart::HitTest(penlode::PointF, float) const {
+    return std::nullopt;
+}
+
+void LaidOutChart::VisitParts(const PartVisitor&) const {}
+
 void LaidOutChart::Draw(penlode::IGraphicsEngine& engine) const {
     WithContent(Chart, [&engine](const auto& chart) { chart.Draw(&engine); });
 }

@@ -9,6 +9,7 @@
 #include "documents/ChartContent.h"
 #include "documents/Files.h"
 #include "documents/tables/TableInput.h"
+#include "foundation/ChartPart.h"
 #include "penlode/streams/Diagnostic.h"
 
 #include <memory>
@@ -49,6 +50,12 @@ struct LaidOutChart {
     penlode::RectF FullExtent() const;
     /// The texts as they would be drawn now, in their order.
     void VisitTexts(const TextVisitor& visit) const;
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach` mm. Nothing beside the chart.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+    /// All parts that can be seen, in the order in which they are drawn; of a curve, the curve and not its
+    /// points.
+    void VisitParts(const PartVisitor& visit) const;
     void Draw(penlode::IGraphicsEngine& engine) const;
 };
 
