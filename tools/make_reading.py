@@ -220,7 +220,7 @@ def wan():
 
 def log_bars():
     lives = {"Po-213": 3.706e-6, "Po-214": 1.6347e-4, "Po-216": 0.144, "Rn-220": 55.6, "Po-218": 185.8,
-             "Bi-214": 1194, "Pb-212": 38300, "Rn-222": 330350, "Po-210": 11955686, "Pb-210": 7.006e8}
+             "Bi-214": 1194, "Pb-212": 38257, "Rn-222": 330178, "Po-210": 11955686, "Pb-210": 7.006e8}
     write("log-bars", "histogram", "Half-lives in the series of decay", "NUBASE2020, Chinese Physics C 45 (2021) 030001",
           {"CaptionProp": {"Caption": "Half-lives (seconds)"},
            "HistogramVerAxisProp": {"MajorScaleStyle": "outer"},
