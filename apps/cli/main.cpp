@@ -22,6 +22,11 @@ struct Carry {
 
     int operator()(const cli::NewOptions& options) const { return StatusOf(cli::WriteNew(options)); }
 
+    int operator()(const cli::EditOptions& options) const {
+        cli::Edit(options);
+        return 0;
+    }
+
 private:
     static int StatusOf(bool good) { return good ? 0 : kInputFailed; }
 };

@@ -5,7 +5,7 @@ _millichart() {
   local kinds="pie half-pie half-pie-half-pie half-pie-histogram histogram curve"
   COMPREPLY=()
   if [ "$COMP_CWORD" -eq 1 ]; then
-    COMPREPLY=($(compgen -W "draw new check inspect --help --version" -- "$current"))
+    COMPREPLY=($(compgen -W "draw new check inspect edit --help --version" -- "$current"))
     return
   fi
   case $previous in
@@ -48,8 +48,8 @@ _millichart() {
   esac
   if [[ $current == -* && $previous != -o && $previous != --output && $previous != --data ]]; then
     local options="--help"
-    options+=" --data --query --sheet --columns --header --no-header --transpose --sort --top --decimal"
-    options+=" --title --x-title --y-title --log --stacked --3d --legend --size --set"
+    [ "$command" = edit ] || options+=" --data --query --sheet --columns --header --no-header --transpose --sort --top --decimal"
+    [ "$command" = edit ] || options+=" --title --x-title --y-title --log --stacked --3d --legend --size --set"
     case $command in
       draw)
         options+=" --kind --output --format --dpi --page --fit --background --outlines"

@@ -1,12 +1,13 @@
 # fish completion for millichart
 
-set -l commands draw new check inspect
+set -l commands draw new check inspect edit
 set -l before "not __fish_seen_subcommand_from $commands"
 
 complete -c millichart -n $before -f -a draw -d 'Draw charts as PNG, SVG or PDF'
 complete -c millichart -n $before -f -a new -d 'Write a complete document to start from'
 complete -c millichart -n $before -f -a check -d 'Tell what is wrong in chart documents'
 complete -c millichart -n $before -f -a inspect -d 'Show layout and drawing calls as JSON'
+complete -c millichart -n $before -f -a edit -d 'Open charts in a window'
 complete -c millichart -n $before -l version -d 'Show the version'
 complete -c millichart -s h -l help -d 'Show the help'
 

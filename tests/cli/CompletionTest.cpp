@@ -33,7 +33,7 @@ std::set<std::string> LongOptions(const std::string& text) {
 TEST_F(Completion, BashOffersWhatFits) {
     Write("a.chart.json", "");
     Write("b c.json", "");
-    EXPECT_EQ(Offered("\"\""), "--help --version check draw inspect new ");
+    EXPECT_EQ(Offered("\"\""), "--help --version check draw edit inspect new ");
     EXPECT_EQ(Offered("dr"), "draw ");
     EXPECT_EQ(Offered("new p"), "pie ");
     EXPECT_EQ(Offered("new h"), "half-pie half-pie-half-pie half-pie-histogram histogram ");

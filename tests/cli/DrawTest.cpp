@@ -266,5 +266,5 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
         "millichart: --dpi: found \"5\", expected a number from 10 to 2400; millichart --help tells more\n");
     EXPECT_EQ(
         Run("millichart drw a.json").Errors,
-        "millichart: found \"drw\", expected draw, new, check or inspect; millichart --help tells more\n");
+        "millichart: found \"drw\", expected draw, new, check, inspect or edit; millichart --help tells more\n");
 }

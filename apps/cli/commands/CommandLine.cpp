@@ -21,7 +21,7 @@ namespace {
 constexpr double kMinDpi = 10.0;
 constexpr double kMaxDpi = 2400.0;
 constexpr std::size_t kMaxJobs = 256;
-constexpr std::array kCommands{"draw", "new", "check", "inspect"};
+constexpr std::array kCommands{"draw", "new", "check", "inspect", "edit"};
 constexpr const char* kInputsHelp = "chart documents (JSON), or with --kind tables; - is the standard input";
 
 bool ParseDpi(std::string text, double& dpi) {
@@ -120,6 +120,11 @@ void AddInspect(CLI::App& app, InspectOptions& options) {
     AddSource(inspect, options.Source);
 }
 
+void AddEdit(CLI::App& app, EditOptions& options) {
+    CLI::App& edit = *app.add_subcommand("edit", "Open charts in a window to make and change them");
+    edit.add_option("FILE", options.Inputs, "chart documents (JSON) or tables; without any the window asks");
+}
+
 /// A figure of a size is its own page, and one that fills a page is as large.
 void SettlePage(DrawOptions& options) {
     if (options.FillsPage && (!options.Page || options.Source.Figure)) {
@@ -153,7 +158,7 @@ bool NamesCommand(const std::string& word) {
         return true;
     }
     Tell("found " + (word.empty() ? "no command" : "\"" + word + "\"") +
-         ", expected draw, new, check or inspect; millichart --help tells more");
+         ", expected draw, new, check, inspect or edit; millichart --help tells more");
     return false;
 }
 
@@ -181,10 +186,12 @@ Wish ParseCommandLine(std::vector<std::string> arguments) {
     NewOptions fresh;
     CheckOptions check;
     InspectOptions inspect;
+    EditOptions edit;
     AddDraw(app, draw);
     AddNew(app, fresh);
     AddCheck(app, check);
     AddInspect(app, inspect);
+    AddEdit(app, edit);
     const bool isHelp = SpellOutHelp(arguments);
     if (!NamesCommand(arguments.empty() ? "" : arguments.front())) {
         std::cerr << (isHelp ? app.help() : "");
@@ -208,6 +215,9 @@ Wish ParseCommandLine(std::vector<std::string> arguments) {
     if (app.got_subcommand("check")) {
         Settle(check.Inputs, check.Source);
         return check;
+    }
+    if (app.got_subcommand("edit")) {
+        return edit;
     }
     Settle(inspect.Inputs, inspect.Source);
     return inspect;

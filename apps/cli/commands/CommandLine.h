@@ -11,7 +11,7 @@ struct Finished {
     int Status;
 };
 
-using Wish = std::variant<Finished, DrawOptions, NewOptions, CheckOptions, InspectOptions>;
+using Wish = std::variant<Finished, DrawOptions, NewOptions, CheckOptions, InspectOptions, EditOptions>;
 
 inline constexpr int kWrongUsage = 2;
 

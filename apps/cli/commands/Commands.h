@@ -48,6 +48,10 @@ struct InspectOptions {
     ChartSource Source;
 };
 
+struct EditOptions {
+    std::vector<std::string> Inputs; ///< documents or tables; none: the program asks
+};
+
 /// A page that was asked for has the chart in its middle. An input that fails does not stop the others.
 bool Draw(const DrawOptions& options);
 
@@ -58,6 +62,9 @@ bool WriteNew(const NewOptions& options);
 /// Tells everything about chart documents on the standard output: errors, warnings, and missing keys with
 /// what is taken for them.
 bool Check(const CheckOptions& options);
+
+/// Starts the designer on the inputs. Throws UserError when it cannot be started.
+void Edit(const EditOptions& options);
 
 /// Writes a chart's layout and its drawing calls to the standard output as JSON, in the chart's own
 /// millimetres: where its location puts it, not where `draw` would on a page.

@@ -18,6 +18,11 @@ bool OutputGoesToTerminal();
 /// unfinished file.
 void PrepareSystem();
 
+/// Hands over to a program that stands beside this one, or else on the search path: where the system can, it
+/// takes this process; elsewhere it runs beside it. Gives the reason of a failure, as in "No such file or
+/// directory", or an empty text.
+std::string StartProgram(const std::string& name, const std::vector<std::string>& arguments);
+
 /// A file that is not finished while this lives; at most one lives at a time.
 class UnfinishedFile {
 public:

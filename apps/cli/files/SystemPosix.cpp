@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <climits>
 #include <csignal>
+#include <filesystem>
 #include <mutex>
+#include <system_error>
 #include <unistd.h>
 
 namespace cli {
@@ -56,6 +59,22 @@ void PrepareSystem() {
             std::signal(signal, SIG_IGN);
         }
     }
+}
+
+std::string StartProgram(const std::string& name, const std::vector<std::string>& arguments) {
+    std::error_code error;
+    const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
+    const std::filesystem::path beside = self.parent_path() / name;
+    std::string program = !error && std::filesystem::exists(beside, error) ? beside.string() : name;
+    std::vector<std::string> words = arguments;
+    words.insert(words.begin(), program);
+    std::vector<char*> pointers;
+    for (std::string& word : words) {
+        pointers.push_back(word.data());
+    }
+    pointers.push_back(nullptr);
+    execvp(program.c_str(), pointers.data());
+    return std::generic_category().message(errno);
 }
 
 UnfinishedFile::UnfinishedFile(const std::string& name) {

@@ -11,6 +11,7 @@
 #include <mutex>
 #include <sstream>
 #include <string_view>
+#include <system_error>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -85,6 +86,22 @@ BOOL WINAPI NoteInterrupt(DWORD event) {
     return event == CTRL_C_EVENT && !g_isInterrupted.exchange(true) ? TRUE : FALSE;
 }
 
+constexpr std::size_t kLongestPath = 32768;
+
+/// As the system's own rules take it apart again: backslashes count only before a quote.
+std::wstring InQuotes(const std::wstring& word) {
+    std::wstring quoted = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t character : word) {
+        if (character == L'"') {
+            quoted.append(backslashes + 1, L'\\');
+        }
+        backslashes = character == L'\\' ? backslashes + 1 : 0;
+        quoted += character;
+    }
+    return quoted.append(backslashes, L'\\') + L'"';
+}
+
 /// The files that a word with * or ? stands for, which shells leave to the program; the word itself if there
 /// are none, or if it has neither.
 std::vector<std::string> FilesOf(const std::wstring& word) {
@@ -134,6 +151,29 @@ void PrepareSystem() {
     PrepareOutput(std::cout, stdout, STD_OUTPUT_HANDLE);
     PrepareOutput(std::cerr, stderr, STD_ERROR_HANDLE);
     SetConsoleCtrlHandler(EndCleanly, TRUE);
+}
+
+std::string StartProgram(const std::string& name, const std::vector<std::string>& arguments) {
+    std::wstring self(kLongestPath, L'\0');
+    self.resize(GetModuleFileNameW(nullptr, self.data(), static_cast<DWORD>(self.size())));
+    const std::filesystem::path beside =
+        std::filesystem::path(self).parent_path() / millichart::PathFromUtf8(name + ".exe");
+    std::error_code error;
+    const bool isBeside = std::filesystem::exists(beside, error);
+    std::wstring line = InQuotes(isBeside ? beside.wstring() : millichart::PathFromUtf8(name).wstring());
+    for (const std::string& argument : arguments) {
+        line += L' ' + InQuotes(penlode::CStringUtil::Utf8ToWideString(argument));
+    }
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION started{};
+    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                       &started) == 0) {
+        return std::system_category().message(static_cast<int>(GetLastError()));
+    }
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
+    return {};
 }
 
 UnfinishedFile::UnfinishedFile(const std::string& /*name*/) {

@@ -13,6 +13,7 @@ struct Platform {
     /// What to do for a page that only other platforms draw.
     const char* OtherPage;
     const char* ChineseFonts; ///< some to install
+    const char* Designer;     ///< the program that shows charts in a window
     std::unique_ptr<penlode::CGraphicsEngine> (*Begin)(const PictureSettings& settings);
     std::string (*Finish)(penlode::CGraphicsEngine& page);
 };

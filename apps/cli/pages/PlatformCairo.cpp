@@ -9,6 +9,7 @@ const Platform kPlatform{
     "PDF",
     "an EMF is drawn on Windows only, expected .svg or .pdf, which are as sharp",
     "fonts-noto-cjk or fonts-wqy-zenhei",
+    "millichart-designer",
     [](const PictureSettings& settings) {
         return CGraphicsEngine::ForPdf(settings.Page, {settings.Title, settings.Description});
     },
