@@ -1,0 +1,19 @@
+#pragma once
+
+#include "documents/ChartDocument.h"
+
+class QPrinter;
+class QWidget;
+
+namespace designer {
+
+/// Draws the chart in the middle of the printer's page, at its true size or as large as can be printed.
+void PrintChart(QPrinter& printer, const millichart::LaidOutChart& chart);
+
+/// Shows the page first; prints from there.
+void PreviewPrint(const millichart::LaidOutChart& chart, const QString& title, QWidget* parent);
+
+/// Asks for a printer.
+void Print(const millichart::LaidOutChart& chart, const QString& title, QWidget* parent);
+
+} // namespace designer
