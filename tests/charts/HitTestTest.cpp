@@ -124,9 +124,11 @@ void ExpectHitFrom(const Chart& chart, const std::vector<PlacedPart>& parts, std
     EXPECT_LT(found, parts.size()) << "not listed";
 }
 
-/// Those parts fill a rectangle.
-bool FillsBox(PartKind kind) {
-    return kind == PartKind::Plot || kind >= PartKind::SliceLabel;
+/// Is there certainly something in the middle of its box? Far away single precision has no middles.
+bool FillsBox(const PlacedPart& part) {
+    const PointF at = part.Box.Center();
+    const bool isNear = std::fabs(at.X) < 1e4F && std::fabs(at.Y) < 1e4F;
+    return isNear && (part.Part.Kind == PartKind::Plot || part.Part.Kind >= PartKind::SliceLabel);
 }
 
 template <class Chart> void ExpectPartsHit(const Chart& chart) {
@@ -136,7 +138,7 @@ template <class Chart> void ExpectPartsHit(const Chart& chart) {
         EXPECT_GE(parts[i].Box.Width, 0.0F);
         EXPECT_GE(parts[i].Box.Height, 0.0F);
         EXPECT_EQ(PlaceOf(parts, parts[i].Part), i) << "listed twice";
-        if (FillsBox(parts[i].Part.Kind)) {
+        if (FillsBox(parts[i])) {
             ExpectHitFrom(chart, parts, i, parts[i].Box.Center());
         }
     }

@@ -38,7 +38,8 @@ PartKind KindOf(TextRole role) {
 }
 
 bool CanBeSeen(const ChartText& text) {
-    return text.Font != nullptr && !text.Text.empty() && text.Owner.Role != TextRole::LegendName;
+    return text.Font != nullptr && !text.Text.empty() && text.Size.Width > 0.0F && text.Size.Height > 0.0F &&
+           text.Owner.Role != TextRole::LegendName;
 }
 
 /// A legend in a place without a name has items without extent.
