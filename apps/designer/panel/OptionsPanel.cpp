@@ -29,13 +29,13 @@ using penlode::CStringUtil;
 constexpr int kMaxDecimals = 15;
 
 /// "配色(&P)" is "配色" in a menu and for a screen reader.
-QString Plain(const QString& label) {
+QString WithoutMnemonic(const QString& label) {
     static const QRegularExpression mnemonic(QStringLiteral("\\(&.\\)"));
     return QString(label).remove(mnemonic);
 }
 
 QString NameFor(const QString& label) {
-    return OptionsPanel::tr("设置“%1”").arg(Plain(label));
+    return OptionsPanel::tr("设置“%1”").arg(WithoutMnemonic(label));
 }
 
 Qt::CheckState ReadabilityOf(const ChartOptions& options) {
@@ -90,7 +90,7 @@ void OptionsPanel::Want(const QString& name, const OptionsChange& change, const 
 void OptionsPanel::AddLine(const QString& label, QWidget* control, std::uint32_t kinds,
                            std::function<void(const ChartOptions&)> show) {
     QLabel* shown = nullptr;
-    control->setAccessibleName(Plain(label));
+    control->setAccessibleName(WithoutMnemonic(label));
     if (qobject_cast<QCheckBox*>(control) != nullptr) {
         m_form->addRow(control);
     } else {
