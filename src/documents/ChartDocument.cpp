@@ -183,11 +183,15 @@ void LaidOutChart::VisitTexts(const TextVisitor& visit) const {
     WithContent(Chart, [&visit](const auto& chart) { chart.VisitTexts(visit); });
 }
 
-std::optional<PlacedPart> LaidOutChart::HitTest(penlode::PointF, float) const {
-    return std::nullopt;
+std::optional<PlacedPart> LaidOutChart::HitTest(penlode::PointF point, float reach) const {
+    std::optional<PlacedPart> part;
+    WithContent(Chart, [&](const auto& chart) { part = chart.HitTest(point, reach); });
+    return part;
 }
 
-void LaidOutChart::VisitParts(const PartVisitor&) const {}
+void LaidOutChart::VisitParts(const PartVisitor& visit) const {
+    WithContent(Chart, [&visit](const auto& chart) { chart.VisitParts(visit); });
+}
 
 void LaidOutChart::Draw(penlode::IGraphicsEngine& engine) const {
     WithContent(Chart, [&engine](const auto& chart) { chart.Draw(&engine); });

@@ -4,16 +4,20 @@
 #include "charts/cartesian/CartesianLayout.h"
 #include "charts/curve/CurveProp.h"
 #include "charts/curve/CurveTrace.h"
+#include "foundation/ChartPart.h"
 #include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "penlode/IGraphicsEngine.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace millichart {
+
+class PartSink;
 
 /// A curve's sample in the legend is twice as wide as its item is high.
 inline constexpr float kLegendSampleFactor = 2.0F;
@@ -109,6 +113,15 @@ public:
     /// GetPositionAll with the texts that reach out of it.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach`, before the plot is. Nothing beside the chart, or where a number is none.
+    /// Of a curve, the nearest of its points that is there is hit.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+
+    /// All parts that can be seen, in the order in which they are drawn; of a
+    /// curve, the curve and not its points.
+    void VisitParts(const PartVisitor& visit) const;
+
 protected:
     /// The chart's caption, which runs across; the time axis's is measured in CalcHorAxisSize.
     penlode::SizeF CalcHorCaptionSize() const;
@@ -141,6 +154,8 @@ protected:
     void DrawCaption(penlode::IGraphicsEngine* engine) const;
 
 private:
+    void ListParts(PartSink& sink) const;
+    void AddCurves(PartSink& sink) const;
     /// The fewest labels that can be spread from edge to edge.
     static constexpr std::size_t kFewestLabels = 2;
 

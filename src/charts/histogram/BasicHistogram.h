@@ -4,6 +4,7 @@
 #include "charts/cartesian/CartesianLayout.h"
 #include "charts/histogram/HistogramProp.h"
 #include "charts/reading/ValueLabels.h"
+#include "foundation/ChartPart.h"
 #include "foundation/ChartText.h"
 #include "foundation/Export.h"
 #include "penlode/Geometry.h"
@@ -13,6 +14,8 @@
 #include <vector>
 
 namespace millichart {
+
+class PartSink;
 
 /// Where everything of a bar chart stands, in mm of the page.
 struct HistogramLayout : CartesianLayout {
@@ -104,6 +107,13 @@ public:
     /// GetPositionAll with the texts that reach out of it, such as labels beside the last bar.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach`, before the plot is. Nothing beside the chart, or where a number is none.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+
+    /// All parts that can be seen, in the order in which they are drawn.
+    void VisitParts(const PartVisitor& visit) const;
+
 protected:
     penlode::SizeF CalcCaptionSize() const;
     penlode::SizeF CalcVerCaptionSize() const;
@@ -134,6 +144,10 @@ protected:
     void DrawCaption(penlode::IGraphicsEngine* engine) const;
 
 private:
+    friend class CBasicHalfPieHistogram;
+
+    void ListParts(PartSink& sink) const;
+    void AddHorAxis(PartSink& sink) const;
     void CalcFrame();
     void PlaceLegendAndShift();
     /// What the options ask for once everything stands where the record puts it.

@@ -2,9 +2,14 @@
 
 #include "charts/pie/HalfPieProp.h"
 #include "charts/pie/SlicedCircle.h"
+#include "foundation/ChartPart.h"
 #include "penlode/IGraphicsEngine.h"
 
+#include <optional>
+
 namespace millichart {
+
+class PartSink;
 
 /// The half pie: its values as slices of the upper or the lower half of a circle, with labels, without a
 /// legend. It is used as CBasicPie is, and sized alike: a half pie's circle is as large as a pie's of the
@@ -36,10 +41,22 @@ public:
     /// GetPositionAll with the texts that reach out of it.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach`. Nothing beside the chart, or where a number is none.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+
+    /// All parts that can be seen, in the order in which they are drawn.
+    void VisitParts(const PartVisitor& visit) const;
+
 protected:
     void DrawHalfPie(penlode::IGraphicsEngine* engine) const;
 
 private:
+    friend class CBasicHalfPieHalfPie;
+    friend class CBasicHalfPieHistogram;
+
+    void ListParts(PartSink& sink) const;
+
     bool IsUpper() const { return m_prop.Basic.WhichPart == HalfPiePart::Upper; }
 
     float StartAngle() const { return IsUpper() ? kHalfTurn : 0.0F; }

@@ -1,8 +1,13 @@
 #pragma once
 
 #include "charts/pie/BasicHalfPie.h"
+#include "foundation/ChartPart.h"
+
+#include <optional>
 
 namespace millichart {
+
+class PartSink;
 
 /// Stands between the entries of the two halves in one list. No label stands so far off the page.
 inline constexpr penlode::PointF kHalvesSeparator{-99999.0F, -99999.0F};
@@ -79,6 +84,13 @@ public:
     /// GetPositionAll with the texts that reach out of it.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach`. Nothing beside the chart, or where a number is none.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+
+    /// All parts that can be seen, in the order in which they are drawn; the second half's are of part 1.
+    void VisitParts(const PartVisitor& visit) const;
+
     /// Where the labels stand. `pie` and `legend` are left as they are.
     void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,
                           std::vector<penlode::RectF>& legend) const;
@@ -93,6 +105,7 @@ public:
                         const std::vector<penlode::PointF>& legend);
 
 private:
+    void ListParts(PartSink& sink) const;
     /// By the second, which fills the same half. Its labels would lie under the second's.
     bool IsFirstCovered() const;
 

@@ -3,8 +3,13 @@
 #include "charts/histogram/BasicHistogram.h"
 #include "charts/pie/BasicHalfPie.h"
 #include "charts/pie/HalfPieHistogramProp.h"
+#include "foundation/ChartPart.h"
+
+#include <optional>
 
 namespace millichart {
+
+class PartSink;
 
 /// Slices and bars, in the order in which they are drawn.
 struct HalfPieHistogramShapes {
@@ -85,6 +90,13 @@ public:
     /// GetPositionAll with the texts that reach out of it.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach`. Nothing beside the chart, or where a number is none.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+
+    /// All parts that can be seen, in the order in which they are drawn; the bar chart's are of part 1.
+    void VisitParts(const PartVisitor& visit) const;
+
     /// The half pie's movable parts; the bar chart's do not move.
     void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,
                           std::vector<penlode::RectF>& legend) const;
@@ -95,6 +107,7 @@ public:
                         const std::vector<penlode::PointF>& legend);
 
 private:
+    void ListParts(PartSink& sink) const;
     float BarsBase() const;
     void StandOnTheBase();
 

@@ -2,9 +2,14 @@
 
 #include "charts/pie/SlicedCircle.h"
 #include "charts/reading/SlicesApart.h"
+#include "foundation/ChartPart.h"
 #include "penlode/IGraphicsEngine.h"
 
+#include <optional>
+
 namespace millichart {
+
+class PartSink;
 
 /// The pie chart: one slice per value, labels round it, a legend beside it.
 ///
@@ -41,6 +46,13 @@ public:
     /// GetPositionAll with the texts that reach out of it.
     penlode::RectF InkExtent() const { return InkExtentOf(*this); }
 
+    /// The part at a point of the page, in mm, or of several the one that is drawn last; where there is none,
+    /// the nearest within `reach`. Nothing beside the chart, or where a number is none.
+    std::optional<PlacedPart> HitTest(penlode::PointF point, float reach = kUsualReach) const;
+
+    /// All parts that can be seen, in the order in which they are drawn.
+    void VisitParts(const PartVisitor& visit) const;
+
     /// As for every sliced circle, and the legend's rectangle, if there is one.
     void GetChildPosition(penlode::RectF& pie, std::vector<penlode::RectF>& labels,
                           std::vector<penlode::RectF>& legend) const;
@@ -62,6 +74,7 @@ protected:
     void DrawPie3D(penlode::IGraphicsEngine* engine) const;
 
 private:
+    void ListParts(PartSink& sink) const;
     SliceRim Rim() const;
     void PlaceLegend();
     void SeatOnPie();
