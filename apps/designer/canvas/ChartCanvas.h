@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace designer {
 
@@ -29,7 +30,8 @@ public:
     explicit ChartCanvas(QWidget* parent = nullptr);
     ~ChartCanvas() override;
 
-    /// Lays out and draws it as soon as can be. A null one shows an empty page.
+    /// Lays out and draws it as soon as can be. A null one shows an empty page, and the page after it
+    /// begins in the window's middle.
     void Show(std::shared_ptr<const millichart::ChartDocument> document, std::uint64_t revision);
 
     /// What is on the screen now, or null; may be older than what was shown last.
@@ -56,6 +58,14 @@ public:
     /// Of a point of the page, in mm, in the viewport; for whoever points by program.
     QPoint ToViewport(penlode::PointF onPage) const;
     penlode::PointF ToPage(QPoint inViewport) const;
+    /// The rectangle round a box of the page, in the viewport.
+    QRect ToViewport(const penlode::RectF& onPage) const;
+
+    /// The parts that can be seen, with their boxes, as Tab goes through them.
+    const std::vector<millichart::PlacedPart>& Parts() const;
+    /// How often a layout and a drawing were made until now.
+    int LaidOutCount() const;
+    int DrawnCount() const;
 
 Q_SIGNALS:
     void ZoomChanged(double zoom);
@@ -75,6 +85,54 @@ Q_SIGNALS:
     void MenuWanted(std::optional<millichart::ChartPart> part, QPoint where);
     /// A document's picture has come onto the screen.
     void ChartShown(std::uint64_t revision);
+
+protected:
+    bool viewportEvent(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    struct State;
+
+    void FollowPage();
+    void FollowChart(std::uint64_t revision);
+    void FollowScreen();
+    void PlaceRulers();
+    void ShowScrollBars();
+    void ZoomAt(double zoom, QPointF anchor);
+
+    std::optional<millichart::PlacedPart> PartAt(QPointF inViewport) const;
+    void Hover(std::optional<millichart::PlacedPart> part);
+    void SelectPlaced(std::optional<millichart::PlacedPart> part);
+    void ShowTip(const QPoint& inViewport, const QPoint& onScreen);
+    void ShowCursor();
+    void BeginPan(QPoint at);
+    void BeginDrag(const millichart::PlacedPart& part, QPointF at);
+    void DragTo(QPointF at, bool isStraight);
+    void EndDrag(bool isKept);
+    bool Nudge(Qt::Key key, bool isFar);
+    bool PressOnPart(const QKeyEvent& event);
+    bool PressOnView(const QKeyEvent& event);
+    bool TypeInto(const QString& text);
+    bool HasEditableText(const millichart::ChartPart& part) const;
+
+    std::unique_ptr<State> m_state;
 };
 
 } // namespace designer
