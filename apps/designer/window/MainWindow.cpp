@@ -203,7 +203,7 @@ void MainWindow::Refresh() {
     }
     m_canvas->Show(editor.Shared(), editor.Revision());
     RefreshTables();
-    m_panel->Show(editor.Document(), millichart::KindOf(editor.Document().Content));
+    m_panel->Show(editor.Document());
     RefreshActions();
     RefreshTitle();
 }

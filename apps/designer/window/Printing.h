@@ -2,6 +2,8 @@
 
 #include "documents/ChartDocument.h"
 
+#include <QString>
+
 class QPrinter;
 class QWidget;
 
