@@ -156,8 +156,10 @@ TEST(ChartSheet, OpensAtAPartOfItsChart) {
         User::Press(Qt::Key_F2);
         User::Type("second");
         User::Press(Qt::Key_Return);
-        User::Find<QPushButton>("确定").click();
     });
+    user.In(
+        "曲线属性", [] { return List().Rows()[70][0] == "second"; },
+        [] { User::Find<QPushButton>("确定").click(); });
     EXPECT_TRUE(
         EditWithPreview(&curves, std::function<void(const CurveProp&)>(), {PartKind::CurvePoint, 70, 3}));
     EXPECT_EQ(curves.Plot.CurveName[70], "second");
