@@ -7,6 +7,7 @@
 
 namespace designer {
 
+class TextBox;
 class TextLine;
 
 /// Title, description and source of a document: what is said of it and not drawn.
@@ -22,11 +23,12 @@ Q_SIGNALS:
     void ChangeWanted(QString name, std::function<void(millichart::ChartDocument&)> change, QString merge);
 
 private:
-    TextLine* AddLine(const QString& label, const char* key, const QString& name,
-                      std::string millichart::ChartDocument::*text);
+    template <class Control>
+    Control* AddText(const QString& label, const char* key, const QString& name,
+                     std::string millichart::ChartDocument::*text);
 
     TextLine* m_title;
-    TextLine* m_description;
+    TextBox* m_description;
     TextLine* m_source;
 };
 

@@ -31,8 +31,8 @@ constexpr OptionChoice kTimeUnits[] = {
     {TimeUnit::Days, QT_TRANSLATE_NOOP("designer::OptionsPanel", "日期")},
     {TimeUnit::Seconds, QT_TRANSLATE_NOOP("designer::OptionsPanel", "日期和时刻")}};
 constexpr OptionChoice kPalettes[] = {
-    {ChartPalette::Record, QT_TRANSLATE_NOOP("designer::OptionsPanel", "逐项设定的颜色")},
-    {ChartPalette::Safe, QT_TRANSLATE_NOOP("designer::OptionsPanel", "人人可辨的颜色")},
+    {ChartPalette::Record, QT_TRANSLATE_NOOP("designer::OptionsPanel", "逐项设定")},
+    {ChartPalette::Safe, QT_TRANSLATE_NOOP("designer::OptionsPanel", "人人可辨")},
     {ChartPalette::Print, QT_TRANSLATE_NOOP("designer::OptionsPanel", "黑白打印")}};
 
 constexpr OptionRow kRows[] = {

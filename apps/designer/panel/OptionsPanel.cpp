@@ -15,6 +15,7 @@
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -27,6 +28,7 @@ using millichart::ChartOptions;
 using penlode::CStringUtil;
 
 constexpr int kMaxDecimals = 15;
+constexpr int kLeastLetters = 10; // that a closed list shows
 
 /// "配色(&P)" is "配色" in a menu and for a screen reader.
 QString WithoutMnemonic(const QString& label) {
@@ -77,6 +79,9 @@ OptionsPanel::OptionsPanel(QWidget* parent) : QScrollArea(parent), m_texts(new D
     column->addWidget(group);
     column->addStretch();
     setWidget(content);
+    // Of all lines, so that another kind of chart does not need more.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMinimumWidth(content->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     connect(m_texts, &DocumentTexts::ChangeWanted, this, &OptionsPanel::ChangeWanted);
 }
 
@@ -131,10 +136,12 @@ void OptionsPanel::AddChoice(const OptionRow& row) {
     const QString label = tr(row.Text);
     auto* box = new QComboBox;
     box->setToolTip(tr(row.Tip));
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kLeastLetters);
     const auto field = row.Field;
     const int height = fontMetrics().height();
     if (field == &ChartOptions::Palette) {
-        box->setIconSize({height * 9 / 2, height});
+        box->setIconSize({height * 7 / 2, height});
     }
     for (const OptionChoice& choice : row.Choices) {
         const bool hasIcon = field == &ChartOptions::Palette;

@@ -74,7 +74,8 @@ protected:
 private:
     void Want(const TableChange& change, const QString& merge = {});
     std::vector<CellRange> SelectedRanges() const;
-    /// Of the selection, and of the current cell where nothing is selected; may lie beyond the end.
+    /// The selection where it is a rectangle, else its range at the current cell; that cell where nothing is
+    /// selected, which may lie beyond the end.
     CellRange SelectedBounds() const;
     void SelectRange(const CellRange& range);
     void SelectRows(const Span& rows);

@@ -39,14 +39,26 @@ std::vector<CellRange> DataView::SelectedRanges() const {
     return RangesIn(selectionModel()->selection(), m_model->Table());
 }
 
+/// Of several ranges that are no rectangle together, nothing between them is touched.
 CellRange DataView::SelectedBounds() const {
     const std::vector<CellRange> ranges = SelectedRanges();
-    if (!ranges.empty()) {
-        return BoundsOf(ranges);
+    const CellRange current{static_cast<std::size_t>(std::max(currentIndex().row(), 0)),
+                            static_cast<std::size_t>(std::max(currentIndex().column(), 0)), 1, 1};
+    if (ranges.empty()) {
+        return current;
     }
-    const QModelIndex current = currentIndex();
-    return {static_cast<std::size_t>(std::max(current.row(), 0)),
-            static_cast<std::size_t>(std::max(current.column(), 0)), 1, 1};
+    const CellRange bounds = BoundsOf(ranges);
+    std::size_t cells = 0;
+    for (const CellRange& range : ranges) {
+        cells += range.Rows * range.Columns;
+    }
+    if (cells == bounds.Rows * bounds.Columns) {
+        return bounds;
+    }
+    const auto found = std::find_if(ranges.begin(), ranges.end(), [&current](const CellRange& range) {
+        return current.Row - range.Row < range.Rows && current.Column - range.Column < range.Columns;
+    });
+    return found != ranges.end() ? *found : ranges.back();
 }
 
 void DataView::SelectRange(const CellRange& range) {
@@ -71,18 +83,16 @@ void DataView::SelectColumns(const Span& columns) {
 }
 
 void DataView::Copy() {
-    const std::vector<CellRange> ranges = SelectedRanges();
-    if (!ranges.empty()) {
+    if (!SelectedRanges().empty()) {
         QGuiApplication::clipboard()->setText(
-            QString::fromStdString(m_model->Table().Copy(BoundsOf(ranges))));
+            QString::fromStdString(m_model->Table().Copy(SelectedBounds())));
     }
 }
 
 void DataView::Cut() {
-    const std::vector<CellRange> ranges = SelectedRanges();
-    if (!ranges.empty()) {
+    if (!SelectedRanges().empty()) {
         Copy();
-        Want(TableChange::Cut({BoundsOf(ranges)}));
+        Want(TableChange::Cut({SelectedBounds()}));
     }
 }
 

@@ -84,10 +84,11 @@ bool TableModel::IsUnused(std::size_t column) const {
 }
 
 QString TableModel::WhatIsOdd(const QModelIndex& index) const {
-    if (m_table->IsOdd(At(index.row()), At(index.column()))) {
-        return index.column() == 0 ? tr("不是时间") : tr("不是数");
+    if (IsUnused(At(index.column()))) {
+        return tr("这种图表不显示此列，数据会保留");
     }
-    return IsUnused(At(index.column())) ? tr("这种图表不显示此列，数据会保留") : QString();
+    const bool isOdd = m_table->IsOdd(At(index.row()), At(index.column()));
+    return !isOdd ? QString() : index.column() == 0 ? tr("不是时间") : tr("不是数");
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
@@ -108,7 +109,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleDescriptionRole:
         return WhatIsOdd(index);
     case OddRole:
-        return m_table->IsOdd(row, column);
+        return !IsUnused(column) && m_table->IsOdd(row, column);
     case UnusedRole:
         return IsUnused(column);
     case HeadRole:

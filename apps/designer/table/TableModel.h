@@ -14,7 +14,7 @@ class TableModel : public QAbstractTableModel {
 
 public:
     enum Role : int {
-        OddRole = Qt::UserRole, ///< is it a text where a number or a time should stand?
+        OddRole = Qt::UserRole, ///< is a text shown where a number or a time should stand?
         UnusedRole,             ///< does this kind of chart not show its column?
         HeadRole                ///< is it in the column of the heads?
     };

@@ -34,7 +34,7 @@ TEST(Ranges, OfAllCellsEndWithTheTable) {
     TableUser::Press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QString::fromStdString(TableUser::Clipboard()).trimmed(), "a\t1\t10\nb\t2\t20\nc\t3\t30");
     TableUser::PutOnClipboard("5");
-    user.View.selectColumn(1);
+    user.Select(0, 1, 4, 1);
     TableUser::Press(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(user.Texts(), "名\tA\tB\na\t5\t10\nb\t5\t20\nc\t5\t30");
     TableUser::Press(Qt::Key_A, Qt::ControlModifier);
@@ -59,6 +59,15 @@ TEST(Ranges, ClearEachRangeOfASelection) {
     TableUser::Press(Qt::Key_Delete);
     EXPECT_EQ(user.Texts(), "名\tA\tB\na\t\t10\nb\t2\t20\nc\t3\t");
     EXPECT_EQ(user.Changes.size(), 1U);
+}
+
+TEST(Ranges, ThatAreNoRectangleLeaveOutWhatIsBetween) {
+    TableUser user(kTexts);
+    user.GoTo(0, 1);
+    user.View.selectionModel()->setCurrentIndex(user.View.model()->index(2, 2), QItemSelectionModel::Select);
+    TableUser::Press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(TableUser::Clipboard(), "30");
+    EXPECT_EQ(user.Texts(), "名\tA\tB\na\t1\t10\nb\t2\t20\nc\t3\t");
 }
 
 TEST(Ranges, AreSummedUp) {
