@@ -2,6 +2,7 @@
 
 #include "editing/DialogTemplate.h"
 #include "editing/DialogView.h"
+#include "editing/SheetStart.h"
 
 #include <span>
 #include <string_view>
@@ -62,10 +63,18 @@ public:
     /// Reads all pages that were shown; false keeps the sheet open.
     virtual bool OnOK(std::span<DialogView* const> views) = 0;
 
+    /// Where its window opens, which is on one of its pages.
+    const SheetStart& Start() const { return m_start; }
+
+    void OpenAt(const SheetStart& start) { m_start = start; }
+
 protected:
     Sheet() = default;
     Sheet(const Sheet&) = default;
     Sheet& operator=(const Sheet&) = default;
+
+private:
+    SheetStart m_start;
 };
 
 /// Shows a window on the host's active one until it is closed; true after OK. Each toolkit defines both.

@@ -60,9 +60,9 @@ public:
     virtual void SetRows(int id, std::vector<ListRow> rows) = 0;
     /// As the user made them: cells edited, rows added, removed and moved.
     virtual std::vector<ListRow> Rows(int id) const = 0;
-    /// The selected item of a list, −1 if there is none.
+    /// The selected item of a list, −1 if there is none; of a list of rows, the current one.
     virtual int Selection(int id) const = 0;
-    /// An index that the list has not selects nothing.
+    /// An index that the list has not selects nothing; a row is scrolled into view.
     virtual void Select(int id, int index) = 0;
     virtual std::uint32_t ShownColor(int id) const = 0;
     virtual void ShowColor(int id, std::uint32_t colorRef) = 0;

@@ -3,6 +3,7 @@
 #include "editing/DlgLinePenProp.h"
 #include "editing/DlgLogarithmValueRange.h"
 #include "editing/DlgNaturalValueRange.h"
+#include "editing/PartPlaces.h"
 #include "editing/Preview.h"
 #include "editing/Sheets.h"
 #include "editing/TextPropDlg.h"
@@ -30,16 +31,31 @@ template <class Window, class Record> bool Edit(Record* record) {
 }
 
 template <class Window, class Record>
-bool Edit(Record* record, const std::function<void(const Record&)>& preview) {
-    if (record == nullptr || !preview) {
-        return Edit<Window>(record);
+bool EditOn(Window window, Record& record, const std::function<void(const Record&)>& preview) {
+    if (!preview) {
+        return Run(window, record);
     }
-    Previewed<Window> window(Window(*record), preview);
-    const bool isAccepted = Run(window, *record);
+    Previewed<Window> previewed(std::move(window), preview);
+    const bool isAccepted = Run(previewed, record);
     if (!isAccepted) {
-        preview(*record);
+        preview(record);
     }
     return isAccepted;
+}
+
+template <class Window, class Record>
+bool Edit(Record* record, const std::function<void(const Record&)>& preview) {
+    return record != nullptr && EditOn(Window(*record), *record, preview);
+}
+
+template <class Window, class Record>
+bool EditAt(const SheetStart& start, Record* record, const std::function<void(const Record&)>& preview) {
+    if (record == nullptr) {
+        return false;
+    }
+    Window window(*record);
+    window.OpenAt(start);
+    return EditOn(std::move(window), *record, preview);
 }
 
 } // namespace
@@ -162,6 +178,35 @@ bool EditWithPreview(HistogramProp* prop, const std::function<void(const Histogr
 
 bool EditWithPreview(CurveProp* prop, const std::function<void(const CurveProp&)>& preview) {
     return Edit<CSheetCurve>(prop, preview);
+}
+
+bool EditWithPreview(PieProp* prop, const std::function<void(const PieProp&)>& preview, const ChartPart& at) {
+    return EditAt<CSheetPie>(PlaceInPieSheet(at), prop, preview);
+}
+
+bool EditWithPreview(HalfPieProp* prop, const std::function<void(const HalfPieProp&)>& preview,
+                     const ChartPart& at) {
+    return EditAt<CSheetHalfPie>(PlaceInHalfPieSheet(at), prop, preview);
+}
+
+bool EditWithPreview(HalfPieHalfPieProp* prop, const std::function<void(const HalfPieHalfPieProp&)>& preview,
+                     const ChartPart& at) {
+    return EditAt<CSheetHalfPieHalfPie>(PlaceInHalfPieHalfPieSheet(at), prop, preview);
+}
+
+bool EditWithPreview(HalfPieHistogramProp* prop,
+                     const std::function<void(const HalfPieHistogramProp&)>& preview, const ChartPart& at) {
+    return EditAt<CSheetHalfPieHistogram>(PlaceInHalfPieHistogramSheet(at), prop, preview);
+}
+
+bool EditWithPreview(HistogramProp* prop, const std::function<void(const HistogramProp&)>& preview,
+                     const ChartPart& at) {
+    return EditAt<CSheetHistogram>(PlaceInHistogramSheet(at), prop, preview);
+}
+
+bool EditWithPreview(CurveProp* prop, const std::function<void(const CurveProp&)>& preview,
+                     const ChartPart& at) {
+    return EditAt<CSheetCurve>(PlaceInCurveSheet(at), prop, preview);
 }
 
 } // namespace millichart

@@ -17,6 +17,7 @@ class Pen;
 
 namespace millichart {
 
+struct ChartPart;
 struct CurveProp;
 struct HalfPieHalfPieProp;
 struct HalfPieHistogramProp;
@@ -62,5 +63,24 @@ MILLICHART_API bool EditWithPreview(HalfPieHistogramProp* prop,
 MILLICHART_API bool EditWithPreview(HistogramProp* prop,
                                     const std::function<void(const HistogramProp&)>& preview);
 MILLICHART_API bool EditWithPreview(CurveProp* prop, const std::function<void(const CurveProp&)>& preview);
+
+/// The same of a sheet, for hosts whose user pointed at a part of the chart: it opens on the page on which
+/// that is set, at the control that does it and, in a list, at its row. A part that the sheet does not set,
+/// such as a pie's title, opens it as ever.
+MILLICHART_API bool EditWithPreview(PieProp* prop, const std::function<void(const PieProp&)>& preview,
+                                    const ChartPart& at);
+MILLICHART_API bool EditWithPreview(HalfPieProp* prop, const std::function<void(const HalfPieProp&)>& preview,
+                                    const ChartPart& at);
+MILLICHART_API bool EditWithPreview(HalfPieHalfPieProp* prop,
+                                    const std::function<void(const HalfPieHalfPieProp&)>& preview,
+                                    const ChartPart& at);
+MILLICHART_API bool EditWithPreview(HalfPieHistogramProp* prop,
+                                    const std::function<void(const HalfPieHistogramProp&)>& preview,
+                                    const ChartPart& at);
+MILLICHART_API bool EditWithPreview(HistogramProp* prop,
+                                    const std::function<void(const HistogramProp&)>& preview,
+                                    const ChartPart& at);
+MILLICHART_API bool EditWithPreview(CurveProp* prop, const std::function<void(const CurveProp&)>& preview,
+                                    const ChartPart& at);
 
 } // namespace millichart

@@ -243,7 +243,9 @@ int ScriptedView::Selection(int id) const {
 }
 
 void ScriptedView::Select(int id, int index) {
-    m_selections[id] = index < static_cast<int>(m_items.at(id).size()) ? std::max(index, -1) : -1;
+    const auto rows = m_rows.find(id);
+    const std::size_t count = rows != m_rows.end() ? rows->second.size() : m_items.at(id).size();
+    m_selections[id] = index < static_cast<int>(count) ? std::max(index, -1) : -1;
 }
 
 std::uint32_t ScriptedView::ShownColor(int id) const {
@@ -286,6 +288,12 @@ std::optional<std::uint32_t> ScriptedView::PickColor(std::uint32_t) {
 std::optional<FontChoice> ScriptedView::PickFont(const FontChoice& shown) {
     const auto pick = Next(FontsToPick);
     return pick ? std::optional((*pick)(shown)) : std::nullopt;
+}
+
+ScriptedSheet::ScriptedSheet(Sheet& sheet) : m_sheet(sheet), m_views(sheet.Pages().size()) {
+    if (Start().Control != kNoId) {
+        GoTo(Page(Start().Page), Start());
+    }
 }
 
 ScriptedView& ScriptedSheet::Page(std::size_t index) {

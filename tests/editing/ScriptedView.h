@@ -91,10 +91,13 @@ private:
 /// A sheet without a screen, whose user turns to its pages.
 class ScriptedSheet {
 public:
-    explicit ScriptedSheet(millichart::Sheet& sheet) : m_sheet(sheet), m_views(sheet.Pages().size()) {}
+    /// Opens where the sheet says.
+    explicit ScriptedSheet(millichart::Sheet& sheet);
 
     /// A page's window, made when the user first turns to it.
     ScriptedView& Page(std::size_t index);
+
+    const millichart::SheetStart& Start() const { return m_sheet.Start(); }
 
     std::size_t PageCount() const { return m_views.size(); }
 

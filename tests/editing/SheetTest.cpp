@@ -373,4 +373,117 @@ TEST(LivePreview, TellsWhatASheetWouldGive) {
     EXPECT_EQ(told[1], CurveProp());
 }
 
+/// What a sheet shows when it opens at a part.
+struct Opened {
+    std::size_t Page;
+    int Focused;
+    int Row;
+    bool IsEnabled;
+
+    friend bool operator==(const Opened&, const Opened&) = default;
+};
+
+template <class Prop> Opened OpenedAt(Prop prop, const ChartPart& part) {
+    Opened opened{};
+    const User user({}, {[&opened](ScriptedSheet& sheet) {
+                        const SheetStart start = sheet.Start();
+                        opened = {start.Page, kNoId, -1, true};
+                        if (start.Control != kNoId) {
+                            ScriptedView& page = sheet.Page(start.Page);
+                            opened = {start.Page, page.Focused, page.Selection(start.Control),
+                                      page.IsEnabled(start.Control)};
+                        }
+                        return false;
+                    }});
+    EXPECT_FALSE(EditWithPreview(&prop, std::function<void(const Prop&)>(), part));
+    return opened;
+}
+
+/// A control of another page would throw, and a row of another list would be none.
+template <class Prop>
+void ExpectPlaces(const Prop& prop, std::size_t part, std::initializer_list<PartKind> kinds) {
+    for (const PartKind kind : kinds) {
+        SCOPED_TRACE(static_cast<int>(kind));
+        const Opened opened = OpenedAt(prop, {kind, 1, 1, part});
+        EXPECT_NE(opened.Focused, kNoId);
+        EXPECT_TRUE(opened.IsEnabled);
+        const bool isRow = kind == PartKind::Slice || kind == PartKind::Bar || kind == PartKind::Curve ||
+                           kind == PartKind::CurvePoint || kind == PartKind::LegendSample ||
+                           kind == PartKind::LegendName;
+        if (kind != PartKind::Legend) { // whose control shows a place
+            EXPECT_EQ(opened.Row, isRow ? 1 : -1);
+        }
+    }
+}
+
+TEST(SheetsAtAPart, OpenOnItsPageAtItsControl) {
+    HistogramProp bars = SomeHistogram();
+    bars.Plot.ComponentName = {"a", "b"};
+    bars.Caption.ShowCaption = bars.VerAxis.ShowVerAxis = bars.VerAxis.ShowVerCaption = 1;
+    bars.VerAxis.ShowVerAxisLabel = bars.HorAxis.ShowHorAxis = bars.HorAxis.ShowHorCaption = 1;
+    bars.HorAxis.ShowGroupName = 1;
+    EXPECT_EQ(OpenedAt(bars, {PartKind::Caption}), (Opened{3, 18561, -1, true}));
+    EXPECT_EQ(OpenedAt(bars, {PartKind::Bar, 7, 1}), (Opened{0, 18460, 1, true})) << "one row for all groups";
+    EXPECT_EQ(OpenedAt(bars, {PartKind::Bar, 0, 9}).Row, -1) << "no such row";
+    EXPECT_EQ(OpenedAt(bars, {PartKind::Legend}).Page, 4U);
+    EXPECT_EQ(OpenedAt(bars, {PartKind::Slice}), (Opened{0, kNoId, -1, true})) << "no part of it";
+    ExpectPlaces(bars, 0,
+                 {PartKind::Plot, PartKind::VerAxis, PartKind::HorAxis, PartKind::Bar, PartKind::BarLabel,
+                  PartKind::VerAxisLabel, PartKind::GroupName, PartKind::VerCaption, PartKind::HorCaption,
+                  PartKind::Caption, PartKind::Legend, PartKind::LegendSample, PartKind::LegendName});
+
+    CurveProp curves = SomeCurves();
+    curves.Plot.CurveName = {"a", "b"};
+    curves.Caption.ShowCaption = curves.VerAxis.ShowVerAxis = curves.VerAxis.ShowVerCaption = 1;
+    curves.VerAxis.ShowVerAxisLabel = curves.HorAxis.ShowHorAxis = curves.HorAxis.ShowHorCaption = 1;
+    curves.HorAxis.ShowLabel = 1;
+    EXPECT_EQ(OpenedAt(curves, {PartKind::CurvePoint, 1, 500}), (Opened{0, 18490, 1, true}));
+    EXPECT_EQ(OpenedAt(curves, {PartKind::HorCaption}), (Opened{2, 18501, -1, true}));
+    ExpectPlaces(curves, 0,
+                 {PartKind::Plot, PartKind::VerAxis, PartKind::HorAxis, PartKind::Curve, PartKind::CurvePoint,
+                  PartKind::VerAxisLabel, PartKind::HorAxisLabel, PartKind::VerCaption, PartKind::HorCaption,
+                  PartKind::Caption, PartKind::Legend, PartKind::LegendSample, PartKind::LegendName});
+
+    PieProp pie = SomePie();
+    pie.Basic.ComponentName = {"a", "b"};
+    EXPECT_EQ(OpenedAt(pie, {PartKind::SliceLabel, 1}), (Opened{1, 18593, -1, true}));
+    EXPECT_EQ(OpenedAt(pie, {PartKind::Caption}), (Opened{0, kNoId, -1, true}))
+        << "its title is none of the record's";
+    ExpectPlaces(pie, 0,
+                 {PartKind::Slice, PartKind::SliceLabel, PartKind::Legend, PartKind::LegendSample,
+                  PartKind::LegendName});
+
+    HalfPieProp half = SomeHalf();
+    half.Basic.ComponentName = {"a", "b"};
+    ExpectPlaces(half, 0, {PartKind::Slice, PartKind::SliceLabel});
+    const HalfPieHalfPieProp halves{half, half};
+    EXPECT_EQ(OpenedAt(halves, {PartKind::Slice, 1}), (Opened{0, 18580, 1, true}));
+    EXPECT_EQ(OpenedAt(halves, {PartKind::SliceLabel, 1, 0, 1}), (Opened{3, 18593, -1, true}));
+    const HalfPieHistogramProp mixed{bars, half};
+    EXPECT_EQ(OpenedAt(mixed, {PartKind::Slice, 1}), (Opened{5, 18580, 1, true}));
+    EXPECT_EQ(OpenedAt(mixed, {PartKind::LegendName, 1, 0, 1}), (Opened{0, 18460, 1, true}));
+    ExpectPlaces(mixed, 0, {PartKind::Slice, PartKind::SliceLabel});
+    ExpectPlaces(mixed, 1, {PartKind::Bar, PartKind::BarLabel, PartKind::Plot, PartKind::Legend});
+}
+
+TEST(SheetsAtAPart, EditAndPreviewAsEver) {
+    CurveProp prop = SomeCurves();
+    prop.Caption.ShowCaption = 1;
+    std::vector<CurveProp> told;
+    {
+        const User user({}, {[&told](ScriptedSheet& sheet) {
+                            sheet.Page(3).Type(18561, "new");
+                            sheet.Changed();
+                            EXPECT_EQ(told.size(), 1U);
+                            return sheet.PressOk();
+                        }});
+        EXPECT_TRUE(EditWithPreview(&prop, [&told](const CurveProp& now) { told.push_back(now); },
+                                    {PartKind::Caption}));
+    }
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0].Caption.Caption, "new");
+    EXPECT_EQ(prop, told[0]);
+    EXPECT_FALSE(EditWithPreview(static_cast<CurveProp*>(nullptr), {}, {PartKind::Caption}));
+}
+
 } // namespace

@@ -57,37 +57,31 @@ RectF CurveOutline::Box() const {
     return {least.X, least.Y, most.X - least.X, most.Y - least.Y};
 }
 
-double CurveOutline::DistanceToLine(PointD point, float reach) const {
-    const Surrounding around(point, reach + m_halfWidth);
-    double nearest = kFarAway;
-    bool runs = false;
-    for (std::size_t i = 0; i < m_trace.Points.size(); ++i) {
-        const bool goesOn = IsOnLine(i);
-        if (runs && goesOn && around.MayMeet(m_trace.Points[i - 1], m_trace.Points[i])) {
-            nearest = std::min(nearest, DistanceToSegment(point, m_trace.Points[i - 1], m_trace.Points[i]));
-        }
-        runs = goesOn;
-    }
-    return std::max(nearest - m_halfWidth, 0.0);
-}
-
-double CurveOutline::DistanceToMarkers(PointD point, float reach) const {
-    if (m_markerRadius < 0.0F) {
+double CurveOutline::DistanceToLineBefore(std::size_t index, PointD point) const {
+    if (index == 0 || !IsOnLine(index - 1) || !IsOnLine(index)) {
         return kFarAway;
     }
-    const Surrounding around(point, reach + m_markerRadius);
-    double nearest = kFarAway;
-    for (std::size_t i = 0; i < m_trace.Points.size(); ++i) {
-        const PointF at = m_trace.Points[i];
-        if (around.MayMeet(at, at) && IsValue(i)) {
-            nearest = std::min(nearest, DistanceToRect(point, MarkerAt(i, m_markerRadius)));
-        }
-    }
-    return nearest;
+    const double distance = DistanceToSegment(point, m_trace.Points[index - 1], m_trace.Points[index]);
+    return std::max(distance - m_halfWidth, 0.0);
+}
+
+double CurveOutline::DistanceToMarker(std::size_t index, PointD point) const {
+    return m_markerRadius < 0.0F || !IsValue(index) ? kFarAway
+                                                    : DistanceToRect(point, MarkerAt(index, m_markerRadius));
 }
 
 double CurveOutline::Distance(PointD point, float reach) const {
-    return std::min(DistanceToLine(point, reach), DistanceToMarkers(point, reach));
+    const Surrounding around(point, reach + std::max(m_halfWidth, m_markerRadius));
+    double nearest = kFarAway;
+    PointF last = m_trace.Points.empty() ? PointF{} : m_trace.Points.front();
+    for (std::size_t i = 0; i < m_trace.Points.size(); ++i) {
+        const PointF next = m_trace.Points[i];
+        if (around.MayMeet(last, next)) {
+            nearest = std::min({nearest, DistanceToLineBefore(i, point), DistanceToMarker(i, point)});
+        }
+        last = next;
+    }
+    return nearest;
 }
 
 RectF CurveOutline::MarkerAt(std::size_t index, float radius) const {

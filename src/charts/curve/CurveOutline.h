@@ -28,8 +28,9 @@ private:
     /// Has it a value of its own?
     bool IsValue(std::size_t index) const { return HasPlace(index) && !IsNull(index); }
 
-    double DistanceToLine(penlode::PointD point, float reach) const;
-    double DistanceToMarkers(penlode::PointD point, float reach) const;
+    /// Of the line that ends at a point.
+    double DistanceToLineBefore(std::size_t index, penlode::PointD point) const;
+    double DistanceToMarker(std::size_t index, penlode::PointD point) const;
     penlode::RectF MarkerAt(std::size_t index, float radius) const;
 
     const CurveTrace& m_trace;

@@ -183,6 +183,14 @@ const std::vector<ListRow>& CListCtrlEx::Rows() const {
     return m_model->Rows.Rows();
 }
 
+void CListCtrlEx::SelectRow(int row) {
+    const QModelIndex first = m_model->index(row, 0); // not valid beyond the rows
+    setCurrentIndex(first);
+    if (!first.isValid()) {
+        clearSelection();
+    }
+}
+
 bool CListCtrlEx::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     if (!index.isValid() || (trigger & editTriggers()) == NoEditTriggers) {
         return QTableView::edit(index, trigger, event);

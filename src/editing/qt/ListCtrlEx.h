@@ -23,6 +23,9 @@ public:
     void SetRows(std::vector<ListRow> rows);
     const std::vector<ListRow>& Rows() const;
 
+    /// Makes a row the current one, selected and in view; none for an index that is no row's.
+    void SelectRow(int row);
+
     /// Told after each change that the user made.
     std::function<void()> OnChanged;
 

@@ -19,7 +19,7 @@ SheetWindow::SheetWindow(Sheet& sheet, QWidget* owner)
         m_tabs.addTab(panel, ToQString(page.Title));
     }
     AddButtons();
-    Fill(m_tabs.currentIndex());
+    Open();
     connect(&m_tabs, &QTabWidget::currentChanged, this,
             [this](int index) { Guard([this, index] { Fill(index); }); });
 }
@@ -33,6 +33,16 @@ void SheetWindow::AddButtons() {
     m_ok.setDefault(true);
     connect(&m_ok, &QPushButton::clicked, this, &SheetWindow::accept);
     connect(&m_cancel, &QPushButton::clicked, this, &SheetWindow::reject);
+}
+
+/// What has the focus before the window shows keeps it.
+void SheetWindow::Open() {
+    const SheetStart& start = m_sheet.Start();
+    m_tabs.setCurrentIndex(static_cast<int>(start.Page));
+    Fill(m_tabs.currentIndex());
+    if (const auto& page = m_views[static_cast<std::size_t>(m_tabs.currentIndex())]) {
+        GoTo(*page, start);
+    }
 }
 
 void SheetWindow::Fill(int index) {

@@ -18,6 +18,7 @@ public:
 
 private:
     void AddButtons();
+    void Open();
     void Fill(int index);
     std::vector<DialogView*> Views() const;
     bool OnOK() override;

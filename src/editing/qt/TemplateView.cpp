@@ -136,6 +136,9 @@ int TemplateView::Selection(int id) const {
     if (const auto* picker = At<PositionPicker>(id)) {
         return picker->Selection();
     }
+    if (const auto* rows = At<CListCtrlEx>(id)) {
+        return rows->currentIndex().row();
+    }
     const auto* list = At<QComboBox>(id);
     return list ? list->currentIndex() : -1;
 }
@@ -145,6 +148,8 @@ void TemplateView::Select(int id, int index) {
         list->setCurrentIndex(index);
     } else if (auto* picker = At<PositionPicker>(id)) {
         picker->Select(index);
+    } else if (auto* rows = At<CListCtrlEx>(id)) {
+        rows->SelectRow(index);
     }
 }
 

@@ -282,6 +282,9 @@ std::vector<ListRow> DialogWindow::Rows(int id) const {
 }
 
 int DialogWindow::Selection(int id) const {
+    if (const auto list = m_lists.find(id); list != m_lists.end()) {
+        return list->second->Row();
+    }
     const auto picker = m_pickers.find(id);
     return picker != m_pickers.end() ? picker->second->Selection()
                                      : static_cast<int>(SendMessageW(Item(id), CB_GETCURSEL, 0, 0));
@@ -290,6 +293,8 @@ int DialogWindow::Selection(int id) const {
 void DialogWindow::Select(int id, int index) {
     if (const auto picker = m_pickers.find(id); picker != m_pickers.end()) {
         picker->second->Select(index);
+    } else if (const auto list = m_lists.find(id); list != m_lists.end()) {
+        list->second->SelectRow(index);
     } else {
         SendMessageW(Item(id), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     }

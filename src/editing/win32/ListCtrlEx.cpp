@@ -349,6 +349,19 @@ void CListCtrlEx::ShowRows() {
     InvalidateRect(Handle(), nullptr, FALSE);
 }
 
+void CListCtrlEx::SelectRow(int row) {
+    ClearRowStates(Handle());
+    if (row >= 0 && static_cast<std::size_t>(row) < m_rows.Count()) {
+        SetRowState(Handle(), static_cast<std::size_t>(row), LVIS_SELECTED | LVIS_FOCUSED);
+        SendTo(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+        GoToColumn(0);
+    }
+}
+
+int CListCtrlEx::Row() const {
+    return CurrentRow(Handle());
+}
+
 /// Selects a row, or the last, alone, after a change of rows.
 void CListCtrlEx::GoTo(std::size_t row, std::size_t column) {
     ClearRowStates(Handle());

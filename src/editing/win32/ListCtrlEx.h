@@ -27,6 +27,12 @@ public:
 
     const std::vector<ListRow>& Rows() const { return m_rows.Rows(); }
 
+    /// Makes a row the current one, selected alone and in view; none for an index that is no row's.
+    void SelectRow(int row);
+
+    /// The current row, −1 if there is none.
+    int Row() const;
+
     /// Takes what is being edited in place, as Enter does.
     void FinishEdit();
 

@@ -149,8 +149,16 @@ void SheetWindow::OnInitDialog() {
         SendDlgItemMessageW(Handle(), kTabs, TCM_INSERTITEMW, m_pages.size(), reinterpret_cast<LPARAM>(&tab));
     }
     MakeRoomForTabs();
-    BringToFront(0);
+    OpenAtStart();
+}
+
+/// A sheet's first page has the place of one that is not there.
+void SheetWindow::OpenAtStart() {
+    const SheetStart& start = m_sheet.Start();
+    const std::size_t page = start.Page < m_pages.size() ? start.Page : 0;
+    BringToFront(static_cast<int>(page));
     FocusFirst();
+    GoTo(*m_pages[page], start);
 }
 
 /// The template has room for the pages alone: how much tabs and borders need, only their window knows. The

@@ -19,6 +19,7 @@ private:
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnInitDialog();
     void MakeRoomForTabs();
+    void OpenAtStart();
     void OnOK();
     void OnChanged();
     void Open(int index);

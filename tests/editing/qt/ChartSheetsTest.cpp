@@ -6,6 +6,7 @@
 #include "editing/qt/ListCtrlEx.h"
 #include "editing/qt/PositionPicker.h"
 #include "editing/qt/User.h"
+#include "foundation/ChartPart.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -128,6 +129,40 @@ TEST(ChartSheet, GoesByTabOverAPageToItsButtons) {
     });
     EXPECT_TRUE(EditHistogramProp(&prop));
     EXPECT_EQ(prop.Caption.ShowCaption, 1);
+}
+
+TEST(ChartSheet, OpensAtAPartOfItsChart) {
+    HistogramProp bars;
+    bars.Caption.ShowCaption = 1;
+    bars.Caption.Caption = "old";
+    CurveProp curves;
+    curves.Plot.CurveName = std::vector<std::string>(100, "curve");
+    User user;
+    user.In("直方图属性", [] {
+        EXPECT_EQ(User::Front().findChild<QTabWidget*>()->currentIndex(), 3);
+        EXPECT_EQ(User::FocusName(), "标题文本");
+        User::Type("new"); // over what is selected
+        User::Press(Qt::Key_Return);
+    });
+    EXPECT_TRUE(EditWithPreview(&bars, std::function<void(const HistogramProp&)>(), {PartKind::Caption}));
+    EXPECT_EQ(bars.Caption.Caption, "new");
+
+    user.In("曲线属性", [] {
+        EXPECT_TRUE(List().hasFocus());
+        EXPECT_EQ(List().currentIndex().row(), 70);
+        const QRect row = List().visualRect(List().currentIndex());
+        EXPECT_TRUE(List().viewport()->rect().contains(row.center())) << "scrolled to";
+        EXPECT_TRUE(List().selectionModel()->isRowSelected(70));
+        User::Press(Qt::Key_F2);
+        User::Type("second");
+        User::Press(Qt::Key_Return);
+    });
+    user.In(
+        "曲线属性", [] { return List().Rows()[70][0] == "second"; },
+        [] { User::Find<QPushButton>("确定").click(); });
+    EXPECT_TRUE(
+        EditWithPreview(&curves, std::function<void(const CurveProp&)>(), {PartKind::CurvePoint, 70, 3}));
+    EXPECT_EQ(curves.Plot.CurveName[70], "second");
 }
 
 TEST(ChartSheet, ComesBackToThePageThatRefuses) {
