@@ -25,10 +25,15 @@ std::size_t AllPoints(const ShownChart& shown, const ChartPart& curve) {
     return curve.Index < curves.size() ? curves[curve.Index].Points.size() : 0;
 }
 
-CanvasAccess* AccessOf(ChartCanvas& canvas) {
-    return QAccessible::isActive()
-               ? dynamic_cast<CanvasAccess*>(QAccessible::queryAccessibleInterface(&canvas))
-               : nullptr;
+/// Of those canvases that somebody asked for theirs.
+std::map<const QObject*, CanvasAccess*>& AllAccess() {
+    static std::map<const QObject*, CanvasAccess*> all;
+    return all;
+}
+
+CanvasAccess* AccessOf(const ChartCanvas& canvas) {
+    const auto found = AllAccess().find(&canvas);
+    return found == AllAccess().end() ? nullptr : found->second;
 }
 
 } // namespace
@@ -62,9 +67,12 @@ void TellSelectedPart(ChartCanvas& canvas, const ChartPart& part) {
 }
 
 CanvasAccess::CanvasAccess(ChartCanvas& canvas)
-    : QAccessibleWidget(&canvas, QAccessible::Chart), m_tree(TreeOf(canvas.Parts())) {}
+    : QAccessibleWidget(&canvas, QAccessible::Chart), m_tree(TreeOf(canvas.Parts())) {
+    AllAccess()[&canvas] = this;
+}
 
 CanvasAccess::~CanvasAccess() {
+    std::erase_if(AllAccess(), [this](const auto& entry) { return entry.second == this; });
     Drop();
 }
 

@@ -56,8 +56,8 @@ void OpenCanvas::Click(QPoint at, Qt::MouseButton button) {
 }
 
 void OpenCanvas::MoveTo(QPoint at, Qt::MouseButtons pressed, Qt::KeyboardModifiers keys) {
-    QMouseEvent event(QEvent::MouseMove, at, Widget.viewport()->mapToGlobal(QPointF(at)), Qt::NoButton, pressed,
-                      keys);
+    QMouseEvent event(QEvent::MouseMove, at, Widget.viewport()->mapToGlobal(QPointF(at)), Qt::NoButton,
+                      pressed, keys);
     QApplication::sendEvent(Widget.viewport(), &event);
 }
 
@@ -93,15 +93,15 @@ Document LongCurve(std::size_t points) {
         ChartDocument::FromText(std::string(millichart::FindChartKind("curve")->Template)));
     auto& curve = std::get<millichart::CurveDocument>(document->Content);
     std::vector<double> values(points);
+    std::vector<std::int32_t> times(points);
     for (std::size_t i = 0; i < points; ++i) {
         values[i] = 50.0 + 40.0 * std::sin(static_cast<double>(i) * 0.0001);
+        times[i] = static_cast<std::int32_t>(i);
     }
     curve.Data = {};
     curve.Prop.Plot.CurveName.resize(1);
     curve.Data.Values = {std::move(values)};
-    for (std::size_t i = 0; i < points; ++i) {
-        curve.Data.Times.push_back(static_cast<int>(i));
-    }
+    curve.Data.Times = {std::move(times)};
     return document;
 }
 
