@@ -137,6 +137,26 @@ TEST_F(InFolder, WhatIsSaidOfDocumentsIsAsListed) {
     }
 }
 
+TEST(LaidOutChart, TellsItsPartsWhateverItsKind) {
+    for (const ChartDocument& document : AllDocuments()) {
+        const LaidOutChart chart = document.LayOut();
+        std::size_t texts = 0;
+        chart.VisitTexts([&texts](const ChartText& text) { texts += text.Text.empty() ? 0 : 1; });
+        std::size_t textParts = 0;
+        chart.VisitParts([&](const PlacedPart& part) {
+            textParts += part.Part.Kind >= PartKind::SliceLabel && part.Part.Kind != PartKind::Legend &&
+                                 part.Part.Kind != PartKind::LegendSample
+                             ? 1
+                             : 0;
+            EXPECT_TRUE(chart.HitTest(part.Box.Center(), 5.0F)) << document.Title;
+        });
+        EXPECT_GE(texts, textParts) << document.Title;
+        EXPECT_GT(textParts, 0U) << document.Title;
+        EXPECT_EQ(chart.HitTest({-5000.0F, 0.0F}), std::nullopt);
+    }
+    EXPECT_EQ(LaidOutChart().HitTest({}), std::nullopt);
+}
+
 TEST(ChartDocument, SavedAgainIsTheSameModelAndPicture) {
     const std::vector<ChartDocument> documents = AllDocuments();
     ASSERT_GT(documents.size(), 30U);
