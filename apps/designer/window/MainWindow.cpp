@@ -89,7 +89,7 @@ void MainWindow::MakeDocks() {
     m_panelDock->setObjectName(QStringLiteral("panelDock"));
     m_panelDock->setWidget(m_panel);
     addDockWidget(Qt::RightDockWidgetArea, m_panelDock);
-    constexpr int kDataWidth = 320;
+    constexpr int kDataWidth = 350;
     constexpr int kPanelWidth = 260;
     resizeDocks({m_dataDock, m_panelDock}, {kDataWidth, kPanelWidth}, Qt::Horizontal);
 }

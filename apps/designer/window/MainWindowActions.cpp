@@ -11,16 +11,28 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <array>
 
 namespace designer {
+namespace {
+
+/// "打开(&O)…" is "打开".
+QString WithoutMnemonic(QString text) {
+    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&|…"));
+    return text.remove(mark);
+}
+
+} // namespace
 
 QAction* MainWindow::Add(QMenu* menu, const char* name, const QString& text, const QKeySequence& keys,
                          const std::function<void()>& act) {
     auto* const action = new QAction(text, this);
     action->setObjectName(QString::fromUtf8(name));
+    action->setIconText(WithoutMnemonic(text));
+    action->setToolTip(WithoutMnemonic(text));
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, act);
     menu->addAction(action);
@@ -62,8 +74,6 @@ void MainWindow::MakeEditActions() {
                          [this] { m_session.Redo(); });
     m_redo->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    m_undo->setIconText(tr("撤销"));
-    m_redo->setIconText(tr("重做"));
     m_bar->addAction(m_undo);
     m_bar->addAction(m_redo);
     menu->addSeparator();

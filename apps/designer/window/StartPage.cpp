@@ -16,7 +16,7 @@
 namespace designer {
 namespace {
 
-constexpr QSize kPicture{200, 140};
+constexpr QSize kPicture{288, 192};
 constexpr int kRoom = 16;
 
 QLabel* Heading(const QString& text, QWidget* parent) {

@@ -72,9 +72,10 @@ void OpenWindow::Export(const QString& ending, const QString& file) {
              ++i) {
             Press(Qt::Key_Down);
         }
-        InModal(chooseName, [&] { EXPECT_TRUE(PressButton(modal, QStringLiteral("导出"))); });
+        EXPECT_TRUE(PressButton(modal, QStringLiteral("导出")));
     };
-    InModal(chooseFormat, [this] { QTest::keyClick(m_window.get(), Qt::Key_E, Qt::ControlModifier); });
+    InModals({chooseFormat, chooseName},
+             [this] { QTest::keyClick(m_window.get(), Qt::Key_E, Qt::ControlModifier); });
     EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "designer/window/Person.h"
+#include "model/ChartEdits.h"
 #include "window/MainWindow.h"
 
 #include <QTemporaryDir>

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -132,28 +133,30 @@ void ClickItem(QAbstractItemView& view, const QModelIndex& index) {
     Click(*view.viewport(), view.visualRect(index).center());
 }
 
-void InModal(const std::function<void(QWidget& modal)>& act, const std::function<void()>& open) {
-    const QWidget* const before = QApplication::activeModalWidget();
-    bool hasActed = false;
+void InModals(const std::vector<Act>& acts, const std::function<void()>& open) {
+    const QPointer<QWidget> behind = QApplication::activeWindow();
+    const QWidget* last = QApplication::activeModalWidget();
+    std::size_t done = 0;
     QElapsedTimer waited;
     waited.start();
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [&] {
         QWidget* const modal = QApplication::activeModalWidget();
-        if (modal != nullptr && modal != before && modal->isVisible()) {
-            watch.stop();
-            hasActed = true;
-            act(*modal);
-        } else if (waited.elapsed() > kPatience) {
-            watch.stop();
+        if (modal != nullptr && modal != last && modal->isVisible() && done < acts.size()) {
+            last = modal;
+            acts[done++](*modal);
+        } else if (waited.elapsed() > kPatience && modal != nullptr) {
+            modal->close(); // rather than wait for ever
         }
     });
     watch.start(kMoment);
     open();
-    if (!hasActed) {
-        WaitUntil([&] { return hasActed || waited.elapsed() > kPatience; });
+    WaitUntil([&] { return done == acts.size() && QApplication::activeModalWidget() == nullptr; });
+    EXPECT_EQ(done, acts.size()) << "a window did not come";
+    if (behind != nullptr) {
+        behind->activateWindow(); // a screen's window manager would
     }
-    EXPECT_TRUE(hasActed) << "no window came";
+    Settle();
 }
 
 void ChooseFile(QWidget& dialog, const QString& file) {

@@ -33,8 +33,13 @@ bool ChooseFromMenus(QWidget& window, const QStringList& names);
 /// The item's rectangle is clicked as a person does.
 void ClickItem(QAbstractItemView& view, const QModelIndex& index);
 
-/// Acts in the next modal window as soon as it is open, which `open` has opened before it returns.
-void InModal(const std::function<void(QWidget& modal)>& act, const std::function<void()>& open);
+/// Acts in the modal windows that `open` opens one after the other, in each as soon as it is there.
+using Act = std::function<void(QWidget& modal)>;
+void InModals(const std::vector<Act>& acts, const std::function<void()>& open);
+
+inline void InModal(const Act& act, const std::function<void()>& open) {
+    InModals({act}, open);
+}
 
 /// In a file dialog: the file's name and Enter.
 void ChooseFile(QWidget& dialog, const QString& file);

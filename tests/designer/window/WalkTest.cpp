@@ -107,7 +107,7 @@ TEST_F(Walk, FromNothingToAFinishedChart) {
     int undone = 0;
     while (Session().Current().CanUndo()) {
         Press(Qt::Key_Z, Qt::ControlModifier);
-        ASSERT_LT(++undone, 100);
+        ASSERT_LT(++undone, 30);
     }
     Picture("all-undone");
     EXPECT_GE(undone, 7);
