@@ -4,6 +4,7 @@
 #include "model/CurveTable.h"
 #include "model/DataTable.h"
 #include "model/Looks.h"
+#include "model/TableEnds.h"
 
 #include <algorithm>
 #include <cmath>
