@@ -8,8 +8,7 @@
 /// What the tables of all kinds share: names, which are narrow in a document, and where the data end.
 namespace designer {
 
-/// What both conversions, and those of bars, share: the texts of a record, then those that came with the
-/// data.
+/// The names of a record, then those that came with the data.
 std::vector<std::string> ShownNames(const std::vector<std::string>& ofRecord,
                                     const std::vector<std::string>& ofData);
 /// Puts names where the chart looks for them; `standWithData` tells which place they get where neither has
@@ -19,7 +18,7 @@ void TakeShownNames(const std::vector<std::string>& names, bool standWithData,
 /// Rows, and columns of numbers, without the empty ones at their ends.
 std::size_t FilledRows(const DataTable& table);
 std::size_t FilledColumns(const DataTable& table);
-/// UTF-8 headings as narrow names.
+/// As narrow names; of heads that are all empty there are none.
 std::vector<std::string> HeadingsOf(const DataTable& table, std::size_t columns);
 std::vector<std::string> HeadsOf(const DataTable& table, std::size_t rows);
 
