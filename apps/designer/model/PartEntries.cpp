@@ -1,6 +1,6 @@
 #include "model/PartEntries.h"
 
-#include "model/CurveTable.h"
+#include "model/TableEnds.h"
 
 #include <utility>
 

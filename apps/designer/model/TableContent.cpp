@@ -4,6 +4,7 @@
 #include "model/CurveTable.h"
 #include "model/DataTable.h"
 #include "model/Looks.h"
+#include "model/TableEnds.h"
 
 #include <algorithm>
 #include <cmath>
@@ -105,7 +106,11 @@ void TakeBars(BarData& data, millichart::HistogramPlotProp& plot, const DataTabl
     for (std::size_t row = 0; row < rows; ++row) {
         data.Values[row] = GroupOf(table, row, columns);
     }
+    const bool haveNames = !data.GroupNames.empty();
     data.GroupNames = HeadsOf(table, rows);
+    if (haveNames && data.GroupNames.empty()) {
+        data.GroupNames.resize(rows); // they take the room of a line
+    }
     TakeShownNames(HeadingsOf(table, columns), false, plot.ComponentName, data.ComponentNames);
     FollowColors(plot.ComponentColor, table.ColumnOrigins());
 }
