@@ -120,13 +120,20 @@ void Editor::Take(std::string name, State next, const std::string& merge) {
             bytes += BytesOf(table);
         }
     }
-    if (!merge.empty() && merge == m_merge && m_history.CanUndo()) {
+    ++m_revision;
+    const bool goesOn = !merge.empty() && merge == m_merge && m_history.CanUndo();
+    if (goesOn && AreSame(*next.Document, *m_history.Before().Document) &&
+        *next.Tables == *m_history.Before().Tables) {
+        m_history.Withdraw();
+        m_merge.clear();
+        return;
+    }
+    if (goesOn) {
         m_history.Continue(std::move(next), bytes);
     } else {
         m_history.Change(std::move(name), std::move(next), bytes);
     }
     m_merge = merge;
-    ++m_revision;
 }
 
 void Editor::Change(std::string name, const std::function<void(ChartDocument&)>& change, std::string merge) {

@@ -55,7 +55,8 @@ public:
     std::string Text() const;
 
     /// Changes that follow each other with the same `merge`, unless it is empty, are one for undo: a key held
-    /// down, a cell being typed in. Nothing happens if the document is the same afterwards.
+    /// down, a cell being typed in; a series that comes back to where it began leaves nothing. Nothing
+    /// happens if the document is the same afterwards.
     void Change(std::string name, const std::function<void(millichart::ChartDocument&)>& change,
                 std::string merge = {});
     void ChangeTable(std::string name, std::size_t table, const std::function<void(DataTable&)>& change,

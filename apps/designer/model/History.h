@@ -37,6 +37,18 @@ public:
         }
     }
 
+    /// What the last change started from. Only where it can be undone.
+    const State& Before() const { return m_steps[m_current - 1].After; }
+
+    /// The last change came to nothing: it is as if it had never been. As for Continue.
+    void Withdraw() {
+        if (m_saved == m_current) {
+            m_saved.reset();
+        }
+        m_steps.pop_back();
+        --m_current;
+    }
+
     bool CanUndo() const { return m_current > 0; }
 
     bool CanRedo() const { return m_current + 1 < m_steps.size(); }

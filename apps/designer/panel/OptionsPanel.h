@@ -9,7 +9,6 @@
 class QCheckBox;
 class QFormLayout;
 class QLabel;
-class QSpinBox;
 
 namespace designer {
 

@@ -1,6 +1,7 @@
 #include "table/CellEditor.h"
 
 #include <QInputMethodEvent>
+#include <QPainter>
 #include <utility>
 
 namespace designer {
@@ -86,6 +87,13 @@ void CellEditor::inputMethodEvent(QInputMethodEvent* event) {
 void CellEditor::mousePressEvent(QMouseEvent* event) {
     m_isTypedOver = false;
     QLineEdit::mousePressEvent(event);
+}
+
+void CellEditor::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 } // namespace designer

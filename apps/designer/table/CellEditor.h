@@ -42,6 +42,8 @@ Q_SIGNALS:
 protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    /// With a line round it, as it has no frame of its own.
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void TellText();

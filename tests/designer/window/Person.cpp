@@ -142,7 +142,7 @@ void InModals(const std::vector<Act>& acts, const std::function<void()>& open) {
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [&] {
         QWidget* const modal = QApplication::activeModalWidget();
-        if (modal != nullptr && modal != last && modal->isVisible() && done < acts.size()) {
+        if (modal != nullptr && modal != last && modal->isActiveWindow() && done < acts.size()) {
             last = modal;
             acts[done++](*modal);
         } else if (waited.elapsed() > kPatience && modal != nullptr) {
