@@ -1,5 +1,6 @@
 #include "window/MainWindow.h"
 
+#include "window/Examples.h"
 #include "window/PartNames.h"
 
 #include <QCloseEvent>
@@ -165,7 +166,7 @@ void MainWindow::AskAndOpen() {
 void MainWindow::StartNew(const QString& kind) {
     const millichart::ChartKind* const found = millichart::FindChartKind(kind.toStdString());
     if (found != nullptr && m_files.MayClose()) {
-        m_session.Start(Editor::New(*found));
+        m_session.Start(Editor::New(ExampleOf(*found)));
     }
 }
 

@@ -1,4 +1,5 @@
 #include "documents/ChartDocument.h"
+#include "panel/BareText.h"
 #include "window/Language.h"
 #include "window/MainWindow.h"
 #include "window/PartNames.h"
@@ -11,28 +12,17 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <array>
 
 namespace designer {
-namespace {
-
-/// "打开(&O)…" is "打开".
-QString WithoutMnemonic(QString text) {
-    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&|…"));
-    return text.remove(mark);
-}
-
-} // namespace
-
 QAction* MainWindow::Add(QMenu* menu, const char* name, const QString& text, const QKeySequence& keys,
                          const std::function<void()>& act) {
     auto* const action = new QAction(text, this);
     action->setObjectName(QString::fromUtf8(name));
-    action->setIconText(WithoutMnemonic(text));
-    action->setToolTip(WithoutMnemonic(text));
+    action->setIconText(BareText(text));
+    action->setToolTip(BareText(text));
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, act);
     menu->addAction(action);
@@ -89,7 +79,7 @@ void MainWindow::MakeChartActions() {
     m_kinds = new QActionGroup(this);
     for (const millichart::ChartKind& kind : millichart::ChartKinds()) {
         QAction* const action =
-            AddForChart(kinds, kind.Name, NameOfKind(kind.Name), {},
+            AddForChart(kinds, kind.Name, Capitalised(NameOfKind(kind.Name)), {},
                         [this, name = QString::fromUtf8(kind.Name)] { SwitchKind(name); });
         action->setCheckable(true);
         m_kinds->addAction(action);
@@ -175,10 +165,12 @@ void MainWindow::RefreshActions() {
     const Editor& editor = m_session.Current();
     m_undo->setEnabled(isShown && editor.CanUndo());
     m_redo->setEnabled(isShown && editor.CanRedo());
-    m_undo->setText(tr("撤销 %1(&U)").arg(QString::fromStdString(editor.UndoName())));
-    m_redo->setText(tr("重做 %1(&R)").arg(QString::fromStdString(editor.RedoName())));
-    m_undo->setToolTip(tr("撤销 %1").arg(QString::fromStdString(editor.UndoName())));
-    m_redo->setToolTip(tr("重做 %1").arg(QString::fromStdString(editor.RedoName())));
+    const QString undo = QString::fromStdString(editor.UndoName());
+    const QString redo = QString::fromStdString(editor.RedoName());
+    m_undo->setText(undo.isEmpty() ? tr("撤销(&U)") : tr("撤销 %1(&U)").arg(undo));
+    m_redo->setText(redo.isEmpty() ? tr("重做(&R)") : tr("重做 %1(&R)").arg(redo));
+    m_undo->setToolTip(BareText(m_undo->text()));
+    m_redo->setToolTip(BareText(m_redo->text()));
     const millichart::ChartKind* const kind = millichart::KindOf(editor.Document().Content);
     for (QAction* const action : m_kinds->actions()) {
         action->setChecked(kind != nullptr && action->objectName() == QString::fromUtf8(kind->Name));

@@ -1,6 +1,6 @@
 #include "window/StartPage.h"
 
-#include "documents/ChartDocument.h"
+#include "window/Examples.h"
 #include "window/PartNames.h"
 #include "window/Pictures.h"
 #include "window/RecentFiles.h"
@@ -30,7 +30,7 @@ QLabel* Heading(const QString& text, QWidget* parent) {
 
 /// The example of a kind, small and whole on white, as sharp as the screen.
 QIcon PictureOfKind(const millichart::ChartKind& kind, double scale) {
-    const auto chart = millichart::ChartDocument::FromText(std::string(kind.Template)).LayOut();
+    const auto chart = ExampleOf(kind).LayOut();
     const QSize pixels = kPicture * scale;
     const penlode::SizeF page = PageSizeOf(chart);
     constexpr double kMillimetresPerInch = 25.4;
@@ -98,7 +98,7 @@ StartPage::StartPage(QWidget* parent)
 void StartPage::AddKinds() {
     for (const millichart::ChartKind& kind : millichart::ChartKinds()) {
         auto* const item =
-            new QListWidgetItem(PictureOfKind(kind, devicePixelRatioF()), NameOfKind(kind.Name), m_kinds);
+            new QListWidgetItem(PictureOfKind(kind, devicePixelRatioF()), Capitalised(NameOfKind(kind.Name)), m_kinds);
         item->setData(Qt::UserRole, QString::fromUtf8(kind.Name));
         item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
     }
