@@ -113,6 +113,10 @@ public:
     LaidOutChart LayOut() const&;
     LaidOutChart LayOut() &&;
 
+    /// From now on its text has the data themselves, where it named a table until now: for a document that
+    /// goes where the table is not found.
+    void HoldData() { m_hasOtherData = true; }
+
     /// Sizes the plot, of pies the circle, so that the whole figure, texts included, is so large, in mm. A
     /// bar or line chart fills it in both directions, to a tenth of a millimetre, and gaps between groups
     /// shrink with the plot; of pies and what is composed of them one direction is filled, and their parts
@@ -139,7 +143,7 @@ private:
     std::shared_ptr<const Loaded> m_loaded;
     std::shared_ptr<const std::string> m_text; ///< that it was loaded from
     bool m_isSpent = false;                    ///< its content went into a layout
-    bool m_hasOtherData = false;               ///< than those that it was loaded with
+    bool m_hasOtherData = false;               ///< than those that its text tells of
 };
 
 bool HasErrors(const std::vector<penlode::Diagnostic>& diagnostics);

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <limits>
 #include <numeric>
 #include <utility>
@@ -118,26 +117,6 @@ void ForgetUnseen(std::vector<std::string>& labels, std::int32_t labelStep) {
 
 void FillUpLikeTheLast(std::vector<float>& widths, std::size_t count, float first) {
     widths.resize(std::max(widths.size(), count), widths.empty() ? first : widths.back());
-}
-
-/// Lines whose last marker is none have none; after any other each has the next that no line has yet.
-void FillUpMarkers(std::vector<std::int32_t>& styles, std::size_t count) {
-    constexpr std::int32_t kMarkers[] = {
-        CurveDotStyle::SolidCircle,           CurveDotStyle::SolidSquare,
-        CurveDotStyle::SolidTriangle,         CurveDotStyle::SolidDiamond,
-        CurveDotStyle::SolidInvertedTriangle, CurveDotStyle::HollowCircle,
-        CurveDotStyle::HollowSquare,          CurveDotStyle::HollowTriangle,
-        CurveDotStyle::HollowDiamond,         CurveDotStyle::HollowInvertedTriangle};
-    if (styles.empty() || styles.back() == CurveDotStyle::None) {
-        return;
-    }
-    for (std::size_t i = styles.size(); i < count; ++i) {
-        const auto* const next =
-            std::find_if(std::begin(kMarkers), std::end(kMarkers), [&](std::int32_t marker) {
-                return std::find(styles.begin(), styles.end(), marker) == styles.end();
-            });
-        styles.push_back(next == std::end(kMarkers) ? kMarkers[i % std::size(kMarkers)] : *next);
-    }
 }
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "documents/Palette.h"
 
+#include "charts/curve/CurveProp.h"
 #include "penlode/streams/TextForms.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace millichart::documents {
 namespace {
@@ -55,6 +57,25 @@ void FillUp(std::vector<Color>& colors, std::size_t count) {
             hue = (hue + 1) % kRound;
         }
         colors.push_back(palette[hue]);
+    }
+}
+
+void FillUpMarkers(std::vector<std::int32_t>& styles, std::size_t count) {
+    constexpr std::int32_t kMarkers[] = {
+        CurveDotStyle::SolidCircle,           CurveDotStyle::SolidSquare,
+        CurveDotStyle::SolidTriangle,         CurveDotStyle::SolidDiamond,
+        CurveDotStyle::SolidInvertedTriangle, CurveDotStyle::HollowCircle,
+        CurveDotStyle::HollowSquare,          CurveDotStyle::HollowTriangle,
+        CurveDotStyle::HollowDiamond,         CurveDotStyle::HollowInvertedTriangle};
+    if (styles.empty() || styles.back() == CurveDotStyle::None) {
+        return;
+    }
+    for (std::size_t i = styles.size(); i < count; ++i) {
+        const auto* const next =
+            std::find_if(std::begin(kMarkers), std::end(kMarkers), [&](std::int32_t marker) {
+                return std::find(styles.begin(), styles.end(), marker) == styles.end();
+            });
+        styles.push_back(next == std::end(kMarkers) ? kMarkers[i % std::size(kMarkers)] : *next);
     }
 }
 

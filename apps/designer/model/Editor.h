@@ -3,6 +3,7 @@
 #include "documents/ChartDocument.h"
 #include "foundation/ChartPart.h"
 #include "model/DataTable.h"
+#include "model/FileMark.h"
 #include "model/History.h"
 
 #include <cstdint>
@@ -28,9 +29,10 @@ public:
     static Editor New(const millichart::ChartKind& kind);
     /// A document's file. What is wrong with it is among `Document().Diagnostics()`.
     static Editor Open(const std::string& file);
-    /// A table's file of any form that documents read, as a chart of that kind; has no file of its own yet.
+    /// A table's file of any form that documents read, as a chart of that kind; has no file of its own yet,
+    /// and holds the data itself.
     static Editor FromTable(const millichart::ChartKind& kind, millichart::TableInput table);
-    /// A document that is there already, such as a recovered one.
+    /// A document that is there already, such as a recovered one. Counts as not saved.
     explicit Editor(millichart::ChartDocument document, std::string file = {});
 
     const millichart::ChartDocument& Document() const { return *m_history.Current().Document; }
@@ -46,6 +48,12 @@ public:
     /// Empty for one that was never saved.
     const std::string& File() const { return m_file; }
 
+    /// The file's name without its folder; empty without one.
+    std::string Title() const;
+
+    /// What a save beside its own file would write.
+    std::string Text() const;
+
     /// Changes that follow each other with the same `merge`, unless it is empty, are one for undo: a key held
     /// down, a cell being typed in. Nothing happens if the document is the same afterwards.
     void Change(std::string name, const std::function<void(millichart::ChartDocument&)>& change,
@@ -57,6 +65,10 @@ public:
 
     /// Ends a series of changes that would be one.
     void EndMerge() { m_merge.clear(); }
+
+    /// Puts tables in the place of those that the document's content gives, as far as they have what it could
+    /// not hold: for a recovered document, before any change.
+    void KeepTables(const std::vector<DataTable>& tables);
 
     bool CanUndo() const { return m_history.CanUndo(); }
 
@@ -74,7 +86,7 @@ public:
     bool IsSaved() const { return m_history.IsSaved(); }
 
     /// Under this name from now on. Gives the reason of a failure, or an empty text; what was there before is
-    /// whole then.
+    /// whole then. In another folder than before the document holds what it had from tables.
     std::string Save(const std::string& file);
 
     /// Did another program write or remove the file since this one last read or wrote it?
@@ -88,13 +100,21 @@ private:
         std::shared_ptr<const std::vector<DataTable>> Tables;
     };
 
+    static State StateOf(millichart::ChartDocument document);
+
     void Take(std::string name, State next, const std::string& merge);
+    bool HoldsDataIn(const std::string& file) const;
+    millichart::ChartDocument DocumentIn(const std::string& file) const;
 
     History<State> m_history;
     std::string m_file;
     std::string m_merge;
     std::uint64_t m_revision = 0;
-    std::uint64_t m_fileMark = 0; ///< of the file's bytes as they were last read or written
+    FileMark m_mark;          ///< of the file as it was last read or written
+    bool m_holdsData = false; ///< it was saved where the tables that it names are not
 };
+
+/// What a table looks like: dates and many rows make lines, few shares of 100 a pie, anything else bars.
+const millichart::ChartKind& GuessKind(const millichart::TableInput& table);
 
 } // namespace designer
