@@ -168,19 +168,13 @@ void Editor::ChangeTable(std::string name, std::size_t table, const std::functio
     Take(std::move(name), std::move(state), merge);
 }
 
-void Editor::KeepTables(const std::vector<DataTable>& tables) {
-    State state = m_history.Current();
-    TableList kept = *state.Tables;
-    for (std::size_t i = 0; i < std::min(kept.size(), tables.size()); ++i) {
-        kept[i].KeepFrom(tables[i]);
+void Editor::RecoverTables(std::vector<DataTable> tables) {
+    if (tables.size() == Tables().size()) {
+        State state = m_history.Current();
+        state.Tables = std::make_shared<const TableList>(std::move(tables));
+        m_history.Continue(std::move(state));
+        ++m_revision;
     }
-    state.Tables = std::make_shared<const TableList>(std::move(kept));
-    const bool isSaved = IsSaved();
-    m_history.Continue(std::move(state));
-    if (isSaved) {
-        m_history.MarkSaved();
-    }
-    ++m_revision;
 }
 
 void Editor::SwitchKind(std::string name, const millichart::ChartKind& kind) {

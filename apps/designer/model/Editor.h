@@ -66,9 +66,8 @@ public:
     /// Ends a series of changes that would be one.
     void EndMerge() { m_merge.clear(); }
 
-    /// Puts tables in the place of those that the document's content gives, as far as they have what it could
-    /// not hold: for a recovered document, before any change.
-    void KeepTables(const std::vector<DataTable>& tables);
+    /// Of a recovered document, before any change: its tables, with what the document itself could not hold.
+    void RecoverTables(std::vector<DataTable> tables);
 
     bool CanUndo() const { return m_history.CanUndo(); }
 

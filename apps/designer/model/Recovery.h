@@ -1,7 +1,9 @@
 #pragma once
 
 #include "model/Editor.h"
+#include "model/RunMark.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,7 +23,9 @@ struct Recovered {
 ///     kept.Drop();          // saved, or closed on purpose
 class RecoveryFile {
 public:
-    explicit RecoveryFile(std::string folder);
+    explicit RecoveryFile(std::string folder) : m_folder(std::move(folder)) {}
+
+    /// Leaves a copy that nobody dropped to be found.
     ~RecoveryFile();
     RecoveryFile(const RecoveryFile&) = delete;
     RecoveryFile& operator=(const RecoveryFile&) = delete;
@@ -32,18 +36,23 @@ public:
     void Drop();
 
 private:
+    std::string Begin();
+
     std::string m_folder;
-    std::string m_name;
-    std::uint64_t m_kept = 0;
+    std::string m_file;              ///< empty without a copy
+    std::unique_ptr<RunMark> m_mark; ///< while there is one
+    std::uint64_t m_kept = 0;        ///< revision
 };
 
-/// Of this user, made if need be: $XDG_STATE_HOME/millichart, or %LOCALAPPDATA%\millichart.
+/// Of this user: $XDG_STATE_HOME/millichart, or %LOCALAPPDATA%\millichart. Is made when it is first needed,
+/// so that nobody else may enter.
 std::string RecoveryFolder();
 
-/// Those of programs that run no more, latest first.
+/// Those of programs that run no more, latest first. Damaged ones are passed over.
 std::vector<Recovered> FindRecovered(const std::string& folder);
 
-/// The document as it was, unsaved, under its own file's name.
+/// The document as it was, unsaved, under its own file's name. One that can no longer be read says so among
+/// its diagnostics.
 Editor Recover(const Recovered& lost);
 void Forget(const Recovered& lost);
 

@@ -105,7 +105,11 @@ void TakeBars(BarData& data, millichart::HistogramPlotProp& plot, const DataTabl
     for (std::size_t row = 0; row < rows; ++row) {
         data.Values[row] = GroupOf(table, row, columns);
     }
+    const bool haveNames = !data.GroupNames.empty();
     data.GroupNames = HeadsOf(table, rows);
+    if (haveNames && data.GroupNames.empty()) {
+        data.GroupNames.resize(rows); // they take the room of a line
+    }
     TakeShownNames(HeadingsOf(table, columns), false, plot.ComponentName, data.ComponentNames);
     FollowColors(plot.ComponentColor, table.ColumnOrigins());
 }

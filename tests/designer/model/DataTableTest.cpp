@@ -255,7 +255,7 @@ TEST(DataTableTest, AMillionRowsAreNoBurden) {
     table.Sort(1, true);
     EXPECT_EQ(table.RowCount(), kRows + 1);
     EXPECT_EQ(table.OddCount(), 500U);
-    EXPECT_EQ(table.Text(kRows, 1) + table.Text(kRows - 500, 1) + table.Text(kRows - 501, 1), "odd999999");
+    EXPECT_EQ(table.Text(kRows, 1) + table.Text(kRows - 500, 1) + table.Text(kRows - 501, 1), "oddodd999999");
 }
 
 } // namespace

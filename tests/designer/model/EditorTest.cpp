@@ -209,7 +209,7 @@ TEST(EditorTest, UndoOfLargeDataIsBoundedAndOneStepIsThere) {
         int Number;
     };
 
-    constexpr std::size_t kLarge = std::size_t{200} << 20U;
+    constexpr std::size_t kLarge = std::size_t{150} << 20U;
     History<Large> history(Large{0});
     for (int i = 1; i <= 10; ++i) {
         history.Change("step", {i}, kLarge);
