@@ -34,6 +34,34 @@ OutlinedPart Outlined(const millichart::LaidOutChart& chart, const PlacedPart& p
     return {part, OutlineOf(chart, part), MobilityOf(chart, part.Part)};
 }
 
+/// So many values a layout may have while the mouse waits for it.
+bool IsQuick(const millichart::LaidOutChart& chart) {
+    constexpr std::size_t kMostValues = 50'000;
+    const auto* curves = std::get_if<millichart::CBasicCurve>(&chart.Chart);
+    std::size_t values = 0;
+    if (curves != nullptr) {
+        for (const auto& curve : curves->GetLayout().Curves) {
+            values += curve.Points.size();
+        }
+    }
+    return values <= kMostValues;
+}
+
+/// Where the legend would stand in its place; in a chart that takes long, where the mouse has it. Each place
+/// is laid out once.
+penlode::RectF Docked(const ShownChart& shown, Drag& drag) {
+    const penlode::RectF free = Translated(drag.Box, drag.By);
+    const auto dock = DockedPlace(shown.Chart, drag.Part, drag.By);
+    if (!dock || !IsQuick(shown.Chart)) {
+        return free;
+    }
+    const auto [place, isNew] = drag.Docks.try_emplace(*dock, free);
+    if (isNew) {
+        place->second = MovedPlace(*shown.Document, shown.Chart, drag.Part, drag.By).value_or(free);
+    }
+    return place->second;
+}
+
 std::optional<ChartPart> PartOf(const std::optional<OutlinedPart>& part) {
     return part ? std::optional(part->Placed.Part) : std::nullopt;
 }
@@ -248,7 +276,8 @@ void ChartCanvas::BeginPan(QPoint at) {
 void ChartCanvas::BeginDrag(const PlacedPart& part, QPointF at) {
     const auto shown = Shown();
     const PlacedPart moving = MovingPart(Parts(), part);
-    m_state->Dragged = Drag{part.Part, moving.Box, MobilityOf(shown->Chart, part.Part), at, {}, moving.Box};
+    m_state->Dragged =
+        Drag{part.Part, moving.Box, MobilityOf(shown->Chart, part.Part), at, {}, {}, moving.Box};
 }
 
 void ChartCanvas::DragTo(QPointF at, bool isStraight) {
@@ -266,7 +295,7 @@ void ChartCanvas::DragTo(QPointF at, bool isStraight) {
     drag.By = {static_cast<float>(by.x() / pixels), static_cast<float>(by.y() / pixels)};
     drag.Place = Translated(drag.Box, drag.By);
     if (drag.How == Mobility::Docked) {
-        drag.Place = MovedPlace(*Shown()->Document, Shown()->Chart, drag.Part, drag.By).value_or(drag.Place);
+        drag.Place = Docked(*Shown(), drag);
     }
     viewport()->update();
 }
