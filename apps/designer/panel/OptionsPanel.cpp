@@ -69,6 +69,7 @@ OptionsPanel::OptionsPanel(QWidget* parent) : QScrollArea(parent), m_texts(new D
         row.IsFlag() ? AddFlag(row) : AddChoice(row);
     }
     AddDecimals();
+    m_texts->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     column->addWidget(m_texts);
     column->addWidget(group);
     column->addStretch();

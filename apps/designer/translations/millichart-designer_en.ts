@@ -732,6 +732,14 @@
         <source>&lt;h3&gt;Millichart %1&lt;/h3&gt;&lt;p&gt;以毫米排版的图表。&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Millichart %1&lt;/h3&gt;&lt;p&gt;Charts laid out in millimetres.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>图和数据之间切换(&amp;T)</source>
+        <translation>S&amp;witch between chart and data</translation>
+    </message>
+    <message>
+        <source>%1 个数，和 %2，平均 %3</source>
+        <translation>%1 numbers, sum %2, mean %3</translation>
+    </message>
 </context>
 <context>
     <name>designer::OptionsPanel</name>

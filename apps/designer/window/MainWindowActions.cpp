@@ -1,6 +1,7 @@
 #include "documents/ChartDocument.h"
 #include "panel/BareText.h"
 #include "window/Language.h"
+#include "window/LineIcons.h"
 #include "window/MainWindow.h"
 #include "window/PartNames.h"
 #include "window/RecentFiles.h"
@@ -115,6 +116,10 @@ void MainWindow::MakeViewActions() {
     AddForChart(menu, "fit", tr("适合窗口(&F)"), QKeySequence(Qt::CTRL | Qt::Key_0),
                 [this] { m_canvas->FitPage(); });
     menu->addSeparator();
+    AddForChart(menu, "other", tr("图和数据之间切换(&T)"), QKeySequence(Qt::Key_F6), [this] {
+        const bool isInTable = m_tables->isAncestorOf(QApplication::focusWidget());
+        (isInTable ? static_cast<QWidget*>(m_canvas) : m_tables->currentWidget())->setFocus();
+    });
     for (QDockWidget* const dock : {m_dataDock, m_panelDock}) {
         QAction* const action = dock->toggleViewAction();
         menu->addAction(action);
@@ -141,6 +146,19 @@ void MainWindow::MakeHelpActions() {
     QMenu* const menu = menuBar()->addMenu(tr("帮助(&H)"));
     Add(menu, "keys", tr("键盘操作(&K)"), QKeySequence::HelpContents, [this] { ShowKeys(); });
     Add(menu, "about", tr("关于(&A)"), {}, [this] { ShowAbout(); });
+}
+
+void MainWindow::GiveIcons() {
+    constexpr std::pair<const char*, LineIcon> kIcons[] = {{"new", LineIcon::New},
+                                                           {"open", LineIcon::Open},
+                                                           {"save", LineIcon::Save},
+                                                           {"export", LineIcon::Export},
+                                                           {"undo", LineIcon::Undo},
+                                                           {"redo", LineIcon::Redo},
+                                                           {"properties", LineIcon::Properties}};
+    for (const auto& [name, icon] : kIcons) {
+        findChild<QAction*>(QString::fromUtf8(name))->setIcon(IconOf(icon));
+    }
 }
 
 void MainWindow::FillRecentMenu() {
