@@ -68,7 +68,7 @@ void DrawMark(QPainter& painter, const QStyleOptionViewItem& option) {
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1;
     const double left = box.left() + margin;
     const double width = std::min(option.fontMetrics.horizontalAdvance(option.text) * 1.0, box.width());
-    const double y = std::min(box.center().y() + option.fontMetrics.height() / 2.0, cell.bottom() - 1.0);
+    const double y = cell.bottom() - 1.0; // below the tallest signs too
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(color, 1.0));
     painter.drawPath(Wave(left, left + width, y));

@@ -111,7 +111,7 @@ void DataView::FitColumns(int first) {
             width = std::max(width, fontMetrics().horizontalAdvance(text) + 2 * unit);
         }
         const bool isNext = column == m_model->columnCount() - 1;
-        setColumnWidth(column, std::clamp(width, isNext ? 6 * unit : 10 * unit, 30 * unit));
+        setColumnWidth(column, std::clamp(width, isNext ? 4 * unit : 8 * unit, 30 * unit));
     }
 }
 

@@ -17,7 +17,7 @@ struct ChineseText {
 
 constexpr const char* kMadeUp = "示例数字，请换成自己的。";
 constexpr const char* kRegions = R"(["北区", "东区", "南区", "西区"])";
-constexpr const char* kQuarters = R"(["一季度", "二季度", "三季度", "四季度"])";
+constexpr const char* kSeasons = R"(["春", "夏", "秋", "冬"])"; // as short as the bars are narrow
 
 constexpr std::array kTexts{
     ChineseText{"pie", "title", "各区销售额"},
@@ -31,10 +31,10 @@ constexpr std::array kTexts{
     ChineseText{"half-pie-half-pie", "options/SecondTitle/Caption", "去年"},
     ChineseText{"half-pie-half-pie", "property/TopHalf/HalfPieBasicProp/ComponentName", kRegions},
     ChineseText{"half-pie-half-pie", "property/LowerHalf/HalfPieBasicProp/ComponentName", kRegions},
-    ChineseText{"half-pie-histogram", "title", "全年销售额，按地区和季度"},
-    ChineseText{"half-pie-histogram", "options/Title/Caption", "全年销售额，按地区和季度"},
+    ChineseText{"half-pie-histogram", "title", "全年销售额，按地区和季节"},
+    ChineseText{"half-pie-histogram", "options/Title/Caption", "全年销售额，按地区和季节"},
     ChineseText{"half-pie-histogram", "property/HalfPie/HalfPieBasicProp/ComponentName", kRegions},
-    ChineseText{"half-pie-histogram", "property/Histogram/HistogramPlotProp/ComponentName", kQuarters},
+    ChineseText{"half-pie-histogram", "property/Histogram/HistogramPlotProp/ComponentName", kSeasons},
     ChineseText{"half-pie-histogram", "data/groups/0/name", "今年"},
     ChineseText{"histogram", "title", "各季度销量"},
     ChineseText{"histogram", "property/CaptionProp/Caption", "各季度销量"},

@@ -96,7 +96,7 @@ void KindTiles::Arrange() {
     int columns = std::max(1, room.width() / (kLeast + around).width());
     for (int tried = 1; tried <= count(); ++tried) {
         const int rows = (count() + tried - 1) / tried;
-        const QSize cell(room.width() / tried, room.height() / rows);
+        const QSize cell((room.width() - 1) / tried, room.height() / rows);
         const QSize picture = kLargest.scaled((cell - around).boundedTo(kLargest), Qt::KeepAspectRatio);
         if (picture.width() > best.width()) {
             best = picture;
@@ -107,7 +107,10 @@ void KindTiles::Arrange() {
     setGridSize(best + around);
     const int beside = std::max(0, (room.width() - std::min(columns, count()) * gridSize().width()) / 2);
     const int rows = (count() + columns - 1) / columns;
-    const int above = std::max(0, (room.height() - rows * gridSize().height()) / 3);
+    const int left = room.height() - rows * gridSize().height();
+    // A bar that might come takes a column's room.
+    setVerticalScrollBarPolicy(left >= 0 ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    const int above = std::max(0, left / 3);
     setViewportMargins(beside, above, 0, 0);
 }
 

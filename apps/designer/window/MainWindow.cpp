@@ -95,8 +95,8 @@ void MainWindow::MakeDocks() {
     m_panelDock->setObjectName(QStringLiteral("panelDock"));
     m_panelDock->setWidget(m_panel);
     addDockWidget(Qt::RightDockWidgetArea, m_panelDock);
-    constexpr int kDataWidth = 350;
-    constexpr int kPanelWidth = 260;
+    constexpr int kDataWidth = 370;
+    constexpr int kPanelWidth = 280;
     resizeDocks({m_dataDock, m_panelDock}, {kDataWidth, kPanelWidth}, Qt::Horizontal);
 }
 

@@ -164,7 +164,9 @@ void MainWindow::GiveIcons() {
 void MainWindow::FillRecentMenu() {
     m_recent->clear();
     for (const QString& file : RecentFiles()) {
-        m_recent->addAction(QFileInfo(file).fileName(), this, [this, file] { OpenHere(file); })
+        m_recent
+            ->addAction(QFileInfo(file).fileName().replace(QStringLiteral("&"), QStringLiteral("&&")), this,
+                        [this, file] { OpenHere(file); })
             ->setToolTip(file);
     }
     if (m_recent->isEmpty()) {

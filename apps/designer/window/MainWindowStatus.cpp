@@ -11,7 +11,9 @@ namespace designer {
 void MainWindow::MakeStatusBar() {
     m_hovered = new QLabel;
     m_hovered->setObjectName(QStringLiteral("hovered"));
+    m_hovered->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
     m_numbers = new QLabel;
+    m_numbers->setContentsMargins(0, 0, 2 * fontMetrics().averageCharWidth(), 0);
     m_size = new QLabel;
     m_percent = new QLabel;
     m_percent->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000%")));

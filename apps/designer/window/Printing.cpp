@@ -12,7 +12,8 @@ namespace designer {
 namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
-constexpr double kMaxDpi = 600.0; ///< finer than that no eye tells on paper
+constexpr double kPreviewDpi = 200.0; ///< that a screen, which shows it smaller, still draws smoothly
+constexpr QSize kPreviewSize{960, 720};
 
 /// A page that lies as the chart does.
 void Prepare(QPrinter& printer, const millichart::LaidOutChart& chart, const QString& title) {
@@ -23,7 +24,7 @@ void Prepare(QPrinter& printer, const millichart::LaidOutChart& chart, const QSt
 
 } // namespace
 
-void PrintChart(QPrinter& printer, const millichart::LaidOutChart& chart) {
+void PrintChart(QPrinter& printer, const millichart::LaidOutChart& chart, double maxDpi) {
     const penlode::SizeF size = PageSizeOf(chart);
     const double perMillimetre = printer.resolution() / kMillimetresPerInch;
     const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
@@ -36,7 +37,7 @@ void PrintChart(QPrinter& printer, const millichart::LaidOutChart& chart) {
     QPainter painter(&printer);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place,
-                      ImageOf(chart, std::min(kMaxDpi, static_cast<double>(printer.resolution())) * scale));
+                      ImageOf(chart, std::min(maxDpi, static_cast<double>(printer.resolution())) * scale));
 }
 
 void PreviewPrint(const millichart::LaidOutChart& chart, const QString& title, QWidget* parent) {
@@ -44,7 +45,8 @@ void PreviewPrint(const millichart::LaidOutChart& chart, const QString& title, Q
     Prepare(printer, chart, title);
     QPrintPreviewDialog dialog(&printer, parent);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, parent,
-                     [&chart](QPrinter* asked) { PrintChart(*asked, chart); });
+                     [&chart](QPrinter* asked) { PrintChart(*asked, chart, kPreviewDpi); });
+    dialog.resize(kPreviewSize);
     dialog.exec();
 }
 
