@@ -34,8 +34,10 @@ protected:
 
     /// The canvas's menu on a part, while it is open.
     void WithCanvasMenu(const millichart::ChartPart& part, const std::function<void(QMenu&)>& act) {
+        const QPoint place = PlaceOf(part);
         bool isSeen = false;
-        QTimer::singleShot(0, &Window(), [&] {
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&] {
             auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             if (menu != nullptr) {
                 isSeen = true;
@@ -43,7 +45,8 @@ protected:
                 menu->close();
             }
         });
-        Q_EMIT Canvas().MenuWanted(part, PlaceOf(part));
+        watch.start(1);
+        Q_EMIT Canvas().MenuWanted(part, place);
         EXPECT_TRUE(isSeen);
     }
 

@@ -111,10 +111,25 @@ protected:
         }
     }
 
+    /// Six large pictures in the middle, with nothing to scroll for.
+    void ExpectTilesWhole() {
+        auto& tiles = *Window().findChild<KindTiles*>();
+        QRect all;
+        for (int i = 0; i < tiles.count(); ++i) {
+            all |= tiles.visualItemRect(tiles.item(i));
+        }
+        ASSERT_EQ(tiles.count(), 6);
+        EXPECT_TRUE(tiles.viewport()->rect().contains(all)) << Window().width();
+        const QPoint at = tiles.viewport()->mapTo(&tiles, all.topLeft());
+        EXPECT_NEAR(at.x(), tiles.width() - at.x() - all.width(), 24) << "in the middle";
+        EXPECT_GE(tiles.iconSize().width(), 250);
+    }
+
     /// A document with much and odd data in it, pointed at and selected.
     void FillWindow() {
         Start("histogram");
         TypeAt(0, 1, QStringLiteral("缺"));
+        Hover(*Canvas().viewport(), QPoint(1, 1)); // the mouse may be there since the last window
         Hover(*Canvas().viewport(), PlaceOf({PartKind::Bar, 1, 0}));
         ShowAll();
     }
@@ -198,6 +213,11 @@ TEST_F(EnglishLooks, AllTextsFit) {
 }
 
 TEST_F(Looks, TheStartPageShowsAllKindsLargeAndFilesBelow) {
+    for (const QSize size : {QSize(1000, 700), QSize(1600, 1000), QSize(1280, 860)}) {
+        Window().resize(size);
+        ShowAll();
+        ExpectTilesWhole();
+    }
     for (const char* const name : {"各季度产量", "sales", "人口"}) {
         const QString file = Folder().filePath(QString::fromUtf8(name) + QStringLiteral(".chart.json"));
         ASSERT_EQ(New("pie").Save(file.toStdString()), "");
@@ -206,15 +226,7 @@ TEST_F(Looks, TheStartPageShowsAllKindsLargeAndFilesBelow) {
     ASSERT_TRUE(ChooseFromMenus(Window(), {"文件", "新建"}));
     ShowAll();
     Picture(Window(), "start-with-files");
-    auto& tiles = *Window().findChild<KindTiles*>();
-    QRect all;
-    for (int i = 0; i < tiles.count(); ++i) {
-        all |= tiles.visualItemRect(tiles.item(i));
-    }
-    EXPECT_TRUE(tiles.viewport()->rect().adjusted(0, 0, 1, 1).contains(all)) << "nothing to scroll for";
-    const QPoint at = tiles.viewport()->mapTo(&tiles, all.topLeft());
-    EXPECT_NEAR(at.x(), tiles.width() - at.x() - all.width(), 24) << "in the middle";
-    EXPECT_GE(tiles.iconSize().width(), 300);
+    ExpectTilesWhole();
     auto& files = *Window().findChild<QListWidget*>(QStringLiteral("recentFiles"));
     ASSERT_EQ(files.count(), 3);
     EXPECT_TRUE(files.item(0)->text().startsWith(QStringLiteral("人口")));
@@ -233,6 +245,8 @@ TEST_F(Looks, TheDialogsAreWhole) {
         Picture(*dialog, dialog == &exporting ? "export" : "size");
         dialog->hide();
     }
+    Window().activateWindow();
+    ShowAll();
     TypeAt(0, 1, QStringLiteral("5"));
     InModal(
         [](QWidget& modal) {
@@ -252,6 +266,23 @@ TEST_F(Looks, TheDialogsAreWhole) {
         [this] {
             EXPECT_TRUE(ChooseFromMenus(Window(), {"文件", "打印预览"}));
         });
+}
+
+TEST_F(Looks, TheRecoveryQuestionIsWhole) {
+    {
+        RecoveryFile lost(RecoveryFolder());
+        ASSERT_EQ(lost.Keep(Editor(New("pie"), Folder().filePath(QStringLiteral("销售.json")).toStdString())),
+                  "");
+    }
+    InModal(
+        [](QWidget& modal) {
+            Picture(modal, "recovery");
+            EXPECT_EQ(CutTexts(modal), "");
+            EXPECT_TRUE(dynamic_cast<QMessageBox&>(modal).text().contains(QStringLiteral("销售.json")));
+            EXPECT_TRUE(PressButton(modal, QStringLiteral("丢弃")));
+        },
+        [this] { EXPECT_FALSE(Window().OfferRecovered()); });
+    EXPECT_FALSE(Window().OfferRecovered()) << "given up is gone";
 }
 
 /// The curve fills its plot, and the numbers of its last rows have room.
