@@ -20,7 +20,7 @@ namespace designer {
 /// gives in his user's language.
 ///
 ///     Editor editor = Editor::Open("sales.chart.json");
-///     editor.Move("移动图例", part, {3.0F, 0.0F});
+///     editor.Change("移动图例", [&](auto& document) { MovePart(document, chart, part, {3.0F, 0.0F}); });
 ///     editor.Undo();
 ///     const std::string fault = editor.Save("sales.chart.json");
 class Editor {
