@@ -83,7 +83,11 @@ Editor::State Editor::StateOf(ChartDocument document) {
 }
 
 Editor Editor::New(const millichart::ChartKind& kind) {
-    Editor editor(ChartDocument::FromText(std::string(kind.Template)));
+    return New(ChartDocument::FromText(std::string(kind.Template)));
+}
+
+Editor Editor::New(ChartDocument document) {
+    Editor editor(std::move(document));
     editor.m_history.MarkSaved();
     return editor;
 }

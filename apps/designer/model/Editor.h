@@ -27,6 +27,8 @@ class Editor {
 public:
     /// A new one of a kind, with the data of its example; not saved yet.
     static Editor New(const millichart::ChartKind& kind);
+    /// One to start from in the place of the kind's example.
+    static Editor New(millichart::ChartDocument document);
     /// A document's file. What is wrong with it is among `Document().Diagnostics()`.
     static Editor Open(const std::string& file);
     /// A table's file of any form that documents read, as a chart of that kind; has no file of its own yet,

@@ -1,10 +1,10 @@
 #include "panel/DocumentTexts.h"
 
+#include "panel/BareText.h"
 #include "panel/TextBox.h"
 #include "panel/TextLine.h"
 
 #include <QFormLayout>
-#include <QRegularExpression>
 
 namespace designer {
 
@@ -14,7 +14,7 @@ template <class Control>
 Control* DocumentTexts::AddText(const QString& label, const char* key, const QString& name,
                                 std::string ChartDocument::*text) {
     auto* control = new Control(QLatin1String(key), this);
-    control->setAccessibleName(QString(label).remove(QRegularExpression(QStringLiteral("\\(&.\\)"))));
+    control->setAccessibleName(BareText(label));
     static_cast<QFormLayout*>(layout())->addRow(label, control);
     connect(control, &Control::Typed, this, [=, this](const QString& typed, const QString& merge) {
         const auto change = [text, utf8 = typed.toStdString()](ChartDocument& document) {

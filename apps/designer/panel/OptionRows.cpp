@@ -38,7 +38,7 @@ constexpr OptionChoice kPalettes[] = {
 constexpr OptionRow kRows[] = {
     {&ChartOptions::Palette, QT_TRANSLATE_NOOP("designer::OptionsPanel", "配色(&P)"),
      QT_TRANSLATE_NOOP("designer::OptionsPanel", "扇区、柱和线的颜色"), kPalettes, kAll},
-    {&ChartOptions::Contrast, QT_TRANSLATE_NOOP("designer::OptionsPanel", "明暗对比(&C)"),
+    {&ChartOptions::Contrast, QT_TRANSLATE_NOOP("designer::OptionsPanel", "明暗对比(&K)"),
      QT_TRANSLATE_NOOP("designer::OptionsPanel", "深色上的数用白色，侧面与正面同色相，网格浅而在后"), kFlag,
      kAll},
     {&ChartOptions::Air, QT_TRANSLATE_NOOP("designer::OptionsPanel", "留白(&W)"),

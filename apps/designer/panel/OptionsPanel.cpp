@@ -1,5 +1,6 @@
 #include "panel/OptionsPanel.h"
 
+#include "panel/BareText.h"
 #include "panel/DocumentTexts.h"
 #include "panel/OptionRows.h"
 #include "panel/PaletteIcon.h"
@@ -12,7 +13,6 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QStyle>
@@ -30,14 +30,8 @@ using penlode::CStringUtil;
 constexpr int kMaxDecimals = 15;
 constexpr int kLeastLetters = 10; // that a closed list shows
 
-/// "配色(&P)" is "配色" in a menu and for a screen reader.
-QString WithoutMnemonic(const QString& label) {
-    static const QRegularExpression mnemonic(QStringLiteral("\\(&.\\)"));
-    return QString(label).remove(mnemonic);
-}
-
 QString NameFor(const QString& label) {
-    return OptionsPanel::tr("设置“%1”").arg(WithoutMnemonic(label));
+    return OptionsPanel::tr("设置“%1”").arg(BareText(label));
 }
 
 Qt::CheckState ReadabilityOf(const ChartOptions& options) {
@@ -69,12 +63,13 @@ OptionsPanel::OptionsPanel(QWidget* parent) : QScrollArea(parent), m_texts(new D
     m_form = new QFormLayout(group);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     AddMaster();
-    AddTitle(tr("图标题(&H)"), &ChartOptions::Title, kKindsWithTitle);
+    AddTitle(tr("图标题(&U)"), &ChartOptions::Title, kKindsWithTitle);
     AddTitle(tr("第二个图标题(&2)"), &ChartOptions::SecondTitle, kKindsWithTwoTitles);
     for (const OptionRow& row : OptionRows()) {
         row.IsFlag() ? AddFlag(row) : AddChoice(row);
     }
     AddDecimals();
+    m_texts->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     column->addWidget(m_texts);
     column->addWidget(group);
     column->addStretch();
@@ -95,7 +90,7 @@ void OptionsPanel::Want(const QString& name, const OptionsChange& change, const 
 void OptionsPanel::AddLine(const QString& label, QWidget* control, std::uint32_t kinds,
                            std::function<void(const ChartOptions&)> show) {
     QLabel* shown = nullptr;
-    control->setAccessibleName(WithoutMnemonic(label));
+    control->setAccessibleName(BareText(label));
     if (qobject_cast<QCheckBox*>(control) != nullptr) {
         m_form->addRow(control);
     } else {
@@ -109,7 +104,7 @@ void OptionsPanel::AddLine(const QString& label, QWidget* control, std::uint32_t
 }
 
 void OptionsPanel::AddMaster() {
-    m_master = new QCheckBox(tr("易读的图表(&E)"));
+    m_master = new QCheckBox(tr("易读的图表(&Y)"));
     m_master->setToolTip(tr("让图表好读的一切，一次打开或关闭；下面可以逐项设定"));
     connect(m_master, &QCheckBox::clicked, this, [this] {
         const bool isReadable = m_master->checkState() != Qt::Unchecked;

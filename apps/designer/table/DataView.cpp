@@ -59,6 +59,7 @@ DataView::DataView(QWidget* parent)
     setCornerButtonEnabled(true);
     m_rowHeader->setSectionResizeMode(QHeaderView::Fixed);
     m_rowHeader->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
+    m_rowHeader->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000")));
     m_columnHeader->setMinimumSectionSize(fontMetrics().averageCharWidth() * 4);
     connect(m_delegate, &CellDelegate::ChangeWanted, this, &DataView::ChangeWanted);
     connect(m_delegate, &CellDelegate::Left, this, &DataView::Step);

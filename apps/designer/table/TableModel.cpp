@@ -150,7 +150,7 @@ QVariant TableModel::RowHeader(int row, int role) const {
     case Qt::ForegroundRole:
         return isNext ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText)) : QVariant();
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+        return QVariant::fromValue(Qt::AlignCenter);
     default:
         return {};
     }

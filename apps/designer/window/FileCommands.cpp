@@ -73,7 +73,7 @@ QString Problems(const std::vector<penlode::Diagnostic>& diagnostics) {
         lines << line + place + QString::fromStdString(diagnostic.Text);
     }
     if (left > 0) {
-        lines << FileCommands::tr("还有 %1 个").arg(left);
+        lines << FileCommands::tr("还有 %n 个", nullptr, static_cast<int>(left));
     }
     return lines.join('\n');
 }
@@ -158,7 +158,7 @@ bool FileCommands::ConfirmOddCells() {
     for (const DataTable& table : m_session.Current().Tables()) {
         odd += table.OddCount();
     }
-    return odd == 0 || Ask(m_window, tr("有 %1 个格子不是数。").arg(odd),
+    return odd == 0 || Ask(m_window, tr("有 %n 个格子不是数。", nullptr, static_cast<int>(odd)),
                            tr("图表把它们当作空格；文件里只存数，这些文字不会存下来。"),
                            {tr("仍然保存(&S)"), tr("取消")}) == 0;
 }

@@ -27,10 +27,20 @@ QString Preferred() {
     return QStringLiteral("zh_CN");
 }
 
+/// What was installed is found again by its name.
 void Install(const QString& file, const QString& folder) {
     auto* const translator = new QTranslator(QCoreApplication::instance());
+    translator->setObjectName(QStringLiteral("language"));
     if (translator->load(file, folder)) {
         QCoreApplication::installTranslator(translator);
+    }
+}
+
+void RemoveInstalled() {
+    for (QTranslator* const installed :
+         QCoreApplication::instance()->findChildren<QTranslator*>(QStringLiteral("language"))) {
+        QCoreApplication::removeTranslator(installed);
+        delete installed;
     }
 }
 
@@ -39,6 +49,7 @@ void Install(const QString& file, const QString& folder) {
 void InstallLanguage(const QString& name) {
     const QString chosen = QSettings().value(Key()).toString();
     g_shown = !name.isEmpty() ? name : !chosen.isEmpty() ? chosen : Preferred();
+    RemoveInstalled();
     // What Qt itself says; its own language is English.
     Install(QStringLiteral("qtbase_") + g_shown, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     Install(QStringLiteral("millichart-designer_") + g_shown, QStringLiteral(":/i18n"));

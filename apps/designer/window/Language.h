@@ -10,8 +10,8 @@ namespace designer {
 inline constexpr std::array<std::pair<const char*, const char*>, 2> kLanguages{
     {{"zh_CN", "中文"}, {"en", "English"}}};
 
-/// Installs the translations of a language; without a name, of the one that the user chose, or else the first
-/// that his system asks for and there is; Chinese if there is none.
+/// Installs the translations of a language in the place of any before; without a name, of the one that the
+/// user chose, or else the first that his system asks for and there is; Chinese if there is none.
 void InstallLanguage(const QString& name = {});
 
 /// "zh_CN" or "en".

@@ -1,5 +1,6 @@
 #include "window/MainWindow.h"
 
+#include "window/Examples.h"
 #include "window/PartNames.h"
 
 #include <QApplication>
@@ -8,13 +9,13 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLabel>
-#include <QLocale>
 #include <QMenu>
 #include <QMimeData>
 #include <QSettings>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QUrl>
@@ -69,11 +70,15 @@ MainWindow::MainWindow()
     m_bar = addToolBar(tr("工具栏"));
     m_bar->setObjectName(QStringLiteral("toolBar"));
     m_bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_bar->setMovable(false);
+    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    m_bar->setIconSize({icon, icon});
     MakeFileActions();
     MakeEditActions();
     MakeChartActions();
     MakeViewActions();
     MakeHelpActions();
+    GiveIcons();
     MakeStatusBar();
     ConnectParts();
     const QSettings settings;
@@ -98,25 +103,6 @@ void MainWindow::MakeDocks() {
     resizeDocks({m_dataDock, m_panelDock}, {kDataWidth, kPanelWidth}, Qt::Horizontal);
 }
 
-void MainWindow::MakeStatusBar() {
-    m_hovered = new QLabel;
-    m_hovered->setObjectName(QStringLiteral("hovered"));
-    m_numbers = new QLabel;
-    m_size = new QLabel;
-    m_zoom = new QSlider(Qt::Horizontal);
-    m_zoom->setObjectName(QStringLiteral("zoom"));
-    m_zoom->setAccessibleName(tr("缩放"));
-    constexpr int kLeastPercent = 25;
-    constexpr int kMostPercent = 800;
-    constexpr int kSliderWidth = 140;
-    m_zoom->setRange(kLeastPercent, kMostPercent);
-    m_zoom->setFixedWidth(kSliderWidth);
-    statusBar()->addWidget(m_hovered, 1);
-    statusBar()->addPermanentWidget(m_numbers);
-    statusBar()->addPermanentWidget(m_size);
-    statusBar()->addPermanentWidget(m_zoom);
-}
-
 void MainWindow::ConnectParts() {
     constexpr double kPercent = 100.0;
     connect(m_start, &StartPage::KindChosen, this, &MainWindow::StartNew);
@@ -135,7 +121,7 @@ void MainWindow::ConnectParts() {
     connect(m_canvas, &ChartCanvas::ZoomChanged, this, [this](double zoom) {
         const QSignalBlocker quiet(m_zoom);
         m_zoom->setValue(qRound(zoom * kPercent));
-        m_zoom->setToolTip(tr("%1%").arg(qRound(zoom * kPercent)));
+        m_percent->setText(tr("%1%").arg(qRound(zoom * kPercent)));
     });
     connect(m_canvas, &ChartCanvas::ChartShown, this, [this] {
         const auto shown = m_canvas->Shown();
@@ -174,16 +160,23 @@ void MainWindow::AskAndOpen() {
 void MainWindow::StartNew(const QString& kind) {
     const millichart::ChartKind* const found = millichart::FindChartKind(kind.toStdString());
     if (found != nullptr && m_files.MayClose()) {
-        m_session.Start(Editor::New(*found));
+        m_session.Start(Editor::New(ExampleOf(*found)));
+    }
+}
+
+/// The docks and the status bar's numbers are a chart's.
+void MainWindow::ShowPage(int page) {
+    m_stack->setCurrentIndex(page);
+    for (QWidget* const ofChart : std::initializer_list<QWidget*>{m_dataDock, m_panelDock, m_hovered,
+                                                                  m_numbers, m_size, m_zoom, m_percent}) {
+        ofChart->setVisible(page == 1);
     }
 }
 
 /// A document that is open stays so until another is chosen.
 void MainWindow::ShowStart() {
     m_start->ShowRecentFiles();
-    m_stack->setCurrentIndex(0);
-    m_dataDock->hide();
-    m_panelDock->hide();
+    ShowPage(0);
     m_start->setFocus();
     RefreshActions();
     RefreshTitle();
@@ -199,9 +192,7 @@ void MainWindow::SwitchKind(const QString& kind) {
 void MainWindow::Refresh() {
     const Editor& editor = m_session.Current();
     if (m_stack->currentIndex() == 0) {
-        m_stack->setCurrentIndex(1);
-        m_dataDock->show();
-        m_panelDock->show();
+        ShowPage(1);
         m_canvas->setFocus();
     }
     m_canvas->Show(editor.Shared(), editor.Revision());
@@ -240,17 +231,8 @@ DataView* MainWindow::AddTable() {
                          const QString& merge) {
                 m_session.ChangeTable(name, static_cast<std::size_t>(m_tables->indexOf(view)), change, merge);
             });
-    connect(view, &DataView::SelectionSummed, this, &MainWindow::TellSum);
+    connect(view, &DataView::SelectionSummed, this, &MainWindow::TellNumbers);
     return view;
-}
-
-void MainWindow::TellSum(const SelectionFacts& facts) {
-    const QLocale locale;
-    m_numbers->setText(facts.Numbers < 2 ? QString()
-                                         : tr("计数 %1　合计 %2　平均 %3")
-                                               .arg(facts.Numbers)
-                                               .arg(locale.toString(facts.Sum, 'g', 10))
-                                               .arg(locale.toString(facts.Mean, 'g', 6)));
 }
 
 /// From the chart to its data, to the options, and back.
@@ -275,12 +257,6 @@ void MainWindow::RefreshTitle() {
     setWindowTitle(m_files.ShownName() + QStringLiteral("[*] — ") + QCoreApplication::applicationName());
     setWindowFilePath(QString::fromStdString(m_session.Current().File()));
     setWindowModified(!m_session.Current().IsSaved());
-}
-
-void MainWindow::TellHovered(const std::optional<millichart::ChartPart>& part) {
-    const auto shown = m_canvas->Shown();
-    m_hovered->setText(part && shown ? Described(*part, FactsOf(*shown->Document, shown->Chart, *part))
-                                     : QString());
 }
 
 void MainWindow::TellOthersChange() {

@@ -54,6 +54,8 @@ private:
     void MakeChartActions();
     void MakeViewActions();
     void MakeHelpActions();
+    /// Of what the toolbar offers.
+    void GiveIcons();
     void MakeStatusBar();
     void ConnectParts();
     QAction* Add(class QMenu* menu, const char* name, const QString& text, const QKeySequence& keys,
@@ -65,6 +67,7 @@ private:
     void AskAndOpen();
     void OpenHere(const QString& file);
     void ShowStart();
+    void ShowPage(int page);
     void FillRecentMenu();
     void SwitchKind(const QString& kind);
     /// Everything as the document is now.
@@ -73,8 +76,8 @@ private:
     void RefreshActions();
     void RefreshTitle();
     DataView* AddTable();
+    void TellNumbers(const SelectionFacts& facts);
     void TellHovered(const std::optional<millichart::ChartPart>& part);
-    void TellSum(const SelectionFacts& facts);
     void FocusNextPane();
     void TellOthersChange();
     void ShowKeys();
@@ -100,6 +103,7 @@ private:
     QLabel* m_hovered;
     QLabel* m_numbers;
     QLabel* m_size;
+    QLabel* m_percent;
     QSlider* m_zoom;
 };
 

@@ -1,5 +1,7 @@
 #include "documents/ChartDocument.h"
+#include "panel/BareText.h"
 #include "window/Language.h"
+#include "window/LineIcons.h"
 #include "window/MainWindow.h"
 #include "window/PartNames.h"
 #include "window/RecentFiles.h"
@@ -11,28 +13,17 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <array>
 
 namespace designer {
-namespace {
-
-/// "打开(&O)…" is "打开".
-QString WithoutMnemonic(QString text) {
-    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&|…"));
-    return text.remove(mark);
-}
-
-} // namespace
-
 QAction* MainWindow::Add(QMenu* menu, const char* name, const QString& text, const QKeySequence& keys,
                          const std::function<void()>& act) {
     auto* const action = new QAction(text, this);
     action->setObjectName(QString::fromUtf8(name));
-    action->setIconText(WithoutMnemonic(text));
-    action->setToolTip(WithoutMnemonic(text));
+    action->setIconText(BareText(text));
+    action->setToolTip(BareText(text));
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, act);
     menu->addAction(action);
@@ -89,7 +80,7 @@ void MainWindow::MakeChartActions() {
     m_kinds = new QActionGroup(this);
     for (const millichart::ChartKind& kind : millichart::ChartKinds()) {
         QAction* const action =
-            AddForChart(kinds, kind.Name, NameOfKind(kind.Name), {},
+            AddForChart(kinds, kind.Name, Capitalised(NameOfKind(kind.Name)), {},
                         [this, name = QString::fromUtf8(kind.Name)] { SwitchKind(name); });
         action->setCheckable(true);
         m_kinds->addAction(action);
@@ -155,6 +146,19 @@ void MainWindow::MakeHelpActions() {
     Add(menu, "about", tr("关于(&A)"), {}, [this] { ShowAbout(); });
 }
 
+void MainWindow::GiveIcons() {
+    constexpr std::pair<const char*, LineIcon> kIcons[] = {{"new", LineIcon::New},
+                                                           {"open", LineIcon::Open},
+                                                           {"save", LineIcon::Save},
+                                                           {"export", LineIcon::Export},
+                                                           {"undo", LineIcon::Undo},
+                                                           {"redo", LineIcon::Redo},
+                                                           {"properties", LineIcon::Properties}};
+    for (const auto& [name, icon] : kIcons) {
+        findChild<QAction*>(QString::fromUtf8(name))->setIcon(IconOf(icon));
+    }
+}
+
 void MainWindow::FillRecentMenu() {
     m_recent->clear();
     for (const QString& file : RecentFiles()) {
@@ -177,10 +181,12 @@ void MainWindow::RefreshActions() {
     const Editor& editor = m_session.Current();
     m_undo->setEnabled(isShown && editor.CanUndo());
     m_redo->setEnabled(isShown && editor.CanRedo());
-    m_undo->setText(tr("撤销 %1(&U)").arg(QString::fromStdString(editor.UndoName())));
-    m_redo->setText(tr("重做 %1(&R)").arg(QString::fromStdString(editor.RedoName())));
-    m_undo->setToolTip(tr("撤销 %1").arg(QString::fromStdString(editor.UndoName())));
-    m_redo->setToolTip(tr("重做 %1").arg(QString::fromStdString(editor.RedoName())));
+    const QString undo = QString::fromStdString(editor.UndoName());
+    const QString redo = QString::fromStdString(editor.RedoName());
+    m_undo->setText(undo.isEmpty() ? tr("撤销(&U)") : tr("撤销 %1(&U)").arg(undo));
+    m_redo->setText(redo.isEmpty() ? tr("重做(&R)") : tr("重做 %1(&R)").arg(redo));
+    m_undo->setToolTip(BareText(m_undo->text()));
+    m_redo->setToolTip(BareText(m_redo->text()));
     const millichart::ChartKind* const kind = millichart::KindOf(editor.Document().Content);
     for (QAction* const action : m_kinds->actions()) {
         action->setChecked(kind != nullptr && action->objectName() == QString::fromUtf8(kind->Name));

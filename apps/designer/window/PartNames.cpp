@@ -55,7 +55,7 @@ QString NameOf(PartKind kind) {
 }
 
 QString Described(const millichart::ChartPart& part, const PartFacts& facts) {
-    QString text = NameOf(part.Kind);
+    QString text = Capitalised(NameOf(part.Kind));
     const auto add = [&text](const char* before, const std::string& more) {
         if (!more.empty()) {
             text += QString::fromUtf8(before) + QString::fromStdString(more).simplified();
@@ -74,6 +74,13 @@ QString NameOfKind(const char* kind) {
         }
     }
     return QString::fromUtf8(kind);
+}
+
+QString Capitalised(QString text) {
+    if (!text.isEmpty()) {
+        text[0] = text[0].toUpper();
+    }
+    return text;
 }
 
 } // namespace designer

@@ -7,13 +7,16 @@
 
 namespace designer {
 
-/// "图例", in the language of the program.
+/// "图例", "legend": in the language of the program, as it stands within a sentence.
 QString NameOf(millichart::PartKind kind);
 
 /// For a status bar and tips: "柱 一月 · 出口: 12.5"
 QString Described(const millichart::ChartPart& part, const PartFacts& facts);
 
-/// Of a kind of chart, for menus: "饼图"
+/// Of a kind of chart, within a sentence: "饼图", "pie chart"
 QString NameOfKind(const char* kind);
+
+/// As a sentence or a menu's text begins.
+QString Capitalised(QString text);
 
 } // namespace designer

@@ -7,6 +7,8 @@ class QLabel;
 
 namespace designer {
 
+class KindTiles;
+
 /// What a window shows before it has a document: the kinds to start from as pictures, and what was open last.
 class StartPage : public QWidget {
     Q_OBJECT
@@ -24,9 +26,7 @@ Q_SIGNALS:
     void OpenWanted();
 
 private:
-    void AddKinds();
-
-    QListWidget* m_kinds;
+    KindTiles* m_kinds;
     QListWidget* m_files;
     QLabel* m_filesTitle;
 };

@@ -1,5 +1,7 @@
 #include "designer/window/OpenWindow.h"
 
+#include "window/Examples.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -100,7 +102,7 @@ PartFacts OpenWindow::Facts(const millichart::ChartPart& part) {
 }
 
 millichart::ChartDocument OpenWindow::New(const char* kind) {
-    return Editor::New(*millichart::FindChartKind(kind)).Document();
+    return ExampleOf(*millichart::FindChartKind(kind));
 }
 
 } // namespace designer::test
