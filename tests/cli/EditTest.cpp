@@ -4,7 +4,6 @@
 namespace {
 
 using Edit = cli_test::CommandTest;
-using cli_test::Outcome;
 
 TEST_F(Edit, HandsItsFilesToTheProgramBesideIt) {
     Write("sales of 2026.csv", "a,1\n");
