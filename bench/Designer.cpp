@@ -62,6 +62,7 @@ ChartDocument MillionPoints() {
     auto& curve = std::get<millichart::CurveDocument>(document.Content);
     curve.Data = {};
     curve.Prop.Plot.CurveName.clear();
+    curve.Prop.Plot.CurveDotStyle = {millichart::CurveDotStyle::None};
     std::mt19937 random(1);
     double value = 1000.0;
     std::vector<double> values;

@@ -1,6 +1,7 @@
 #include "Clipboard.h"
 
 #include "Metafile.h"
+#include "Pictures.h"
 
 #include <algorithm>
 #include <string>
@@ -8,37 +9,9 @@
 namespace host {
 namespace {
 
-using penlode::CGraphicsEngine;
-
 constexpr float kMargin = 1.0F; // mm
-constexpr double kPngDpi = 300.0;
 
-penlode::SizeF PictureSize(const penlode::RectF& ink) {
-    return {ink.Width + 2.0F * kMargin, ink.Height + 2.0F * kMargin};
-}
-
-void DrawPicture(CGraphicsEngine& engine, const millichart::LaidOutChart& chart) {
-    const penlode::RectF ink = chart.InkExtent();
-    engine.TranslateTransform(kMargin - ink.X, kMargin - ink.Y, penlode::MatrixOrder::Prepend);
-    chart.Draw(engine);
-}
-
-KeptMetafile MetafileOf(const millichart::LaidOutChart& chart) {
-    const auto engine = CGraphicsEngine::ForMetafile(PictureSize(chart.InkExtent()));
-    if (engine == nullptr) {
-        return nullptr;
-    }
-    DrawPicture(*engine, chart);
-    return FinishedMetafile(*engine);
-}
-
-KeptMemory PngOf(const millichart::LaidOutChart& chart) {
-    const auto engine = CGraphicsEngine::ForRaster(PictureSize(chart.InkExtent()), kPngDpi, penlode::kWhite);
-    if (engine == nullptr) {
-        return nullptr;
-    }
-    DrawPicture(*engine, chart);
-    const std::string bytes = engine->EncodePng();
+KeptMemory MemoryOf(const std::string& bytes) {
     KeptMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
     if (memory) {
         std::copy(bytes.begin(), bytes.end(), static_cast<char*>(GlobalLock(memory.get())));
@@ -57,8 +30,9 @@ template <class Kept> void Put(UINT format, Kept& data) {
 } // namespace
 
 bool CopyChart(HWND owner, const millichart::LaidOutChart& chart) {
-    KeptMetafile metafile = MetafileOf(chart);
-    KeptMemory png = PngOf(chart);
+    KeptMetafile metafile = MetafileOf(EmfOf(chart, kMargin));
+    const std::string pngBytes = PngOf(chart, kMargin);
+    KeptMemory png = pngBytes.empty() ? nullptr : MemoryOf(pngBytes);
     if (OpenClipboard(owner) == FALSE) {
         return false;
     }

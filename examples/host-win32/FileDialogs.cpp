@@ -8,6 +8,8 @@ namespace host {
 namespace {
 
 constexpr wchar_t kDocuments[] = L"图表文档 (*.chart.json; *.json)\0*.chart.json;*.json\0所有文件\0*.*\0";
+constexpr wchar_t kOpened[] = L"图表和数据表 (*.json; *.csv; *.tsv; *.txt)\0*.json;*.csv;*.tsv;*.txt\0"
+                              L"图表文档 (*.chart.json; *.json)\0*.chart.json;*.json\0所有文件\0*.*\0";
 constexpr wchar_t kMetafiles[] = L"增强型图元文件 (*.emf)\0*.emf\0";
 constexpr wchar_t kPrintFiles[] = L"打印机文件 (*.prn)\0*.prn\0";
 
@@ -38,11 +40,20 @@ std::optional<std::wstring> Ask(const Question& question, BOOL(WINAPI* show)(OPE
 } // namespace
 
 std::optional<std::wstring> AskOpenName(HWND owner) {
-    return Ask({owner, kDocuments, L"json"}, GetOpenFileNameW, OFN_FILEMUSTEXIST);
+    return Ask({owner, kOpened, L"json"}, GetOpenFileNameW, OFN_FILEMUSTEXIST);
 }
 
 std::optional<std::wstring> AskSaveName(HWND owner, const std::wstring& suggested) {
     return Ask({owner, kDocuments, L"json", suggested}, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
+}
+
+std::optional<std::wstring> AskPictureName(HWND owner, const std::wstring& suggested,
+                                           const std::wstring& ending) {
+    std::wstring filter = ending + L" 图片 (*." + ending + L")";
+    filter += L'\0';
+    filter += L"*." + ending;
+    filter += L'\0';
+    return Ask({owner, filter.c_str(), ending.c_str(), suggested}, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
 }
 
 std::optional<std::wstring> AskPageName(HWND owner, const std::wstring& suggested) {

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "Handles.h"
-#include "penlode/gdiplus/GraphicsEngine.h"
+
+#include <string>
 
 namespace host {
 
-/// The metafile that an engine of CGraphicsEngine::ForMetafile has drawn; ends it.
-KeptMetafile FinishedMetafile(penlode::CGraphicsEngine& engine);
+/// The metafile of a file's bytes, as an engine of CGraphicsEngine::ForMetafile finishes them; null for none.
+KeptMetafile MetafileOf(const std::string& bytes);
 
 } // namespace host

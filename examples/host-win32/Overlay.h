@@ -3,12 +3,14 @@
 #include "model/ChartModel.h"
 #include "model/PageView.h"
 
+#include <optional>
 #include <windows.h>
 
 namespace host {
 
-/// Over the page: a dotted frame round the selected part; while it moves, a firm one where it would come to
-/// stand.
-void DrawOverlay(HDC context, const ChartModel& model, const PageView& view);
+/// Over the page: a faint frame round what is under the mouse and a firm one round the selected part; while
+/// that moves, a thick one where it would come to stand.
+void DrawOverlay(HDC context, const ChartModel& model, const std::optional<millichart::PlacedPart>& hovered,
+                 const PageView& view);
 
 } // namespace host

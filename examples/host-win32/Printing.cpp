@@ -4,6 +4,7 @@
 #include "Metafile.h"
 #include "model/PrintedPage.h"
 #include "penlode/Units.h"
+#include "penlode/gdiplus/GraphicsEngine.h"
 
 #include <commdlg.h>
 #include <optional>
@@ -81,7 +82,7 @@ bool PrintChartToFile(const millichart::LaidOutChart& chart, const std::wstring&
         return false;
     }
     DrawOnPage(*engine, chart, kA4);
-    const KeptMetafile metafile = FinishedMetafile(*engine);
+    const KeptMetafile metafile = MetafileOf(engine->FinishMetafile());
     const KeptMetafile written(CopyEnhMetaFileW(metafile.get(), file.c_str()));
     return written != nullptr;
 }

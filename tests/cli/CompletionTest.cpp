@@ -45,7 +45,7 @@ TEST_F(Completion, BashOffersWhatFits) {
 }
 
 TEST_F(Completion, BashKnowsEveryOption) {
-    for (const std::string command : {"draw", "new", "check", "inspect"}) {
+    for (const std::string command : {"draw", "new", "check", "inspect", "edit"}) {
         const std::string help = Run("millichart " + command + " --help | grep -E '^ +-'").Output;
         EXPECT_EQ(LongOptions(Offered(command + " --")), LongOptions(help)) << command;
     }

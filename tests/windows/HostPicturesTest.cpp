@@ -1,6 +1,8 @@
-// What examples/host-win32 prints into a file and puts on the clipboard.
+// What examples/host-win32 prints into a file, puts on the clipboard and draws into files.
 #include "Clipboard.h"
 #include "Handles.h"
+#include "Metafile.h"
+#include "Pictures.h"
 #include "Printing.h"
 #include "support/PngFile.h"
 
@@ -56,4 +58,16 @@ TEST(HostPictures, AChartIsCopiedAtItsSizeInBothFormats) {
     EXPECT_NEAR(PngNumber(png, "pHYs", 0), 11811, 1) << "300 dots per inch";
     EXPECT_NEAR(PngNumber(png, "IHDR", 0), (ink.Width + 2.0F) * 11.811F, 1.0F);
     EXPECT_NEAR(PngNumber(png, "IHDR", 4), (ink.Height + 2.0F) * 11.811F, 1.0F);
+}
+
+TEST(HostPictures, AChartIsDrawnIntoFilesOfEachFormatAtItsSize) {
+    auto document =
+        millichart::ChartDocument::FromText(std::string(millichart::FindChartKind("pie")->Template));
+    document.Title = "甲 & 乙";
+    const millichart::LaidOutChart chart = document.LayOut();
+    const penlode::RectF ink = chart.InkExtent();
+    EXPECT_NEAR(PngNumber(PngOf(chart, 5.0F), "IHDR", 0), (ink.Width + 10.0F) * 11.811F, 1.0F);
+    ExpectFrame(MetafileOf(EmfOf(chart, 5.0F)).get(), ink.Width + 10.0F, ink.Height + 10.0F);
+    EXPECT_NE(SvgOf(document, chart, 5.0F).find("<title>甲 &amp; 乙</title>"), std::string::npos);
+    EXPECT_EQ(MetafileOf(EmfOf(chart, 9000.0F)).get(), nullptr) << "a page that is too large";
 }

@@ -20,7 +20,7 @@ namespace designer {
 /// gives in his user's language.
 ///
 ///     Editor editor = Editor::Open("sales.chart.json");
-///     editor.Move("移动图例", part, {3.0F, 0.0F});
+///     editor.Change("移动图例", [&](auto& document) { MovePart(document, chart, part, {3.0F, 0.0F}); });
 ///     editor.Undo();
 ///     const std::string fault = editor.Save("sales.chart.json");
 class Editor {
@@ -43,6 +43,8 @@ public:
     std::shared_ptr<const millichart::ChartDocument> Shared() const { return m_history.Current().Document; }
 
     const std::vector<DataTable>& Tables() const { return *m_history.Current().Tables; }
+
+    std::shared_ptr<const std::vector<DataTable>> SharedTables() const { return m_history.Current().Tables; }
 
     /// Another number whenever the document may be another.
     std::uint64_t Revision() const { return m_revision; }

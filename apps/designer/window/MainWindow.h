@@ -78,6 +78,7 @@ private:
     DataView* AddTable();
     void TellNumbers(const SelectionFacts& facts);
     void TellHovered(const std::optional<millichart::ChartPart>& part);
+    void FocusNextPane();
     void TellOthersChange();
     void ShowKeys();
     void ShowAbout();
@@ -104,7 +105,6 @@ private:
     QLabel* m_size;
     QLabel* m_percent;
     QSlider* m_zoom;
-    QString m_shownFile;
 };
 
 } // namespace designer

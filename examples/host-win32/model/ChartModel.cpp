@@ -1,14 +1,43 @@
 #include "model/ChartModel.h"
 
+#include "canvas/ReadingOrder.h"
+#include "model/PartNames.h"
+
 #include <utility>
 
 namespace host {
+namespace {
 
+using millichart::ChartDocument;
+using millichart::ChartPart;
+using millichart::PartKind;
+using millichart::PlacedPart;
 using penlode::PointF;
 using penlode::RectF;
 
-ChartModel::ChartModel(millichart::ChartDocument document) : m_history(std::move(document)) {
-    LayOut();
+bool IsLegendEntry(const ChartPart& part) {
+    return part.Kind == PartKind::LegendSample || part.Kind == PartKind::LegendName;
+}
+
+/// What moves as a whole with a part.
+ChartPart Moving(const ChartPart& part) {
+    return IsLegendEntry(part) ? ChartPart{PartKind::Legend, 0, 0, part.Part} : part;
+}
+
+std::string KeyOf(const ChartPart& part) {
+    return "nudge " + std::to_string(static_cast<int>(part.Kind)) + ' ' + std::to_string(part.Index) + ' ' +
+           std::to_string(part.Part);
+}
+
+/// Line feeds at a text's end, which an editor does not show.
+std::size_t LengthWithoutFeeds(const std::string& text) {
+    return text.find_last_not_of('\n') + 1;
+}
+
+} // namespace
+
+ChartModel::ChartModel(designer::Editor editor) : m_editor(std::move(editor)) {
+    Show(m_editor.Document());
 }
 
 RectF ChartModel::Sheet() const {
@@ -17,96 +46,214 @@ RectF ChartModel::Sheet() const {
     return {ink.X - kMargin, ink.Y - kMargin, ink.Width + 2.0F * kMargin, ink.Height + 2.0F * kMargin};
 }
 
-const MovablePart* ChartModel::Selected() const {
-    return m_selected ? &m_parts[*m_selected] : nullptr;
+std::string ChartModel::DescriptionOf(const ChartPart& part) const {
+    return Described(part, designer::FactsOf(m_editor.Document(), m_chart, part));
 }
 
-void ChartModel::Deselect() {
+designer::Mobility ChartModel::MobilityOf(const ChartPart& part) const {
+    return designer::MobilityOf(m_chart, part);
+}
+
+std::optional<PlacedPart> ChartModel::PartAt(PointF point, float reach) const {
+    return m_chart.HitTest(point, reach);
+}
+
+void ChartModel::Select(std::optional<ChartPart> part) {
     Cancel();
-    m_selected.reset();
+    const std::size_t place = part ? designer::PlaceOf(m_parts, *part) : m_parts.size();
+    m_selected = place < m_parts.size() ? std::optional(m_parts[place]) : std::nullopt;
 }
 
 void ChartModel::SelectNext(int direction) {
-    Drop();
-    if (m_parts.empty()) {
+    const std::size_t count = m_parts.size();
+    if (count == 0) {
         return;
     }
-    const std::size_t last = m_parts.size() - 1;
-    if (direction > 0) {
-        m_selected = m_selected && *m_selected < last ? *m_selected + 1 : 0;
-    } else {
-        m_selected = m_selected && *m_selected > 0 ? *m_selected - 1 : last;
-    }
+    const std::size_t place = m_selected ? designer::PlaceOf(m_parts, m_selected->Part) : count;
+    const std::size_t next = place >= count - 1 ? 0 : place + 1;
+    const std::size_t before = place == 0 || place == count ? count - 1 : place - 1;
+    Select(m_parts[direction > 0 ? next : before].Part);
 }
 
-bool ChartModel::Grab(PointF point) {
-    Drop();
-    m_selected = PartAt(m_parts, point);
-    m_grabbed = point;
+bool ChartModel::Grab(PointF point, float reach) {
+    Cancel();
+    m_selected = PartAt(point, reach); // a curve's point, too, which is not among the parts
+    if (m_selected && MobilityOf(m_selected->Part) != designer::Mobility::None) {
+        m_grabbed = point;
+    }
     return m_selected.has_value();
 }
 
 void ChartModel::DragTo(PointF point) {
-    if (m_selected) {
-        m_moving = point - m_grabbed;
+    if (m_grabbed) {
+        m_movement = point - *m_grabbed;
+        m_outline = designer::MovedPlace(m_editor.Document(), m_chart, m_selected->Part, m_movement);
     }
 }
 
-void ChartModel::Nudge(PointF by) {
-    if (m_selected) {
-        m_moving = Movement() + by;
-    }
-}
-
-std::optional<RectF> ChartModel::Outline() const {
-    return m_moving ? std::optional(penlode::Translated(Selected()->Place, *m_moving)) : std::nullopt;
+RectF ChartModel::MovingPlace() const {
+    return designer::MovedPlace(m_editor.Document(), m_chart, m_selected->Part, {}).value_or(m_selected->Box);
 }
 
 void ChartModel::Drop() {
-    const PointF by = Movement();
-    m_moving.reset();
-    if (by == PointF{}) {
-        return;
+    const bool isMoved = IsMoving();
+    const PointF by = m_movement;
+    Cancel();
+    if (isMoved) {
+        const ChartPart part = m_selected->Part;
+        ChangeSelected("移动" + NameOf(Moving(part).Kind),
+                       [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); });
     }
-    millichart::ChartDocument next = Document();
-    MovePart(next, m_chart, *Selected(), by);
-    m_history.Change(std::move(next));
-    LayOut();
 }
 
 void ChartModel::Cancel() {
-    m_moving.reset();
+    m_grabbed.reset();
+    m_movement = {};
+    m_outline.reset();
+}
+
+bool ChartModel::Nudge(int x, int y, bool isFar) {
+    const designer::Mobility how = m_selected ? MobilityOf(m_selected->Part) : designer::Mobility::None;
+    if (how == designer::Mobility::None) {
+        return false;
+    }
+    Cancel();
+    const ChartPart part = m_selected->Part;
+    const auto times = [x, y](float length) {
+        return PointF{static_cast<float>(x) * length, static_cast<float>(y) * length};
+    };
+    PointF by = times(isFar ? 1.0F : 0.1F);
+    if (how == designer::Mobility::Docked) {
+        constexpr float kStep = 5.0F;
+        constexpr float kFarthest = 1000.0F;
+        const auto placeAfter = [&](float length) {
+            return designer::MovedPlace(m_editor.Document(), m_chart, part, times(length));
+        };
+        const auto present = placeAfter(0.0F);
+        float length = kStep;
+        while (length < kFarthest && placeAfter(length) == present) {
+            length += kStep;
+        }
+        by = times(length);
+    }
+    ChangeSelected(
+        "移动" + NameOf(Moving(part).Kind),
+        [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); }, KeyOf(part));
+    return true;
+}
+
+void ChartModel::Reset() {
+    Cancel();
+    if (m_selected) {
+        const ChartPart part = m_selected->Part;
+        ChangeSelected(NameOf(Moving(part).Kind) + "复位",
+                       [&](ChartDocument& document) { designer::ResetPart(document, m_chart, part); });
+    }
+}
+
+std::optional<std::string> ChartModel::EditableText() const {
+    if (!m_selected) {
+        return std::nullopt;
+    }
+    auto text = designer::EditableText(m_editor.Document(), m_chart, m_selected->Part);
+    if (text) {
+        text->resize(LengthWithoutFeeds(*text));
+    }
+    return text;
+}
+
+void ChartModel::SetText(const std::string& text) {
+    if (!m_selected) {
+        return;
+    }
+    const ChartPart part = m_selected->Part;
+    const auto before = designer::EditableText(m_editor.Document(), m_chart, part);
+    if (before && before->substr(0, LengthWithoutFeeds(*before)) != text) {
+        const std::string whole = text + before->substr(LengthWithoutFeeds(*before));
+        ChangeSelected("修改" + NameOf(part.Kind),
+                       [&](ChartDocument& document) { designer::SetText(document, m_chart, part, whole); });
+    }
+}
+
+std::optional<penlode::Color> ChartModel::Color() const {
+    return m_selected ? designer::ColorOf(m_editor.Document(), m_chart, m_selected->Part) : std::nullopt;
+}
+
+void ChartModel::SetColor(penlode::Color color) {
+    if (!m_selected) {
+        return;
+    }
+    const ChartPart part = m_selected->Part;
+    ChangeSelected("修改颜色",
+                   [&](ChartDocument& document) { designer::SetColor(document, m_chart, part, color); });
+}
+
+void ChartModel::Try(const ChartDocument& document) {
+    Cancel();
+    Show(document);
+}
+
+void ChartModel::EndTrial() {
+    Show(m_editor.Document());
+}
+
+void ChartModel::Change(const std::string& name, const std::function<void(ChartDocument&)>& change) {
+    m_editor.Change(name, change);
+    EndTrial();
+}
+
+void ChartModel::ChangeTable(const std::string& name, std::size_t table,
+                             const std::function<void(designer::DataTable&)>& change) {
+    m_editor.ChangeTable(name, table, change);
+    EndTrial();
+}
+
+void ChartModel::SwitchKind(const millichart::ChartKind& kind) {
+    Cancel();
+    m_selected.reset();
+    m_editor.SwitchKind("改为" + NameOfKind(kind.Name), kind);
+    EndTrial();
 }
 
 void ChartModel::Undo() {
     if (IsMoving()) {
         return Cancel();
     }
-    m_history.Undo();
-    LayOut();
+    const std::uint64_t before = m_editor.Revision();
+    m_editor.Undo();
+    ShowChange(before);
 }
 
 void ChartModel::Redo() {
     Cancel();
-    m_history.Redo();
-    LayOut();
+    const std::uint64_t before = m_editor.Revision();
+    m_editor.Redo();
+    ShowChange(before);
 }
 
 std::string ChartModel::Save(const std::string& file) {
-    std::string fault = Document().Save(file);
-    if (fault.empty()) {
-        m_history.MarkSaved();
-    }
-    return fault;
+    return m_editor.Save(file);
 }
 
-void ChartModel::LayOut() {
-    m_chart = Document().LayOut();
-    m_parts = MovablePartsOf(m_chart);
-    if (m_selected >= m_parts.size()) {
-        m_selected.reset();
-    }
+/// The selection stays on a part that is there still.
+void ChartModel::Show(const ChartDocument& document) {
+    m_chart = document.LayOut();
+    m_parts = designer::InReadingOrder(m_chart);
     ++m_revision;
+    Select(m_selected ? std::optional(m_selected->Part) : std::nullopt);
+}
+
+void ChartModel::ShowChange(std::uint64_t before) {
+    if (m_editor.Revision() != before) {
+        Show(m_editor.Document());
+    }
+}
+
+void ChartModel::ChangeSelected(const std::string& name, const std::function<void(ChartDocument&)>& change,
+                                const std::string& merge) {
+    const std::uint64_t before = m_editor.Revision();
+    m_editor.Change(name, change, merge);
+    ShowChange(before);
 }
 
 } // namespace host
