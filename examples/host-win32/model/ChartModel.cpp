@@ -96,8 +96,8 @@ RectF ChartModel::MovingPlace() const {
 }
 
 void ChartModel::Drop() {
-    const bool isMoved = IsMoving();
     const PointF by = m_movement;
+    const bool isMoved = IsMoving() && by != PointF{}; // else labels would get offsets of 0
     Cancel();
     if (isMoved) {
         const ChartPart part = m_selected->Part;
