@@ -21,7 +21,10 @@ constexpr std::size_t kMostPoints = 1000;
 
 std::size_t AllPoints(const ShownChart& shown, const ChartPart& curve) {
     const auto* chart = std::get_if<millichart::CBasicCurve>(&shown.Chart.Chart);
-    const auto& curves = chart != nullptr ? chart->GetLayout().Curves : decltype(chart->GetLayout().Curves)();
+    if (chart == nullptr) {
+        return 0;
+    }
+    const auto& curves = chart->GetLayout().Curves;
     return curve.Index < curves.size() ? curves[curve.Index].Points.size() : 0;
 }
 

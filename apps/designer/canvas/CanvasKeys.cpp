@@ -139,13 +139,14 @@ bool ChartCanvas::Nudge(Qt::Key key, bool isFar) {
     }
     constexpr float kStep = 5.0F;
     constexpr float kFarthest = 1000.0F;
-    const auto shown = Shown();
-    const auto present = MovedPlace(*shown->Document, shown->Chart, moved, {});
-    for (float length = kStep; length <= kFarthest; length += kStep) {
-        if (MovedPlace(*shown->Document, shown->Chart, moved, times(length)) != present) {
-            Q_EMIT Moved(moved, times(length), true);
-            return true;
-        }
+    const millichart::LaidOutChart& chart = Shown()->Chart;
+    const auto present = DockedPlace(chart, moved, {});
+    float length = kStep;
+    while (length < kFarthest && DockedPlace(chart, moved, times(length)) == present) {
+        length += kStep;
+    }
+    if (length < kFarthest) {
+        Q_EMIT Moved(moved, times(length), true);
     }
     return true;
 }

@@ -2,6 +2,7 @@
 #include "canvas/CanvasState.h"
 #include "canvas/PagePainter.h"
 #include "canvas/Ruler.h"
+#include "canvas/TextEditor.h"
 
 #include <QPaintEvent>
 #include <cmath>
@@ -33,7 +34,7 @@ void ChartCanvas::paintEvent(QPaintEvent*) {
         if (hovered && !(selected && selected->Placed.Part == hovered->Placed.Part)) {
             page.PaintHover(view, *hovered);
         }
-        if (selected) {
+        if (selected && !m_state->Editor) {
             page.PaintSelection(view, *selected, selected->How != Mobility::None, hasFocus());
         }
     }

@@ -7,6 +7,7 @@
 
 #include <QPointer>
 #include <QTimer>
+#include <map>
 
 namespace designer {
 
@@ -27,9 +28,10 @@ struct Drag {
     Mobility How = Mobility::None;
     QPointF Pressed; ///< in the viewport
     penlode::PointF By;
-    penlode::RectF Place;   ///< where it would stand now
-    bool IsMoving = false;  ///< the mouse went far enough not to be a click
-    bool IsDropped = false; ///< and waits for the chart in which it stands there
+    std::map<std::int32_t, penlode::RectF> Docks; ///< where it would stand, by the legend's places
+    penlode::RectF Place;                         ///< where it would stand now
+    bool IsMoving = false;                        ///< the mouse went far enough not to be a click
+    bool IsDropped = false;                       ///< and waits for the chart in which it stands there
 };
 
 /// What a canvas remembers between events.

@@ -98,8 +98,7 @@ void PagePainter::PaintSelection(const PageView& view, const OutlinedPart& part,
     const QPainterPath path = InWindow(view, part, 3.0 * m_ratio);
     const QColor color = hasFocus ? m_colors.Accent : Faded(m_colors.Accent, 150);
     if (part.Outline.IsLine) {
-        Stroke(path, 6.0, Faded(m_colors.Accent, 90));
-        Stroke(path, 1.0, Qt::white);
+        Stroke(path, 8.0, Faded(m_colors.Accent, 90));
         return;
     }
     Stroke(path, 3.5, Faded(Qt::white, 200)); // tells it from what is dark or as blue

@@ -3,13 +3,14 @@
 #include "canvas/CanvasColors.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 namespace designer {
 
 RulerSteps StepsAt(double pixels) {
     constexpr double kNumberRoom = 36.0;
-    constexpr double kTickRoom = 4.0;
+    constexpr double kTickRoom = 3.5;
     RulerSteps steps{100, 50, 10};
     for (const RulerSteps& finer : {RulerSteps{50, 10, 10}, RulerSteps{20, 10, 5}, RulerSteps{10, 5, 1},
                                     RulerSteps{5, 5, 1}, RulerSteps{2, 1, 1}, RulerSteps{1, 1, 1}}) {
@@ -31,7 +32,7 @@ Ruler::Ruler(Qt::Orientation orientation, QWidget* parent) : QWidget(parent), m_
 }
 
 int Ruler::Thickness(const QWidget& widget) {
-    return QFontMetrics(widget.font()).height() + 4;
+    return std::max(20, QFontMetrics(widget.font()).height() + 6);
 }
 
 void Ruler::Show(const PageView& view) {

@@ -1,8 +1,11 @@
 #include "canvas/TextEditor.h"
 
+#include "penlode/text/FontFace.h"
+
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QTextBlock>
 #include <algorithm>
 #include <cmath>
@@ -13,8 +16,9 @@ namespace {
 constexpr int kBorder = 2; // the frame, and as much air
 
 QFont ScreenFont(const penlode::Font& font, double pixels) {
-    QFont result(QString::fromStdWString(font.Family));
-    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.Size * pixels))));
+    QFont result(QString::fromStdWString(penlode::ResolvedFamily(font.Family)));
+    constexpr int kLeast = 11; // on a page that is drawn small a person still reads what he types
+    result.setPixelSize(std::max(kLeast, static_cast<int>(std::lround(font.Size * pixels))));
     result.setBold(font.Has(penlode::FontStyle::Bold));
     result.setItalic(font.Has(penlode::FontStyle::Italic));
     result.setUnderline(font.Has(penlode::FontStyle::Underline));
@@ -25,9 +29,8 @@ QFont ScreenFont(const penlode::Font& font, double pixels) {
 } // namespace
 
 TextEditor::TextEditor(EditedText edited, const QColor& accent, QWidget* parent)
-    : QPlainTextEdit(parent), m_edited(std::move(edited)) {
-    setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
-    setLineWidth(1);
+    : QPlainTextEdit(parent), m_edited(std::move(edited)), m_frame(accent) {
+    setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTabChangesFocus(true);
@@ -35,7 +38,6 @@ TextEditor::TextEditor(EditedText edited, const QColor& accent, QWidget* parent)
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Qt::white);
     colors.setColor(QPalette::Text, m_edited.Color);
-    colors.setColor(QPalette::WindowText, accent);
     colors.setColor(QPalette::Highlight, accent);
     colors.setColor(QPalette::HighlightedText, Qt::white);
     setPalette(colors);
@@ -72,8 +74,20 @@ void TextEditor::Grow() {
     box.moveTop(std::clamp(box.top(), 0, parentWidget()->height() - box.height()));
     // A shorter text stands in the middle of the box.
     const int air = static_cast<int>((box.height() - margins - lines * em) / 2.0);
-    setViewportMargins(0, std::max(air, 0), 0, 0);
+    setViewportMargins(kBorder, kBorder + std::max(air, 0), kBorder, kBorder);
     setGeometry(box);
+}
+
+/// The frame and the air round the text, which are the page's white.
+bool TextEditor::event(QEvent* event) {
+    if (event->type() != QEvent::Paint) {
+        return QPlainTextEdit::event(event);
+    }
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.setPen(m_frame);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    return true;
 }
 
 void TextEditor::keyPressEvent(QKeyEvent* event) {

@@ -35,6 +35,7 @@ Q_SIGNALS:
     void Finished(bool isKept, const QString& text);
 
 protected:
+    bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -44,6 +45,7 @@ private:
     void Grow();
 
     EditedText m_edited;
+    QColor m_frame;
     QRect m_least; ///< of the text as it was
     bool m_isFinished = false;
 };

@@ -206,12 +206,6 @@ std::int32_t NearestPlace(const RectF& plot, PointF point) {
     return (y < 0.0F ? kTop : kBottom).at(Third(x));
 }
 
-/// Where it would be docked; nothing for what is not.
-std::optional<std::int32_t> DockedPlace(const LaidOutChart& laidOut, const ChartPart& part, PointF by) {
-    const std::optional<Dock> dock = DockOf(laidOut, part);
-    return dock ? std::optional(NearestPlace(dock->Plot, dock->Legend.Center() + by)) : std::nullopt;
-}
-
 void ResetOffset(std::vector<PointF>& offsets, std::size_t index) {
     if (index < offsets.size()) {
         offsets[index] = {};
@@ -238,6 +232,11 @@ Mobility MobilityOf(const LaidOutChart& chart, const ChartPart& part) {
         return Mobility::Free;
     }
     return DockOf(chart, part) ? Mobility::Docked : Mobility::None;
+}
+
+std::optional<std::int32_t> DockedPlace(const LaidOutChart& laidOut, const ChartPart& part, PointF by) {
+    const std::optional<Dock> dock = DockOf(laidOut, part);
+    return dock ? std::optional(NearestPlace(dock->Plot, dock->Legend.Center() + by)) : std::nullopt;
 }
 
 void MovePart(ChartDocument& document, const LaidOutChart& chart, const ChartPart& part, PointF by) {

@@ -3,6 +3,7 @@
 #include "documents/ChartDocument.h"
 #include "foundation/ChartPart.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,11 @@ Mobility MobilityOf(const millichart::LaidOutChart& chart, const millichart::Cha
 /// that cannot be moved stays. The legend's samples and names stand for the legend.
 void MovePart(millichart::ChartDocument& document, const millichart::LaidOutChart& chart,
               const millichart::ChartPart& part, penlode::PointF by);
+
+/// To which of the legend's places such a move would bring it; nothing for what is not docked. Costs no
+/// layout.
+std::optional<std::int32_t> DockedPlace(const millichart::LaidOutChart& chart,
+                                        const millichart::ChartPart& part, penlode::PointF by);
 
 /// Where the part would stand after such a move, in mm.
 std::optional<penlode::RectF> MovedPlace(const millichart::ChartDocument& document,

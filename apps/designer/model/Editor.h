@@ -42,6 +42,8 @@ public:
 
     const std::vector<DataTable>& Tables() const { return *m_history.Current().Tables; }
 
+    std::shared_ptr<const std::vector<DataTable>> SharedTables() const { return m_history.Current().Tables; }
+
     /// Another number whenever the document may be another.
     std::uint64_t Revision() const { return m_revision; }
 

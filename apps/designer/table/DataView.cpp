@@ -7,7 +7,9 @@
 #include "table/TableModel.h"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QFontMetrics>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTimer>
@@ -130,6 +132,20 @@ bool DataView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
         editor->SetTypedOver(trigger == AnyKeyPressed);
     }
     return isOpen;
+}
+
+/// Qt opens an editor for a composition; a sign that the input method gives at once would be lost.
+void DataView::inputMethodEvent(QInputMethodEvent* event) {
+    const bool isAtOnce = event->preeditString().isEmpty() && !event->commitString().isEmpty();
+    if (isAtOnce && m_delegate->OpenEditor() == nullptr) {
+        edit(currentIndex(), AnyKeyPressed, nullptr);
+        if (CellEditor* const editor = m_delegate->OpenEditor()) {
+            editor->selectAll();
+            QCoreApplication::sendEvent(editor, event);
+        }
+        return;
+    }
+    QTableView::inputMethodEvent(event);
 }
 
 void DataView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -33,6 +33,7 @@ void EditSession::Start(Editor editor) {
     DropRecovery();
     m_editor.emplace(std::move(editor));
     Watch();
+    Q_EMIT Started();
     TellChange();
 }
 

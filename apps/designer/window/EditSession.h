@@ -56,6 +56,8 @@ public:
     void DropRecovery();
 
 Q_SIGNALS:
+    /// Another document is open; `Changed` follows.
+    void Started();
     void Changed();
     void Previewed(std::shared_ptr<const millichart::ChartDocument> document);
     /// Another program wrote or removed the file.

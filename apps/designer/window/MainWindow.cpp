@@ -2,11 +2,13 @@
 
 #include "window/PartNames.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QMenu>
 #include <QMimeData>
 #include <QSettings>
@@ -17,6 +19,8 @@
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
 
 namespace designer {
 namespace {
@@ -118,6 +122,11 @@ void MainWindow::ConnectParts() {
     connect(m_start, &StartPage::KindChosen, this, &MainWindow::StartNew);
     connect(m_start, &StartPage::FileChosen, this, &MainWindow::OpenHere);
     connect(m_start, &StartPage::OpenWanted, this, &MainWindow::AskAndOpen);
+    connect(&m_session, &EditSession::Started, this, [this] {
+        m_notice->hide();
+        m_canvas->Show(nullptr, 0);
+        m_canvas->FitPage();
+    });
     connect(&m_session, &EditSession::Changed, this, &MainWindow::Refresh);
     connect(&m_session, &EditSession::FileChangedByOthers, this, &MainWindow::TellOthersChange);
     connect(&m_session, &EditSession::Previewed, this,
@@ -189,17 +198,11 @@ void MainWindow::SwitchKind(const QString& kind) {
 
 void MainWindow::Refresh() {
     const Editor& editor = m_session.Current();
-    const QString file = QString::fromStdString(editor.File());
     if (m_stack->currentIndex() == 0) {
         m_stack->setCurrentIndex(1);
         m_dataDock->show();
         m_panelDock->show();
         m_canvas->setFocus();
-        m_canvas->FitPage();
-    }
-    if (file != m_shownFile) {
-        m_notice->hide();
-        m_shownFile = file;
     }
     m_canvas->Show(editor.Shared(), editor.Revision());
     RefreshTables();
@@ -209,8 +212,8 @@ void MainWindow::Refresh() {
 }
 
 void MainWindow::RefreshTables() {
-    const std::vector<DataTable>& tables = m_session.Current().Tables();
-    const int count = static_cast<int>(tables.size());
+    const auto tables = m_session.Current().SharedTables();
+    const int count = static_cast<int>(tables->size());
     while (m_tables->count() > count) {
         QWidget* const gone = m_tables->widget(count);
         m_tables->removeTab(count);
@@ -222,7 +225,9 @@ void MainWindow::RefreshTables() {
     const QStringList names = TableNames(m_session.Current().Document().Content);
     for (int i = 0; i < count; ++i) {
         m_tables->setTabText(i, names.value(i));
-        static_cast<DataView*>(m_tables->widget(i))->Show(tables[static_cast<std::size_t>(i)]);
+        // The table lives as long as the list that it stands in.
+        static_cast<DataView*>(m_tables->widget(i))
+            ->Show(std::shared_ptr<const DataTable>(tables, &(*tables)[static_cast<std::size_t>(i)]));
     }
     m_tables->tabBar()->setVisible(count > 1);
 }
@@ -235,7 +240,31 @@ DataView* MainWindow::AddTable() {
                          const QString& merge) {
                 m_session.ChangeTable(name, static_cast<std::size_t>(m_tables->indexOf(view)), change, merge);
             });
+    connect(view, &DataView::SelectionSummed, this, &MainWindow::TellSum);
     return view;
+}
+
+void MainWindow::TellSum(const SelectionFacts& facts) {
+    const QLocale locale;
+    m_numbers->setText(facts.Numbers < 2 ? QString()
+                                         : tr("计数 %1　合计 %2　平均 %3")
+                                               .arg(facts.Numbers)
+                                               .arg(locale.toString(facts.Sum, 'g', 10))
+                                               .arg(locale.toString(facts.Mean, 'g', 6)));
+}
+
+/// From the chart to its data, to the options, and back.
+void MainWindow::FocusNextPane() {
+    std::vector<QWidget*> panes{m_canvas, m_tables->currentWidget(), m_panel};
+    std::erase_if(panes, [](const QWidget* pane) { return pane == nullptr || !pane->isVisible(); });
+    const QWidget* const focus = QApplication::focusWidget();
+    const auto current = std::find_if(panes.begin(), panes.end(), [focus](const QWidget* pane) {
+        return pane == focus || pane->isAncestorOf(focus);
+    });
+    QWidget* const next =
+        current == panes.end() || current + 1 == panes.end() ? panes.front() : *(current + 1);
+    QWidget* const inside = next == m_panel ? m_panel->nextInFocusChain() : next;
+    inside->setFocus(Qt::ShortcutFocusReason);
 }
 
 void MainWindow::RefreshTitle() {

@@ -74,6 +74,8 @@ private:
     void RefreshTitle();
     DataView* AddTable();
     void TellHovered(const std::optional<millichart::ChartPart>& part);
+    void TellSum(const SelectionFacts& facts);
+    void FocusNextPane();
     void TellOthersChange();
     void ShowKeys();
     void ShowAbout();
@@ -99,7 +101,6 @@ private:
     QLabel* m_numbers;
     QLabel* m_size;
     QSlider* m_zoom;
-    QString m_shownFile;
 };
 
 } // namespace designer

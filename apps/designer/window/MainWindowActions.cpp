@@ -132,6 +132,8 @@ void MainWindow::MakeViewActions() {
     }
     m_dataDock->toggleViewAction()->setShortcut(QKeySequence(Qt::Key_F9));
     m_panelDock->toggleViewAction()->setShortcut(QKeySequence(Qt::Key_F10));
+    AddForChart(menu, "nextPane", tr("切换到下一窗格(&N)"), QKeySequence(Qt::Key_F6),
+                [this] { FocusNextPane(); });
     menu->addSeparator();
     QMenu* const languages = menu->addMenu(tr("语言(&L)"));
     auto* const group = new QActionGroup(this);
@@ -197,7 +199,7 @@ void MainWindow::ShowKeys() {
            "<tr><td><b>Enter</b></td><td>打开属性</td></tr>"
            "<tr><td><b>Ctrl+滚轮</b></td><td>缩放；Ctrl+0 适合窗口，Ctrl+1 实际大小</td></tr>"
            "<tr><td><b>F9、F10</b></td><td>数据表、选项</td></tr>"
-           "<tr><td><b>F6</b></td><td>在图和数据表之间切换</td></tr></table>"));
+           "<tr><td><b>F6</b></td><td>在图、数据表和选项之间切换</td></tr></table>"));
     box.exec();
 }
 

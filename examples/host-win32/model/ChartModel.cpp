@@ -29,11 +29,6 @@ std::string KeyOf(const ChartPart& part) {
            std::to_string(part.Part);
 }
 
-/// Line feeds at a text's end, which an editor does not show.
-std::size_t LengthWithoutFeeds(const std::string& text) {
-    return text.find_last_not_of('\n') + 1;
-}
-
 } // namespace
 
 ChartModel::ChartModel(designer::Editor editor) : m_editor(std::move(editor)) {
@@ -126,12 +121,9 @@ bool ChartModel::Nudge(int x, int y, bool isFar) {
     if (how == designer::Mobility::Docked) {
         constexpr float kStep = 5.0F;
         constexpr float kFarthest = 1000.0F;
-        const auto placeAfter = [&](float length) {
-            return designer::MovedPlace(m_editor.Document(), m_chart, part, times(length));
-        };
-        const auto present = placeAfter(0.0F);
+        const auto present = designer::DockedPlace(m_chart, part, {});
         float length = kStep;
-        while (length < kFarthest && placeAfter(length) == present) {
+        while (length < kFarthest && designer::DockedPlace(m_chart, part, times(length)) == present) {
             length += kStep;
         }
         by = times(length);
@@ -152,31 +144,16 @@ void ChartModel::Reset() {
 }
 
 std::optional<std::string> ChartModel::EditableText() const {
-    if (!m_selected) {
-        return std::nullopt;
-    }
-    auto text = designer::EditableText(m_editor.Document(), m_chart, m_selected->Part);
-    if (text) {
-        text->resize(LengthWithoutFeeds(*text));
-    }
-    return text;
+    return m_selected ? designer::EditableText(m_editor.Document(), m_chart, m_selected->Part) : std::nullopt;
 }
 
 void ChartModel::SetText(const std::string& text) {
-    if (!m_selected) {
+    if (EditableText().value_or(text) == text) {
         return;
     }
     const ChartPart part = m_selected->Part;
-    const auto before = designer::EditableText(m_editor.Document(), m_chart, part);
-    if (before && before->substr(0, LengthWithoutFeeds(*before)) != text) {
-        const std::string whole = text + before->substr(LengthWithoutFeeds(*before));
-        ChangeSelected("修改" + NameOf(part.Kind),
-                       [&](ChartDocument& document) { designer::SetText(document, m_chart, part, whole); });
-    }
-}
-
-std::optional<penlode::Color> ChartModel::Color() const {
-    return m_selected ? designer::ColorOf(m_editor.Document(), m_chart, m_selected->Part) : std::nullopt;
+    ChangeSelected("修改" + NameOf(part.Kind),
+                   [&](ChartDocument& document) { designer::SetText(document, m_chart, part, text); });
 }
 
 void ChartModel::SetColor(penlode::Color color) {

@@ -37,9 +37,7 @@ void CBasicCurve::AddCurves(PartSink& sink) const {
 }
 
 std::optional<PlacedPart> CBasicCurve::HitTest(penlode::PointF point, float reach) const {
-    PartFinder finder(point, reach);
-    ListParts(finder);
-    return finder.Found();
+    return FindPart(point, reach, [this](PartSink& sink) { ListParts(sink); });
 }
 
 void CBasicCurve::VisitParts(const PartVisitor& visit) const {

@@ -42,9 +42,7 @@ void CBasicHistogram::AddHorAxis(PartSink& sink) const {
 }
 
 std::optional<PlacedPart> CBasicHistogram::HitTest(penlode::PointF point, float reach) const {
-    PartFinder finder(point, reach);
-    ListParts(finder);
-    return finder.Found();
+    return FindPart(point, reach, [this](PartSink& sink) { ListParts(sink); });
 }
 
 void CBasicHistogram::VisitParts(const PartVisitor& visit) const {

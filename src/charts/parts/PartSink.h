@@ -68,4 +68,12 @@ private:
     std::optional<PlacedPart> m_ground;
 };
 
+/// The part of a chart at a point; `list` gives a sink all of its parts.
+template <class List>
+std::optional<PlacedPart> FindPart(penlode::PointF point, float reach, const List& list) {
+    PartFinder finder(point, reach);
+    list(finder);
+    return finder.Found();
+}
+
 } // namespace millichart

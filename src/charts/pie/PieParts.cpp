@@ -48,9 +48,7 @@ void CBasicHalfPieHistogram::ListParts(PartSink& sink) const {
 }
 
 std::optional<PlacedPart> CBasicPie::HitTest(PointF point, float reach) const {
-    PartFinder finder(point, reach);
-    ListParts(finder);
-    return finder.Found();
+    return FindPart(point, reach, [this](PartSink& sink) { ListParts(sink); });
 }
 
 void CBasicPie::VisitParts(const PartVisitor& visit) const {
@@ -59,9 +57,7 @@ void CBasicPie::VisitParts(const PartVisitor& visit) const {
 }
 
 std::optional<PlacedPart> CBasicHalfPie::HitTest(PointF point, float reach) const {
-    PartFinder finder(point, reach);
-    ListParts(finder);
-    return finder.Found();
+    return FindPart(point, reach, [this](PartSink& sink) { ListParts(sink); });
 }
 
 void CBasicHalfPie::VisitParts(const PartVisitor& visit) const {
@@ -70,9 +66,7 @@ void CBasicHalfPie::VisitParts(const PartVisitor& visit) const {
 }
 
 std::optional<PlacedPart> CBasicHalfPieHalfPie::HitTest(PointF point, float reach) const {
-    PartFinder finder(point, reach);
-    ListParts(finder);
-    return finder.Found();
+    return FindPart(point, reach, [this](PartSink& sink) { ListParts(sink); });
 }
 
 void CBasicHalfPieHalfPie::VisitParts(const PartVisitor& visit) const {
@@ -81,9 +75,7 @@ void CBasicHalfPieHalfPie::VisitParts(const PartVisitor& visit) const {
 }
 
 std::optional<PlacedPart> CBasicHalfPieHistogram::HitTest(PointF point, float reach) const {
-    PartFinder finder(point, reach);
-    ListParts(finder);
-    return finder.Found();
+    return FindPart(point, reach, [this](PartSink& sink) { ListParts(sink); });
 }
 
 void CBasicHalfPieHistogram::VisitParts(const PartVisitor& visit) const {

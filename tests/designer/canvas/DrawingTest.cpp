@@ -72,7 +72,8 @@ TEST(Drawing, OfSeveralDocumentsTheLatestWins) {
 
 TEST(Drawing, LaysOutOnceHoweverMuchIsScrolledAndDrawsOnlyWhatIsNew) {
     OpenCanvas canvas(Example("histogram-crude-steel"));
-    canvas->SetZoom(4.0);
+    canvas->SetZoom(8.0);
+    canvas->horizontalScrollBar()->setValue(canvas->horizontalScrollBar()->minimum());
     canvas->WaitUntilShown();
     const int laidOut = canvas->LaidOutCount();
     const int drawn = canvas->DrawnCount();
@@ -105,6 +106,10 @@ TEST(Drawing, LeavesTheInterfaceFreeForAMillionPoints) {
     }
     ASSERT_EQ(shown.size(), 1);
     EXPECT_LT(longest, 400) << "of " << clock.elapsed() << " ms";
+    QElapsedTimer turn;
+    turn.start();
+    canvas.MoveTo(canvas->ToViewport(document->Location) + QPoint(150, 150));
+    EXPECT_LT(turn.elapsed(), 400) << "pointing at a long curve";
     RecordProperty("MillisecondsUntilShown", static_cast<int>(clock.elapsed()));
 }
 
@@ -139,7 +144,7 @@ TEST(Drawing, PansByTheMiddleButtonAndBySpace) {
     const PointF page{20.0F, 20.0F};
     const QPoint before = canvas->ToViewport(page);
     canvas.Drag({300, 300}, {250, 280}, Qt::MiddleButton);
-    EXPECT_EQ(canvas->ToViewport(page), before - QPoint(50, 20));
+    EXPECT_LE((canvas->ToViewport(page) - before + QPoint(50, 20)).manhattanLength(), 2);
 
     QSignalSpy color(&canvas.Widget, &ChartCanvas::ColorWanted);
     canvas->Select(canvas.Part(millichart::PartKind::Slice).Part);
@@ -147,7 +152,7 @@ TEST(Drawing, PansByTheMiddleButtonAndBySpace) {
     QTest::keyPress(&canvas.Widget, Qt::Key_Space);
     canvas.Drag({300, 300}, {310, 330});
     QTest::keyRelease(&canvas.Widget, Qt::Key_Space);
-    EXPECT_EQ(canvas->ToViewport(page), again + QPoint(10, 30));
+    EXPECT_LE((canvas->ToViewport(page) - again - QPoint(10, 30)).manhattanLength(), 2);
     EXPECT_TRUE(color.isEmpty()) << "Space moved the page";
     QTest::keyClick(&canvas.Widget, Qt::Key_Space);
     EXPECT_EQ(color.size(), 1);

@@ -83,7 +83,7 @@ TEST(Ruler, HasNumbersAndTicksThatStandApart) {
     for (double pixels = 0.4; pixels < 70.0; pixels *= 1.3) {
         const RulerSteps steps = StepsAt(pixels);
         EXPECT_GE(steps.Numbered * pixels, 36.0);
-        EXPECT_GE(steps.Least * pixels, 4.0);
+        EXPECT_GE(steps.Least * pixels, 3.5);
         EXPECT_EQ(steps.Numbered % steps.Least, 0) << pixels;
     }
     EXPECT_EQ(StepsAt(96.0 / 25.4).Numbered, 10);

@@ -110,6 +110,11 @@ TEST(Pointing, DragsTheLegendByItsEntriesAndKeepsTheSelectionInTheNextChart) {
     QTest::mouseRelease(canvas->viewport(), Qt::LeftButton, {}, canvas.Middle(name) + QPoint(-150, 60));
     EXPECT_EQ(moves.Count, 1);
     EXPECT_EQ(MobilityOf(canvas->Shown()->Chart, moves.Part), Mobility::Docked);
+    QTest::keyClick(&canvas.Widget, Qt::Key_Down);
+    EXPECT_EQ(moves.Count, 2);
+    EXPECT_TRUE(moves.IsNudge);
+    EXPECT_NE(DockedPlace(canvas->Shown()->Chart, moves.Part, moves.By),
+              DockedPlace(canvas->Shown()->Chart, moves.Part, {}));
     canvas.Show(Example("histogram-china-summer-medals"));
     EXPECT_EQ(canvas->Selected(), name.Part);
     canvas.Show(Example("pie-oceans"));

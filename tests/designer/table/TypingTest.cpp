@@ -108,6 +108,16 @@ TEST(Typing, DoesNotTellWhatAnInputMethodComposes) {
     EXPECT_EQ(user.Changes.size(), 2U);
 }
 
+TEST(Typing, TakesASignThatTheInputMethodGivesAtOnce) {
+    TableUser user(kTexts);
+    user.GoTo(1, 1);
+    TableUser::Compose("", "缺");
+    TableUser::Compose("", "。");
+    EXPECT_EQ(user.Table.Text(1, 1), "缺。");
+    TableUser::Press(Qt::Key_Return);
+    EXPECT_EQ(user.Table.Text(1, 1), "缺。");
+}
+
 TEST(Typing, FollowsWhatOthersMakeOfTheCell) {
     TableUser user(kTexts);
     user.GoTo(0, 1);

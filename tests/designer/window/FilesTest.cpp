@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDateTime>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QMessageBox>
@@ -94,8 +95,13 @@ TEST_F(Files, DISABLED_EditUntilKilled) {
     ASSERT_TRUE(Window().Open(qEnvironmentVariable("MILLICHART_TEST_FILE")));
     TypeInto(0, 1, QStringLiteral("77"));
     TypeInto(1, 1, QStringLiteral("缺"));
-    const QString kept = qEnvironmentVariable("MILLICHART_TEST_KEPT");
-    ASSERT_TRUE(WaitUntil([&] { return !QDir(kept).entryList(QDir::Files).isEmpty(); }));
+    const QDateTime edited = QDateTime::currentDateTime();
+    const QDir kept(qEnvironmentVariable("MILLICHART_TEST_KEPT"));
+    ASSERT_TRUE(WaitUntil([&] {
+        const QFileInfoList files = kept.entryInfoList({QStringLiteral("*.kept")}, QDir::Files);
+        return !files.isEmpty() && files.front().lastModified() > edited;
+    }));
+    EXPECT_LT(edited.msecsTo(QDateTime::currentDateTime()), 10000);
     QFile sign(qEnvironmentVariable("MILLICHART_TEST_SIGN"));
     ASSERT_TRUE(sign.open(QIODevice::WriteOnly));
     sign.close();
