@@ -24,6 +24,23 @@ ChartPart Moving(const ChartPart& part) {
     return IsLegendEntry(part) ? ChartPart{PartKind::Legend, 0, 0, part.Part} : part;
 }
 
+PointF Times(PointF direction, float length) {
+    return {direction.X * length, direction.Y * length};
+}
+
+/// So far that way that a docked part comes to another place, if there is one.
+PointF ToNextPlace(const millichart::LaidOutChart& chart, const ChartPart& part, PointF direction) {
+    constexpr float kStep = 5.0F;
+    constexpr float kFarthest = 1000.0F;
+    const auto present = designer::DockedPlace(chart, part, {});
+    float length = kStep;
+    while (length < kFarthest && designer::DockedPlace(chart, part, Times(direction, length)) == present) {
+        length += kStep;
+    }
+    return Times(direction, length);
+}
+
+/// Steps of one part are one change.
 std::string KeyOf(const ChartPart& part) {
     return "nudge " + std::to_string(static_cast<int>(part.Kind)) + ' ' + std::to_string(part.Index) + ' ' +
            std::to_string(part.Part);
@@ -114,20 +131,9 @@ bool ChartModel::Nudge(int x, int y, bool isFar) {
     }
     Cancel();
     const ChartPart part = m_selected->Part;
-    const auto times = [x, y](float length) {
-        return PointF{static_cast<float>(x) * length, static_cast<float>(y) * length};
-    };
-    PointF by = times(isFar ? 1.0F : 0.1F);
-    if (how == designer::Mobility::Docked) {
-        constexpr float kStep = 5.0F;
-        constexpr float kFarthest = 1000.0F;
-        const auto present = designer::DockedPlace(m_chart, part, {});
-        float length = kStep;
-        while (length < kFarthest && designer::DockedPlace(m_chart, part, times(length)) == present) {
-            length += kStep;
-        }
-        by = times(length);
-    }
+    const PointF direction{static_cast<float>(x), static_cast<float>(y)};
+    const PointF by = how == designer::Mobility::Docked ? ToNextPlace(m_chart, part, direction)
+                                                        : Times(direction, isFar ? 1.0F : 0.1F);
     ChangeSelected(
         "移动" + NameOf(Moving(part).Kind),
         [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); }, KeyOf(part));
@@ -154,6 +160,10 @@ void ChartModel::SetText(const std::string& text) {
     const ChartPart part = m_selected->Part;
     ChangeSelected("修改" + NameOf(part.Kind),
                    [&](ChartDocument& document) { designer::SetText(document, m_chart, part, text); });
+}
+
+std::optional<penlode::Color> ChartModel::Color() const {
+    return m_selected ? designer::ColorOf(m_editor.Document(), m_chart, m_selected->Part) : std::nullopt;
 }
 
 void ChartModel::SetColor(penlode::Color color) {
