@@ -103,6 +103,10 @@ void ChartModel::DragTo(PointF point) {
     }
 }
 
+std::string ChartModel::MovingName() const {
+    return NameOf(Moving(m_selected->Part).Kind);
+}
+
 RectF ChartModel::MovingPlace() const {
     return designer::MovedPlace(m_editor.Document(), m_chart, m_selected->Part, {}).value_or(m_selected->Box);
 }
@@ -113,7 +117,7 @@ void ChartModel::Drop() {
     Cancel();
     if (isMoved) {
         const ChartPart part = m_selected->Part;
-        ChangeSelected("移动" + NameOf(Moving(part).Kind),
+        ChangeSelected("移动" + MovingName(),
                        [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); });
     }
 }
@@ -135,7 +139,7 @@ bool ChartModel::Nudge(int x, int y, bool isFar) {
     const PointF by = how == designer::Mobility::Docked ? ToNextPlace(m_chart, part, direction)
                                                         : Times(direction, isFar ? 1.0F : 0.1F);
     ChangeSelected(
-        "移动" + NameOf(Moving(part).Kind),
+        "移动" + MovingName(),
         [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); }, KeyOf(part));
     return true;
 }
@@ -144,7 +148,7 @@ void ChartModel::Reset() {
     Cancel();
     if (m_selected) {
         const ChartPart part = m_selected->Part;
-        ChangeSelected(NameOf(Moving(part).Kind) + "复位",
+        ChangeSelected(MovingName() + "复位",
                        [&](ChartDocument& document) { designer::ResetPart(document, m_chart, part); });
     }
 }
