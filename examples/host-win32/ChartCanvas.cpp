@@ -39,13 +39,19 @@ void ChartCanvas::Show(ChartModel& model) {
     m_hovered.reset();
     m_model = &model;
     m_page.Forget();
-    m_view.ShowSheet(model.Sheet());
+    m_kind = nullptr;
     Update();
 }
 
-/// A part under the mouse may be another one now.
+/// A part under the mouse may be another one now. A chart of another kind is looked at anew.
 void ChartCanvas::Update() {
-    m_view.UpdateSheet(m_model->Sheet());
+    const millichart::ChartKind* const kind = millichart::KindOf(m_model->Editor().Document().Content);
+    if (kind == m_kind) {
+        m_view.UpdateSheet(m_model->Sheet());
+    } else {
+        m_view.ShowSheet(m_model->Sheet());
+    }
+    m_kind = kind;
     m_hovered.reset();
     UpdateScrollBars();
     InvalidateRect(Handle(), nullptr, FALSE);

@@ -69,6 +69,7 @@ private:
 
     std::function<void()> m_onChange;
     ChartModel* m_model = nullptr;
+    const millichart::ChartKind* m_kind = nullptr; ///< that is shown; null before the first is
     PageView m_view;
     PageBuffer m_page;
     MemoryBitmap m_frame; ///< what is shown next, page and frames

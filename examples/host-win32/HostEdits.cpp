@@ -131,7 +131,7 @@ void HostWindow::EditData() {
 void HostWindow::SwitchKind(std::size_t kind) {
     PutDown();
     m_model->SwitchKind(millichart::ChartKinds()[kind]);
-    m_canvas->Show(*m_model);
+    m_canvas->Update();
 }
 
 void HostWindow::PrepareMenu(HMENU menu) const {

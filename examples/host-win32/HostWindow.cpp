@@ -184,7 +184,9 @@ void HostWindow::ShowState() const {
 std::wstring HostWindow::StatusText() const {
     const auto& selected = m_model->Selected();
     if (selected && m_model->IsMoving()) {
-        return Wide(m_model->DescriptionOf(selected->Part)) + L"　" + MovementText(m_model->Movement());
+        const bool isDocked = m_model->MobilityOf(selected->Part) == designer::Mobility::Docked;
+        return Wide(m_model->MovingName()) + L"　" +
+               (isDocked ? L"松开鼠标，就停靠在框里" : MovementText(m_model->Movement()));
     }
     const auto& named = m_canvas->Hovered() ? m_canvas->Hovered() : selected;
     return named ? Wide(m_model->DescriptionOf(named->Part))

@@ -12,7 +12,7 @@ constexpr COLORREF kAccent = RGB(0x00, 0x5F, 0xB8);
 constexpr COLORREF kFaint = RGB(0x8F, 0xBC, 0xE6);
 
 /// So many pixels beside the part at 96 dpi, so that the frame does not touch its texts.
-constexpr double kDistance = 3.0;
+constexpr double kDistance = 2.0;
 
 int Pixels(double at96, const PageView& view) {
     return static_cast<int>(std::lround(at96 * view.Dpi() / 96.0));
@@ -56,7 +56,7 @@ void DrawOverlay(HDC context, const ChartModel& model, const std::optional<milli
         DrawShadow(context, model.MovingPlace(), *outline, view);
         DrawFrame(context, *outline, view, kAccent, 2.0);
     }
-    DrawFrame(context, selected->Box, view, kAccent, 1.0);
+    DrawFrame(context, model.IsMoving() ? model.MovingPlace() : selected->Box, view, kAccent, 1.0);
 }
 
 } // namespace host

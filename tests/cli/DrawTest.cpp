@@ -264,7 +264,6 @@ TEST_F(Draw, WrongUsageIsStatusTwo) {
     EXPECT_EQ(
         Run("millichart draw a.json --dpi 5").Errors,
         "millichart: --dpi: found \"5\", expected a number from 10 to 2400; millichart --help tells more\n");
-    EXPECT_EQ(
-        Run("millichart drw a.json").Errors,
-        "millichart: found \"drw\", expected draw, new, check, inspect or edit; millichart --help tells more\n");
+    EXPECT_EQ(Run("millichart drw a.json").Errors, "millichart: found \"drw\", expected draw, new, check, "
+                                                   "inspect or edit; millichart --help tells more\n");
 }

@@ -15,15 +15,6 @@ bool IsCaption(PartKind kind) {
     return kind == PartKind::Caption || kind == PartKind::VerCaption || kind == PartKind::HorCaption;
 }
 
-/// Line feeds at a text's end, which a person would take for a mistake of the editor's.
-qsizetype LengthWithoutFeeds(const QString& text) {
-    qsizetype length = text.size();
-    while (length > 0 && text.at(length - 1) == u'\n') {
-        --length;
-    }
-    return length;
-}
-
 } // namespace
 
 bool ChartCanvas::HasEditableText(const ChartPart& part) const {
@@ -45,24 +36,21 @@ bool ChartCanvas::EditText(const ChartPart& part) {
     edited.Font = look->Font;
     edited.Color = QColor::fromRgb(look->Color.Argb);
     delete m_state->Editor;
-    const QString text = QString::fromStdString(*EditableText(*shown->Document, shown->Chart, part));
-    const QString feeds = text.mid(LengthWithoutFeeds(text));
-    edited.Text = text.chopped(feeds.size());
+    edited.Text = QString::fromStdString(*EditableText(*shown->Document, shown->Chart, part));
     edited.HasLines = IsCaption(part.Kind) || edited.Text.contains(u'\n');
     const QString before = edited.Text;
     Select(part);
     auto* editor = new TextEditor(std::move(edited), ColorsOf(palette()).Accent, viewport());
     editor->setAccessibleName(tr("编辑文字"));
     m_state->Editor = editor;
-    connect(editor, &TextEditor::Finished, this,
-            [this, part, before, feeds](bool isKept, const QString& now) {
-                m_state->Editor = nullptr;
-                setFocus();
-                viewport()->update();
-                if (isKept && now != before) {
-                    Q_EMIT TextEdited(part, now + feeds);
-                }
-            });
+    connect(editor, &TextEditor::Finished, this, [this, part, before](bool isKept, const QString& now) {
+        m_state->Editor = nullptr;
+        setFocus();
+        viewport()->update();
+        if (isKept && now != before) {
+            Q_EMIT TextEdited(part, now);
+        }
+    });
     editor->Follow(m_state->Page.View().PixelsPerMillimetre() / devicePixelRatioF(),
                    [this](const auto& box) { return ToViewport(box); });
     editor->show();

@@ -24,14 +24,26 @@ ChartPart Moving(const ChartPart& part) {
     return IsLegendEntry(part) ? ChartPart{PartKind::Legend, 0, 0, part.Part} : part;
 }
 
+PointF Times(PointF direction, float length) {
+    return {direction.X * length, direction.Y * length};
+}
+
+/// So far that way that a docked part comes to another place, if there is one.
+PointF ToNextPlace(const millichart::LaidOutChart& chart, const ChartPart& part, PointF direction) {
+    constexpr float kStep = 5.0F;
+    constexpr float kFarthest = 1000.0F;
+    const auto present = designer::DockedPlace(chart, part, {});
+    float length = kStep;
+    while (length < kFarthest && designer::DockedPlace(chart, part, Times(direction, length)) == present) {
+        length += kStep;
+    }
+    return Times(direction, length);
+}
+
+/// Steps of one part are one change.
 std::string KeyOf(const ChartPart& part) {
     return "nudge " + std::to_string(static_cast<int>(part.Kind)) + ' ' + std::to_string(part.Index) + ' ' +
            std::to_string(part.Part);
-}
-
-/// Line feeds at a text's end, which an editor does not show.
-std::size_t LengthWithoutFeeds(const std::string& text) {
-    return text.find_last_not_of('\n') + 1;
 }
 
 } // namespace
@@ -91,17 +103,21 @@ void ChartModel::DragTo(PointF point) {
     }
 }
 
+std::string ChartModel::MovingName() const {
+    return NameOf(Moving(m_selected->Part).Kind);
+}
+
 RectF ChartModel::MovingPlace() const {
     return designer::MovedPlace(m_editor.Document(), m_chart, m_selected->Part, {}).value_or(m_selected->Box);
 }
 
 void ChartModel::Drop() {
-    const bool isMoved = IsMoving();
     const PointF by = m_movement;
+    const bool isMoved = IsMoving() && by != PointF{}; // else labels would get offsets of 0
     Cancel();
     if (isMoved) {
         const ChartPart part = m_selected->Part;
-        ChangeSelected("移动" + NameOf(Moving(part).Kind),
+        ChangeSelected("移动" + MovingName(),
                        [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); });
     }
 }
@@ -119,25 +135,11 @@ bool ChartModel::Nudge(int x, int y, bool isFar) {
     }
     Cancel();
     const ChartPart part = m_selected->Part;
-    const auto times = [x, y](float length) {
-        return PointF{static_cast<float>(x) * length, static_cast<float>(y) * length};
-    };
-    PointF by = times(isFar ? 1.0F : 0.1F);
-    if (how == designer::Mobility::Docked) {
-        constexpr float kStep = 5.0F;
-        constexpr float kFarthest = 1000.0F;
-        const auto placeAfter = [&](float length) {
-            return designer::MovedPlace(m_editor.Document(), m_chart, part, times(length));
-        };
-        const auto present = placeAfter(0.0F);
-        float length = kStep;
-        while (length < kFarthest && placeAfter(length) == present) {
-            length += kStep;
-        }
-        by = times(length);
-    }
+    const PointF direction{static_cast<float>(x), static_cast<float>(y)};
+    const PointF by = how == designer::Mobility::Docked ? ToNextPlace(m_chart, part, direction)
+                                                        : Times(direction, isFar ? 1.0F : 0.1F);
     ChangeSelected(
-        "移动" + NameOf(Moving(part).Kind),
+        "移动" + MovingName(),
         [&](ChartDocument& document) { designer::MovePart(document, m_chart, part, by); }, KeyOf(part));
     return true;
 }
@@ -146,33 +148,22 @@ void ChartModel::Reset() {
     Cancel();
     if (m_selected) {
         const ChartPart part = m_selected->Part;
-        ChangeSelected(NameOf(Moving(part).Kind) + "复位",
+        ChangeSelected(MovingName() + "复位",
                        [&](ChartDocument& document) { designer::ResetPart(document, m_chart, part); });
     }
 }
 
 std::optional<std::string> ChartModel::EditableText() const {
-    if (!m_selected) {
-        return std::nullopt;
-    }
-    auto text = designer::EditableText(m_editor.Document(), m_chart, m_selected->Part);
-    if (text) {
-        text->resize(LengthWithoutFeeds(*text));
-    }
-    return text;
+    return m_selected ? designer::EditableText(m_editor.Document(), m_chart, m_selected->Part) : std::nullopt;
 }
 
 void ChartModel::SetText(const std::string& text) {
-    if (!m_selected) {
+    if (EditableText().value_or(text) == text) {
         return;
     }
     const ChartPart part = m_selected->Part;
-    const auto before = designer::EditableText(m_editor.Document(), m_chart, part);
-    if (before && before->substr(0, LengthWithoutFeeds(*before)) != text) {
-        const std::string whole = text + before->substr(LengthWithoutFeeds(*before));
-        ChangeSelected("修改" + NameOf(part.Kind),
-                       [&](ChartDocument& document) { designer::SetText(document, m_chart, part, whole); });
-    }
+    ChangeSelected("修改" + NameOf(part.Kind),
+                   [&](ChartDocument& document) { designer::SetText(document, m_chart, part, text); });
 }
 
 std::optional<penlode::Color> ChartModel::Color() const {

@@ -61,7 +61,9 @@ public:
     /// How far the selected part is on its way.
     penlode::PointF Movement() const { return m_movement; }
 
-    /// What moves when the selected part is dragged, where it stands now: entries take their legend along.
+    /// Of what moves when the selected part is dragged: "图例"
+    std::string MovingName() const;
+    /// Where that stands now: entries take their legend along.
     penlode::RectF MovingPlace() const;
 
     /// Where the selected part would come to stand; none when it is not moving.
