@@ -9,7 +9,7 @@ namespace host {
 namespace {
 
 constexpr COLORREF kAccent = RGB(0x00, 0x5F, 0xB8);
-constexpr COLORREF kFaint = RGB(0x8F, 0xBC, 0xE6);
+constexpr COLORREF kFaint = RGB(0x5B, 0x9B, 0xD5);
 
 /// So many pixels beside the part at 96 dpi, so that the frame does not touch its texts.
 constexpr double kDistance = 2.0;
