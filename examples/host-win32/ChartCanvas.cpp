@@ -101,6 +101,9 @@ LRESULT ChartCanvas::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_KEYDOWN:
         return OnKey(wParam) ? 0 : Default(message, wParam, lParam);
+    case WM_CHAR:
+        OnTyped(wParam);
+        return 0;
     default:
         return Default(message, wParam, lParam);
     }
@@ -153,6 +156,16 @@ void ChartCanvas::EditText() {
         Update();
         m_edit = std::make_unique<InPlaceEdit>(Handle(), Wide(*text), *look, m_view.PixelsPerMillimetre(),
                                                m_view.ToWindow(look->Box));
+    }
+}
+
+/// What is typed takes the selected text's place; blanks and control characters are commands.
+void ChartCanvas::OnTyped(WPARAM character) {
+    if (character > L' ' && character != 0x7F) {
+        EditText();
+        if (m_edit != nullptr) {
+            SendMessageW(m_edit->Handle(), WM_CHAR, character, 1);
+        }
     }
 }
 

@@ -58,6 +58,7 @@ private:
     void OnScrollBar(int bar, WPARAM wParam);
     bool OnKey(WPARAM key);
     bool OnArrow(WPARAM key);
+    void OnTyped(WPARAM character);
     void Hover(std::optional<millichart::PlacedPart> part);
     std::optional<millichart::PlacedPart> PartAt(PixelPoint point) const;
     float Reach() const;
