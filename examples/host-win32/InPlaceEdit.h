@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Handles.h"
-#include "model/PageView.h"
+#include "PagePixels.h"
 #include "model/PartLook.h"
 
 #include <string>

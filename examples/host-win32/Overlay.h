@@ -1,7 +1,7 @@
 #pragma once
 
+#include "PagePixels.h"
 #include "model/ChartModel.h"
-#include "model/PageView.h"
 
 #include <optional>
 #include <windows.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Handles.h"
+#include "PagePixels.h"
 #include "model/ChartModel.h"
-#include "model/PageView.h"
 
 namespace host {
 

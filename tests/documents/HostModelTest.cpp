@@ -1,6 +1,5 @@
 // The part of examples/host-win32 that knows no window.
 #include "model/ChartModel.h"
-#include "model/PageView.h"
 #include "model/PrintedPage.h"
 #include "model/TableCells.h"
 
@@ -189,65 +188,6 @@ TEST(HostModelTest, CellsComeBackIntoTheTableWithWhatTheUserMadeOfThem) {
     EXPECT_EQ(table.ColumnCount(), before.ColumnCount() + 1);
     EXPECT_EQ(table.Text(1, before.ColumnCount()), "7");
     EXPECT_EQ(table.RowCount(), before.RowCount() - 1);
-}
-
-PageView Shown(const RectF& sheet) {
-    PageView view;
-    view.SetDpi(254.0); // 10 pixels a mm
-    view.SetWindow(400, 300);
-    view.ShowSheet(sheet);
-    return view;
-}
-
-TEST(HostModelTest, ASmallSheetStandsInTheMiddleAndStaysWhenItChanges) {
-    PageView view = Shown({5.0F, 5.0F, 20.0F, 10.0F});
-    EXPECT_EQ(view.ToWindow(view.Sheet()), (PixelRect{100, 100, 300, 200}));
-    view.UpdateSheet({4.0F, 5.0F, 21.0F, 10.0F});
-    EXPECT_EQ(view.ToWindow(view.Sheet()), (PixelRect{90, 100, 300, 200}));
-    view.SetWindow(600, 300);
-    EXPECT_EQ(view.ToWindow(view.Sheet()), (PixelRect{195, 100, 405, 200}));
-}
-
-TEST(HostModelTest, WhatIsUnderTheMouseStaysThereInAZoom) {
-    PageView view = Shown({0.0F, 0.0F, 200.0F, 100.0F});
-    view.ScrollBy(800, 300);
-    const PixelPoint mouse{120, 210};
-    const PointF kept = view.ToPage(mouse);
-    for (const int direction : {1, 1, 1, -1, 1}) {
-        view.SetZoom(NextZoom(view.Zoom(), direction), mouse);
-        EXPECT_LT(std::hypot(view.ToPage(mouse).X - kept.X, view.ToPage(mouse).Y - kept.Y), 0.2);
-    }
-    view.SetZoom(99.0, mouse);
-    EXPECT_EQ(view.Zoom(), kMaxZoom);
-    EXPECT_EQ(NextZoom(kMaxZoom, 1), kMaxZoom);
-    EXPECT_EQ(NextZoom(kMinZoom, -1), kMinZoom);
-    EXPECT_EQ(NextZoom(0.8, 1), 0.9);
-    EXPECT_EQ(NextZoom(0.8, -1), 0.75);
-}
-
-TEST(HostModelTest, ScrollingEndsBesideTheSheetAndRevealsWithTheLeastMove) {
-    PageView view = Shown({0.0F, 0.0F, 200.0F, 20.0F});
-    view.ScrollBy(-5000, 0);
-    EXPECT_EQ(view.Scroll().X, view.ScrollRange().Left);
-    view.Reveal({50.0F, 5.0F, 10.0F, 2.0F});
-    EXPECT_GE(view.VisibleArea().Right, 600);
-    EXPECT_LT(view.VisibleArea().Right, 650);
-    const PixelPoint before = view.Scroll();
-    view.Reveal({55.0F, 5.0F, 1.0F, 2.0F});
-    EXPECT_EQ(view.Scroll(), before);
-    view.ScrollBy(5000, 0);
-    EXPECT_EQ(view.VisibleArea().Right, view.ScrollRange().Right);
-}
-
-TEST(HostModelTest, DrawnAheadIsAtMostFourWindowsOfTheSheet) {
-    PageView view = Shown({0.0F, 0.0F, 200.0F, 20.0F});
-    EXPECT_EQ(AreaToDraw(view).Height(), 200);
-    for (const int dx : {0, 300, 300, 5000}) {
-        view.ScrollBy(dx, 0);
-        EXPECT_LE(AreaToDraw(view).Width(), 800);
-        EXPECT_TRUE(view.SheetPixels().Contains(AreaToDraw(view)));
-        EXPECT_LE(AreaToDraw(view).Left, std::max(0, view.VisibleArea().Left));
-    }
 }
 
 TEST(HostModelTest, APrintedChartKeepsItsSizeUnlessThePaperIsTooSmall) {

@@ -38,7 +38,7 @@ std::optional<PlacedPart> ChartCanvas::PartAt(QPointF inViewport) const {
     const double ratio = devicePixelRatioF();
     const double reach = kReachPixels * ratio / m_state->Page.View().PixelsPerMillimetre();
     const penlode::PointF place =
-        m_state->Page.View().ToPage({inViewport.x() * ratio, inViewport.y() * ratio});
+        m_state->Page.View().ToPage(penlode::PointD{inViewport.x() * ratio, inViewport.y() * ratio});
     return shown->Chart.HitTest(place, std::min(static_cast<float>(reach), 4.0F));
 }
 

@@ -117,7 +117,7 @@ QPoint ChartCanvas::ToViewport(penlode::PointF onPage) const {
 
 penlode::PointF ChartCanvas::ToPage(QPoint inViewport) const {
     const QPointF place = QPointF(inViewport) * devicePixelRatioF();
-    return m_state->Page.View().ToPage({place.x(), place.y()});
+    return m_state->Page.View().ToPage(penlode::PointD{place.x(), place.y()});
 }
 
 QRect ChartCanvas::ToViewport(const penlode::RectF& onPage) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/PageView.h"
+#include "model/PageView.h"
 
 #include <QWidget>
 #include <optional>

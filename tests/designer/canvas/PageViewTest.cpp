@@ -1,4 +1,4 @@
-#include "canvas/PageView.h"
+#include "model/PageView.h"
 
 #include "canvas/Ruler.h"
 
@@ -37,10 +37,10 @@ TEST(PageView, KeepsWhatIsUnderTheAnchorWhileZooming) {
     PageView view = View(96.0, {0.0F, 0.0F, 400.0F, 300.0F});
     view.SetZoom(2.0, {400, 300});
     const PixelPoint anchor{530, 211};
-    const PointF before = view.ToPage({530.0, 211.0});
+    const PointF before = view.ToPage(PointD{530.0, 211.0});
     for (int step = 0; step < 4; ++step) {
         view.SetZoom(NextZoom(view.Zoom(), 1), anchor);
-        const PointF now = view.ToPage({530.0, 211.0});
+        const PointF now = view.ToPage(PointD{530.0, 211.0});
         const double pixel = 1.0 / view.PixelsPerMillimetre();
         EXPECT_NEAR(now.X, before.X, 3.0 * pixel);
         EXPECT_NEAR(now.Y, before.Y, 3.0 * pixel);
@@ -50,6 +50,10 @@ TEST(PageView, KeepsWhatIsUnderTheAnchorWhileZooming) {
     EXPECT_EQ(view.Zoom(), kMaxZoom);
     view.SetZoom(0.0, anchor);
     EXPECT_EQ(view.Zoom(), kMinZoom);
+    EXPECT_EQ(NextZoom(kMaxZoom, 1), kMaxZoom);
+    EXPECT_EQ(NextZoom(kMinZoom, -1), kMinZoom);
+    EXPECT_EQ(NextZoom(0.8, 1), 0.9);
+    EXPECT_EQ(NextZoom(0.8, -1), 0.75);
 }
 
 TEST(PageView, FitsAllOfTheSheetAndKeepsItInPlaceAfterAChange) {
@@ -65,6 +69,35 @@ TEST(PageView, FitsAllOfTheSheetAndKeepsItInPlaceAfterAChange) {
     view.UpdateSheet({4.0F, 20.0F, 506.0F, 95.0F});
     EXPECT_NEAR(view.ToWindow(PointF{30.0F, 40.0F}).X, before.X, 25.0);
     EXPECT_EQ(view.ToWindow(PointF{30.0F, 40.0F}).Y, before.Y);
+}
+
+TEST(PageView, ASmallSheetStaysWhereItIsWhenItChanges) {
+    PageView view;
+    view.SetDpi(254.0); // 10 pixels a mm
+    view.SetWindow(400, 300);
+    view.ShowSheet({5.0F, 5.0F, 20.0F, 10.0F});
+    EXPECT_EQ(view.ToWindow(view.Sheet()), (PixelRect{100, 100, 300, 200}));
+    view.UpdateSheet({4.0F, 5.0F, 21.0F, 10.0F});
+    EXPECT_EQ(view.ToWindow(view.Sheet()), (PixelRect{90, 100, 300, 200}));
+    view.SetWindow(600, 300);
+    EXPECT_EQ(view.ToWindow(view.Sheet()), (PixelRect{195, 100, 405, 200}));
+}
+
+TEST(PageView, ScrollingEndsBesideTheSheetAndRevealsWithTheLeastMove) {
+    PageView view;
+    view.SetDpi(254.0);
+    view.SetWindow(400, 300);
+    view.ShowSheet({0.0F, 0.0F, 200.0F, 20.0F});
+    view.ScrollBy(-5000, 0);
+    EXPECT_EQ(view.Scroll().X, view.ScrollRange().Left);
+    view.Reveal({50.0F, 5.0F, 10.0F, 2.0F});
+    EXPECT_GE(view.VisibleArea().Right, 600);
+    EXPECT_LT(view.VisibleArea().Right, 650);
+    const PixelPoint before = view.Scroll();
+    view.Reveal({55.0F, 5.0F, 1.0F, 2.0F});
+    EXPECT_EQ(view.Scroll(), before);
+    view.ScrollBy(5000, 0);
+    EXPECT_EQ(view.VisibleArea().Right, view.ScrollRange().Right);
 }
 
 TEST(PageView, DrawsAheadWithinTheSheetAlone) {

@@ -6,16 +6,14 @@
 #include <array>
 #include <cmath>
 
-namespace host {
+namespace designer {
 namespace {
 
+using penlode::PointD;
 using penlode::PointF;
 using penlode::RectF;
 
 constexpr std::array kZooms{0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0, 6.0, 8.0};
-
-/// Pixels of the desk beside a sheet that is larger than the window.
-constexpr int kGap = 16;
 
 int Nearest(double pixels) {
     return static_cast<int>(std::lround(pixels));
@@ -25,6 +23,12 @@ int Nearest(double pixels) {
 int Kept(int scroll, int from, int to, int window) {
     const auto [least, most] = std::minmax({from, to - window});
     return std::clamp(scroll, least, most);
+}
+
+PixelRect Common(const PixelRect& a, const PixelRect& b) {
+    const int left = std::clamp(a.Left, b.Left, b.Right);
+    const int top = std::clamp(a.Top, b.Top, b.Bottom);
+    return {left, top, std::clamp(a.Right, left, b.Right), std::clamp(a.Bottom, top, b.Bottom)};
 }
 
 } // namespace
@@ -41,24 +45,40 @@ double NextZoom(double zoom, int direction) {
     return next == kZooms.rend() ? kMinZoom : *next;
 }
 
+void PageView::SetGap(int pixels) {
+    m_gap = pixels;
+    Centre();
+}
+
+void PageView::SetDpi(double dpi) {
+    const double ratio = dpi / m_dpi;
+    const PixelPoint middle = Middle();
+    m_dpi = dpi;
+    m_scroll = {Nearest((m_scroll.X + middle.X) * ratio) - middle.X,
+                Nearest((m_scroll.Y + middle.Y) * ratio) - middle.Y};
+    Centre();
+}
+
 double PageView::PixelsPerMillimetre() const {
     return m_dpi * m_zoom / penlode::kMillimetresPerInch;
 }
 
-void PageView::SetDpi(double dpi) {
+void PageView::SetZoom(double zoom, PixelPoint anchor) {
     const double before = PixelsPerMillimetre();
-    m_dpi = dpi;
+    m_zoom = std::clamp(zoom, kMinZoom, kMaxZoom);
     const double ratio = PixelsPerMillimetre() / before;
-    m_scroll = {Nearest(m_scroll.X * ratio), Nearest(m_scroll.Y * ratio)};
+    m_scroll = {Nearest((m_scroll.X + anchor.X) * ratio) - anchor.X,
+                Nearest((m_scroll.Y + anchor.Y) * ratio) - anchor.Y};
     Centre();
 }
 
-void PageView::SetZoom(double zoom, PixelPoint anchor) {
-    const PointF kept = ToPage(anchor);
-    m_zoom = std::clamp(zoom, kMinZoom, kMaxZoom);
-    m_scroll = {Nearest(kept.X * PixelsPerMillimetre()) - anchor.X,
-                Nearest(kept.Y * PixelsPerMillimetre()) - anchor.Y};
-    Centre();
+void PageView::Fit() {
+    const double pixelsPerMillimetre = m_dpi / penlode::kMillimetresPerInch;
+    const double wide = std::max(m_sheet.Width, 1.0F) * pixelsPerMillimetre;
+    const double high = std::max(m_sheet.Height, 1.0F) * pixelsPerMillimetre;
+    const double most = std::min((m_width - 2 * m_gap) / wide, (m_height - 2 * m_gap) / high);
+    m_zoom = std::clamp(most, kMinZoom, kMaxZoom);
+    ShowSheet(m_sheet);
 }
 
 void PageView::SetWindow(int width, int height) {
@@ -85,14 +105,14 @@ void PageView::ScrollBy(int dx, int dy) {
 
 void PageView::Reveal(const RectF& place) {
     const PixelRect shown = Rounded(place);
-    m_scroll = {Kept(m_scroll.X, shown.Left - kGap, shown.Right + kGap, m_width),
-                Kept(m_scroll.Y, shown.Top - kGap, shown.Bottom + kGap, m_height)};
+    m_scroll = {Kept(m_scroll.X, shown.Left - m_gap, shown.Right + m_gap, m_width),
+                Kept(m_scroll.Y, shown.Top - m_gap, shown.Bottom + m_gap, m_height)};
     KeepInRange();
 }
 
 PixelRect PageView::ScrollRange() const {
     const PixelRect sheet = SheetPixels();
-    return {sheet.Left - kGap, sheet.Top - kGap, sheet.Right + kGap, sheet.Bottom + kGap};
+    return {sheet.Left - m_gap, sheet.Top - m_gap, sheet.Right + m_gap, sheet.Bottom + m_gap};
 }
 
 PixelRect PageView::VisibleArea() const {
@@ -103,7 +123,7 @@ PixelRect PageView::SheetPixels() const {
     return Rounded(m_sheet);
 }
 
-PointF PageView::ToPage(PixelPoint inWindow) const {
+PointF PageView::ToPage(PointD inWindow) const {
     return {static_cast<float>((inWindow.X + m_scroll.X) / PixelsPerMillimetre()),
             static_cast<float>((inWindow.Y + m_scroll.Y) / PixelsPerMillimetre())};
 }
@@ -111,6 +131,10 @@ PointF PageView::ToPage(PixelPoint inWindow) const {
 PixelRect PageView::ToWindow(const RectF& onPage) const {
     const PixelRect page = Rounded(onPage);
     return {page.Left - m_scroll.X, page.Top - m_scroll.Y, page.Right - m_scroll.X, page.Bottom - m_scroll.Y};
+}
+
+PointD PageView::ToWindow(PointF onPage) const {
+    return {onPage.X * PixelsPerMillimetre() - m_scroll.X, onPage.Y * PixelsPerMillimetre() - m_scroll.Y};
 }
 
 PixelRect PageView::Rounded(const RectF& onPage) const {
@@ -138,13 +162,14 @@ void PageView::KeepInRange() {
 
 PixelRect AreaToDraw(const PageView& view) {
     const PixelRect seen = view.VisibleArea();
-    const PixelRect sheet = view.SheetPixels();
-    const int aheadX = seen.Width() / 2;
-    const int aheadY = seen.Height() / 2;
-    const int left = std::clamp(seen.Left - aheadX, sheet.Left, sheet.Right);
-    const int top = std::clamp(seen.Top - aheadY, sheet.Top, sheet.Bottom);
-    return {left, top, std::clamp(seen.Right + aheadX, left, sheet.Right),
-            std::clamp(seen.Bottom + aheadY, top, sheet.Bottom)};
+    const int aheadX = seen.Width() / 4;
+    const int aheadY = seen.Height() / 4;
+    return Common({seen.Left - aheadX, seen.Top - aheadY, seen.Right + aheadX, seen.Bottom + aheadY},
+                  view.SheetPixels());
 }
 
-} // namespace host
+PixelRect AreaInSight(const PageView& view) {
+    return Common(view.VisibleArea(), view.SheetPixels());
+}
+
+} // namespace designer

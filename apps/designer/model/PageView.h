@@ -91,6 +91,11 @@ public:
     PixelRect SheetPixels() const;
 
     penlode::PointF ToPage(penlode::PointD inWindow) const;
+
+    penlode::PointF ToPage(PixelPoint inWindow) const {
+        return ToPage(penlode::PointD{static_cast<double>(inWindow.X), static_cast<double>(inWindow.Y)});
+    }
+
     /// In whole pixels, as the sheet is.
     PixelRect ToWindow(const penlode::RectF& onPage) const;
     penlode::PointD ToWindow(penlode::PointF onPage) const;
