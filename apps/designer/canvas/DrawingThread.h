@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/PageView.h"
 #include "canvas/Picture.h"
+#include "model/PageView.h"
 
 #include <QMutex>
 #include <QThread>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/PageView.h"
 #include "documents/ChartDocument.h"
+#include "model/PageView.h"
 
 #include <QImage>
 
