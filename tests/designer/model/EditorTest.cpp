@@ -1,5 +1,6 @@
 #include "model/Editor.h"
 
+#include "designer/model/OwnFolder.h"
 #include "documents/Files.h"
 
 #include <filesystem>
@@ -18,10 +19,9 @@ const millichart::ChartKind& Kind(const char* name) {
 
 /// A folder of a test's own, empty.
 std::string Folder(const char* name) {
-    const fs::path folder = fs::path(testing::TempDir()) / "designer-editor" / name;
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    return folder.string();
+    static const test::OwnFolder own;
+    fs::create_directories(own.Path(name));
+    return own.Path(name);
 }
 
 auto SetTitle(const std::string& title) {

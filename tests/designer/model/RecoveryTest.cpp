@@ -1,5 +1,6 @@
 #include "model/Recovery.h"
 
+#include "designer/model/OwnFolder.h"
 #include "documents/Files.h"
 
 #include <filesystem>
@@ -17,9 +18,8 @@ const millichart::ChartKind& Kind(const char* name) {
 
 class RecoveryTest : public testing::Test {
 protected:
-    void SetUp() override { fs::remove_all(m_folder); }
-
-    std::string m_folder = testing::TempDir() + "/designer-recovery";
+    test::OwnFolder m_own;
+    std::string m_folder = m_own.Path("kept");
 };
 
 Editor Unsaved() {
@@ -65,7 +65,7 @@ TEST_F(RecoveryTest, ASavedOrDroppedDocumentLeavesNothing) {
     ASSERT_EQ(file.Keep(editor), "");
     ASSERT_EQ(file.Keep(editor), "");
     EXPECT_FALSE(fs::is_empty(m_folder));
-    ASSERT_EQ(editor.Save(testing::TempDir() + "/recovered.chart.json"), "");
+    ASSERT_EQ(editor.Save(m_own.Path("recovered.chart.json")), "");
     ASSERT_EQ(file.Keep(editor), "");
     EXPECT_TRUE(fs::is_empty(m_folder));
     editor.Undo();
@@ -76,7 +76,7 @@ TEST_F(RecoveryTest, ASavedOrDroppedDocumentLeavesNothing) {
 }
 
 TEST_F(RecoveryTest, ItComesBackUnderItsNameAndFindsItsTable) {
-    const std::string home = testing::TempDir() + "/recovery-home";
+    const std::string home = m_own.Path("home");
     fs::create_directories(home);
     std::ofstream(home + "/a.csv") << "A,1\nB,2\n";
     std::ofstream(home + "/a.chart.json") << R"({"kind": "pie", "data": {"csv": "a.csv"}})";

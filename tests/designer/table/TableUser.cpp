@@ -22,7 +22,7 @@ void NeedApplication() {
     static char* arguments[] = {name, nullptr};
     if (qApp == nullptr) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        static QApplication application(count, arguments);
+        new QApplication(count, arguments); // stays: destroying it among the static objects crashes
     }
 }
 
