@@ -181,10 +181,11 @@ void CsvCurves::Read() {
         const std::uint64_t begin = at + passed;
         const std::size_t done =
             passed +
-            m_rows.Scan(text, isEnd, line, [&](const PlainRow& row, const char* first, const char* behind) {
-                Take(row, line, begin + static_cast<std::uint64_t>(first - text.data()),
-                     begin + static_cast<std::uint64_t>(behind - text.data()));
-            });
+            m_rows.Scan(text, isEnd, line,
+                        [&](const PlainRow& row, std::size_t on, const char* first, const char* behind) {
+                            Take(row, on, begin + static_cast<std::uint64_t>(first - text.data()),
+                                 begin + static_cast<std::uint64_t>(behind - text.data()));
+                        });
         held -= done;
         at += done;
         std::memmove(m_text.data(), m_text.data() + done, held);
@@ -286,7 +287,7 @@ void CsvCurves::ReadAgain(Starts starts, std::vector<Diagnostic>& diagnostics, c
         if (ReadBlock(i)) {
             std::size_t line = blocks[i].Line;
             const std::string_view text(m_text.data(), m_text.size() - 1);
-            m_rows.Scan(text, true, line, [&](const PlainRow& row, const char*, const char*) {
+            m_rows.Scan(text, true, line, [&](const PlainRow& row, std::size_t, const char*, const char*) {
                 const auto time = static_cast<double>(m_scale.TimeOf(row.Time));
                 const std::size_t own = CellOf(time, starts);
                 for (std::size_t curve = 0; curve < m_curves; ++curve) {

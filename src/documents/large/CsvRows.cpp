@@ -111,6 +111,7 @@ bool CsvRows::TakeSlow(std::string_view text, bool isEnd, std::size_t& line, std
         TakeReason(line, "line " + std::to_string(line) + " of it is not encoded in UTF-8");
         return false;
     }
+    m_slowLine = row.Line;
     const bool isTaken = isRow && TakeLone(row);
     length = IsReadable() ? reader.At() : 0;
     line = reader.Line();

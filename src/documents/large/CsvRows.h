@@ -34,8 +34,9 @@ public:
 
     std::size_t BeginLine() const { return m_beginLine; }
 
-    /// Reads whole rows and gives how many bytes they are; `isEnd` if nothing follows. Behind the text stands
-    /// a 0. What is wrong is kept for `End`.
+    /// Reads whole rows, calls `take` with each, its line, and the bytes from which up to which it lies, and
+    /// gives how many bytes all are. The text begins on that line, and goes on on that; `isEnd` if nothing
+    /// follows. Behind the text stands a 0. What is wrong is kept for `End`.
     template <class Take> std::size_t Scan(std::string_view text, bool isEnd, std::size_t& line, Take&& take);
 
     /// Behind the last row, before the reader's table and diagnostics are looked at.
@@ -72,6 +73,7 @@ private:
     PlainForm m_form;
     PlainRow m_row;
     LoneRow m_lone;
+    std::size_t m_slowLine = 0; ///< of the last row that was not plain
     std::optional<WrittenDate> m_firstDate;
     std::size_t m_filled = 0;
     std::size_t m_rows = 0;
@@ -86,8 +88,7 @@ std::size_t CsvRows::Scan(std::string_view text, bool isEnd, std::size_t& line, 
         if (const char* const behind = ReadPlainRow(at, end, m_form, m_row); behind != nullptr) {
             m_filled = m_row.Filled > m_filled ? m_row.Filled : m_filled;
             ++m_rows;
-            ++line;
-            take(m_row, at, behind);
+            take(m_row, line++, at, behind);
             at = behind;
             continue;
         }
@@ -98,7 +99,7 @@ std::size_t CsvRows::Scan(std::string_view text, bool isEnd, std::size_t& line, 
         }
         if (isRow) {
             ++m_rows;
-            take(m_row, at, at + length);
+            take(m_row, m_slowLine, at, at + length);
         }
         at += length;
     }

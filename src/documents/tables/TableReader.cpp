@@ -90,9 +90,11 @@ bool TableReader::ReadLone(const TableRow& row, LoneRow& taken) {
     const std::size_t before = origin.Lines.size();
     const std::size_t told = m_told;
     const std::size_t kept = m_diagnostics.size();
+    const std::size_t sheetErrors = m_sheetErrors;
     ReadRow(row, false);
     if (m_lacksMark) { // by which it is read again
         m_told = told;
+        m_sheetErrors = sheetErrors;
         m_diagnostics.resize(std::min(m_diagnostics.size(), kept));
     }
     if (origin.Lines.size() == before) {
