@@ -2,6 +2,7 @@
 #include "documents/large/ByteSource.h"
 #include "documents/large/OpenLarge.h"
 #include "penlode/engine/LineThinning.h"
+#include "penlode/engine/ListLine.h"
 
 #include <algorithm>
 #include <chrono>
@@ -69,9 +70,10 @@ struct Streamed {
                       bool isPipe = false)
         : Bytes(std::make_shared<TextBytes>(text)) {
         TableInput input{{"t.csv"}, options};
-        input.Stream =
-            isPipe ? GoOnReading(text.substr(0, 1), std::make_unique<std::istringstream>(text.substr(1)))
-                   : Bytes;
+        input.Stream = isPipe ? GoOnReading(text.substr(0, 5000),
+                                            std::make_unique<std::istringstream>(
+                                                text.substr(std::min<std::size_t>(5000, text.size()))))
+                              : Bytes;
         Curves = OpenLarge(input, kLines, rules, Diagnostics, Reason);
         if (Curves) {
             Extent = Curves->Extent(Diagnostics);
@@ -111,18 +113,16 @@ struct Drawn {
 
 constexpr double kColumn = 64.0; // times
 
-Drawn Draw(const std::vector<PointF>& line) {
-    Drawn drawn{false, line};
-    std::vector<PointF> thinned;
-    if (line.size() >= penlode::kMinDataLinePoints &&
-        penlode::ThinLine(line, penlode::Matrix(), {kColumn, -1e9, 1e9},
-                          [&thinned](const auto& point) {
-                              thinned.push_back({static_cast<float>(point.X), static_cast<float>(point.Y)});
-                          }) &&
-        thinned.size() < line.size()) {
-        drawn = {true, std::move(thinned)};
-    }
-    return drawn;
+Drawn Draw(const std::vector<PointF>& points) {
+    const penlode::ListLine line(points);
+    penlode::DataRun run{line};
+    Drawn drawn{true, {}};
+    penlode::ThinLine(run, penlode::Matrix(), {kColumn, -1e9, 1e9}, [&drawn](const auto& point) {
+        drawn.Points.push_back({static_cast<float>(point.X), static_cast<float>(point.Y)});
+    });
+    const bool isThinned =
+        points.size() >= penlode::kMinDataLinePoints && drawn.Points.size() < points.size();
+    return isThinned ? drawn : Drawn{false, points};
 }
 
 /// The lines between gaps of which something shows.

@@ -25,6 +25,8 @@ constexpr std::string_view kArchive = "PK\x03\x04";
 constexpr std::uintmax_t kMostHeld = std::uintmax_t{64} << 20U;
 /// What is read of a pipe before it is found to be long stays in the memory for a while.
 constexpr std::size_t kMostHeldOfPipe = std::size_t{32} << 20U;
+/// Of this it is found what kind of table it is.
+constexpr std::size_t kLeastBegun = std::size_t{1} << 16U;
 
 /// A text that turns out short is held.
 millichart::TableInput BeginPipe(const std::string& name, const millichart::TableOptions& options,
@@ -57,7 +59,7 @@ millichart::TableInput BeginInput(const std::string& name, const millichart::Tab
         input.Input.Fault = input.Stream->Fault();
         return input;
     }
-    const std::size_t most = wished ? 1 : kMostHeldOfPipe;
+    const std::size_t most = wished ? kLeastBegun : kMostHeldOfPipe;
     if (name == kStandardStream) {
         return BeginPipe(name, options, nullptr, most);
     }

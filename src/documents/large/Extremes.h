@@ -23,6 +23,8 @@ struct Extremes {
     CurveRow Last{};
     std::uint64_t Count = 0;
     bool IsLowFirst = true; ///< the low one does not come behind the high one
+    bool IsLowLast = true;  ///< it is the last row, and not only alike
+    bool IsHighLast = true;
 
     /// A row that comes behind all others.
     void Append(const CurveRow& row) {
@@ -31,10 +33,12 @@ struct Extremes {
             return;
         }
         Last = row;
-        if (row.Value < Low.Value) {
+        IsLowLast = row.Value < Low.Value;
+        IsHighLast = row.Value > High.Value;
+        if (IsLowLast) {
             Low = row;
             IsLowFirst = false;
-        } else if (row.Value > High.Value) {
+        } else if (IsHighLast) {
             High = row;
             IsLowFirst = true;
         }
@@ -49,6 +53,8 @@ struct Extremes {
         const bool isLower = later.Low.Value < Low.Value;
         const bool isHigher = later.High.Value > High.Value;
         IsLowFirst = isLower == isHigher ? (isLower ? later.IsLowFirst : IsLowFirst) : isHigher;
+        IsLowLast = isLower && later.IsLowLast;
+        IsHighLast = isHigher && later.IsHighLast;
         Low = isLower ? later.Low : Low;
         High = isHigher ? later.High : High;
         Last = later.Last;
@@ -72,18 +78,24 @@ struct Extremes {
             High = others.High;
         }
         IsLowFirst = Low.Time <= High.Time;
+        IsLowLast = Low == Last;
+        IsHighLast = High == Last;
         Count += others.Count;
     }
 
-    void Merge(const CurveRow& row) { Merge(Extremes{row, row, row, row, 1, true}); }
+    void Merge(const CurveRow& row) { Merge(Extremes{row, row, row, row, 1}); }
 
     /// Puts them into a list in their order, each once, and gives how many there are.
     std::size_t List(std::array<CurveRow, 4>& rows) const {
-        std::size_t listed = 0;
-        for (const CurveRow& row : {First, IsLowFirst ? Low : High, IsLowFirst ? High : Low, Last}) {
-            if (listed == 0 || (Count > listed && !(rows[listed - 1] == row))) {
+        rows[0] = First;
+        std::size_t listed = 1;
+        for (const CurveRow& row : {IsLowFirst ? Low : High, IsLowFirst ? High : Low}) {
+            if (row.Value != First.Value) { // whose value no other row has first
                 rows[listed++] = row;
             }
+        }
+        if (Count > 1 && !IsLowLast && !IsHighLast) {
+            rows[listed++] = Last;
         }
         return listed;
     }

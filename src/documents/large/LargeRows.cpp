@@ -33,16 +33,6 @@ void Count(CurveData& data, const TimeCount& count) {
     }
 }
 
-/// None while a chart does not tell them.
-template <class Chart>
-std::vector<std::int32_t> ColumnsOf(const Chart& chart, const penlode::IGraphicsEngine& engine) {
-    if constexpr (requires { chart.DataColumns(engine); }) {
-        return chart.DataColumns(engine);
-    } else {
-        return {};
-    }
-}
-
 bool HasErrors(const std::vector<penlode::Diagnostic>& told) {
     return std::any_of(told.begin(), told.end(), [](const penlode::Diagnostic& one) {
         return one.Severity == penlode::Severity::Error;
@@ -59,7 +49,7 @@ std::int64_t TimeCount::Uncounted(std::int64_t time) const {
 std::vector<penlode::Diagnostic>
 documents::TakeShownRows(const LargeRows& rows, const penlode::IGraphicsEngine& engine, CBasicCurve& chart) {
     std::vector<penlode::Diagnostic> told;
-    std::vector<std::int32_t> columns = ColumnsOf(chart, engine);
+    std::vector<std::int32_t> columns = chart.DataColumns(engine);
     for (int look = 0; look < kMostLooks; ++look) {
         CurveData data = rows.Source->Thinned(Uncounted(columns, rows.Count), told);
         if (HasErrors(told)) {
@@ -68,7 +58,7 @@ documents::TakeShownRows(const LargeRows& rows, const penlode::IGraphicsEngine& 
         Count(data, rows.Count);
         chart.SetCurveData(std::move(data.Values), std::move(data.Times));
         chart.Layout();
-        std::vector<std::int32_t> now = ColumnsOf(chart, engine);
+        std::vector<std::int32_t> now = chart.DataColumns(engine);
         if (now == columns) {
             break;
         }
