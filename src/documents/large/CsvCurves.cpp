@@ -145,7 +145,7 @@ void CsvCurves::Take(const PlainRow& row, std::size_t line, std::uint64_t begin,
     m_times.Take(row.Time, row.Decimals, m_rows.Times());
     m_outer.Take(row.Time, line, row.Values);
     if (m_isPipe) {
-        m_cells.Take(row);
+        m_cells.Take(row, m_lineOutOfOrder == 0);
     } else {
         m_blocks.Take(row, line, begin, end, m_lineOutOfOrder == 0);
     }

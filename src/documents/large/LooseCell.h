@@ -20,8 +20,13 @@ struct LooseCell {
         LastGap = row.Time >= LastGap.Time ? row : LastGap;
     }
 
-    void Merge(const LooseCell& other) {
-        Rows.Merge(other.Rows);
+    /// What stands behind in the file; in time too, if all rows are in order.
+    void Merge(const LooseCell& other, bool isInOrder) {
+        if (isInOrder) {
+            Rows.Append(other.Rows);
+        } else {
+            Rows.Merge(other.Rows);
+        }
         if (std::isfinite(other.FirstGap.Time)) {
             AddGap(other.FirstGap);
             AddGap(other.LastGap);

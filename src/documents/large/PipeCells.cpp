@@ -23,7 +23,8 @@ std::int64_t HalfOf(std::int64_t index) {
 
 } // namespace
 
-void PipeCells::Take(const PlainRow& row) {
+void PipeCells::Take(const PlainRow& row, bool isInOrder) {
+    m_isInOrder = isInOrder;
     if (m_curves == 0) {
         constexpr std::size_t kFewest = 4096;
         m_curves = std::max<std::size_t>(row.Values.size(), 1);
@@ -39,6 +40,8 @@ void PipeCells::Take(const PlainRow& row) {
         const CurveRow taken{row.Time, ShownValue(row.Values[curve], m_rules, curve)};
         if (IsGap(taken.Value, m_rules)) {
             own.AddGap(taken);
+        } else if (isInOrder) {
+            own.Rows.Append(taken);
         } else {
             own.Rows.Merge(taken);
         }
@@ -78,7 +81,7 @@ void PipeCells::JoinNeighbours() {
         const auto to = static_cast<std::size_t>(HalfOf(m_first + static_cast<std::int64_t>(i)) - first);
         for (std::size_t curve = 0; curve < m_curves; ++curve) {
             LooseCell cell = std::exchange(m_cells[i * m_curves + curve], LooseCell());
-            m_cells[to * m_curves + curve].Merge(cell);
+            m_cells[to * m_curves + curve].Merge(cell, m_isInOrder);
         }
     }
     const std::int64_t end = count == 0 ? first : HalfOf(m_first + static_cast<std::int64_t>(count) - 1) + 1;

@@ -18,7 +18,8 @@ public:
     /// As many cells as fit in `most` bytes of memory.
     PipeCells(const LineRules& rules, std::size_t most) : m_rules(rules), m_mostMemory(most) {}
 
-    void Take(const PlainRow& row);
+    /// `isInOrder` while no time was before that above it.
+    void Take(const PlainRow& row, bool isInOrder);
 
     /// By their times; each has as many curves as the rows.
     std::size_t Count() const { return m_curves == 0 ? 0 : m_cells.size() / m_curves; }
@@ -36,6 +37,7 @@ private:
     std::size_t m_mostMemory;
     std::size_t m_mostCells = 0;
     std::size_t m_curves = 0;
+    bool m_isInOrder = true;
     int m_power = 0;                ///< of 2: a cell's width
     std::int64_t m_first = 0;       ///< the index of the first cell
     std::vector<LooseCell> m_cells; ///< a cell's curves after the other's
