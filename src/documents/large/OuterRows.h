@@ -32,7 +32,9 @@ public:
     };
 
     /// For so many curves.
-    void Begin(std::size_t curves) { m_rows.resize(kOfTable + kOfCurve * curves); }
+    void Begin(std::size_t curves) {
+        m_rows.assign(kOfTable + kOfCurve * curves, Row{0.0, 0, std::vector<double>(curves)});
+    }
 
     /// Rows may come in any order.
     void Take(double time, std::uint64_t line, const std::vector<double>& values) {
@@ -80,7 +82,9 @@ private:
         if (row.Line == 0 || suits(row)) {
             row.Time = time;
             row.Line = line;
-            row.Values = values;
+            for (std::size_t i = 0; i < values.size(); ++i) { // often one, and of each row
+                row.Values[i] = values[i];
+            }
         }
     }
 
