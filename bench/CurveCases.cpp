@@ -133,7 +133,7 @@ void AddCurveCases(Suite& suite) {
     suite.Add("20 curves of 500, PNG by hand",
               [curves] { return byhand::MarkedCurvesPng(*curves, kPictureWidth, kPictureHeight).size(); });
     suite.Compare("20 curves of 500, PNG / by hand", "20 curves of 500, PNG", "20 curves of 500, PNG by hand",
-                  1.5);
+                  1.2);
 }
 
 } // namespace bench

@@ -78,6 +78,12 @@ int PrintMemory(const char* name, double ratio, double bound) {
     return ratio > bound ? 1 : 0;
 }
 
+int PrintBytes(const char* name, double bytes, double bound) {
+    std::printf("%-52s %9.1f B %11s %7s %7.0f%s\n", name, bytes, "", "", bound,
+                bytes > bound ? "  above" : "");
+    return bytes > bound ? 1 : 0;
+}
+
 /// The command beside a process that reads and parses alone. What the picture takes comes on top of that, so
 /// it is taken off first.
 int PrintProcess(const bench::ProcessCosts& costs, double picture) {
@@ -91,19 +97,37 @@ int PrintProcess(const bench::ProcessCosts& costs, double picture) {
         return 1;
     }
     const double bytes = (costs.Million.Bytes - costs.Thousand.Bytes) / (1e6 - 1e3);
-    const bool isAbove = bytes > kMaxBytes;
-    std::printf("%-52s %9.1f B %11s %7s %7.0f%s\n", "command, CSV of 1e6 rows, memory of a point", bytes, "",
-                "", kMaxBytes, isAbove ? "  above" : "");
-    return PrintLine("command, CSV of 1e6 rows, less the picture / parsed",
+    return PrintBytes("command, CSV of 1e6 rows, memory of a point", bytes, kMaxBytes) +
+           PrintLine("command, CSV of 1e6 rows, less the picture / parsed",
                      costs.Million.Milliseconds - picture, costs.Parsing.Milliseconds, 3.0) +
            PrintLine("command, JSON of 1e6 rows, time / CSV", costs.Json.Milliseconds,
                      costs.Million.Milliseconds, 2.0) +
            PrintMemory("command, JSON of 1e6 rows, memory / CSV", costs.Json.Bytes / costs.Million.Bytes,
-                       2.0) +
-           (isAbove ? 1 : 0);
+                       2.0);
 }
 
-void PrintTable(const bench::Suite& suite, const bench::ProcessCosts& costs, const ShortestTimes& times) {
+int PrintPoints(const bench::PointCosts& costs) {
+    constexpr double kPoints = 1e7;
+    constexpr double kData = sizeof(double) + sizeof(std::int32_t);
+    if (costs.Few.Bytes == 0.0 || costs.Borrowed.Bytes == 0.0 || costs.Handed.Bytes == 0.0 ||
+        costs.Most.Bytes == 0.0) {
+        std::printf("a process with many points failed\n");
+        return 1;
+    }
+    const auto perPoint = [&costs](const bench::ProcessCost& cost, double points) {
+        return (cost.Bytes - costs.Few.Bytes) / points;
+    };
+    return PrintBytes("point of 1e7, borrowed, memory beside the data",
+                      perPoint(costs.Borrowed, kPoints) - kData, 2.0) +
+           PrintBytes("point of 1e7, handed over, memory in all", perPoint(costs.Handed, kPoints), 20.0) +
+           PrintBytes("point of 1e8, handed over, memory in all", perPoint(costs.Most, 10.0 * kPoints),
+                      20.0) +
+           PrintLine("line 1e8 / 1e7, handed over, PNG", costs.Most.Milliseconds, costs.Handed.Milliseconds,
+                     12.0);
+}
+
+void PrintTable(const bench::Suite& suite, const bench::ProcessCosts& costs, const bench::PointCosts& points,
+                const ShortestTimes& times) {
     std::printf("\n%-52s %11s %11s %7s %7s\n", "", "time", "against", "ratio", "bound");
     int above = 0;
     for (const bench::Comparison& c : suite.Comparisons) {
@@ -112,6 +136,9 @@ void PrintTable(const bench::Suite& suite, const bench::ProcessCosts& costs, con
         if (measured > 0.0 && reference > 0.0) {
             above += PrintLine(c.Name, measured, reference, c.Bound);
         }
+    }
+    if (times.Of(suite, "line 1e7 walk, PNG") > 0.0) {
+        above += PrintPoints(points);
     }
     above += PrintProcess(costs, times.Of(suite, "line 1e6 walk, PNG"));
     std::printf("%d above their bound\n", above);
@@ -137,6 +164,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const bench::ProcessCosts costs = bench::MeasureProcesses();
+    const bench::PointCosts points = bench::MeasureManyPoints();
     bench::Suite suite;
     bench::AddLineCases(suite);
     bench::AddLayoutCases(suite);
@@ -146,6 +174,6 @@ int main(int argc, char** argv) {
     Register(suite);
     ShortestTimes times;
     benchmark::RunSpecifiedBenchmarks(&times);
-    PrintTable(suite, costs, times);
+    PrintTable(suite, costs, points, times);
     return 0;
 }

@@ -17,7 +17,18 @@ struct ProcessCosts {
     ProcessCost Json;    ///< the command, on a document that holds a million rows
 };
 
+/// One line of many points, from a host's lists to a picture of 1600 × 1200 pixels; costs of 0 where a
+/// process failed.
+struct PointCosts {
+    ProcessCost Few;      ///< a thousand points
+    ProcessCost Borrowed; ///< 1e7, in lists that the host keeps
+    ProcessCost Handed;
+    ProcessCost Most; ///< 1e8, handed over
+};
+
 /// To be called before this process takes much memory itself: the system counts it as the new process's.
 ProcessCosts MeasureProcesses();
+
+PointCosts MeasureManyPoints();
 
 } // namespace bench

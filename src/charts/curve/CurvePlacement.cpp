@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <type_traits>
 
@@ -79,16 +78,6 @@ TimeSpan TimeSpanOf(std::span<const CurveDataView> curves, const TimeSpan& previ
             curve.Times);
     }
     return span.value_or(previous);
-}
-
-void CurveLine::Place(std::size_t first, std::span<penlode::PointF> points) const {
-    constexpr float kNowhere = std::numeric_limits<float>::quiet_NaN();
-    m_trace.Place(first, points);
-    for (std::size_t i = 0; m_breaks && i < points.size(); ++i) {
-        if (m_trace.IsNull(first + i)) {
-            points[i] = {kNowhere, kNowhere};
-        }
-    }
 }
 
 bool CurveLine::Bound(std::size_t first, std::size_t count, penlode::PointBounds& bounds) const {

@@ -58,7 +58,9 @@ public:
 
     std::size_t Size() const override { return m_trace.Size(); }
 
-    void Place(std::size_t first, std::span<penlode::PointF> points) const override;
+    void Place(std::size_t first, std::span<penlode::PointF> points) const override {
+        m_trace.Place(first, points, m_breaks);
+    }
 
     bool Bound(std::size_t first, std::size_t count, penlode::PointBounds& bounds) const override;
 

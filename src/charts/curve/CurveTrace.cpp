@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 #include <mutex>
+#include <numeric>
 #include <type_traits>
 #include <utility>
 
@@ -24,38 +25,58 @@ std::int32_t Clamped(std::int64_t time) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(time, INT32_MIN, INT32_MAX));
 }
 
-/// The least and the most of lists that have the same length and stand for one; a loop over places that do
-/// not depend on each other, where a running minimum would be a chain.
+template <class Number> struct Extremes {
+    Number Least;
+    Number Most;
+};
+
+constexpr std::size_t kLanes = kBlock / 4;
+
+template <class Number> Number Lesser(Number a, Number b) {
+    return a < b ? a : b;
+}
+
+template <class Number> Number Greater(Number a, Number b) {
+    return a > b ? a : b;
+}
+
+/// The least and the most of two halves of the lanes, and so on down to one.
 template <std::size_t Half, class Number>
-void Fold(std::array<Number, kBlock / 2>& least, std::array<Number, kBlock / 2>& most) {
+void Fold(std::array<Number, kLanes>& least, std::array<Number, kLanes>& most) {
     for (std::size_t k = 0; k < Half; ++k) {
-        least[k] = least[k] < least[k + Half] ? least[k] : least[k + Half];
-        most[k] = most[k] > most[k + Half] ? most[k] : most[k + Half];
+        least[k] = Lesser(least[k], least[k + Half]);
+        most[k] = Greater(most[k], most[k + Half]);
     }
     if constexpr (Half > 1) {
         Fold<Half / 2>(least, most);
     }
 }
 
-template <class Number> struct Extremes {
-    Number Least;
-    Number Most;
-};
-
-/// Of a whole block; false if one is no number.
+/// Of a whole block; may be false only if one is not finite, or so great that their sum is not. Numbers are
+/// looked at in lanes that do not depend on each other, where one running minimum would be a chain.
 template <class Number> bool FindExtremes(const Number* list, Extremes<Number>& found) {
-    constexpr std::size_t kHalf = kBlock / 2;
-    std::array<Number, kHalf> least;
-    std::array<Number, kHalf> most;
-    unsigned unordered = 0;
-    for (std::size_t k = 0; k < kHalf; ++k) {
-        least[k] = list[k] < list[k + kHalf] ? list[k] : list[k + kHalf];
-        most[k] = list[k] > list[k + kHalf] ? list[k] : list[k + kHalf];
-        unordered |= static_cast<unsigned>(std::isunordered(list[k], list[k + kHalf]));
+    const Number* const second = list + kLanes;
+    const Number* const third = second + kLanes;
+    const Number* const fourth = third + kLanes;
+    std::array<Number, kLanes> least;
+    std::array<Number, kLanes> most;
+    for (std::size_t k = 0; k < kLanes; ++k) {
+        least[k] = Lesser(Lesser(list[k], second[k]), Lesser(third[k], fourth[k]));
     }
-    Fold<kHalf / 2>(least, most);
+    for (std::size_t k = 0; k < kLanes; ++k) {
+        most[k] = Greater(Greater(list[k], second[k]), Greater(third[k], fourth[k]));
+    }
+    Fold<kLanes / 2>(least, most);
     found = {least[0], most[0]};
-    return unordered == 0;
+    if constexpr (std::is_floating_point_v<Number>) {
+        // Comparisons pass over what is no number.
+        std::array<Number, kLanes> sums;
+        for (std::size_t k = 0; k < kLanes; ++k) {
+            sums[k] = (list[k] + second[k]) + (third[k] + fourth[k]);
+        }
+        return std::isfinite(std::accumulate(sums.begin(), sums.end(), Number{0}));
+    }
+    return true;
 }
 
 /// Times ascend, mostly.
@@ -201,12 +222,18 @@ bool CurveTrace::IsNull(std::size_t index) const {
     return std::visit([index](const auto& values) { return IsCurveNull(values[index]); }, m_data.Values);
 }
 
-void CurveTrace::Place(std::size_t first, std::span<PointF> points) const {
+void CurveTrace::Place(std::size_t first, std::span<PointF> points, bool nullsAreGaps) const {
+    constexpr float kNowhere = std::numeric_limits<float>::quiet_NaN();
     WithLists(m_data, [&](const auto& values, const auto& times) {
         for (std::size_t done = 0; done < points.size(); done += kBlock) {
             const std::size_t count = std::min(kBlock, points.size() - done);
             PlaceBlock(values.subspan(first + done, count), times.subspan(first + done, count), m_placement,
                        points.subspan(done, count));
+        }
+        for (std::size_t i = 0; nullsAreGaps && i < points.size(); ++i) {
+            if (IsCurveNull(values[first + i])) {
+                points[i] = {kNowhere, kNowhere};
+            }
         }
     });
 }

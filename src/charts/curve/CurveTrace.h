@@ -60,8 +60,9 @@ public:
 
     bool IsNull(std::size_t index) const;
 
-    /// The points from `first` on, as many as there is room for.
-    void Place(std::size_t first, std::span<penlode::PointF> points) const;
+    /// The points from `first` on, as many as there is room for; those of null values not finite if they are
+    /// gaps.
+    void Place(std::size_t first, std::span<penlode::PointF> points, bool nullsAreGaps = false) const;
 
     /// The bounds of at most penlode::DataLine::kBlock points; false if a value is null or has no place.
     bool Bound(std::size_t first, std::size_t count, penlode::PointBounds& bounds) const;

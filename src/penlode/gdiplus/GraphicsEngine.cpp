@@ -22,7 +22,8 @@ Status CGraphicsEngine::StrokeDataLine(DataRun& run, const Pen& pen) {
 }
 
 std::vector<float> CGraphicsEngine::DataColumns(float left, float right) const {
-    return ColumnsOf(DeviceView(m_target->Canvas.Setting().Device, State()), left, right);
+    return m_target->Canvas ? ColumnsOf(DeviceView(m_target->Canvas->Setting(), State()), left, right)
+                            : std::vector<float>();
 }
 
 Status CGraphicsEngine::PaintText(const TextRun& text) {
