@@ -52,12 +52,12 @@ _millichart() {
     [ "$command" = edit ] || options+=" --title --x-title --y-title --log --stacked --3d --legend --size --set"
     case $command in
       draw)
-        options+=" --kind --output --format --dpi --page --fit --background --outlines"
+        options+=" --kind --stream --no-stream --output --format --dpi --page --fit --background --outlines"
         options+=" --strict --quiet --json --jobs --verbose"
         ;;
       new) options+=" --output --force" ;;
-      check) options+=" --kind --strict --quiet --json" ;;
-      inspect) options+=" --kind" ;;
+      check) options+=" --kind --stream --no-stream --strict --quiet --json" ;;
+      inspect) options+=" --kind --stream --no-stream" ;;
     esac
     COMPREPLY=($(compgen -W "$options" -- "$current"))
   elif [ "$command" = new ] && [ "$COMP_CWORD" -eq 2 ]; then

@@ -23,6 +23,8 @@ complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -
 complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -l sort -x -a 'ascending descending name' -d 'Order of the rows'
 complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -l top -x -d 'So many of the largest rows, the rest as one'
 complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -l decimal -x -a '. ,' -d 'The decimal mark'
+complete -c millichart -n '__fish_seen_subcommand_from draw check inspect' -l stream -d "Read a line chart's CSV row by row without holding it"
+complete -c millichart -n '__fish_seen_subcommand_from draw check inspect' -l no-stream -d 'Hold the table'
 complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -l title -x -d 'The caption'
 complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -l x-title -x -d 'The caption of the horizontal axis'
 complete -c millichart -n '__fish_seen_subcommand_from draw new check inspect' -l y-title -x -d 'The caption of the value axis'

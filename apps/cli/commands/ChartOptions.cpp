@@ -90,6 +90,13 @@ void AddTableOptions(CLI::App& command, ChartSource& source) {
                     "the decimal mark; without it the table tells");
 }
 
+void AddStreamOption(CLI::App& command, ChartSource& source) {
+    command.add_flag_function(
+        "--stream,!--no-stream", [&source](std::int64_t count) { source.Streams = count > 0; },
+        "read a line chart's CSV row by row without holding it, as is done from 64 MB on; --no-stream holds "
+        "it");
+}
+
 void AddLookOptions(CLI::App& command, ChartSource& source) {
     Look& look = source.Look;
     command.add_option("--title", look.Title, "the caption");

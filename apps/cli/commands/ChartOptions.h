@@ -11,6 +11,8 @@ namespace cli {
 
 /// --data and how a table is read.
 void AddTableOptions(CLI::App& command, ChartSource& source);
+/// Of what draws or checks a chart and does not write its data.
+void AddStreamOption(CLI::App& command, ChartSource& source);
 /// --title and its like, and --set.
 void AddLookOptions(CLI::App& command, ChartSource& source);
 /// --kind

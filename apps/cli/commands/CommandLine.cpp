@@ -42,6 +42,7 @@ bool ParseJobs(const std::string& text, std::size_t& jobs) {
 void AddSource(CLI::App& command, ChartSource& source) {
     AddKindOption(command, source);
     AddTableOptions(command, source);
+    AddStreamOption(command, source);
     AddLookOptions(command, source);
 }
 
