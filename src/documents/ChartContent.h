@@ -9,6 +9,7 @@
 #include "penlode/Geometry.h"
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -20,6 +21,8 @@
 /// Records are as documents have them. What a document leaves out and a person would have to count, such as a
 /// colour a slice, is completed when the chart is laid out.
 namespace millichart {
+
+class LargeCurves;
 
 /// Of a value axis, by one of four; without any it is found from the largest value.
 struct ValueRange {
@@ -91,6 +94,8 @@ struct CurveDocument {
     CurveProp Prop;
     CurveData Data;
     ValueRange Range;
+    /// Of a table that is too large to be held; then the data are those of its extent.
+    std::shared_ptr<LargeCurves> Large = {};
 
     friend bool operator==(const CurveDocument&, const CurveDocument&) = default;
 };

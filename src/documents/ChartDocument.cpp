@@ -193,6 +193,14 @@ void LaidOutChart::VisitParts(const PartVisitor& visit) const {
     WithContent(Chart, [&visit](const auto& chart) { chart.VisitParts(visit); });
 }
 
+std::vector<Diagnostic> LaidOutChart::TakeRows(const penlode::IGraphicsEngine& engine) {
+    std::vector<Diagnostic> told;
+    if (auto* const curves = std::get_if<CBasicCurve>(&Chart); curves != nullptr && Rows.Source) {
+        told = TakeShownRows(Rows, engine, *curves);
+    }
+    return told;
+}
+
 void LaidOutChart::Draw(penlode::IGraphicsEngine& engine) const {
     WithContent(Chart, [&engine](const auto& chart) { chart.Draw(&engine); });
 }

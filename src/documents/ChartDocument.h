@@ -8,6 +8,7 @@
 #include "charts/pie/BasicPie.h"
 #include "documents/ChartContent.h"
 #include "documents/Files.h"
+#include "documents/large/LargeRows.h"
 #include "documents/tables/TableInput.h"
 #include "foundation/ChartPart.h"
 #include "penlode/streams/Diagnostic.h"
@@ -40,6 +41,8 @@ struct LaidOutChart {
         Chart;
     /// Why it cannot be drawn, or what was hardly meant.
     std::vector<penlode::Diagnostic> Diagnostics;
+    /// Of a table that is too large to be held; else there are none.
+    LargeRows Rows = {};
 
     /// In mm, where the document's location puts it; empty when there is no chart.
     penlode::RectF Extent() const;
@@ -56,6 +59,9 @@ struct LaidOutChart {
     /// All parts that can be seen, in the order in which they are drawn; of a curve, the curve and not its
     /// points.
     void VisitParts(const PartVisitor& visit) const;
+    /// Before it is drawn, what is too large to be held: takes the rows of it that this engine shows, under
+    /// its present transform. Tells what is wrong.
+    std::vector<penlode::Diagnostic> TakeRows(const penlode::IGraphicsEngine& engine);
     void Draw(penlode::IGraphicsEngine& engine) const;
 };
 

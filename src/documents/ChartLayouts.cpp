@@ -56,7 +56,7 @@ auto PartsOf(HistogramDocument& document) {
 }
 
 auto PartsOf(CurveDocument& document) {
-    return std::tuple(Curves(document.Data, document.Prop));
+    return std::tuple(Curves(document.Data, document.Prop, document.Large));
 }
 
 template <class Document, class Work> void ForEachPart(Document& document, const Work& work) {
@@ -249,6 +249,11 @@ CBasicHistogram LayOut(HistogramDocument& document, LayoutTask& task, const Bars
     return chart;
 }
 
+/// Of a chart of what is too large to be held, so that its rows can be asked for.
+LargeRows RowsOf(const CurveDocument& document, const Curves& curves) {
+    return {document.Large, curves.Counted()};
+}
+
 CBasicCurve LayOut(CurveDocument& document, LayoutTask& task, Curves& curves) {
     CBasicCurve chart;
     if (task.Options.TimeUnit == TimeUnit::Number && task.Options.TimeLabels == TimeLabels::AtTimes) {
@@ -311,6 +316,9 @@ void LayOutContent(ChartContent& content, LayoutTask& task, LaidOutChart& laidOu
         auto chart = std::apply(layOut, parts);
         if (!HasErrors(task.Diagnostics)) {
             AddDoubts(document, chart, task.Diagnostics);
+        }
+        if constexpr (requires { document.Large; }) {
+            laidOut.Rows = RowsOf(document, std::get<0>(parts));
         }
         laidOut.Chart = std::move(chart);
         task.Emptiness = std::get<0>(parts).Emptiness();

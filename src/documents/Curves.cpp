@@ -52,6 +52,14 @@ CurveData CurvesOf(Table table, std::size_t names) {
     return data;
 }
 
+LineRules RulesOf(const CurvePlotProp& plot) {
+    LineRules rules{plot.LogarithmScale != 0, {}, plot.CurveName.size()};
+    for (const std::int32_t style : plot.NullValueStyle) {
+        rules.NullsAreZero.push_back(style != CurveNullValueStyle::Break);
+    }
+    return rules;
+}
+
 std::vector<double> LoadValues(ChartStream& stream) {
     std::vector<double> values = stream.LoadNumbersAndGaps("values");
     std::replace_if(
@@ -115,6 +123,11 @@ void ForgetUnseen(std::vector<std::string>& labels, std::int32_t labelStep) {
     }
 }
 
+bool HasMarkers(const CurvePlotProp& plot) {
+    return std::any_of(plot.CurveDotStyle.begin(), plot.CurveDotStyle.end(),
+                       [](std::int32_t style) { return style != CurveDotStyle::None; });
+}
+
 void FillUpLikeTheLast(std::vector<float>& widths, std::size_t count, float first) {
     widths.resize(std::max(widths.size(), count), widths.empty() ? first : widths.back());
 }
@@ -132,14 +145,20 @@ void Curves::Load(ChartStream& stream, const DataSource& source) {
                           std::to_string(values) + ", one a value");
         }
     };
-    std::optional<Table> table = LoadList(
-        stream, source, {kCurves, kCurvesForm, "csv", kCurveTable, "no list"}, m_data.CurveNames, loadCurve);
+    LargeWish large{RulesOf(m_prop.Plot), nullptr};
+    DataSource own = source;
+    own.Large = &large;
+    std::optional<Table> table = LoadList(stream, own, {kCurves, kCurvesForm, "csv", kCurveTable, "no list"},
+                                          m_data.CurveNames, loadCurve);
     std::vector<std::string> labels;
     if (stream.Has("labels")) {
         stream.Ser("labels", labels, {});
     }
     stream.Pop();
-    if (table) {
+    m_large = std::move(large.Curves);
+    if (m_large) {
+        m_data = m_large->Extent(*source.Diagnostics);
+    } else if (table) {
         m_data = CurvesOf(*std::move(table), m_prop.Plot.CurveName.size());
     }
     // Labels belong to the data that they stand beside.
@@ -232,6 +251,11 @@ void Curves::Check(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostic
         diagnostics.push_back(OtherNames(kNamesPlace));
     }
     CheckRange(chart, diagnostics);
+    if (m_large && HasMarkers(m_prop.Plot)) {
+        diagnostics.push_back(penlode::Warning(
+            kPlot + "/CurveDotStyle", "the table has too many rows for a marker each; there are some at the "
+                                      "rows through which the line is drawn"));
+    }
     if (const std::size_t curves = m_data.Values.size(); m_named != curves) {
         diagnostics.push_back(WrongCount(kNamesPlace, m_named, "name", curves, "one a curve"));
     }
@@ -265,11 +289,13 @@ std::int32_t Curves::CountSince1970() {
     if (first % unit != 0 || each % unit != 0) {
         return TimeUnit::Number;
     }
+    m_counted = {first, each, unit};
     std::vector<Times> since = m_data.Times;
     for (Times& times : since) {
         for (std::int32_t& time : times) {
-            const std::int64_t moment = (first + each * time) / unit;
+            const std::int64_t moment = m_counted.Counted(time);
             if (moment < INT32_MIN || moment > INT32_MAX) {
+                m_counted = {};
                 return TimeUnit::Number;
             }
             time = static_cast<std::int32_t>(moment);

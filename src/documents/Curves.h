@@ -5,7 +5,9 @@
 #include "documents/DataSource.h"
 #include "documents/LayoutTask.h"
 #include "documents/SavingStream.h"
+#include "documents/large/LargeRows.h"
 
+#include <memory>
 #include <vector>
 
 namespace millichart::documents {
@@ -13,7 +15,9 @@ namespace millichart::documents {
 /// The curves of a document.
 class Curves {
 public:
-    Curves(CurveData& data, CurveProp& prop) : m_data(data), m_prop(prop) {}
+    /// `large` takes what is too large to be held, whose extent are the data then.
+    Curves(CurveData& data, CurveProp& prop, std::shared_ptr<LargeCurves>& large)
+        : m_data(data), m_prop(prop), m_large(large) {}
 
     /// The stream's group "data": "curves", each a name, values and their times, or "csv" with a table of
     /// times and values a curve; and "labels". What is wrong is told.
@@ -33,6 +37,9 @@ public:
     /// that do not fit in 32 bits, as numbers.
     std::int32_t CountSince1970();
 
+    /// How the times were counted before that.
+    TimeCount Counted() const { return m_counted; }
+
     /// The range that they fill in a chart with such options.
     ValueRange FittedRange(const ChartOptions& options) const;
 
@@ -50,6 +57,8 @@ private:
 
     CurveData& m_data;
     CurveProp& m_prop;
+    std::shared_ptr<LargeCurves>& m_large;
+    TimeCount m_counted;
     std::size_t m_named = 0; ///< curves with a name of the document or its table
 };
 

@@ -54,6 +54,20 @@ std::optional<TableInput> OpenNamed(const std::string& name, const std::string& 
     return QueryInput(resolved, std::move(options));
 }
 
+/// Of a table that is streamed nothing is here.
+Table ReadOrStream(TableInput& input, const TableForm& form, const DataSource& source) {
+    penlode::Diagnostic reason;
+    if (source.Large != nullptr) {
+        source.Large->Curves = OpenLarge(input, form, source.Large->Rules, *source.Diagnostics, reason);
+        if (source.Large->Curves != nullptr) {
+            return {};
+        }
+    }
+    const std::size_t told = source.Diagnostics->size();
+    Hold(input, reason, *source.Diagnostics);
+    return told == source.Diagnostics->size() ? ReadTable(input, form, *source.Diagnostics) : Table();
+}
+
 } // namespace
 
 std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataSource& source,
@@ -62,7 +76,7 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     TableOptions options = LoadTableOptions(stream, csvKey);
     if (source.Table != nullptr) {
         source.Table->Options = Merged(std::move(source.Table->Options), options);
-        return ReadTable(*source.Table, form, *source.Diagnostics);
+        return ReadOrStream(*source.Table, form, source);
     }
     if (named.empty()) {
         return std::nullopt;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/ChartStream.h"
+#include "documents/large/OpenLarge.h"
 #include "documents/tables/Table.h"
 
 #include <filesystem>
@@ -18,6 +19,7 @@ struct DataSource {
     TableInput* Table;
     std::vector<penlode::Diagnostic>* Diagnostics;
     std::vector<std::string>* Files; ///< takes the name of each table that the document names
+    LargeWish* Large = nullptr;      ///< takes a table that is too large to be held; null: none may be
 };
 
 /// The table that a chart's data are in: the one that replaces them, or that of the file under `csvKey` in

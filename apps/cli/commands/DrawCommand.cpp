@@ -68,7 +68,7 @@ std::string DescriptionOf(const millichart::ChartDocument& document) {
 }
 
 /// The file's bytes.
-std::string Render(const DrawOptions& options, const LoadedChart& loaded, const OutputName& output,
+std::string Render(const DrawOptions& options, LoadedChart& loaded, const OutputName& output,
                    std::vector<Diagnostic>& problems) {
     // A figure of a size fills its page without any margin.
     const RectF extent = options.Source.Figure ? loaded.Chart->FullExtent() : loaded.Chart->InkExtent();
@@ -83,6 +83,8 @@ std::string Render(const DrawOptions& options, const LoadedChart& loaded, const 
     const penlode::PointF corner{(page.Width - extent.Width) / 2.0F, (page.Height - extent.Height) / 2.0F};
     picture->Engine().TranslateTransform(corner.X - extent.X, corner.Y - extent.Y,
                                          penlode::MatrixOrder::Prepend);
+    const std::vector<Diagnostic> ofRows = loaded.Chart->TakeRows(picture->Engine());
+    problems.insert(problems.end(), ofRows.begin(), ofRows.end());
     loaded.Chart->Draw(picture->Engine());
     std::string bytes = picture->Finish();
     if (bytes.empty()) {
@@ -103,7 +105,7 @@ void WarnOfOptions(const DrawOptions& options, PictureFormat format, std::vector
 Attempt DrawAhead(const DrawOptions& options, const std::string& input) {
     Attempt attempt;
     try {
-        const LoadedChart loaded = LoadChart(input, options.Source);
+        LoadedChart loaded = LoadChart(input, options.Source);
         attempt.Faces = loaded.Faces;
         attempt.Problems = loaded.Diagnostics;
         attempt.DataFiles = loaded.Document.DataFiles();

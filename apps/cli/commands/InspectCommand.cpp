@@ -13,12 +13,17 @@ constexpr int kLevels = 2;
 } // namespace
 
 bool Inspect(const InspectOptions& options) {
-    const LoadedChart loaded = LoadChart(options.Inputs.front(), options.Source);
+    LoadedChart loaded = LoadChart(options.Inputs.front(), options.Source);
     TellProblems(loaded.Diagnostics);
     if (!loaded.Chart) {
         return false;
     }
     penlode::CRecordingEngine recorder;
+    const std::vector<Diagnostic> ofRows = loaded.Chart->TakeRows(recorder);
+    TellProblems(ofRows);
+    if (millichart::HasErrors(ofRows)) {
+        return false;
+    }
     loaded.Chart->Draw(recorder);
     const Json inspected{{"file", ShownName(options.Inputs.front())},
                          {"kind", millichart::KindOf(loaded.Document.Content)->Name},

@@ -14,13 +14,16 @@ struct ChartSource {
     const millichart::ChartKind* Kind = nullptr; ///< inputs are tables, drawn as this; null: documents
     std::optional<std::string> Data;             ///< a table that replaces a document's data
     millichart::TableOptions Table;              ///< how either is read
+    std::optional<bool> Streams;                 ///< a line chart's rows are not held; else if they are many
     cli::Look Look;
     std::optional<penlode::SizeF> Figure;      ///< mm, texts included; without one the document's own sizes
     std::vector<millichart::Setting> Settings; ///< beside those of the look
 };
 
-/// A file, "-" for the standard input, or a data base, which is not read here.
-millichart::TableInput ReadTableInput(const std::string& name, const millichart::TableOptions& options);
+/// A file, "-" for the standard input, or a data base, which is not read here. Of what is to be streamed only
+/// the beginning is.
+millichart::TableInput ReadTableInput(const std::string& name, const millichart::TableOptions& options,
+                                      std::optional<bool> streams = false);
 
 /// Is it a table by its name's ending, or by what stands in it, and no document?
 bool IsTable(const millichart::InputText& input);

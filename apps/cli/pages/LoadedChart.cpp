@@ -54,17 +54,18 @@ ChartDocument LoadDocument(const std::string& name, const ChartSource& source) {
     std::vector<millichart::Setting> settings = SettingsFor(input, source);
     std::optional<millichart::TableInput> table;
     if (source.Data) {
-        table = ReadTableInput(*source.Data, source.Table);
+        table = ReadTableInput(*source.Data, source.Table, source.Streams);
     }
     return ChartDocument::FromInput(std::move(input), std::move(table), settings);
 }
 
 LoadedChart Load(const std::string& input, const ChartSource& source) {
     LoadedChart loaded;
-    loaded.Document = source.Kind == nullptr
-                          ? LoadDocument(input, source)
-                          : millichart::NewDocument(*source.Kind, {ReadTableInput(input, source.Table)},
-                                                    AllSettings(source, *source.Kind));
+    loaded.Document =
+        source.Kind == nullptr
+            ? LoadDocument(input, source)
+            : millichart::NewDocument(*source.Kind, {ReadTableInput(input, source.Table, source.Streams)},
+                                      AllSettings(source, *source.Kind));
     loaded.Diagnostics = loaded.Document.Diagnostics();
     FitFigure(loaded.Document, source, loaded.Diagnostics);
     if (!millichart::HasErrors(loaded.Diagnostics)) {

@@ -1,5 +1,6 @@
 #include "documents/tables/OpenTable.h"
 
+#include "documents/large/ByteSource.h"
 #include "documents/tables/Csv.h"
 #include "documents/tables/NoRows.h"
 #include "documents/tables/Query.h"
@@ -10,7 +11,8 @@
 namespace millichart::documents {
 
 std::unique_ptr<RowReader> OpenTable(const TableInput& input) {
-    const std::string_view bytes = input.Input.Text;
+    const std::string_view bytes =
+        input.Stream ? input.Stream->Beginning() : std::string_view(input.Input.Text);
     if (!input.Input.Fault.empty()) {
         return std::make_unique<NoRows>(input.Input.Fault);
     }

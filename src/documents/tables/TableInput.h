@@ -3,11 +3,14 @@
 #include "documents/Files.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace millichart {
+
+class ByteSource;
 
 /// In which order a table's rows are shown.
 enum class TableOrder { AsItStands, Ascending, Descending, ByName };
@@ -35,6 +38,8 @@ struct TableInput {
     TableOptions Options = {};
     /// Of a data base, which has no text and may have passwords in its source, but none in its name.
     std::string Source = {};
+    /// Of a text that may be too long to be held: it is read from here, and `Input` has none of it yet.
+    std::shared_ptr<ByteSource> Stream = {};
 };
 
 } // namespace millichart
