@@ -1,16 +1,17 @@
 #include "documents/large/OpenLarge.h"
 
 #include "documents/large/ByteSource.h"
+#include "documents/points/TableCurves.h"
 
 #include <utility>
 
 namespace millichart::documents {
 
-std::shared_ptr<LargeCurves> OpenLarge(const TableInput& /*input*/, const TableForm& /*form*/,
-                                       const LineRules& /*rules*/,
+std::shared_ptr<LargeCurves> OpenLarge(const TableInput& input, const TableForm& /*form*/,
+                                       const LineRules& rules,
                                        std::vector<penlode::Diagnostic>& /*diagnostics*/,
                                        penlode::Diagnostic& /*reason*/) {
-    return nullptr;
+    return OpenTableCurves(input, rules);
 }
 
 void Hold(TableInput& input, const penlode::Diagnostic& reason,

@@ -1,13 +1,11 @@
 #include "documents/points/CellRows.h"
 
-#include "charts/curve/CurveProp.h"
 #include "penlode/engine/LineThinning.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
+#include <optional>
 #include <tuple>
-#include <utility>
 
 namespace millichart::documents {
 namespace {
@@ -35,19 +33,15 @@ std::vector<PointRow> RowsOf(const CellSummary& summary) {
     return rows;
 }
 
-std::size_t CountKept(const CellSummary& summary) {
-    return RowsOf(summary).size();
-}
-
 /// A line from one gap to the next.
 class Run {
 public:
     Run(std::vector<std::int32_t>& times, std::vector<double>& values)
         : m_times(times), m_values(values), m_begin(times.size()) {}
 
-    void Put(std::int32_t time, double value) {
-        m_times.push_back(time);
-        m_values.push_back(value);
+    void Put(const PointRow& row) {
+        m_times.push_back(row.Time);
+        m_values.push_back(row.Value);
     }
 
     void Put(const CellSummary& summary) {
@@ -56,12 +50,12 @@ public:
             m_thinned = m_times.size();
         }
         for (const PointRow& row : rows) {
-            Put(row.Time, row.Value);
+            Put(row);
         }
     }
 
-    /// The line that has all rows is thinned, so this one must be. A row that comes again within its column is
-    /// left out.
+    /// The line that has all rows is thinned, so this one must be. A row that comes again within its column
+    /// is left out.
     void End() {
         if (m_thinned) {
             constexpr std::size_t kEnough = penlode::kMinDataLinePoints + 1;
@@ -89,11 +83,7 @@ private:
 
 } // namespace
 
-void CellSummary::Take(const CellSummary& other) {
-    if (Rows == 0) {
-        *this = other;
-        return;
-    }
+void CellSummary::Join(const CellSummary& other) {
     First = ComesBefore(other.First, First) ? other.First : First;
     Lowest = IsLower(other.Lowest, Lowest) ? other.Lowest : Lowest;
     Highest = IsHigher(other.Highest, Highest) ? other.Highest : Highest;
@@ -107,10 +97,14 @@ TimeSpan CellRows::SpanOf(std::size_t cell) const {
             cell == m_starts.size() ? Limits::max() : m_starts[cell] - 1};
 }
 
+std::size_t CellRows::NumberOf(std::int32_t time) const {
+    return static_cast<std::size_t>(std::upper_bound(m_starts.begin(), m_starts.end(), time) -
+                                    m_starts.begin());
+}
+
 CellRows::Cell& CellRows::CellOf(std::int32_t time) {
     if (m_latest == nullptr || time < m_latestSpan.First || time > m_latestSpan.Last) {
-        const auto cell = static_cast<std::size_t>(
-            std::upper_bound(m_starts.begin(), m_starts.end(), time) - m_starts.begin());
+        const std::size_t cell = NumberOf(time);
         m_latest = &m_cells[cell];
         m_latestSpan = SpanOf(cell);
     }
@@ -118,7 +112,12 @@ CellRows::Cell& CellRows::CellOf(std::int32_t time) {
 }
 
 void CellRows::Take(const CellSummary& summary) {
-    CellOf(summary.First.Time).Summary.Take(summary);
+    std::optional<CellSummary>& known = CellOf(summary.First.Time).Summary;
+    if (known) {
+        known->Join(summary);
+    } else {
+        known = summary;
+    }
 }
 
 void CellRows::TakeGaps(std::int32_t time, std::uint64_t rows) {
@@ -126,7 +125,7 @@ void CellRows::TakeGaps(std::int32_t time, std::uint64_t rows) {
 }
 
 void CellRows::TakeWhole(const WholeRow& row) {
-    CellOf(row.Time).Whole.push_back(row);
+    CellOf(row.Row.Time).Whole.push_back(row);
 }
 
 /// Those with a gap; and those between two of them, or an end of the line, that have rows to be left out but
@@ -148,44 +147,49 @@ std::vector<std::size_t> CellRows::WantedCells() const {
             wanted.push_back(number);
             continue;
         }
-        rows += cell.Summary.Rows;
-        if (CountKept(cell.Summary) < cell.Summary.Rows) {
-            thinned.push_back(number);
+        if (cell.Summary) {
+            rows += cell.Summary->Rows;
+            if (RowsOf(*cell.Summary).size() < cell.Summary->Rows) {
+                thinned.push_back(number);
+            }
         }
     }
     endRun();
     return wanted;
 }
 
-std::vector<TimeSpan> CellRows::WantedWhole(std::uint64_t& rows) const {
+std::vector<TimeSpan> CellRows::WantedWhole() const {
     std::vector<TimeSpan> spans;
-    rows = 0;
     for (const std::size_t number : WantedCells()) {
-        const Cell& cell = m_cells.at(number);
-        rows += cell.Summary.Rows + cell.Gaps;
-        const TimeSpan span = SpanOf(number);
-        if (!spans.empty() && spans.back().Last + 1 == span.First) {
-            spans.back().Last = span.Last;
-        } else {
-            spans.push_back(span);
-        }
+        spans.push_back(SpanOf(number));
     }
     return spans;
+}
+
+std::uint64_t CellRows::ForgetCells(std::span<const TimeSpan> spans) {
+    std::uint64_t rows = 0;
+    for (const TimeSpan& span : spans) {
+        for (auto at = m_cells.lower_bound(NumberOf(span.First));
+             at != m_cells.end() && SpanOf(at->first).First <= span.Last; ++at) {
+            rows += (at->second.Summary ? at->second.Summary->Rows : 0) + at->second.Gaps;
+            at->second = {};
+        }
+    }
+    return rows;
 }
 
 void CellRows::AppendLine(std::vector<std::int32_t>& times, std::vector<double>& values) const {
     Run run(times, values);
     for (const auto& [number, cell] : m_cells) {
-        if (cell.Whole.empty()) {
-            run.Put(cell.Summary);
-            continue;
+        if (cell.Summary) {
+            run.Put(*cell.Summary);
         }
-        for (const WholeRow& row : cell.Whole) {
-            if (row.Value) {
-                run.Put(row.Time, *row.Value);
-            } else {
+        for (const WholeRow& whole : cell.Whole) {
+            if (whole.IsGap) {
                 run.End();
-                run.Put(row.Time, kCurveNull);
+            }
+            run.Put(whole.Row);
+            if (whole.IsGap) {
                 run.End();
             }
         }

@@ -26,18 +26,17 @@ struct CellSummary {
     PointRow Last;
     std::uint64_t Rows = 0;
 
-    /// The summary of one row, or of `rows` that are alike.
+    /// The summary of one row, or of `rows` that are alike; 0 where they are counted elsewhere.
     static CellSummary Of(PointRow row, std::uint64_t rows = 1) { return {row, row, row, row, rows}; }
 
-    /// Whichever of the two comes first.
-    void Take(const CellSummary& other);
+    /// Sums up the rows of both.
+    void Join(const CellSummary& other);
 };
 
-/// A row of a part of the table that was asked for whole; nothing where it has no value, which breaks the
-/// line.
+/// A row of a part of the table that was asked for whole.
 struct WholeRow {
-    std::int32_t Time = 0;
-    std::optional<double> Value;
+    PointRow Row;
+    bool IsGap = false; ///< has no value, or none that has a place: it breaks the line
 };
 
 /// Times from the first up to the last, both included.
@@ -56,13 +55,17 @@ public:
     /// Of rows that all lie in one cell.
     void Take(const CellSummary& summary);
 
-    /// So many rows without a value, all in one cell.
+    /// So many gaps, all in one cell.
     void TakeGaps(std::int32_t time, std::uint64_t rows);
 
-    /// The cells that must be known whole, neighbours as one, and how many rows they have.
-    std::vector<TimeSpan> WantedWhole(std::uint64_t& rows) const;
+    /// The cells that must be known whole.
+    std::vector<TimeSpan> WantedWhole() const;
 
-    /// In place of all that is known of a cell, which `WantedWhole` wanted. Rows come in their order.
+    /// All that is known of their cells goes, as their rows come by `TakeWhole`. Gives how many rows that
+    /// are.
+    std::uint64_t ForgetCells(std::span<const TimeSpan> spans);
+
+    /// A row of such a cell. They come in their order.
     void TakeWhole(const WholeRow& row);
 
     /// Appends the rows of the line in their order. Where rows were left out between two gaps, one comes so
@@ -71,11 +74,12 @@ public:
 
 private:
     struct Cell {
-        CellSummary Summary = {};
+        std::optional<CellSummary> Summary = {};
         std::uint64_t Gaps = 0;
-        std::vector<WholeRow> Whole = {};
+        std::vector<WholeRow> Whole = {}; ///< in place of both
     };
 
+    std::size_t NumberOf(std::int32_t time) const;
     Cell& CellOf(std::int32_t time);
     TimeSpan SpanOf(std::size_t cell) const;
     std::vector<std::size_t> WantedCells() const;

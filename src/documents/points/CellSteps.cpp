@@ -37,9 +37,10 @@ void Fit(CellSteps& steps, std::span<const std::int32_t> starts) {
     double sumXY = 0.0;
     double count = 0.0;
     for (std::size_t i = 0; i < starts.size(); ++i) {
-        count += i == 0 ? 0.0
-                        : std::round((static_cast<double>(starts[i]) - static_cast<double>(starts[i - 1])) /
-                                     usual);
+        count +=
+            i == 0
+                ? 0.0
+                : std::round((static_cast<double>(starts[i]) - static_cast<double>(starts[i - 1])) / usual);
         const double x = (static_cast<double>(starts[i]) - steps.Base) / usual;
         sumX += x;
         sumY += count;

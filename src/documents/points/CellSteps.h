@@ -20,8 +20,8 @@ struct CellSteps {
     double Scale = 0.0;
     double Shift = 0.0;
     double Bracket = 0.0; ///< less than 1 where that is of any use
-    /// Whole parts of steps in which a cell begins out of all brackets, so that all times in them count one by
-    /// one. Ascending.
+    /// Whole parts of steps in which a cell begins out of all brackets, so that all times in them count one
+    /// by one. Ascending.
     std::vector<std::int64_t> Odd = {};
     bool AreTimesAlone = false; ///< cells hold so few times each that all count one by one
 };

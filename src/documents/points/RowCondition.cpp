@@ -62,8 +62,7 @@ std::optional<RowCondition> ConditionOf(std::string_view text) {
     const std::size_t length = two == "<>" || two == "<=" || two == ">=" ? 2 : 1;
     const std::string_view name = Trimmed(text.substr(0, place));
     const std::string_view value = Trimmed(text.substr(place + length));
-    const std::optional<std::string> inner =
-        name.starts_with('"') ? Unquoted(name, '"') : std::string(name);
+    const std::optional<std::string> inner = name.starts_with('"') ? Unquoted(name, '"') : std::string(name);
     const std::optional<std::string> quoted = Unquoted(value, '\'');
     const bool isValue = !value.empty() && (quoted || value.find_first_of("'<>=") != 0);
     if (!inner || inner->empty() || !isValue) {

@@ -57,6 +57,9 @@ public:
     /// Of a session that is connected.
     virtual SqlDialect Dialect() const = 0;
 
+    /// Does the data base work in this program, so that a row costs little?
+    virtual bool IsInProcess() const { return false; }
+
     /// A name as the data base quotes it, so that nothing in it is taken for more than a name.
     virtual std::string Quoted(std::string_view name) const = 0;
 

@@ -15,6 +15,8 @@ public:
 
     SqlDialect Dialect() const override { return SqlDialect::Sqlite; }
 
+    bool IsInProcess() const override { return true; }
+
     /// SQLite takes an unknown name in double quotes for a text, but not in these.
     std::string Quoted(std::string_view name) const override { return InQuotes(name, "`"); }
 

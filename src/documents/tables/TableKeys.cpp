@@ -149,6 +149,7 @@ TableOptions Merged(TableOptions first, const TableOptions& second) {
     const TableOptions unset;
     take(first.Sheet, second.Sheet, unset.Sheet);
     take(first.Query, second.Query, unset.Query);
+    take(first.Points, second.Points, unset.Points);
     take(first.Columns, second.Columns, unset.Columns);
     take(first.HasHeading, second.HasHeading, unset.HasHeading);
     take(first.IsTransposed, second.IsTransposed, unset.IsTransposed);
