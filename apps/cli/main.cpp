@@ -1,6 +1,7 @@
 #include "commands/CommandLine.h"
 #include "files/Console.h"
 #include "files/QueryProgress.h"
+#include "files/StreamProgress.h"
 #include "files/Streams.h"
 #include "files/System.h"
 
@@ -37,6 +38,7 @@ int main(int argc, char** argv) {
     try {
         cli::PrepareSystem();
         cli::WatchQueries();
+        cli::WatchStreams();
         return std::visit(Carry(), cli::ParseCommandLine(cli::Arguments(argc, argv)));
     } catch (const cli::UsageError& error) {
         cli::Tell(error.what());

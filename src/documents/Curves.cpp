@@ -313,6 +313,9 @@ ValueRange Curves::FittedRange(const ChartOptions& options) const {
 
 void Curves::CheckRange(const CBasicCurve& chart, std::vector<Diagnostic>& diagnostics) const {
     RangeCheck range(chart, m_prop.Plot.LogarithmScale != 0);
+    if (m_large) {
+        range.SetOutermost();
+    }
     ForEachValue([&range](double value, std::size_t curve, std::size_t i) { range.Look(value, curve, i); });
     range.AddTo(diagnostics, [this](std::size_t curve, std::size_t i) {
         Diagnostic at = AtValue(m_data.Origin, i, curve + 1,

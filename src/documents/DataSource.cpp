@@ -56,7 +56,7 @@ std::optional<TableInput> OpenNamed(const std::string& name, const std::string& 
 
 /// Of a table that is streamed nothing is here.
 Table ReadOrStream(TableInput& input, const TableForm& form, const DataSource& source) {
-    penlode::Diagnostic reason;
+    penlode::Diagnostic reason = penlode::Error("", "");
     if (source.Large != nullptr) {
         source.Large->Curves = OpenLarge(input, form, source.Large->Rules, *source.Diagnostics, reason);
         if (source.Large->Curves != nullptr) {

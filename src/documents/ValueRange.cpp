@@ -216,7 +216,7 @@ void RangeCheck::AddTo(Diagnostics& diagnostics,
         }
         diagnostics.push_back(locate(items.First.List, items.First.Index));
         Diagnostic& told = diagnostics.back();
-        const bool isOne = items.Count == 1;
+        const bool isOne = items.Count == 1 || m_areOutermost;
         told.Severity = severity;
         told.Text = NumberText(items.First.Value) + told.Text +
                     (isOne ? "" : " and " + Counted(items.Count - 1, "other value")) + " " +

@@ -71,6 +71,9 @@ public:
         }
     }
 
+    /// There may be more values than were looked at, but none that is smaller or larger.
+    void SetOutermost() { m_areOutermost = true; }
+
     /// Adds nothing, warnings, or an error. `locate` gives a diagnostic of the file, line and place of an
     /// item of a list, and in its text what the item belongs to: ' of "Wheat" in "North"'.
     void AddTo(std::vector<penlode::Diagnostic>& diagnostics,
@@ -98,6 +101,7 @@ private:
     void Note(const Item& item);
 
     bool m_isLogarithmic;
+    bool m_areOutermost = false;
     double m_min = 0.0;
     double m_max = 0.0;
     Items m_outside;

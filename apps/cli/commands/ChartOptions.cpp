@@ -122,6 +122,10 @@ void AddTableOptions(CLI::App& command, ChartSource& source) {
                            "so many of the largest rows, and the rest as one");
     AddParsed<char>(command, "--decimal", table.DecimalMark, ParseDecimal, "a point or a comma",
                     "the decimal mark; without it the table tells");
+    command.add_flag_function(
+        "--stream,!--no-stream", [&source](std::int64_t count) { source.Streams = count > 0; },
+        "read a line chart's CSV row by row without holding it, as is done from 64 MB on; --no-stream holds "
+        "it");
 }
 
 void AddLookOptions(CLI::App& command, ChartSource& source) {

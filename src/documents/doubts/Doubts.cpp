@@ -134,7 +134,9 @@ void AddDoubts(const CurveDocument& document, const CBasicCurve& chart, Diagnost
     Scene scene{{{kRecord, "Curve"}}, {PaintOf(chart)}, {}};
     AddRecordDoubts(document.Prop, kRecord, diagnostics);
     AddAxisLabelDoubts(chart, diagnostics);
-    AddCurveSightDoubts(chart, document.Data.Origin, diagnostics);
+    if (document.Large == nullptr) { // of which only the outermost points are there yet
+        AddCurveSightDoubts(chart, document.Data.Origin, diagnostics);
+    }
     AddLegend(document.Prop.Legend, chart.GetLayout(), 0, scene);
     AddTextDoubts(chart, scene, diagnostics);
 }

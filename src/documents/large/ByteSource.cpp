@@ -77,14 +77,17 @@ public:
     std::size_t Read(char* to, std::size_t most) override {
         const std::size_t begun = m_begun.copy(to, most, m_at);
         m_at += begun;
+        m_passed += begun;
         if (m_at == m_begun.size() && m_at != 0) {
             std::string().swap(m_begun);
             m_at = 0;
         }
-        return begun + (begun < most ? ReadFrom(m_stream, to + begun, most - begun, m_fault) : 0);
+        const std::size_t read = begun < most ? ReadFrom(m_stream, to + begun, most - begun, m_fault) : 0;
+        m_passed += read;
+        return begun + read;
     }
 
-    bool Seek(std::uint64_t /*at*/) override { return false; }
+    bool Seek(std::uint64_t at) override { return at == m_passed; }
 
     std::optional<std::uint64_t> Size() const override { return std::nullopt; }
 
@@ -93,6 +96,7 @@ public:
 private:
     std::string m_begun;
     std::size_t m_at = 0;
+    std::uint64_t m_passed = 0;
     std::istream& m_stream;
     std::unique_ptr<std::istream> m_own;
     std::string m_beginning;

@@ -24,7 +24,8 @@ public:
     /// How many were read: as many as asked for, or fewer at the end, and where reading failed.
     virtual std::size_t Read(char* to, std::size_t most) = 0;
 
-    /// Goes on from a place counted from the first byte; false if that cannot be.
+    /// Goes on from a place counted from the first byte; false if that cannot be, as for what
+    /// a pipe has passed.
     virtual bool Seek(std::uint64_t at) = 0;
 
     /// Nothing of a pipe.

@@ -106,7 +106,8 @@ CsvReader::CsvReader(std::string_view bytes) : m_text(bytes) {
         m_decoded = std::move(decoded).value_or("");
         m_text = m_decoded;
     }
-    m_text.remove_prefix(m_text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
+    m_passed = m_text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+    m_text.remove_prefix(m_passed);
     const std::string_view line = m_text.substr(0, m_text.find('\n'));
     if (line.starts_with(kSeparatorWord) && Trimmed(line.substr(kSeparatorWord.size() + 1)).empty()) {
         m_separator = line[kSeparatorWord.size()];
@@ -117,6 +118,9 @@ CsvReader::CsvReader(std::string_view bytes) : m_text(bytes) {
     }
     CsvReader::Rewind();
 }
+
+CsvReader::CsvReader(std::string_view rows, char separator, std::size_t line)
+    : m_text(rows), m_separator(separator), m_firstLine(line), m_line(line) {}
 
 std::string CsvReader::Fault() const {
     if (!m_isText) {

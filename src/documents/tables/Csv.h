@@ -19,7 +19,15 @@ public:
     /// The bytes must outlive the reader.
     explicit CsvReader(std::string_view bytes);
 
+    /// Of rows within a text of UTF-8, of which the first begins on that line.
+    CsvReader(std::string_view rows, char separator, std::size_t line);
+
     bool Next(TableRow& row) override;
+
+    /// How many bytes lie before the next row, and on which line that begins.
+    std::size_t At() const { return m_passed + m_at; }
+
+    std::size_t Line() const { return m_line; }
 
     std::string Fault() const override;
 
@@ -44,6 +52,7 @@ private:
     char m_separator = ',';
     std::size_t m_begin = 0; ///< of the first row
     std::size_t m_firstLine = 1;
+    std::size_t m_passed = 0; ///< bytes before the text: a mark of their order
     std::size_t m_at = 0;
     std::size_t m_line = 1;
     std::size_t m_openQuote = 0; ///< the line of a quote that never closed

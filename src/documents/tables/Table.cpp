@@ -75,13 +75,13 @@ auto ReadRows(const std::optional<DecimalMark>& given, const TableForm& form, Lo
 
 } // namespace
 
-Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diagnostic>& diagnostics) {
+std::optional<TableShape> ShapeOfInput(const TableInput& input, const TableForm& form, LookedAtRows& rows,
+                                       std::vector<Diagnostic>& diagnostics) {
     const TableOptions options = OptionsOf(input);
-    const OpenedTable opened = Opened(input);
-    LookedAtRows rows(*opened.Rows);
+    const RowReader& reader = rows.Reader();
     std::vector<Diagnostic> told;
     TableShape shape = ShapeOf(rows, form, options, told);
-    if (!options.Sheet.empty() && opened.Rows->Sheet().empty() && opened.Rows->Fault().empty()) {
+    if (!options.Sheet.empty() && reader.Sheet().empty() && reader.Fault().empty()) {
         told.push_back(penlode::Warning("sheet", "has no effect, as this table has no sheets"));
     }
     if (!options.Query.empty() && input.Source.empty()) {
@@ -92,10 +92,21 @@ Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diag
         diagnostic.Line = options.IsTransposed ? 0 : diagnostic.Line;
     }
     diagnostics.insert(diagnostics.end(), told.begin(), told.end());
-    if (std::any_of(told.begin(), told.end(),
-                    [](const Diagnostic& one) { return one.Severity == penlode::Severity::Error; })) {
+    const bool isWrong = std::any_of(told.begin(), told.end(), [](const Diagnostic& one) {
+        return one.Severity == penlode::Severity::Error;
+    });
+    return isWrong ? std::nullopt : std::optional(std::move(shape));
+}
+
+Table ReadTable(const TableInput& input, const TableForm& form, std::vector<Diagnostic>& diagnostics) {
+    const TableOptions options = OptionsOf(input);
+    const OpenedTable opened = Opened(input);
+    LookedAtRows rows(*opened.Rows);
+    std::optional<TableShape> found = ShapeOfInput(input, form, rows, diagnostics);
+    if (!found) {
         return {};
     }
+    TableShape& shape = *found;
     shape.Title = options.IsTransposed ? opened.Title : shape.Title;
     const auto reader =
         ReadRows(GivenMark(options, *opened.Rows), form, rows, shape, [&](std::optional<DecimalMark> mark) {

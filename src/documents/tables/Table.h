@@ -12,6 +12,9 @@
 
 namespace millichart::documents {
 
+class LookedAtRows;
+struct TableShape;
+
 /// What a kind of chart expects of a table with its data: a column of names or times, and columns of numbers,
 /// maybe under a heading. Which columns and rows they are is found by TableShape.h.
 struct TableForm {
@@ -47,6 +50,10 @@ struct Table {
 /// not be read, or has too many rows, is empty.
 Table ReadTable(const TableInput& input, const TableForm& form,
                 std::vector<penlode::Diagnostic>& diagnostics);
+
+/// What a look at the first rows tells of a table, unless the options are wrong; what is doubtful is told.
+std::optional<TableShape> ShapeOfInput(const TableInput& input, const TableForm& form, LookedAtRows& rows,
+                                       std::vector<penlode::Diagnostic>& diagnostics);
 
 /// The text of a row that stands above a table's heading, or nothing. UTF-8.
 std::string TableTitle(const TableInput& input);

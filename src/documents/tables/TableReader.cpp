@@ -84,6 +84,71 @@ bool TableReader::Read() {
     return true;
 }
 
+/// That there was a row is kept, by its line.
+bool TableReader::ReadLone(const TableRow& row, LoneRow& taken) {
+    TableOrigin& origin = m_table.Origin;
+    const std::size_t before = origin.Lines.size();
+    const std::size_t told = m_told;
+    const std::size_t kept = m_diagnostics.size();
+    ReadRow(row, false);
+    if (m_lacksMark) { // by which it is read again
+        m_told = told;
+        m_diagnostics.resize(std::min(m_diagnostics.size(), kept));
+    }
+    if (origin.Lines.size() == before) {
+        return false;
+    }
+    taken.Form = m_times;
+    taken.Time = m_times == TimeForm::Whole     ? m_table.Times.back()
+                 : m_times == TimeForm::Decimal ? m_numbers.back()
+                                                : 0.0;
+    taken.Text = m_times == TimeForm::Texts ? CStringUtil::AnsiToUtf8(m_table.Names.back()) : "";
+    taken.Values.clear();
+    for (std::vector<double>& numbers : m_table.Columns) {
+        taken.Values.push_back(numbers.back());
+        numbers.clear();
+    }
+    m_table.Times.clear();
+    m_numbers.clear();
+    m_table.Names.clear();
+    origin.Lines.resize(m_lacksMark ? before : 1);
+    return !m_lacksMark;
+}
+
+void TableReader::EndLone(std::size_t filled) {
+    m_table.Origin.ArePercent = filled == 0 && m_percents != 0 && m_percents == m_numbersRead;
+    m_filled = std::max(m_filled, filled);
+    TellSheetErrors();
+    if (m_table.Heading.empty() && m_width > 0) {
+        m_table.EmptyColumns = m_width - std::max(m_filled, std::size_t{1});
+    }
+}
+
+void TableReader::SetMark(const DecimalMark& mark) {
+    m_mark = mark;
+    m_lacksMark = false;
+}
+
+void TableReader::RefuseTime(std::size_t line, const std::string& text, const std::string& expected) {
+    TableRow row;
+    row.Line = line;
+    row.Cells = {text};
+    RefuseCell(row, 0, expected);
+}
+
+void TableReader::WarnAtLine(std::size_t line, std::string text) {
+    Diagnostic warning = penlode::Warning("", std::move(text));
+    PutAtLine(m_table.Origin, line, 0, warning);
+    m_diagnostics.push_back(std::move(warning));
+}
+
+void TableReader::Fail(const std::string& fault, std::size_t line) {
+    m_diagnostics.clear();
+    m_told = 0;
+    Tell(penlode::Error("", fault));
+    m_diagnostics.back().Line = line;
+}
+
 void TableReader::CheckRows() {
     const std::size_t rows = m_table.Origin.Lines.size();
     const bool isEmpty = rows == 0 || m_table.Columns.empty();
@@ -215,20 +280,20 @@ void TableReader::TakeTime(const TableRow& row) {
     const auto time = penlode::NumberOf<std::int32_t>(cell);
     const bool isNumber = time || IsNumberCell(cell);
     if (m_table.Origin.Lines.empty()) {
-        m_times = time ? Times::Whole : isNumber ? Times::Decimal : Times::Texts;
+        m_times = time ? TimeForm::Whole : isNumber ? TimeForm::Decimal : TimeForm::Texts;
         if (cell.empty()) {
             RefuseCell(row, 0, "a time, which is a number or a date, or a text as a label");
         }
-    } else if (m_times == Times::Whole && !time && isNumber) {
-        m_times = Times::Decimal;
+    } else if (m_times == TimeForm::Whole && !time && isNumber) {
+        m_times = TimeForm::Decimal;
         m_numbers.assign(m_table.Times.begin(), m_table.Times.end());
     }
-    if (m_times == Times::Whole) {
+    if (m_times == TimeForm::Whole) {
         m_table.Times.push_back(time.value_or(0));
         if (!time) {
             RefuseCell(row, 0, "a whole number, as in the rows above");
         }
-    } else if (m_times == Times::Decimal) {
+    } else if (m_times == TimeForm::Decimal) {
         TakeDecimalTime(row);
     } else {
         TakeName(row);
@@ -258,9 +323,9 @@ void TableReader::TakeTimes() {
     if (!m_form.HasTimes || rows == 0 || m_told != 0) {
         return;
     }
-    if (m_times == Times::Decimal) {
+    if (m_times == TimeForm::Decimal) {
         TakeAxis(AxisOfNumbers(m_numbers));
-    } else if (m_times == Times::Texts && !TakeDates()) {
+    } else if (m_times == TimeForm::Texts && !TakeDates()) {
         m_table.Times.resize(rows);
         std::iota(m_table.Times.begin(), m_table.Times.end(), 0);
         return;
@@ -376,10 +441,7 @@ std::string TableReader::NumberForm(const WrittenNumber& written) const {
 void TableReader::CheckFault() {
     const RowReader& reader = m_rows.Reader();
     if (const std::string fault = reader.Fault(); !fault.empty()) {
-        m_diagnostics.clear();
-        m_told = 0;
-        Tell(penlode::Error("", fault));
-        m_diagnostics.back().Line = reader.FaultLine();
+        Fail(fault, reader.FaultLine());
     }
 }
 
@@ -395,9 +457,7 @@ void TableReader::RefuseCell(const TableRow& row, std::size_t column, const std:
 }
 
 void TableReader::WarnAt(std::size_t row, std::string text) {
-    Diagnostic warning = penlode::Warning("", std::move(text));
-    PutAt(m_table.Origin, row, 0, warning);
-    m_diagnostics.push_back(std::move(warning));
+    WarnAtLine(m_table.Origin.Lines[row], std::move(text));
 }
 
 void TableReader::TellAt(const TableRow& row, Diagnostic fault) {

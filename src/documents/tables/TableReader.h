@@ -14,6 +14,17 @@
 
 namespace millichart::documents {
 
+/// What the first column of a line chart holds, as its first row tells.
+enum class TimeForm { Whole, Decimal, Texts };
+
+/// A row of a line chart by itself.
+struct LoneRow {
+    TimeForm Form = TimeForm::Whole;
+    double Time = 0.0; ///< unless it is a text
+    std::string Text;  ///< UTF-8
+    std::vector<double> Values;
+};
+
 /// Reads the rows of a table whose shape is known.
 class TableReader {
 public:
@@ -23,6 +34,31 @@ public:
 
     /// False when a number was met which the decimal mark must be known to read.
     bool Read();
+
+    /// In the place of `Read`, for who keeps no rows: the heading, if there is one, and then each row. False
+    /// when a row gave none, for which errors may be told, or needs a decimal mark.
+    bool ReadLone(const TableRow& row, LoneRow& taken);
+
+    void ReadHeading(const TableRow& row) { ReadRow(row, true); }
+
+    /// Behind the last. `filled` cells were seen of rows that were read elsewhere, none if there were no such
+    /// rows.
+    void EndLone(std::size_t filled);
+
+    bool LacksMark() const { return m_lacksMark; }
+
+    void SetMark(const DecimalMark& mark);
+
+    /// Cells of a row; 0 before the first.
+    std::size_t Width() const { return m_width; }
+
+    bool HasErrors() const { return m_told != 0; }
+
+    /// As of a cell in the first column.
+    void RefuseTime(std::size_t line, const std::string& text, const std::string& expected);
+    void WarnAtLine(std::size_t line, std::string text);
+    /// What was read before is not what was meant.
+    void Fail(const std::string& fault, std::size_t line);
 
     /// Once the rows are in their order.
     void CheckRows();
@@ -35,9 +71,6 @@ public:
     std::vector<penlode::Diagnostic>& Diagnostics() { return m_diagnostics; }
 
 private:
-    /// What the first column of a line chart holds, as its first row tells.
-    enum class Times { Whole, Decimal, Texts };
-
     void ReadRow(const TableRow& row, bool isHeading);
     void SetWidth(const TableRow& row);
     void MakeRoom(std::size_t cells);
@@ -75,7 +108,7 @@ private:
     std::size_t m_width = 0;
     std::size_t m_filled = 0; ///< cells of the row with most, up to its last text
     TableRow m_chosen;
-    Times m_times = Times::Whole;
+    TimeForm m_times = TimeForm::Whole;
     std::vector<double> m_numbers; ///< times with decimals
     std::size_t m_numbersRead = 0;
     std::size_t m_percents = 0; ///< of these

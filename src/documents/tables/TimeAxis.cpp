@@ -19,10 +19,6 @@ constexpr Count kMinute = 60'000;
 constexpr Count kHour = 60 * kMinute;
 constexpr Count kDay = 24 * kHour;
 
-Count CommonDivisor(const std::vector<Count>& counts) {
-    return std::accumulate(counts.begin(), counts.end(), Count{0}, std::gcd<Count, Count>);
-}
-
 /// Into how many equal parts labels divide a span: of the steps given, coarse ones first, the first of which
 /// every part is a multiple. The ends alone if there is none.
 Count PartsOf(Count span, std::initializer_list<Count> steps, std::initializer_list<Count> parts) {
@@ -63,14 +59,20 @@ std::vector<std::string> LabelsOfDates(Count first, Count span, Count step, bool
     return labels;
 }
 
-/// How many decimals the shortest text has that reads back the same.
+} // namespace
+
 int DecimalsOf(double number) {
+    constexpr std::size_t kMostDecimals = 9;
     const std::string text = penlode::Digits(number, std::chars_format::fixed);
     const std::size_t point = text.find('.');
-    return point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
+    return point == std::string::npos ? 0
+                                      : static_cast<int>(std::min(text.size() - point - 1, kMostDecimals));
 }
 
-} // namespace
+std::int32_t TimeScale::TimeOf(double written) const {
+    return AreDates ? static_cast<std::int32_t>((static_cast<std::int64_t>(written) - First) / Unit)
+                    : static_cast<std::int32_t>(std::lround((written - From) * Factor));
+}
 
 std::int32_t ReadableStep(std::size_t count) {
     constexpr std::size_t kMaxLabels = 12;
@@ -96,52 +98,39 @@ std::vector<std::string> LabelsOfWholeTimes(std::int64_t first, std::int64_t las
     return labels;
 }
 
-TimeAxis AxisOfDates(const DateColumn& dates) {
-    const auto [least, most] = std::minmax_element(dates.Moments.begin(), dates.Moments.end());
-    const Count first = least->count();
-    const Count span = most->count() - first;
-    std::vector<Count> since;
-    std::transform(dates.Moments.begin(), dates.Moments.end(), std::back_inserter(since),
-                   [first](Milliseconds moment) { return moment.count() - first; });
-    const Count step = std::max(CommonDivisor(since), Count{1});
+TimeScale ScaleOf(const DateSpan& dates) {
+    const Count span = dates.Last - dates.First;
+    const Count step = std::max(dates.Step, Count{1});
     Count unit = 1;
     for (const Count larger : {Count{1000}, kMinute, kHour, kDay}) {
         unit = step % larger == 0 || span / unit > kMaxTime ? larger : unit;
     }
-    TimeAxis axis;
-    std::transform(since.begin(), since.end(), std::back_inserter(axis.Times),
-                   [unit](Count time) { return static_cast<std::int32_t>(time / unit); });
+    TimeScale scale;
+    scale.AreDates = true;
+    scale.First = dates.First;
+    scale.Unit = unit;
     if (!dates.AreOfOneDay) {
-        axis.Dates = DateCount{first, unit};
+        scale.Dates = DateCount{dates.First, unit};
     }
     if (span > 0) {
-        axis.Labels = LabelsOfDates(first, span, step, dates.AreOfOneDay);
+        scale.Labels = LabelsOfDates(dates.First, span, step, dates.AreOfOneDay);
     }
-    return axis;
+    return scale;
 }
 
-TimeAxis AxisOfNumbers(const std::vector<double>& numbers) {
-    constexpr int kMostDecimals = 9;
-    const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
-    const double first = *least;
-    const double last = *most;
-    int decimals = 0;
-    for (const double number : numbers) {
-        decimals = std::max(decimals, std::min(DecimalsOf(number), kMostDecimals));
-    }
+TimeScale ScaleOf(const NumberSpan& numbers) {
+    const auto [first, last, most] = numbers;
+    int decimals = most;
     const double largest = std::max(std::abs(first), std::abs(last));
     while (decimals > 0 && largest * std::pow(10.0, decimals) > kMaxTimeNumber) {
         --decimals;
     }
     const auto most32 = static_cast<double>(kMaxTime);
-    double scale = std::pow(10.0, decimals);
-    const bool isFar = largest * scale > most32;
-    const double from = isFar ? first : 0.0;
-    scale = std::min(scale, isFar && last > first ? most32 / (last - first) : scale);
-    TimeAxis axis;
-    std::transform(numbers.begin(), numbers.end(), std::back_inserter(axis.Times), [=](double number) {
-        return static_cast<std::int32_t>(std::lround((number - from) * scale));
-    });
+    TimeScale scale;
+    scale.Factor = std::pow(10.0, decimals);
+    const bool isFar = largest * scale.Factor > most32;
+    scale.From = isFar ? first : 0.0;
+    scale.Factor = std::min(scale.Factor, isFar && last > first ? most32 / (last - first) : scale.Factor);
     if (first < last) {
         const auto span = std::llround((last - first) * std::pow(10.0, decimals));
         // A fifth of any number has one decimal more.
@@ -149,9 +138,39 @@ TimeAxis AxisOfNumbers(const std::vector<double>& numbers) {
         const Count parts = found == 1 ? 5 : found;
         for (Count i = 0; i <= parts; ++i) {
             const double part = static_cast<double>(i) / static_cast<double>(parts);
-            axis.Labels.push_back(penlode::RoundedDigits(first + (last - first) * part, decimals + 1));
+            scale.Labels.push_back(penlode::RoundedDigits(first + (last - first) * part, decimals + 1));
         }
     }
+    return scale;
+}
+
+TimeAxis AxisOfDates(const DateColumn& dates) {
+    const auto [least, most] = std::minmax_element(dates.Moments.begin(), dates.Moments.end());
+    DateSpan span{least->count(), most->count(), 0, dates.AreOfOneDay};
+    for (const Milliseconds moment : dates.Moments) {
+        span.Step = std::gcd(span.Step, moment.count() - span.First);
+    }
+    TimeScale scale = ScaleOf(span);
+    TimeAxis axis;
+    std::transform(
+        dates.Moments.begin(), dates.Moments.end(), std::back_inserter(axis.Times),
+        [&scale](Milliseconds moment) { return scale.TimeOf(static_cast<double>(moment.count())); });
+    axis.Labels = std::move(scale.Labels);
+    axis.Dates = scale.Dates;
+    return axis;
+}
+
+TimeAxis AxisOfNumbers(const std::vector<double>& numbers) {
+    const auto [least, most] = std::minmax_element(numbers.begin(), numbers.end());
+    NumberSpan span{*least, *most, 0};
+    for (const double number : numbers) {
+        span.Decimals = std::max(span.Decimals, DecimalsOf(number));
+    }
+    TimeScale scale = ScaleOf(span);
+    TimeAxis axis;
+    std::transform(numbers.begin(), numbers.end(), std::back_inserter(axis.Times),
+                   [&scale](double number) { return scale.TimeOf(number); });
+    axis.Labels = std::move(scale.Labels);
     return axis;
 }
 

@@ -22,6 +22,41 @@ struct TimeAxis {
     std::optional<DateCount> Dates = {}; ///< of dates that are more than times of one day
 };
 
+/// What must be known of a column of dates, in milliseconds.
+struct DateSpan {
+    std::int64_t First = 0; ///< the earliest
+    std::int64_t Last = 0;
+    std::int64_t Step = 0; ///< divides all distances
+    bool AreOfOneDay = false;
+};
+
+/// The same of one of numbers.
+struct NumberSpan {
+    double First = 0.0; ///< the smallest
+    double Last = 0.0;
+    int Decimals = 0; ///< the most that one has
+};
+
+/// How the times of a column are counted and labelled.
+struct TimeScale {
+    bool AreDates = false; ///< counted in units from the first; else numbers, as many times as large
+    std::int64_t First = 0;
+    std::int64_t Unit = 1;
+    double From = 0.0;
+    double Factor = 1.0;
+    std::vector<std::string> Labels = {};
+    std::optional<DateCount> Dates = {};
+
+    /// Of a moment, or a number.
+    std::int32_t TimeOf(double written) const;
+};
+
+TimeScale ScaleOf(const DateSpan& dates);
+TimeScale ScaleOf(const NumberSpan& numbers);
+
+/// So many count of those that the shortest text has that reads back the same.
+int DecimalsOf(double number);
+
 /// 1, 2 or 5 times a power of ten, so that every so many of `count` labels are few enough to read.
 std::int32_t ReadableStep(std::size_t count);
 
