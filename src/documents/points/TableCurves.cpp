@@ -153,6 +153,7 @@ private:
         std::vector<std::int32_t> times(values.size(), TimeIn(extent.First));
         times.push_back(TimeIn(extent.Last));
         values.push_back(values.front());
+        data.Origin.Lines.resize(std::max(data.Origin.Lines.size(), values.size())); // none has a line
         data.Values.push_back(std::move(values));
         data.Times.push_back(std::move(times));
     }
