@@ -34,7 +34,7 @@ millichart::CurveProp LegendRecord() {
 
 std::size_t LaidOut(millichart::CBasicCurve& chart) {
     chart.Layout();
-    return chart.GetLayout().Curves.front().Points.size();
+    return chart.GetLayout().Curves.front().Points().size();
 }
 
 } // namespace

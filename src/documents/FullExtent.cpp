@@ -27,15 +27,15 @@ bool Holds(const RectF& outer, const RectF& inner) {
 }
 
 /// The box round the points that have a place.
-std::optional<RectF> BoxOf(const std::vector<PointF>& points) {
+std::optional<RectF> BoxOf(const CurveTrace& curve) {
     PointF least{HUGE_VALF, HUGE_VALF};
     PointF most{-HUGE_VALF, -HUGE_VALF};
-    for (const PointF& point : points) {
+    curve.ForEach([&](std::size_t, PointF point) {
         if (std::isfinite(point.X) && std::isfinite(point.Y)) {
             least = {std::min(least.X, point.X), std::min(least.Y, point.Y)};
             most = {std::max(most.X, point.X), std::max(most.Y, point.Y)};
         }
-    }
+    });
     if (least.X > most.X) {
         return std::nullopt;
     }
@@ -45,11 +45,13 @@ std::optional<RectF> BoxOf(const std::vector<PointF>& points) {
 /// Half a line's width, or of its markers.
 RectF WithCurves(RectF extent, const CBasicCurve& chart) {
     const RectF whole = Grown(chart.GetPositionAll(), kNear);
-    for (const CurveShape& curve : chart.GetShapes()) {
-        const CurveStyle& style = curve.Style;
+    const CurvePlotProp& plot = chart.GetCurveProp().Plot;
+    const std::vector<CurveTrace>& curves = chart.GetLayout().Curves;
+    for (std::size_t i = 0; i < std::min(plot.CurveName.size(), curves.size()); ++i) {
+        const CurveStyle style = StyleOf(plot, i, chart.GetOptions());
         const bool hasMarkers = style.Dot != CurveDotStyle::None;
         const float reach = std::max({style.Width, hasMarkers ? style.DotWidth : 0.0F, 0.0F}) * 0.5F;
-        const std::optional<RectF> box = curve.Trace == nullptr ? std::nullopt : BoxOf(curve.Trace->Points);
+        const std::optional<RectF> box = BoxOf(curves[i]);
         if (box && std::isfinite(reach) && Holds(whole, Grown(*box, reach))) {
             extent = penlode::Union(extent, Grown(*box, reach));
         }

@@ -24,10 +24,13 @@ public:
     /// read.
     virtual CurveData Extent(std::vector<penlode::Diagnostic>& diagnostics) = 0;
 
-    /// As few rows as draw the same line as all: of each column, and between gaps, the first, the first of the
-    /// lowest, the first of the highest and the last. A column begins at each of `starts`, which ascend, in
-    /// the unit of the extent's times. Where rows are left out, a row comes twice, and so often that at least
-    /// 66 are left between two gaps; so the line is still drawn as one of many points.
+    /// As few rows as draw the same line as all: of each column, and between gaps, the first, the first of
+    /// the lowest, the first of the highest and the last. A column begins at each of `starts`, which ascend,
+    /// in the unit of the extent's times. Fewer than 65 rows between two gaps all stay, as their line is not
+    /// thinned when it is drawn; of 65 or more, where rows are left out a row comes twice, and so often that
+    /// at least 66 are left, so that the line is still drawn as one of many points. Values that single
+    /// precision does not tell apart on the page count as different here, so that another of them may show in
+    /// its column, in the same height.
     virtual CurveData Thinned(std::span<const std::int32_t> starts,
                               std::vector<penlode::Diagnostic>& diagnostics) = 0;
 };

@@ -244,7 +244,7 @@ TEST(WhatIsDrawn, CurvesAreLinesOfTheLayoutsOwnPoints) {
         }
     }
     EXPECT_EQ(Only(Drawn(chart), "DrawLines "), Only(byHand.Text(), "DrawLines "));
-    const std::vector<PointF>& points = chart.GetLayout().Curves[0].Points;
+    const std::vector<PointF>& points = chart.GetLayout().Curves[0].Points();
     ASSERT_EQ(shapes[0].Lines.size(), 3U) << "a null and a value without a place part them";
     EXPECT_EQ(shapes[0].Lines[1].data(), points.data() + 2);
     EXPECT_EQ(shapes[0].Trace, &chart.GetLayout().Curves[0]);

@@ -52,12 +52,12 @@ Json ToJson(const HistogramLayout& layout) {
 
 Json ToJson(const CurveTrace& curve) {
     Json nulls = Json::array();
-    for (std::size_t i = 0; curve.HasNull && i < curve.NullFlags.size(); ++i) {
-        if (curve.NullFlags[i]) {
+    for (std::size_t i = 0; i < curve.NullFlags().size(); ++i) {
+        if (curve.NullFlags()[i]) {
             nulls.push_back(i);
         }
     }
-    return {{"points", ListToJson(curve.Points)}, {"nulls", std::move(nulls)}};
+    return {{"points", ListToJson(curve.Points())}, {"nulls", std::move(nulls)}};
 }
 
 struct LayoutOf {

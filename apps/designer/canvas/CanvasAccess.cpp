@@ -25,7 +25,7 @@ std::size_t AllPoints(const ShownChart& shown, const ChartPart& curve) {
         return 0;
     }
     const auto& curves = chart->GetLayout().Curves;
-    return curve.Index < curves.size() ? curves[curve.Index].Points.size() : 0;
+    return curve.Index < curves.size() ? curves[curve.Index].Size() : 0;
 }
 
 /// Of those canvases that somebody asked for theirs.

@@ -29,7 +29,7 @@ bool IsQuick(const millichart::LaidOutChart& chart) {
     std::size_t values = 0;
     if (curves != nullptr) {
         for (const auto& curve : curves->GetLayout().Curves) {
-            values += curve.Points.size();
+            values += curve.Size();
         }
     }
     return values <= kMostValues;

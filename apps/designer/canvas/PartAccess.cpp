@@ -106,11 +106,11 @@ QRect PartAccess::rect() const {
     const auto* chart = shown ? std::get_if<millichart::CBasicCurve>(&shown->Chart.Chart) : nullptr;
     const ChartPart point = *Part();
     if (chart == nullptr || point.Index >= chart->GetLayout().Curves.size() ||
-        point.Component >= chart->GetLayout().Curves[point.Index].Points.size()) {
+        point.Component >= chart->GetLayout().Curves[point.Index].Size()) {
         return {};
     }
     constexpr float kHalf = 0.5F;
-    const penlode::PointF place = chart->GetLayout().Curves[point.Index].Points[point.Component];
+    const penlode::PointF place = chart->GetLayout().Curves[point.Index].Points()[point.Component];
     return m_chart.PlaceOf({place.X - kHalf, place.Y - kHalf, 2.0F * kHalf, 2.0F * kHalf});
 }
 

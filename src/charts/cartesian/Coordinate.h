@@ -4,6 +4,7 @@
 #include "foundation/NumberFormat.h"
 
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -45,6 +46,11 @@ public:
     virtual void GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const = 0;
 
     void GetTickLabels(std::vector<std::string>& labels) const { GetTickLabels(labels, NumberFormat()); }
+
+    /// Do values between two others lie between their positions, rounding included?
+    virtual bool KeepsOrder() const { return false; }
+
+    virtual std::unique_ptr<CCoordinate> Clone() const = 0;
 
     /// ValueToPosition of each value, with the very same results, in one call for a whole run of data.
     /// `positions` is as long as `values`.

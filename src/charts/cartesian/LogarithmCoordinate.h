@@ -31,6 +31,11 @@ public:
 
     /// Without exact numbers: each with the decimals that its power of ten needs: 0.001, 100.
     void GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const override;
+
+    std::unique_ptr<CCoordinate> Clone() const override {
+        return std::make_unique<CLogarithmCoordinate>(*this);
+    }
+
     void ValuesToPositions(std::span<const double> values, std::span<float> positions) const override;
 
 private:

@@ -30,6 +30,13 @@ public:
 
     /// Without exact numbers: whole numbers if the largest tick is at least 1, else two decimals.
     void GetTickLabels(std::vector<std::string>& labels, const NumberFormat& numbers) const override;
+
+    bool KeepsOrder() const override { return true; }
+
+    std::unique_ptr<CCoordinate> Clone() const override {
+        return std::make_unique<CNaturalCoordinate>(*this);
+    }
+
     void ValuesToPositions(std::span<const double> values, std::span<float> positions) const override;
 
 private:

@@ -57,6 +57,10 @@ void ValueAxis::GetLogarithmRange(double& min, double& max) const {
     }
 }
 
+std::shared_ptr<const CCoordinate> ValueAxis::Frozen() const {
+    return m_axis == nullptr ? nullptr : m_axis->Clone();
+}
+
 float ValueAxis::ValueToPosition(double value) const {
     return m_axis == nullptr ? kNowhere : m_axis->ValueToPosition(value);
 }

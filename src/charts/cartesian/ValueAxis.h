@@ -22,6 +22,9 @@ public:
     void SetLogarithmRange(double min, double max);
     void GetLogarithmRange(double& min, double& max) const;
 
+    /// The axis as it is now, which later changes leave alone; null without one.
+    std::shared_ptr<const CCoordinate> Frozen() const;
+
     float ValueToPosition(double value) const;
     /// Of each value; `positions` is as long as `values`.
     void ValuesToPositions(std::span<const double> values, std::span<float> positions) const;

@@ -35,14 +35,25 @@ bool CBasicCurve::SetCurveProp(const CurveProp& prop) {
 
 void CBasicCurve::SetCurveData(std::vector<std::vector<double>> values,
                                std::vector<std::vector<std::int32_t>> times) {
-    m_values = std::move(values);
-    m_times = std::move(times);
+    m_lists = std::make_shared<const Lists>(Lists{std::move(values), std::move(times)});
+    m_data.clear();
+    for (std::size_t i = 0; i < m_lists->Values.size(); ++i) {
+        CurveDataView& curve = m_data.emplace_back(CurveDataView{std::span(m_lists->Values[i]), {}});
+        if (i < m_lists->Times.size()) {
+            curve.Times = std::span(m_lists->Times[i]);
+        }
+    }
+    CalcTimeSpan();
+}
+
+void CBasicCurve::SetCurveDataView(std::vector<CurveDataView> curves) {
+    m_lists = std::make_shared<const Lists>();
+    m_data = std::move(curves);
     CalcTimeSpan();
 }
 
 void CBasicCurve::CalcTimeSpan() {
-    const std::size_t curves = std::min(m_values.size(), m_times.size());
-    m_timeSpan = TimeSpanOf(std::span(m_times).first(curves), m_timeSpan);
+    m_timeSpan = TimeSpanOf(m_data, m_timeSpan);
 }
 
 void CBasicCurve::Layout() {
@@ -54,8 +65,9 @@ void CBasicCurve::Layout() {
     m_layout.HorLabelTexts.clear();
     m_layout.HorLabelRects.clear();
     m_layout.HorLabelSizes.clear();
-    m_layout.Curves.resize(m_values.size());
-    if (m_values.empty()) {
+    m_layout.Curves.clear();
+    m_layout.Curves.resize(m_data.size());
+    if (m_data.empty()) {
         return;
     }
     TakeHorLabels();
@@ -131,11 +143,12 @@ void CBasicCurve::TakeHorLabels() {
     std::vector<TimeTick> ticks;
     if (m_layout.LabelsBelow == HorLabels::Made && HasTimes()) {
         const TextProperty& look = m_prop.HorAxis.HorLabelTextProperty;
-        ticks = TimeTicksThatFit(
-            {m_timeSpan.Min, m_timeSpan.Max, m_options.TimeUnit}, m_prop.Plot.PlotWidth - 2.0F * Inset(),
-            [&look](const std::string& text) { return CTextPropertyOperation::GetTextSize(text, look); });
+        ticks = TimeTicksThatFit({m_timeSpan.First(), m_timeSpan.Last(), m_options.TimeUnit},
+                                 m_prop.Plot.PlotWidth - 2.0F * Inset(), [&look](const std::string& text) {
+                                     return CTextPropertyOperation::GetTextSize(text, look);
+                                 });
     } else if (m_layout.LabelsBelow == HorLabels::AtTimes) {
-        ticks = LabelsWithin(m_timeSpan.Min, m_timeSpan.Max, m_labelTimes, m_labels);
+        ticks = LabelsWithin(m_timeSpan.First(), m_timeSpan.Last(), m_labelTimes, m_labels);
     }
     for (TimeTick& tick : ticks) {
         m_layout.HorLabelTimes.push_back(tick.Time);
@@ -144,9 +157,9 @@ void CBasicCurve::TakeHorLabels() {
 }
 
 bool CBasicCurve::HasTimes() const {
-    const std::size_t curves = std::min(m_values.size(), m_times.size());
-    return std::any_of(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(curves),
-                       [](const std::vector<std::int32_t>& times) { return !times.empty(); });
+    return std::any_of(m_data.begin(), m_data.end(), [](const CurveDataView& curve) {
+        return std::visit([](const auto& times) { return !times.empty(); }, curve.Times);
+    });
 }
 
 /// Those that are spread are the present ones, which may have changed since the layout.
@@ -166,7 +179,7 @@ float CBasicCurve::Inset() const {
         return 0.0F;
     }
     float widest = 0.0F;
-    const std::size_t curves = std::min(m_prop.Plot.CurveName.size(), m_values.size());
+    const std::size_t curves = std::min(m_prop.Plot.CurveName.size(), m_data.size());
     for (std::size_t i = 0; i < curves; ++i) {
         const CurveStyle style = StyleOf(m_prop.Plot, i, m_options);
         widest = CurveMarker(style).IsDrawn() ? std::max(widest, style.DotWidth) : widest;
@@ -231,17 +244,14 @@ void CBasicCurve::CalcHorAxisLabelRect() {
 }
 
 void CBasicCurve::CalcCurvePoint() {
-    const CurveScales scales{TimeArea(), m_timeSpan, m_axis};
-    m_layout.Curves.resize(m_values.size());
-    for (std::size_t i = 0; i < m_values.size(); ++i) {
-        const std::size_t count = i < m_times.size() ? std::min(m_values[i].size(), m_times[i].size()) : 0;
-        const std::span times = count > 0 ? std::span<const std::int32_t>(m_times[i]).first(count)
-                                          : std::span<const std::int32_t>();
-        PlaceCurve(std::span<const double>(m_values[i]).first(count), times, scales, m_layout.Curves[i]);
+    const CurvePlacement placement{TimeArea(), m_timeSpan, m_axis.Frozen(), {}};
+    m_layout.Curves.clear();
+    for (const CurveDataView& curve : m_data) {
+        m_layout.Curves.emplace_back(curve, placement, m_lists);
     }
 }
 
-/// Only a legend at the left or above moves anything; points are not written twice for nothing.
+/// Only a legend at the left or above moves anything.
 void CBasicCurve::PlaceLegendAndShift() {
     PlaceLegend(m_prop.Legend, m_prop.Plot.CurveName, kLegendSampleFactor, m_layout);
     const PointF by = m_location - m_layout.Whole.TopLeft();
@@ -250,7 +260,7 @@ void CBasicCurve::PlaceLegendAndShift() {
     }
     MoveFrame(by);
     for (CurveTrace& curve : m_layout.Curves) {
-        Move(curve.Points, by);
+        curve.Move(by);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "charts/cartesian/CartesianChart.h"
 #include "charts/cartesian/CartesianLayout.h"
+#include "charts/curve/CurveDataView.h"
 #include "charts/curve/CurveProp.h"
 #include "charts/curve/CurveTrace.h"
 #include "foundation/ChartPart.h"
@@ -10,6 +11,7 @@
 #include "penlode/IGraphicsEngine.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -70,11 +72,19 @@ public:
     /// need no order. A value below kCurveNullThreshold is null. Lists that are handed over are not copied.
     void SetCurveData(std::vector<std::vector<double>> values, std::vector<std::vector<std::int32_t>> times);
 
-    /// One list a curve, as set, whether or not they have been laid out since.
-    const std::vector<std::vector<double>>& GetCurveValue() const { return m_values; }
+    /// Curves in lists that the caller keeps, alive and as they are, for as long as this chart or a copy
+    /// shows a layout of them. Nothing is copied; the times are looked through once here, and values when
+    /// they are drawn. In the place of any lists that were handed over.
+    void SetCurveDataView(std::vector<CurveDataView> curves);
 
-    /// One list a curve, as set; the lists need not be as long as those of the values.
-    const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_times; }
+    /// One list a curve, as handed over, whether or not they have been laid out since.
+    const std::vector<std::vector<double>>& GetCurveValue() const { return m_lists->Values; }
+
+    /// One list a curve, as handed over; the lists need not be as long as those of the values.
+    const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_lists->Times; }
+
+    /// The curves as set, whoever keeps their lists; good until other ones are.
+    const std::vector<CurveDataView>& GetCurveDataView() const { return m_data; }
 
     /// Narrow texts (GBK; CStringUtil::Utf8ToAnsi), spread evenly over the plot's width whatever the times
     /// are, and shown if there are two or more; or at times of their own (see SetHorAxisLabelTimes).
@@ -103,7 +113,14 @@ public:
     /// which draws nothing.
     void Draw(penlode::IGraphicsEngine* engine) const;
 
+    /// Of the last layout, the ascending whole times at which a column of the engine's surface begins under
+    /// its present transform: of rows in the order of their times that fall in one, only the first, the
+    /// lowest, the highest and the last show, in a line of 65 points or more. None on an engine that is not
+    /// this library's, where columns do not stand upright, and for times beyond 32 bits.
+    std::vector<std::int32_t> DataColumns(const penlode::IGraphicsEngine& engine) const;
+
     /// The curves as they would be drawn now: those of the last layout that have a name.
+    /// Lists of the points are made for it.
     std::vector<CurveShape> GetShapes() const;
 
     /// The texts as they would be drawn now: labels and caption of the value axis and of the other, the
@@ -138,6 +155,7 @@ protected:
     void CalcVerAxisLabelRect();
     void CalcHorAxisLabelRect();
     void CalcTimeSpan();
+    /// The points' places follow from what is kept here, and are found as they are needed.
     void CalcCurvePoint();
 
     void DrawVerAxis(penlode::IGraphicsEngine* engine) const;
@@ -154,6 +172,12 @@ protected:
     void DrawCaption(penlode::IGraphicsEngine* engine) const;
 
 private:
+    /// Lists that were handed over. What a layout shows keeps them.
+    struct Lists {
+        std::vector<std::vector<double>> Values;
+        std::vector<std::vector<std::int32_t>> Times;
+    };
+
     void ListParts(PartSink& sink) const;
     void AddCurves(PartSink& sink) const;
     /// The fewest labels that can be spread from edge to edge.
@@ -180,8 +204,8 @@ private:
     void DrawSample(penlode::IGraphicsEngine& engine, std::size_t index, const penlode::RectF& item) const;
 
     CurveProp m_prop;
-    std::vector<std::vector<double>> m_values;
-    std::vector<std::vector<std::int32_t>> m_times;
+    std::shared_ptr<const Lists> m_lists = std::make_shared<const Lists>();
+    std::vector<CurveDataView> m_data; ///< of those lists, or of the caller's
     std::vector<std::string> m_labels;
     std::vector<std::int32_t> m_labelTimes;
     CurveLayout m_layout;

@@ -1,6 +1,7 @@
 #include "charts/cartesian/CartesianDrawing.h"
 #include "charts/curve/BasicCurve.h"
 #include "charts/curve/CurveMarker.h"
+#include "charts/curve/CurvePlacement.h"
 #include "charts/curve/CurveStyle.h"
 #include "charts/reading/Contrast.h"
 
@@ -20,33 +21,27 @@ bool IsPlaced(PointF point) {
     return std::isfinite(point.X) && std::isfinite(point.Y);
 }
 
-/// Points and which of them are null; whether any is, and whether any has no place, is known beforehand.
+using Line = std::span<const PointF>;
+
+/// Points and which of them are null. A point without a flag of its own is not.
 struct Points {
     const std::vector<PointF>& List;
     const std::vector<bool>& Nulls;
-    bool HasNull;
-    bool HasUnplaced;
 
-    bool IsNull(std::size_t index) const { return HasNull && index < Nulls.size() && Nulls[index]; }
-
-    bool HasNoPlace(std::size_t index) const { return HasUnplaced && !IsPlaced(List[index]); }
+    bool IsNull(std::size_t index) const { return index < Nulls.size() && Nulls[index]; }
 };
 
-Points PointsOf(const CurveTrace& curve) {
-    return {curve.Points, curve.NullFlags, curve.HasNull, curve.HasUnplaced};
+bool Breaks(const CurveStyle& style) {
+    return style.NullValue == CurveNullValueStyle::Break;
 }
 
-using Line = std::span<const PointF>;
-
 /// The points up to each gap, and those after the last one, straight from the list; the empty runs too.
-std::vector<Line> LinesOf(const Points& points, std::int32_t nullValue) {
-    const bool breaks = nullValue == CurveNullValueStyle::Break;
+std::vector<Line> LinesOf(const Points& points, bool breaks) {
     const Line all(points.List);
     std::vector<Line> lines;
     std::size_t start = 0;
-    const std::size_t searched = points.HasUnplaced || (breaks && points.HasNull) ? all.size() : 0;
-    for (std::size_t i = 0; i < searched; ++i) {
-        if ((breaks && points.IsNull(i)) || points.HasNoPlace(i)) {
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if ((breaks && points.IsNull(i)) || !IsPlaced(all[i])) {
             lines.push_back(all.subspan(start, i - start));
             start = i + 1;
         }
@@ -55,21 +50,38 @@ std::vector<Line> LinesOf(const Points& points, std::int32_t nullValue) {
     return lines;
 }
 
-void DrawLines(IGraphicsEngine& engine, const std::vector<Line>& lines, const CurveStyle& style) {
+penlode::Pen PenOf(const CurveStyle& style) {
     penlode::Pen pen(style.LineColor, style.Width);
     pen.SetDashStyle(static_cast<penlode::DashStyle>(style.Dash));
-    for (const Line& line : lines) {
-        engine.DrawLines(&pen, line.data(), static_cast<std::int32_t>(line.size()));
+    return pen;
+}
+
+/// The lines of a curve, up to each gap and behind the last one. An engine of this library makes the points
+/// as it needs them; for any other, each line is a list for as long as it is drawn.
+void DrawTrace(IGraphicsEngine& engine, const CurveTrace& trace, const CurveStyle& style) {
+    const penlode::Pen pen = PenOf(style);
+    const CurveLine line(trace, Breaks(style));
+    auto* const surface = dynamic_cast<penlode::IDataLineSurface*>(&engine);
+    std::size_t end = 0;
+    for (std::size_t first = 0; first <= line.Size(); first = end + 1) {
+        if (surface != nullptr) {
+            surface->DrawDataLine(&pen, line, first, end);
+        } else {
+            end = penlode::DrawAsList(engine, pen, line, first);
+        }
     }
 }
 
-void DrawMarkers(IGraphicsEngine& engine, const Points& markers, const CurveStyle& style) {
+void DrawMarkers(IGraphicsEngine& engine, const CurveTrace& trace, const CurveStyle& style) {
     const CurveMarker marker(style);
-    for (std::size_t i = 0; marker.IsDrawn() && i < markers.List.size(); ++i) {
-        if (!markers.IsNull(i) && !markers.HasNoPlace(i)) {
-            marker.Draw(engine, markers.List[i]);
-        }
+    if (!marker.IsDrawn()) {
+        return;
     }
+    trace.ForEach([&](std::size_t index, PointF at) {
+        if (IsPlaced(at) && !trace.IsNull(index)) {
+            marker.Draw(engine, at);
+        }
+    });
 }
 
 } // namespace
@@ -180,9 +192,10 @@ void CBasicCurve::DrawPlot(IGraphicsEngine* engine) const {
     if (prop.ShowEdge != 0) {
         engine->DrawRectangle(prop.EdgePen.Get(), plot.X, plot.Y, plot.Width, plot.Height);
     }
-    for (const CurveShape& curve : GetShapes()) {
-        DrawLines(*engine, curve.Lines, curve.Style);
-        DrawMarkers(*engine, PointsOf(*curve.Trace), curve.Style);
+    for (std::size_t i = 0; i < std::min(prop.CurveName.size(), m_layout.Curves.size()); ++i) {
+        const CurveStyle style = StyleOf(prop, i, m_options);
+        DrawTrace(*engine, m_layout.Curves[i], style);
+        DrawMarkers(*engine, m_layout.Curves[i], style);
     }
 }
 
@@ -192,7 +205,7 @@ std::vector<CurveShape> CBasicCurve::GetShapes() const {
     for (std::size_t i = 0; i < curves; ++i) {
         const CurveTrace& trace = m_layout.Curves[i];
         const CurveStyle style = StyleOf(m_prop.Plot, i, m_options);
-        shapes.push_back({style, LinesOf(PointsOf(trace), style.NullValue), &trace});
+        shapes.push_back({style, LinesOf({trace.Points(), trace.NullFlags()}, Breaks(style)), &trace});
     }
     return shapes;
 }
@@ -202,8 +215,17 @@ void CBasicCurve::DrawLine(IGraphicsEngine* engine, const std::vector<PointF>& l
                            penlode::Color color, float width, std::int32_t dashStyle, std::int32_t dotStyle,
                            penlode::Color dotColor, float dotWidth, std::int32_t nullStyle) const {
     const CurveStyle style{color, width, dashStyle, dotStyle, dotColor, dotWidth, nullStyle};
-    DrawLines(*engine, LinesOf({line, nulls, true, true}, style.NullValue), style);
-    DrawMarkers(*engine, {markers, nulls, true, true}, style);
+    const penlode::Pen pen = PenOf(style);
+    for (const Line& run : LinesOf({line, nulls}, Breaks(style))) {
+        engine->DrawLines(&pen, run.data(), static_cast<std::int32_t>(run.size()));
+    }
+    const CurveMarker marker(style);
+    const Points flagged{markers, nulls};
+    for (std::size_t i = 0; marker.IsDrawn() && i < markers.size(); ++i) {
+        if (IsPlaced(markers[i]) && !flagged.IsNull(i)) {
+            marker.Draw(*engine, markers[i]);
+        }
+    }
 }
 
 void CBasicCurve::DrawLegend(IGraphicsEngine* engine) const {

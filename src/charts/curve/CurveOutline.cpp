@@ -33,6 +33,10 @@ struct Surrounding {
     }
 };
 
+RectF MarkerAt(PointF at, float radius) {
+    return {at.X - radius, at.Y - radius, 2.0F * radius, 2.0F * radius};
+}
+
 } // namespace
 
 CurveOutline::CurveOutline(const CurveTrace& trace, const CurveStyle& style)
@@ -40,72 +44,71 @@ CurveOutline::CurveOutline(const CurveTrace& trace, const CurveStyle& style)
       m_halfWidth(std::max(style.Width, 0.0F) * 0.5F),
       m_markerRadius(CurveMarker(style).IsDrawn() ? std::max(style.DotWidth, 0.0F) * 0.5F : -1.0F) {}
 
-bool CurveOutline::HasPlace(std::size_t index) const {
-    return !m_trace.HasUnplaced || penlode::IsFinite(m_trace.Points[index]);
+bool CurveOutline::IsOnLine(const Place& place) const {
+    return penlode::IsFinite(place.At) && !(m_breaks && m_trace.IsNull(place.Index));
+}
+
+bool CurveOutline::IsValue(const Place& place) const {
+    return penlode::IsFinite(place.At) && !m_trace.IsNull(place.Index);
 }
 
 RectF CurveOutline::Box() const {
     PointF least{kInfinity, kInfinity};
     PointF most{-kInfinity, -kInfinity};
-    for (std::size_t i = 0; i < m_trace.Points.size(); ++i) {
-        if (IsOnLine(i)) {
-            const PointF point = m_trace.Points[i];
+    m_trace.ForEach([&](std::size_t index, PointF point) {
+        if (IsOnLine({index, point})) {
             least = {std::min(least.X, point.X), std::min(least.Y, point.Y)};
             most = {std::max(most.X, point.X), std::max(most.Y, point.Y)};
         }
-    }
+    });
     return {least.X, least.Y, most.X - least.X, most.Y - least.Y};
 }
 
-double CurveOutline::DistanceToLineBefore(std::size_t index, PointD point) const {
-    if (index == 0 || !IsOnLine(index - 1) || !IsOnLine(index)) {
+double CurveOutline::DistanceToLine(const Place& from, const Place& to, PointD point) const {
+    if (from.Index == to.Index || !IsOnLine(from) || !IsOnLine(to)) {
         return kFarAway;
     }
-    const double distance = DistanceToSegment(point, m_trace.Points[index - 1], m_trace.Points[index]);
-    return std::max(distance - m_halfWidth, 0.0);
+    return std::max(DistanceToSegment(point, from.At, to.At) - m_halfWidth, 0.0);
 }
 
-double CurveOutline::DistanceToMarker(std::size_t index, PointD point) const {
-    return m_markerRadius < 0.0F || !IsValue(index) ? kFarAway
-                                                    : DistanceToRect(point, MarkerAt(index, m_markerRadius));
+double CurveOutline::DistanceToMarker(const Place& place, PointD point) const {
+    return m_markerRadius < 0.0F || !IsValue(place)
+               ? kFarAway
+               : DistanceToRect(point, MarkerAt(place.At, m_markerRadius));
 }
 
 double CurveOutline::Distance(PointD point, float reach) const {
     const Surrounding around(point, reach + std::max(m_halfWidth, m_markerRadius));
     double nearest = kFarAway;
-    PointF last = m_trace.Points.empty() ? PointF{} : m_trace.Points.front();
-    for (std::size_t i = 0; i < m_trace.Points.size(); ++i) {
-        const PointF next = m_trace.Points[i];
-        if (around.MayMeet(last, next)) {
-            nearest = std::min({nearest, DistanceToLineBefore(i, point), DistanceToMarker(i, point)});
+    Place last{};
+    m_trace.ForEach([&](std::size_t index, PointF at) {
+        const Place next{index, at};
+        last = index == 0 ? next : last;
+        if (around.MayMeet(last.At, at)) {
+            nearest = std::min({nearest, DistanceToLine(last, next, point), DistanceToMarker(next, point)});
         }
         last = next;
-    }
+    });
     return nearest;
-}
-
-RectF CurveOutline::MarkerAt(std::size_t index, float radius) const {
-    const PointF at = m_trace.Points[index];
-    return {at.X - radius, at.Y - radius, 2.0F * radius, 2.0F * radius};
 }
 
 PlacedPart CurveOutline::At(const ChartPart& part, PointD point) const {
     const PointF from{static_cast<float>(point.X), static_cast<float>(point.Y)};
     float least = kInfinity;
-    std::size_t nearest = m_trace.Points.size();
-    for (std::size_t i = 0; i < m_trace.Points.size(); ++i) {
-        const PointF way = m_trace.Points[i] - from;
+    Place nearest{m_trace.Size(), {}};
+    m_trace.ForEach([&](std::size_t index, PointF at) {
+        const PointF way = at - from;
         const float square = way.X * way.X + way.Y * way.Y;
-        if (square < least && IsValue(i)) {
+        if (square < least && IsValue({index, at})) {
             least = square;
-            nearest = i;
+            nearest = {index, at};
         }
-    }
-    if (nearest == m_trace.Points.size()) {
+    });
+    if (nearest.Index == m_trace.Size()) {
         return {part, Box()};
     }
-    return {{PartKind::CurvePoint, part.Index, nearest, part.Part},
-            MarkerAt(nearest, std::max(m_halfWidth, m_markerRadius))};
+    return {{PartKind::CurvePoint, part.Index, nearest.Index, part.Part},
+            MarkerAt(nearest.At, std::max(m_halfWidth, m_markerRadius))};
 }
 
 } // namespace millichart

@@ -18,20 +18,20 @@ public:
     PlacedPart At(const ChartPart& part, penlode::PointD point) const override;
 
 private:
-    bool IsNull(std::size_t index) const { return m_trace.HasNull && m_trace.NullFlags[index]; }
-
-    bool HasPlace(std::size_t index) const;
+    /// A point of the curve.
+    struct Place {
+        std::size_t Index;
+        penlode::PointF At;
+    };
 
     /// Does the line go through a point, or round it?
-    bool IsOnLine(std::size_t index) const { return HasPlace(index) && !(m_breaks && IsNull(index)); }
+    bool IsOnLine(const Place& place) const;
 
     /// Has it a value of its own?
-    bool IsValue(std::size_t index) const { return HasPlace(index) && !IsNull(index); }
+    bool IsValue(const Place& place) const;
 
-    /// Of the line that ends at a point.
-    double DistanceToLineBefore(std::size_t index, penlode::PointD point) const;
-    double DistanceToMarker(std::size_t index, penlode::PointD point) const;
-    penlode::RectF MarkerAt(std::size_t index, float radius) const;
+    double DistanceToLine(const Place& from, const Place& to, penlode::PointD point) const;
+    double DistanceToMarker(const Place& place, penlode::PointD point) const;
 
     const CurveTrace& m_trace;
     bool m_breaks;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "charts/cartesian/ValueAxis.h"
 #include "charts/curve/CurveTrace.h"
 
 #include <cstdint>
@@ -10,35 +9,62 @@
 /// Where the points of curves stand.
 namespace millichart {
 
-/// The times of all curves together; `previous` if they have none.
-TimeSpan TimeSpanOf(std::span<const std::vector<std::int32_t>> curves, TimeSpan previous);
+/// Values that have a time.
+std::size_t SizeOf(const CurveDataView& data);
+
+/// The times of all curves together, those without a value too; `previous` if there are none.
+TimeSpan TimeSpanOf(std::span<const CurveDataView> curves, const TimeSpan& previous);
 
 /// Where times stand across a rectangle, over whose whole width they span; at its left edge if there is only
 /// one.
 class TimeScale {
 public:
-    TimeScale(const penlode::RectF& area, TimeSpan times)
-        : m_left(area.X), m_start(times.Min),
-          m_perTime(times.Max > times.Min ? area.Width / (times.Max - m_start) : 0.0) {}
+    TimeScale(const penlode::RectF& area, const TimeSpan& times)
+        : m_left(area.X), m_start(times.Min), m_wholeStart(times.WholeMin), m_isWhole(times.IsWhole),
+          m_perTime(Extent(times) > 0.0 ? area.Width / Extent(times) : 0.0) {}
 
-    float At(std::int32_t time) const { return static_cast<float>((time - m_start) * m_perTime + m_left); }
+    float At(std::int32_t time) const { return Placed(time - m_start); }
+
+    float At(double time) const { return Placed(time - m_start); }
+
+    /// Moments in nanoseconds are more than a double holds.
+    float At(std::int64_t time) const {
+        const auto since = static_cast<std::uint64_t>(time) - static_cast<std::uint64_t>(m_wholeStart);
+        return Placed(m_isWhole ? static_cast<double>(since) : static_cast<double>(time) - m_start);
+    }
 
 private:
+    float Placed(double since) const { return static_cast<float>(since * m_perTime + m_left); }
+
+    static double Extent(const TimeSpan& times) {
+        return times.IsWhole ? static_cast<double>(static_cast<std::uint64_t>(times.WholeMax) -
+                                                   static_cast<std::uint64_t>(times.WholeMin))
+                             : times.Max - times.Min;
+    }
+
     double m_left;
     double m_start;
+    std::int64_t m_wholeStart;
+    bool m_isWhole;
     double m_perTime;
 };
 
-/// What places a curve's values: the times span the area's width, the axis its height.
-struct CurveScales {
-    penlode::RectF Area;
-    TimeSpan Times;
-    const ValueAxis& Values;
-};
+/// A curve as a line of data, with gaps where it has none: at points without a place, and at null values
+/// unless it runs through the value 0 there.
+class CurveLine final : public penlode::DataLine {
+public:
+    /// The trace must outlive it.
+    CurveLine(const CurveTrace& trace, bool breaks) : m_trace(trace), m_breaks(breaks) {}
 
-/// Places one value at each time; the lists are equally long. A null value stands at the value 0. If there is
-/// only one time, all stand at the plot's left edge.
-void PlaceCurve(std::span<const double> values, std::span<const std::int32_t> times,
-                const CurveScales& scales, CurveTrace& curve);
+    std::size_t Size() const override { return m_trace.Size(); }
+
+    void Place(std::size_t first, std::span<penlode::PointF> points) const override;
+
+    bool Bound(std::size_t first, std::size_t count, penlode::PointBounds& bounds) const override;
+
+private:
+    const CurveTrace& m_trace;
+    bool m_breaks;
+};
 
 } // namespace millichart

@@ -22,18 +22,41 @@ std::string CurveNamed(const CBasicCurve& chart, std::size_t curve) {
     return "curve " + (name.empty() ? std::to_string(curve + 1) : Quoted(name));
 }
 
-/// The points of a shape that no line joins to another.
-std::size_t PointsAlone(const CurveShape& shape) {
-    return static_cast<std::size_t>(std::count_if(shape.Lines.begin(), shape.Lines.end(),
-                                                  [](const auto& line) { return line.size() == 1; }));
+/// A curve that is drawn.
+struct Seen {
+    CurveStyle Style;
+    const CurveTrace& Trace;
+};
+
+std::vector<Seen> CurvesOf(const CBasicCurve& chart) {
+    std::vector<Seen> curves;
+    const CurvePlotProp& plot = chart.GetCurveProp().Plot;
+    const std::vector<CurveTrace>& traces = chart.GetLayout().Curves;
+    for (std::size_t i = 0; i < std::min(plot.CurveName.size(), traces.size()); ++i) {
+        curves.push_back({StyleOf(plot, i, chart.GetOptions()), traces[i]});
+    }
+    return curves;
 }
 
-void AddLonePointDoubts(const CBasicCurve& chart, const std::vector<CurveShape>& shapes,
-                        Diagnostics& diagnostics) {
+/// The points of a curve that no line joins to another.
+std::size_t PointsAlone(const Seen& curve) {
+    const bool breaks = curve.Style.NullValue == CurveNullValueStyle::Break;
+    std::size_t alone = 0;
+    std::size_t run = 0;
+    curve.Trace.ForEach([&](std::size_t index, penlode::PointF point) {
+        const bool isGap =
+            !std::isfinite(point.X) || !std::isfinite(point.Y) || (breaks && curve.Trace.IsNull(index));
+        alone += isGap && run == 1 ? 1 : 0;
+        run = isGap ? 0 : run + 1;
+    });
+    return alone + (run == 1 ? 1 : 0);
+}
+
+void AddLonePointDoubts(const CBasicCurve& chart, const std::vector<Seen>& curves, Diagnostics& diagnostics) {
     std::size_t alone = 0;
     std::string first;
-    for (std::size_t i = 0; i < shapes.size(); ++i) {
-        const std::size_t own = HasMarkers(shapes[i].Style) ? 0 : PointsAlone(shapes[i]);
+    for (std::size_t i = 0; i < curves.size(); ++i) {
+        const std::size_t own = HasMarkers(curves[i].Style) ? 0 : PointsAlone(curves[i]);
         first = alone == 0 && own > 0 ? CurveNamed(chart, i) : first;
         alone += own;
     }
@@ -69,24 +92,22 @@ penlode::Diagnostic OneTimeDoubt(const TableOrigin& origin) {
 /// Do the points of a curve, two or more, all stand at a height?
 bool IsLevelAt(const CurveTrace& trace, float y) {
     std::size_t seen = 0;
-    for (std::size_t i = 0; i < trace.Points.size(); ++i) {
-        if (std::isfinite(trace.Points[i].Y) && !trace.NullFlags[i]) {
+    bool isLevel = true;
+    trace.ForEach([&](std::size_t index, penlode::PointF point) {
+        if (std::isfinite(point.Y) && !trace.IsNull(index)) {
             ++seen;
-            if (!(std::abs(trace.Points[i].Y - y) < kOnEdge)) {
-                return false;
-            }
+            isLevel = isLevel && std::abs(point.Y - y) < kOnEdge;
         }
-    }
-    return seen > 1;
+    });
+    return isLevel && seen > 1;
 }
 
-void AddFlatLineDoubts(const CBasicCurve& chart, const std::vector<CurveShape>& shapes,
-                       Diagnostics& diagnostics) {
+void AddFlatLineDoubts(const CBasicCurve& chart, const std::vector<Seen>& curves, Diagnostics& diagnostics) {
     const penlode::RectF& plot = chart.GetLayout().Plot;
     std::string names;
     std::size_t flat = 0;
-    for (std::size_t i = 0; i < shapes.size(); ++i) {
-        if (IsLevelAt(*shapes[i].Trace, plot.Bottom()) || IsLevelAt(*shapes[i].Trace, plot.Y)) {
+    for (std::size_t i = 0; i < curves.size(); ++i) {
+        if (IsLevelAt(curves[i].Trace, plot.Bottom()) || IsLevelAt(curves[i].Trace, plot.Y)) {
             names = flat++ == 0 ? CurveNamed(chart, i) : names;
         }
     }
@@ -105,9 +126,9 @@ void AddCurveSightDoubts(const CBasicCurve& chart, const TableOrigin& origin, Di
         diagnostics.push_back(OneTimeDoubt(origin));
         return;
     }
-    const std::vector<CurveShape> shapes = chart.GetShapes();
-    AddLonePointDoubts(chart, shapes, diagnostics);
-    AddFlatLineDoubts(chart, shapes, diagnostics);
+    const std::vector<Seen> curves = CurvesOf(chart);
+    AddLonePointDoubts(chart, curves, diagnostics);
+    AddFlatLineDoubts(chart, curves, diagnostics);
 }
 
 } // namespace millichart::documents

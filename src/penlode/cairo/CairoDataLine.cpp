@@ -2,7 +2,7 @@
 #include "penlode/cairo/CairoStroke.h"
 #include "penlode/cairo/LineCoverage.h"
 #include "penlode/cairo/ScribbleCoverage.h"
-#include "penlode/engine/DataLine.h"
+#include "penlode/engine/ThinnedLine.h"
 
 #include <optional>
 #include <utility>
@@ -79,15 +79,15 @@ void StrokeByCoverage(const Painter& painter, const DevicePen& pen, std::vector<
 
 } // namespace
 
-Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, const Pen& pen) {
+Status StrokeDataLine(const Painter& painter, DataRun& run, const Pen& pen) {
     const DevicePen drawn(pen, painter, false);
-    std::optional<std::vector<PointD>> line = ThinnedLine(painter, drawn.Margin(), points);
+    std::optional<std::vector<PointD>> line = ThinnedLine(painter, drawn.Margin(), run);
     if (!line) {
         return Status::InvalidParameter;
     }
     const bool smooth = cairo_get_antialias(painter.Context()) != CAIRO_ANTIALIAS_NONE;
     if (painter.HasPixels() && smooth && drawn.IsSolid() && HasRoundPen(painter)) {
-        const bool thinned = line->size() < points.size();
+        const bool thinned = IsThinned(*line, run);
         StrokeByCoverage(painter, drawn, std::move(*line), thinned);
     } else {
         painter.StrokePolyline(drawn, std::move(*line), false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "penlode/cairo/CairoCanvas.h"
+#include "penlode/engine/DataRun.h"
 #include "penlode/engine/Drawings.h"
 
 #include <span>
@@ -10,7 +11,7 @@ namespace penlode {
 
 /// However long the line, thinned to what the surface can show; never snapped. InvalidParameter, and nothing
 /// drawn, when a point is not finite: they are looked at once, here.
-Status StrokeDataLine(const Painter& painter, std::span<const PointF> points, const Pen& pen);
+Status StrokeDataLine(const Painter& painter, DataRun& run, const Pen& pen);
 
 /// A baseline that runs along an axis of a surface of pixels stands on a whole pixel; glyphs keep their exact
 /// places along it. A line that lies out of sight, or whose glyphs are larger than Cairo can count or too

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "penlode/engine/DataRun.h"
 #include "penlode/engine/DeviceGeometry.h"
+#include "penlode/engine/ListLine.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <span>
+#include <optional>
 #include <utility>
+#include <vector>
 
 /// Thins a polyline to what a surface can show, without a copy of it.
 ///
@@ -92,52 +95,56 @@ struct DeviceView {
     }
 };
 
-/// Points that are looked at without a branch between them, so that a compiler looks at several at once.
-inline constexpr std::size_t kBlock = 32;
-
 /// Where a block of points lies.
 template <class Number> struct Bounds {
     Number Left;
     Number Right;
     Number Low;
     Number High;
-    bool AreFinite;
 };
 
-/// The least and the most of two halves of a list, and so on down to one x and one y: a loop over places that
-/// do not depend on each other, where a running minimum would be a chain.
-template <std::size_t Half, class Number>
-void Fold(std::array<Number, kBlock>& least, std::array<Number, kBlock>& most) {
-    for (std::size_t k = 0; k < Half; ++k) {
-        least[k] = least[k] < least[k + Half] ? least[k] : least[k + Half];
-        most[k] = most[k] > most[k + Half] ? most[k] : most[k + Half];
+inline constexpr std::size_t kBlock = DataLine::kBlock;
+
+/// A line's points as a walk along it asks for them, a block at a time.
+class Points {
+public:
+    explicit Points(const DataLine& line) : m_line(line) {}
+
+    std::size_t Size() const { return m_line.Size(); }
+
+    const DataLine& Line() const { return m_line; }
+
+    PointF operator[](std::size_t place) {
+        if (place < m_first || place >= m_end) {
+            m_first = place;
+            m_end = std::min(place + kBlock, m_line.Size());
+            m_line.Place(m_first, std::span(m_points).first(m_end - m_first));
+        }
+        return m_points[place - m_first];
     }
-    if constexpr (Half > 2) {
-        Fold<Half / 2>(least, most);
+
+private:
+    const DataLine& m_line;
+    std::array<PointF, kBlock> m_points;
+    std::size_t m_first = 0;
+    std::size_t m_end = 0;
+};
+
+/// False if one of a block's points is not finite.
+inline bool BoundsOf(const DataLine& line, std::size_t first, const UprightView& /*view*/,
+                     Bounds<float>& bounds) {
+    PointBounds found;
+    if (!line.Bound(first, kBlock, found)) {
+        return false;
     }
+    bounds = {found.Left, found.Right, found.Low, found.High};
+    return true;
 }
 
-template <class View> auto BoundsOf(const PointF* block, const View& view) {
-    using Number = decltype(view.Along(PointF{}));
-    std::array<Number, 2 * kBlock> places; // x and y by turns, as they lie in memory
-    for (std::size_t i = 0; i < kBlock; ++i) {
-        places[2 * i] = view.Along(block[i]);
-        places[2 * i + 1] = view.Across(block[i]);
-    }
-    std::array<Number, kBlock> least;
-    std::array<Number, kBlock> most;
-    unsigned unordered = 0; // comparisons pass over what is no number
-    for (std::size_t k = 0; k < kBlock; ++k) {
-        least[k] = places[k] < places[k + kBlock] ? places[k] : places[k + kBlock];
-        most[k] = places[k] > places[k + kBlock] ? places[k] : places[k + kBlock];
-        unordered |= static_cast<unsigned>(std::isunordered(places[k], places[k + kBlock]));
-    }
-    Fold<kBlock / 2>(least, most);
-    Bounds<Number> bounds{least[0], most[0], least[1], most[1], unordered == 0};
-    for (const Number bound : {bounds.Left, bounds.Right, bounds.Low, bounds.High}) {
-        bounds.AreFinite = bounds.AreFinite && std::isfinite(bound);
-    }
-    return bounds;
+/// Under a transform that turns them, points are walked one by one.
+inline bool BoundsOf(const DataLine& /*line*/, std::size_t /*first*/, const DeviceView& /*view*/,
+                     Bounds<double>& /*bounds*/) {
+    return false;
 }
 
 /// Points that follow each other in one column. Of the lowest and the highest it is known from which place
@@ -146,9 +153,9 @@ template <class View> class Column {
 public:
     using Number = decltype(std::declval<View>().Along(PointF{}));
 
-    Column(std::span<const PointF> points, const View& view, std::size_t first)
-        : m_points(points), m_view(&view), m_interval(view.ColumnOf(points[first])), m_first(first),
-          m_lowest(first), m_highest(first), m_low(view.Across(points[first])), m_high(m_low) {}
+    Column(PointF point, std::size_t first, const View& view)
+        : m_view(&view), m_interval(view.ColumnOf(point)), m_first(first), m_lowest(first), m_highest(first),
+          m_low(view.Across(point)), m_high(m_low) {}
 
     bool Holds(Number left, Number right) const {
         return left >= m_interval.Left && right < m_interval.Right;
@@ -167,27 +174,26 @@ public:
     }
 
     /// Hands the column's points that stay to `visit`, each once.
-    template <class Visit> void Report(std::size_t last, Visit&& visit) const {
-        const std::size_t lowest = Find(m_low, m_lowest);
-        const std::size_t highest = Find(m_high, m_highest);
+    template <class Visit> void Report(Points& points, std::size_t last, Visit&& visit) const {
+        const std::size_t lowest = Find(points, m_low, m_lowest);
+        const std::size_t highest = Find(points, m_high, m_highest);
         const std::array<std::size_t, 4> places{m_first, std::min(lowest, highest), std::max(lowest, highest),
                                                 last};
         for (std::size_t i = 0; i < places.size(); ++i) {
             if (i == 0 || places[i] != places[i - 1]) {
-                visit(places[i]);
+                visit(points[places[i]]);
             }
         }
     }
 
 private:
-    std::size_t Find(Number across, std::size_t place) const {
-        while (m_view->Across(m_points[place]) != across) {
+    std::size_t Find(Points& points, Number across, std::size_t place) const {
+        while (m_view->Across(points[place]) != across) {
             ++place;
         }
         return place;
     }
 
-    std::span<const PointF> m_points;
     const View* m_view;
     Interval<Number> m_interval;
     std::size_t m_first;
@@ -197,62 +203,82 @@ private:
     Number m_high;
 };
 
-/// Takes the points from `first` to `end` one by one. False at a point that is not finite.
+/// Reports the points that stay, from `first` on up to one that is not finite, whose place it gives, or else
+/// the line's size. What stays of a column is reported when it has ended.
 template <class View, class Report>
-bool TakeEach(std::span<const PointF> points, std::size_t first, std::size_t end, const View& view,
-              Column<View>& column, const Report& report) {
-    for (std::size_t i = first; i < end; ++i) {
-        const auto x = view.Along(points[i]);
-        const auto y = view.Across(points[i]);
-        if (!std::isfinite(x) || !std::isfinite(y)) {
-            return false;
+std::size_t Scan(const DataLine& line, std::size_t first, const View& view, const Report& report) {
+    using Number = typename Column<View>::Number;
+    Points ahead(line);
+    Points behind(line); // where a column's lowest and highest are looked for
+    std::optional<Column<View>> column;
+    std::size_t i = first;
+    while (i < line.Size()) {
+        Bounds<Number> bounds;
+        if (column && i + kBlock <= line.Size() && BoundsOf(line, i, view, bounds) &&
+            column->Holds(bounds.Left, bounds.Right)) {
+            column->Take(i, bounds.Low, bounds.High);
+            i += kBlock;
+            continue;
         }
-        if (column.Holds(x, x)) {
-            column.Take(i, y, y);
-        } else {
-            column.Report(i - 1, report);
-            column = Column<View>(points, view, i);
-        }
-    }
-    return true;
-}
-
-/// Reports the places of the points that stay. False, and no more of them, at a point that is not finite.
-template <class View, class Report>
-bool Scan(std::span<const PointF> points, const View& view, const Report& report) {
-    if (points.empty()) {
-        return true;
-    }
-    Column<View> column(points, view, 0);
-    for (std::size_t i = 0; i < points.size(); i += kBlock) {
-        const std::size_t end = std::min(i + kBlock, points.size());
-        if (end == i + kBlock) {
-            const auto bounds = BoundsOf(points.data() + i, view);
-            if (bounds.AreFinite && column.Holds(bounds.Left, bounds.Right)) {
-                column.Take(i, bounds.Low, bounds.High);
+        const std::size_t end = std::min(i + kBlock, line.Size());
+        for (; i < end; ++i) {
+            const PointF point = ahead[i];
+            const auto x = view.Along(point);
+            const auto y = view.Across(point);
+            if (!std::isfinite(x) || !std::isfinite(y)) {
+                if (column) {
+                    column->Report(behind, i - 1, report);
+                }
+                return i;
+            }
+            if (column && column->Holds(x, x)) {
+                column->Take(i, y, y);
                 continue;
             }
-        }
-        if (!TakeEach(points, i, end, view, column, report)) {
-            return false;
+            if (column) {
+                column->Report(behind, i - 1, report);
+            }
+            column.emplace(point, i, view);
         }
     }
-    column.Report(points.size() - 1, report);
-    return true;
+    if (column) {
+        column->Report(behind, line.Size() - 1, report);
+    }
+    return line.Size();
 }
 
 } // namespace thinning
 
-/// Calls `visit` with each point that stays, in device units. False when a point is not finite, after some of
-/// those before it.
+/// Are columns upright in the world too?
+inline bool KeepsColumns(const Matrix& toDevice) {
+    return toDevice.M12 == 0.0 && toDevice.M21 == 0.0 && toDevice.M11 != 0.0;
+}
+
+/// Calls `visit` with each point of the run that stays, in device units, and finds the run's end. Some of its
+/// points may have been visited when there is a gap.
 template <class Visit>
-bool ThinLine(std::span<const PointF> points, const Matrix& toDevice, const ThinningGrid& grid,
-              Visit&& visit) {
-    const auto report = [&](std::size_t place) { visit(Mapped(toDevice, points[place])); };
-    if (toDevice.M12 == 0.0 && toDevice.M21 == 0.0 && toDevice.M11 != 0.0) {
-        return thinning::Scan(points, thinning::UprightView{toDevice, grid}, report);
+void ThinLine(DataRun& run, const Matrix& toDevice, const ThinningGrid& grid, Visit&& visit) {
+    const auto report = [&](PointF point) { visit(Mapped(toDevice, point)); };
+    run.End = KeepsColumns(toDevice)
+                  ? thinning::Scan(run.Line, run.First, thinning::UprightView{toDevice, grid}, report)
+                  : thinning::Scan(run.Line, run.First, thinning::DeviceView{toDevice, grid}, report);
+}
+
+/// The places between two others, ascending, at which columns of a width begin; none where columns do not
+/// stand upright, or would be too many to list.
+inline std::vector<float> ColumnsBetween(float left, float right, const Matrix& toDevice, double width) {
+    constexpr double kMost = 1e6;
+    std::vector<float> places;
+    const double a = Mapped(toDevice, PointF{left, 0.0F}).X / width;
+    const double b = Mapped(toDevice, PointF{right, 0.0F}).X / width;
+    if (!KeepsColumns(toDevice) || !(std::abs(a - b) < kMost)) {
+        return places;
     }
-    return thinning::Scan(points, thinning::DeviceView{toDevice, grid}, report);
+    for (double column = std::floor(std::min(a, b)); column <= std::max(a, b) + 1.0; ++column) {
+        places.push_back(static_cast<float>((column * width - toDevice.Dx) / toDevice.M11));
+    }
+    std::sort(places.begin(), places.end());
+    return places;
 }
 
 } // namespace penlode

@@ -9,6 +9,9 @@
 #include "penlode/text/StringUtil.h"
 #include "penlode/text/TextPlacement.h"
 
+#include <algorithm>
+#include <array>
+
 namespace penlode {
 namespace {
 
@@ -68,6 +71,23 @@ struct ExtentCheck {
     }
 };
 
+/// Is a run of so many points that they are thinned?
+bool IsLong(const DataLine& line, std::size_t first) {
+    if (first > line.Size() || line.Size() - first < kMinDataLinePoints) {
+        return false;
+    }
+    std::array<PointF, DataLine::kBlock> points;
+    for (std::size_t done = 0, count = 4; done < kMinDataLinePoints; done += count, count *= 2) {
+        count = std::min({count, points.size(), kMinDataLinePoints - done});
+        const std::span block = std::span(points).first(count);
+        line.Place(first + done, block);
+        if (!AreFinite(std::span<const PointF>(block))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 Outline WhatShows(const Outline& outline, bool fills) {
     return std::visit(ExtentCheck{fills}, outline.Shape) ? outline : Outline{Outline::Nothing{}};
 }
@@ -107,9 +127,39 @@ Status CTrackingEngine::DrawLines(const Pen* pen, const PointF* points, std::int
     if (!IsUsable(pen) || !AreThere(points, count)) {
         return Status::InvalidParameter;
     }
-    const std::span<const PointF> line = SpanOf(points, count);
-    return line.size() < kMinDataLinePoints ? Stroke(pen, {Outline::Polyline{line}})
-                                            : StrokeDataLine(line, *pen);
+    const std::span<const PointF> list = SpanOf(points, count);
+    if (list.size() < kMinDataLinePoints) {
+        return Stroke(pen, {Outline::Polyline{list}});
+    }
+    const ListLine line(list);
+    DataRun run{line};
+    const Status answer = Stroke(*pen, run);
+    return run.IsSound() ? answer : Status::InvalidParameter;
+}
+
+/// The surface may not have looked at the points, as nothing of them can be seen.
+Status CTrackingEngine::Stroke(const Pen& pen, DataRun& run) {
+    const Status answer = StrokeDataLine(run, pen);
+    if (!run.End) {
+        run.End = FindGap(run.Line, run.First);
+    }
+    return answer;
+}
+
+Status CTrackingEngine::DrawDataLine(const Pen* pen, const DataLine& line, std::size_t first,
+                                     std::size_t& end) {
+    if (m_calls == nullptr && IsUsable(pen) && IsLong(line, first)) {
+        DataRun run{line, first, true};
+        const Status answer = Stroke(*pen, run);
+        end = *run.End;
+        return answer;
+    }
+    if (!IsUsable(pen)) {
+        end = FindGap(line, first);
+        return Status::InvalidParameter;
+    }
+    end = DrawAsList(*this, *pen, line, first);
+    return Status::Ok;
 }
 
 Status CTrackingEngine::DrawLine(const Pen* pen, float x1, float y1, float x2, float y2) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "penlode/DataLine.h"
 #include "penlode/IGraphicsEngine.h"
 
 #include <memory>
@@ -9,6 +10,7 @@
 namespace penlode {
 
 class CSurfaceState;
+struct DataRun;
 struct GradientMesh;
 struct ImagePart;
 struct Outline;
@@ -19,7 +21,7 @@ struct TextRun;
 /// smoothing, answers queries, refuses unsound arguments, and brings all that draws down to the six
 /// operations that an engine adds. What these are given is not installed: a surface of a host's own derives
 /// from IGraphicsEngine.
-class PENLODE_API CTrackingEngine : public IGraphicsEngine {
+class PENLODE_API CTrackingEngine : public IGraphicsEngine, public IDataLineSurface {
 public:
     ~CTrackingEngine() override;
 
@@ -85,6 +87,7 @@ public:
     void DrawScriptText(const wchar_t* text, const Font* font, float x, float y,
                         const SolidBrush* brush) override;
     Status SetClip(Region* region, CombineMode mode) override;
+    Status DrawDataLine(const Pen* pen, const DataLine& line, std::size_t first, std::size_t& end) override;
 
 protected:
     /// Each call that changes or draws something is added to `calls` as it came, if there are any.
@@ -95,9 +98,9 @@ protected:
 private:
     virtual Status StrokeOutline(const Outline& outline, const Pen& pen) = 0;
     virtual Status FillOutline(const Outline& outline, const SolidBrush& brush) = 0;
-    /// A polyline of so many points that nobody has looked at them yet: they are gone through once, and one
-    /// that is not finite is an InvalidParameter, whether or not anything can be drawn.
-    virtual Status StrokeDataLine(std::span<const PointF> points, const Pen& pen) = 0;
+    /// A run of so many points that nobody has looked at them yet. They are gone through once; or not at all,
+    /// if nothing can be drawn.
+    virtual Status StrokeDataLine(DataRun& run, const Pen& pen) = 0;
     virtual Status PaintText(const TextRun& text) = 0;
     virtual Status PaintImage(const ImagePart& part) = 0;
     virtual Status PaintGradient(const GradientMesh& mesh) = 0;
@@ -105,6 +108,7 @@ private:
     template <class... Arguments> void Record(const char* operation, const Arguments&... arguments);
 
     Status Stroke(const Pen* pen, const Outline& outline);
+    Status Stroke(const Pen& pen, DataRun& run);
     Status Fill(const SolidBrush* brush, const Outline& outline);
     Status PaintString(const wchar_t* text, std::int32_t length, const Font* font, const RectF& layout,
                        const StringFormat* format, const SolidBrush* brush);

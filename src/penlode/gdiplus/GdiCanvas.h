@@ -1,5 +1,6 @@
 #pragma once
 
+#include "penlode/engine/DataRun.h"
 #include "penlode/engine/DeviceShapes.h"
 #include "penlode/engine/Drawings.h"
 #include "penlode/gdiplus/GdiPlus.h"
@@ -99,7 +100,7 @@ GdipPath AreaOf(std::span<const PointD> corners, const BoxD& box);
 
 /// However long the line, thinned to what the surface can show; never snapped. InvalidParameter, and nothing
 /// drawn, when a point is not finite.
-Status StrokeDataLine(const GdiPainter& painter, std::span<const PointF> points, const Pen& pen);
+Status StrokeDataLine(const GdiPainter& painter, DataRun& run, const Pen& pen);
 Status PaintText(const GdiPainter& painter, const TextRun& text);
 Status PaintImage(const GdiPainter& painter, const ImagePart& part);
 Status PaintGradient(const GdiPainter& painter, const GradientMesh& mesh);

@@ -1,5 +1,5 @@
-#include "penlode/engine/DataLine.h"
 #include "penlode/engine/Finite.h"
+#include "penlode/engine/ThinnedLine.h"
 #include "penlode/gdiplus/GdiCanvas.h"
 
 #include <cmath>
@@ -169,13 +169,13 @@ void GdiPainter::StrokeAsShaped(Gdiplus::GpPath* outline, const DevicePen& pen, 
     }
 }
 
-Status StrokeDataLine(const GdiPainter& painter, std::span<const PointF> points, const Pen& pen) {
+Status StrokeDataLine(const GdiPainter& painter, DataRun& run, const Pen& pen) {
     const DevicePen drawn(pen, painter, false);
-    std::optional<std::vector<PointD>> line = ThinnedLine(painter, drawn.Margin(), points);
+    std::optional<std::vector<PointD>> line = ThinnedLine(painter, drawn.Margin(), run);
     if (!line) {
         return Status::InvalidParameter;
     }
-    painter.StrokePolyline(drawn.ForThinned(line->size() < points.size()), std::move(*line), false);
+    painter.StrokePolyline(drawn.ForThinned(IsThinned(*line, run)), std::move(*line), false);
     return Status::Ok;
 }
 

@@ -1,6 +1,6 @@
 #include "penlode/gdiplus/GraphicsEngine.h"
 
-#include "penlode/engine/Finite.h"
+#include "penlode/engine/ThinnedLine.h"
 #include "penlode/gdiplus/GdiTarget.h"
 
 namespace penlode {
@@ -16,13 +16,13 @@ Status CGraphicsEngine::FillOutline(const Outline& outline, const SolidBrush& br
         [&](const GdiPainter& painter) { return painter.Fill(outline, brush.FillColor); });
 }
 
-Status CGraphicsEngine::StrokeDataLine(std::span<const PointF> points, const Pen& pen) {
-    bool seen = false;
-    const Status answer = m_target->Draw(State(), [&](const GdiPainter& painter) {
-        seen = true;
-        return penlode::StrokeDataLine(painter, points, pen);
-    });
-    return seen || AreFinite(points) ? answer : Status::InvalidParameter;
+Status CGraphicsEngine::StrokeDataLine(DataRun& run, const Pen& pen) {
+    return m_target->Draw(
+        State(), [&](const GdiPainter& painter) { return penlode::StrokeDataLine(painter, run, pen); });
+}
+
+std::vector<float> CGraphicsEngine::DataColumns(float left, float right) const {
+    return ColumnsOf(DeviceView(m_target->Canvas.Setting().Device, State()), left, right);
 }
 
 Status CGraphicsEngine::PaintText(const TextRun& text) {

@@ -1,7 +1,6 @@
 #include "penlode/recording/RecordingEngine.h"
 
 #include "penlode/Units.h"
-#include "penlode/engine/Finite.h"
 
 namespace penlode {
 
@@ -13,10 +12,6 @@ std::string CRecordingEngine::Text(int decimals) const {
         text += ToText(call, decimals) + "\n";
     }
     return text;
-}
-
-Status CRecordingEngine::StrokeDataLine(std::span<const PointF> points, const Pen&) {
-    return AreFinite(points) ? Status::Ok : Status::InvalidParameter;
 }
 
 } // namespace penlode

@@ -28,7 +28,9 @@ private:
 
     Status FillOutline(const Outline&, const SolidBrush&) override { return Status::Ok; }
 
-    Status StrokeDataLine(std::span<const PointF> points, const Pen& pen) override;
+    Status StrokeDataLine(DataRun&, const Pen&) override { return Status::Ok; }
+
+    std::vector<float> DataColumns(float, float) const override { return {}; }
 
     Status PaintText(const TextRun&) override { return Status::Ok; }
 

@@ -106,13 +106,14 @@ Status CSvgEngine::FillOutline(const Outline& outline, const SolidBrush& brush) 
     });
 }
 
-Status CSvgEngine::StrokeDataLine(std::span<const PointF> points, const Pen& pen) {
-    if (!AreFinite(points)) {
-        return Status::InvalidParameter;
-    }
+Status CSvgEngine::StrokeDataLine(DataRun& run, const Pen& pen) {
     return m_drawing->Draw(State(), pen.GetColor(), [&](const svg::PageMap& map) {
-        return svg::DataLineElement(map, points, svg::StrokePaint(pen, map.ToPage.LengthFactor()));
+        return svg::DataLineElement(map, run, svg::StrokePaint(pen, map.ToPage.LengthFactor()));
     });
+}
+
+std::vector<float> CSvgEngine::DataColumns(float left, float right) const {
+    return ColumnsBetween(left, right, m_drawing->Map(State()).ToPage, svg::kColumnWidth);
 }
 
 Status CSvgEngine::PaintText(const TextRun& text) {

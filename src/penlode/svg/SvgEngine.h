@@ -43,7 +43,8 @@ private:
 
     Status StrokeOutline(const Outline& outline, const Pen& pen) override;
     Status FillOutline(const Outline& outline, const SolidBrush& brush) override;
-    Status StrokeDataLine(std::span<const PointF> points, const Pen& pen) override;
+    Status StrokeDataLine(DataRun& run, const Pen& pen) override;
+    std::vector<float> DataColumns(float left, float right) const override;
     Status PaintText(const TextRun& text) override;
     Status PaintImage(const ImagePart& part) override;
     Status PaintGradient(const GradientMesh& mesh) override;

@@ -101,11 +101,12 @@ std::string PointsElement(const char* name, const PageMap& map, std::vector<Poin
     return list.Count < 2 ? "" : SvgElement(name).Set("points", list.Text).Raw(paint.Attributes).Empty();
 }
 
-std::vector<PointD> ThinnedOnPage(const PageMap& map, std::span<const PointF> points, double margin) {
-    const ThinningGrid grid{kMillimetresPerInch / kDocumentColumnsPerInch, -margin, map.Page.Width + margin};
+/// Nothing of a run that ends at a gap and may not.
+std::vector<PointD> ThinnedOnPage(const PageMap& map, DataRun& run, double margin) {
+    const ThinningGrid grid{kColumnWidth, -margin, map.Page.Width + margin};
     std::vector<PointD> thinned;
-    ThinLine(points, map.ToPage, grid, [&](PointD point) { thinned.push_back(point); });
-    return thinned;
+    ThinLine(run, map.ToPage, grid, [&](PointD point) { thinned.push_back(point); });
+    return run.IsSound() ? thinned : std::vector<PointD>();
 }
 
 /// A box on the page, axes kept.
@@ -239,8 +240,8 @@ std::string ShapeElement(const PageMap& map, const Outline& outline, const Paint
     return std::visit(ElementWriter{map, paint}, outline.Shape);
 }
 
-std::string DataLineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke) {
-    return PointsElement("polyline", map, ThinnedOnPage(map, points, stroke.Margin), stroke);
+std::string DataLineElement(const PageMap& map, DataRun& run, const Paint& stroke) {
+    return PointsElement("polyline", map, ThinnedOnPage(map, run, stroke.Margin), stroke);
 }
 
 } // namespace penlode::svg

@@ -2,6 +2,8 @@
 
 #include "penlode/Color.h"
 #include "penlode/Pen.h"
+#include "penlode/Units.h"
+#include "penlode/engine/LineThinning.h"
 #include "penlode/engine/Outline.h"
 #include "penlode/svg/SvgGeometry.h"
 
@@ -30,7 +32,10 @@ Paint StrokePaint(const Pen& pen, double lengthFactor);
 
 /// A box without extent is a line for a pen. Points that fall together when rounded are written once.
 std::string ShapeElement(const PageMap& map, const Outline& outline, const Paint& paint);
-/// What 600 dots per inch can show of a polyline.
-std::string DataLineElement(const PageMap& map, std::span<const PointF> points, const Paint& stroke);
+/// The columns of data that a page shows, in millimetres.
+inline constexpr double kColumnWidth = kMillimetresPerInch / kDocumentColumnsPerInch;
+
+/// What 600 dots per inch can show of a run of data, whose end it finds.
+std::string DataLineElement(const PageMap& map, DataRun& run, const Paint& stroke);
 
 } // namespace penlode::svg

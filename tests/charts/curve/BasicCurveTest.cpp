@@ -1,5 +1,6 @@
 #include "charts/curve/BasicCurve.h"
 
+#include "penlode/recording/RecordingEngine.h"
 #include "support/Drawings.h"
 
 #include <cmath>
@@ -54,12 +55,18 @@ CurveProp PlotAlone() {
     return prop;
 }
 
+CurveProp OneCurveAlone() {
+    CurveProp prop = PlotAlone();
+    prop.Plot.CurveName = {"curve"};
+    return prop;
+}
+
 /// Where the points of one curve stand from the plot's left edge.
 std::vector<float> Across(const Times& times, std::size_t curve = 0) {
     const CurveLayout layout =
         LaidOut(PlotAlone(), Values(times.size(), std::vector<double>(9)), times).GetLayout();
     std::vector<float> across;
-    for (const PointF point : layout.Curves[curve].Points) {
+    for (const PointF point : layout.Curves[curve].Points()) {
         across.push_back(point.X - layout.Plot.X);
     }
     return across;
@@ -84,13 +91,12 @@ TEST(BasicCurve, AWholeFigure) {
     EXPECT_EQ(layout.HorLabelRects,
               (std::vector<RectF>{{106, 236, 2, 5}, {145, 236, 4, 5}, {186, 236, 2, 5}}));
     ASSERT_EQ(layout.Curves.size(), 2U);
-    EXPECT_EQ(layout.Curves[0].Points, (Points{{107, 227.5}, {127, 220}, {187, 205}}));
-    EXPECT_FALSE(layout.Curves[0].HasNull);
+    EXPECT_EQ(layout.Curves[0].Points(), (Points{{107, 227.5}, {127, 220}, {187, 205}}));
+    EXPECT_FALSE(layout.Curves[0].HasNull());
     // Only what is below -9999998 is null, and stands at 0.
-    EXPECT_EQ(layout.Curves[1].Points, (Points{{187, 235}, {107, 235}, {147, 7500233.5F}}));
-    EXPECT_EQ(layout.Curves[1].NullFlags, (std::vector<bool>{false, true, false}));
-    EXPECT_TRUE(layout.Curves[1].HasNull);
-    EXPECT_FALSE(layout.Curves[1].HasUnplaced);
+    EXPECT_EQ(layout.Curves[1].Points(), (Points{{187, 235}, {107, 235}, {147, 7500233.5F}}));
+    EXPECT_EQ(layout.Curves[1].NullFlags(), (std::vector<bool>{false, true, false}));
+    EXPECT_TRUE(layout.Curves[1].HasNull());
     EXPECT_TRUE(layout.LegendItemRects.empty());
 }
 
@@ -172,10 +178,10 @@ TEST(BasicCurve, TimesSpanThePlot) {
     EXPECT_EQ(Across({{least, 0, std::numeric_limits<std::int32_t>::max()}}), (Floats{0, 40, 80}));
 
     const CurveLayout uneven = LaidOut(PlotAlone(), {{1, 2, 3}, {4}, {5}}, {{0, 10}, {20, 40}}).GetLayout();
-    EXPECT_EQ(uneven.Curves[0].Points.size(), 2U);
-    EXPECT_EQ(uneven.Curves[0].NullFlags.size(), 2U);
-    EXPECT_EQ(uneven.Curves[0].Points[1].X, 120.0F);
-    EXPECT_TRUE(uneven.Curves[2].Points.empty());
+    EXPECT_EQ(uneven.Curves[0].Points().size(), 2U);
+    EXPECT_EQ(uneven.Curves[0].NullFlags().size(), 2U);
+    EXPECT_EQ(uneven.Curves[0].Points()[1].X, 120.0F);
+    EXPECT_TRUE(uneven.Curves[2].Points().empty());
 }
 
 TEST(BasicCurve, ALongCurveIsPlacedAsItsValuesAreOneByOne) {
@@ -191,26 +197,87 @@ TEST(BasicCurve, ALongCurveIsPlacedAsItsValuesAreOneByOne) {
     values[100] = kNan;
     CBasicCurve chart = LaidOut(PlotAlone(), {values}, {times});
     const CurveTrace curve = chart.GetLayout().Curves[0];
-    ASSERT_EQ(curve.Points.size(), 1300U);
-    for (std::size_t i = 0; i < curve.Points.size(); ++i) {
+    ASSERT_EQ(curve.Points().size(), 1300U);
+    for (std::size_t i = 0; i < curve.Points().size(); ++i) {
         const CurveTrace one =
             LaidOut(PlotAlone(), {{values[i]}, {}}, {{times[i]}, {0, 1299}}).GetLayout().Curves[0];
-        EXPECT_EQ(curve.Points[i].X, one.Points[0].X) << i;
-        EXPECT_TRUE(i == 100 || curve.Points[i].Y == one.Points[0].Y) << i;
-        EXPECT_EQ(curve.NullFlags[i], values[i] == kNull) << i;
+        EXPECT_EQ(curve.Points()[i].X, one.Points()[0].X) << i;
+        EXPECT_TRUE(i == 100 || curve.Points()[i].Y == one.Points()[0].Y) << i;
+        EXPECT_EQ(curve.NullFlags()[i], values[i] == kNull) << i;
     }
-    EXPECT_TRUE(std::isnan(curve.Points[100].Y));
-    EXPECT_TRUE(curve.HasNull && curve.HasUnplaced);
+    EXPECT_TRUE(std::isnan(curve.Points()[100].Y));
+    EXPECT_TRUE(curve.HasNull());
 
     // Nothing of a layout is left in the next one, whether that is shorter or longer.
     for (const std::size_t count : {1000U, 3U, 2000U}) {
         chart.SetCurveData({std::vector<double>(count, 20)}, {std::vector<std::int32_t>(count, 5)});
         chart.Layout();
         const CurveTrace& next = chart.GetLayout().Curves[0];
-        EXPECT_EQ(next.Points, Points(count, {100, 215}));
-        EXPECT_EQ(next.NullFlags, std::vector<bool>(count));
-        EXPECT_FALSE(next.HasNull || next.HasUnplaced);
+        EXPECT_EQ(next.Points(), Points(count, {100, 215}));
+        EXPECT_EQ(next.NullFlags(), std::vector<bool>(count));
+        EXPECT_FALSE(next.HasNull());
     }
+}
+
+TEST(BasicCurve, SettersLeaveALayoutAsItIs) {
+    CBasicCurve chart = LaidOut(OneCurveAlone(), {{0, 10, 20, kNull}}, {{0, 1, 2, 3}});
+    const CBasicCurve before = chart;
+    const std::string drawn = Drawn(before);
+    chart.SetCurveData({{50, 60}}, {{7, 9}});
+    chart.SetNaturalValueRange(0, 1000, 100, 10);
+    EXPECT_EQ(Drawn(chart), drawn);
+    EXPECT_EQ(chart.GetLayout().Curves[0].Points(), before.GetLayout().Curves[0].Points());
+    chart.Layout();
+    EXPECT_NE(Drawn(chart), drawn);
+}
+
+TEST(BasicCurve, ListsOfOthersAreReadWhereTheyStand) {
+    const std::vector<double> values{0, 10, 0.5, kNull, 40};
+    const std::vector<float> floats{0.0F, 10.0F, 0.5F, -9999999.0F, 40.0F};
+    const std::vector<std::int32_t> times{-3, 0, 1, 2, 7};
+    const std::vector<std::int64_t> wide(times.begin(), times.end());
+    const std::vector<double> decimals(times.begin(), times.end());
+    const CBasicCurve handed = LaidOut(OneCurveAlone(), {values}, {times});
+    std::vector<CurveDataView> views;
+    for (const CurveValues& v : {CurveValues(values), CurveValues(floats)}) {
+        for (const CurveTimes& t : {CurveTimes(times), CurveTimes(wide), CurveTimes(decimals)}) {
+            views.push_back({v, t});
+        }
+    }
+    CBasicCurve chart = handed;
+    for (const CurveDataView& view : views) {
+        chart.SetCurveDataView({view});
+        chart.Layout();
+        EXPECT_EQ(Drawn(chart), Drawn(handed));
+        EXPECT_TRUE(chart.GetCurveValue().empty());
+    }
+    // All six on one axis, whose times are not all whole.
+    CurveProp six = PlotAlone();
+    six.Plot.CurveName = std::vector<std::string>(views.size());
+    chart.SetCurveProp(six);
+    chart.SetCurveDataView(views);
+    chart.Layout();
+    for (const CurveTrace& curve : chart.GetLayout().Curves) {
+        EXPECT_EQ(curve.Points(), handed.GetLayout().Curves[0].Points());
+    }
+}
+
+TEST(BasicCurve, NanosecondsAreToldApartAndTimesThatAreNoneHaveNoPlace) {
+    constexpr std::int64_t kThen = 1764000000000000000;
+    const std::vector<double> values{1, 2, 3};
+    const std::vector<std::int64_t> moments{kThen, kThen + 1, kThen + 4};
+    CBasicCurve chart = LaidOut(PlotAlone(), {{1}}, {{1}});
+    chart.SetCurveDataView({{std::span(values), std::span(moments)}});
+    chart.Layout();
+    const penlode::RectF plot = chart.GetLayout().Plot;
+    EXPECT_EQ(chart.GetLayout().Curves[0].Points()[1].X, plot.X + plot.Width * 0.25F);
+
+    const std::vector<double> odd{kNan, 2.5, HUGE_VAL};
+    chart.SetCurveDataView({{std::span(values), std::span(odd)}});
+    chart.Layout();
+    EXPECT_EQ(chart.GetLayout().Curves[0].Points()[1].X, plot.X);
+    EXPECT_FALSE(std::isfinite(chart.GetLayout().Curves[0].Points()[0].X));
+    EXPECT_TRUE(chart.DataColumns(penlode::CRecordingEngine()).empty());
 }
 
 TEST(BasicCurve, TheAxisIsReplacedOnlyWithItsScaleAndSharedByCopies) {
@@ -223,12 +290,12 @@ TEST(BasicCurve, TheAxisIsReplacedOnlyWithItsScaleAndSharedByCopies) {
     chart.SetCurveData({{60}}, {{0}});
     chart.Layout();
     const CurveLayout& layout = chart.GetLayout();
-    EXPECT_EQ(layout.Curves[0].Points[0].Y, layout.Plot.Bottom() - 30); // the axis's length of old
+    EXPECT_EQ(layout.Curves[0].Points()[0].Y, layout.Plot.Bottom() - 30); // the axis's length of old
 
     CBasicCurve copy = chart;
     copy.SetNaturalValueRange(0, 120, 20, 5);
     chart.Layout();
-    EXPECT_EQ(layout.Curves[0].Points[0].Y, layout.Plot.Bottom() - 15);
+    EXPECT_EQ(layout.Curves[0].Points()[0].Y, layout.Plot.Bottom() - 15);
 
     prop.Plot.LogarithmScale = 2;
     EXPECT_TRUE(chart.SetCurveProp(prop));
@@ -239,12 +306,12 @@ TEST(BasicCurve, TheAxisIsReplacedOnlyWithItsScaleAndSharedByCopies) {
     EXPECT_EQ(max, -1.0);
     chart.Layout();
     EXPECT_TRUE(layout.VerMajorTicks.empty());
-    EXPECT_TRUE(layout.Curves[0].HasUnplaced) << "nothing has a place on an axis without a range";
+    EXPECT_FALSE(std::isfinite(layout.Curves[0].Points()[0].Y)) << "an axis without a range";
     chart.SetLogarithmValueRange(1, 100);
     chart.SetCurveData({{10, kNull}}, {{0, 1}});
     chart.Layout();
-    EXPECT_EQ(layout.Curves[0].Points[0].Y, layout.Plot.Bottom() - 30); // half of 60
-    EXPECT_TRUE(layout.Curves[0].HasUnplaced) << "0 has no place on a logarithmic axis";
+    EXPECT_EQ(layout.Curves[0].Points()[0].Y, layout.Plot.Bottom() - 30); // half of 60
+    EXPECT_FALSE(std::isfinite(layout.Curves[0].Points()[1].Y)) << "0 has no logarithm";
     chart.GetLogarithmValueRange(min, max);
     EXPECT_EQ(max, 100.0);
     double step = 0;
@@ -319,7 +386,7 @@ TEST(BasicCurve, AirInsetsWhatStandsAtTimesByHalfAMarker) {
         chart.SetCurveProp(prop);
         chart.Layout();
         const CurveLayout& layout = chart.GetLayout();
-        const std::vector<PointF>& points = layout.Curves[0].Points;
+        const std::vector<PointF>& points = layout.Curves[0].Points();
         EXPECT_EQ(layout.HorTicks[0].X, points[0].X);
         EXPECT_EQ(layout.HorTicks[1].X, points[1].X);
         return std::pair(points[0].X, points[1].X);

@@ -13,7 +13,9 @@ namespace {
 /// What stays of a line on columns one unit wide between 0 and 10.
 std::vector<PointF> Thinned(const std::vector<PointF>& line, const Matrix& toDevice = {}) {
     std::vector<PointF> kept;
-    ThinLine(line, toDevice, {1.0, 0.0, 10.0}, [&](PointD p) {
+    const ListLine list(line);
+    DataRun run{list};
+    ThinLine(run, toDevice, {1.0, 0.0, 10.0}, [&](PointD p) {
         kept.push_back({static_cast<float>(p.X), static_cast<float>(p.Y)});
     });
     return kept;
@@ -89,15 +91,20 @@ TEST(LineThinning, LongColumnsKeepWhatTheirPointsAreOneByOne) {
     EXPECT_EQ(Thinned(line), wanted);
 }
 
-TEST(LineThinning, NoPlaceInALongColumnHidesAPointThatIsNotFinite) {
-    const auto ignore = [](PointD) {};
+TEST(LineThinning, ARunEndsAtAPointThatIsNotFinite) {
     for (const float odd : {NAN, INFINITY, -INFINITY}) {
-        for (std::size_t place = 0; place < 100; ++place) {
-            std::vector<PointF> line(100, PointF{0.5F, 3.0F});
-            line[place].Y = odd;
-            EXPECT_FALSE(ThinLine(line, {}, {1.0, 0.0, 10.0}, ignore)) << odd << " as y at " << place;
-            line[place] = {odd, 3.0F};
-            EXPECT_FALSE(ThinLine(line, {}, {1.0, 0.0, 10.0}, ignore)) << odd << " as x at " << place;
+        for (std::size_t place = 0; place < 200; ++place) {
+            for (const PointF gap : {PointF{0.5F, odd}, PointF{odd, 3.0F}}) {
+                std::vector<PointF> line(200, PointF{0.5F, 3.0F});
+                line[place] = gap;
+                const ListLine list(line);
+                DataRun run{list};
+                std::size_t kept = 0;
+                ThinLine(run, {}, {1.0, 0.0, 10.0}, [&kept](PointD) { ++kept; });
+                EXPECT_EQ(run.End, place) << odd;
+                EXPECT_EQ(FindGap(list, 0), place) << odd;
+                EXPECT_EQ(kept, std::min<std::size_t>(place, 2)) << "the first and the last before the gap";
+            }
         }
     }
 }
