@@ -1,12 +1,21 @@
 #include "documents/points/PointExtents.h"
 
+#include "charts/curve/CurveProp.h"
 #include "penlode/text/Digits.h"
+
+#include <algorithm>
 
 namespace millichart::documents {
 namespace {
 
 std::uint64_t CountIn(const SqlValue& value) {
     return static_cast<std::uint64_t>(NumberIn(value).value_or(0.0));
+}
+
+/// Is every value one to be drawn? A text is told of later.
+bool HasGaps(const PointExtent& extent, bool isLogarithmic) {
+    const std::optional<double> lowest = NumberIn(extent.Lowest);
+    return extent.Gaps > 0 || (lowest && (IsCurveNull(*lowest) || (isLogarithmic && *lowest <= 0.0)));
 }
 
 } // namespace
@@ -30,17 +39,38 @@ std::string TextOf(const SqlValue& value) {
     return text == nullptr ? "nothing" : *text;
 }
 
-bool AskExtents(SqlSession& session, const PointsSql& sql, std::size_t most, PointExtents& extents) {
+bool AskExtents(SqlSession& session, const PointsSql& sql, bool isLogarithmic, std::size_t most,
+                PointExtents& extents) {
     const std::size_t of = sql.HasSeries() ? 1 : 0;
     const bool isAnswered = session.Ask(sql.Extents(), [&](std::span<const SqlValue> row) {
-        if (CountIn(row[of + 2]) > 0) {
+        const std::uint64_t rows = CountIn(row[of + 2]);
+        if (rows > 0) {
             extents[of == 0 ? SqlValue() : row[0]] = {
-                row[of],     row[of + 1], CountIn(row[of + 2]), CountIn(row[of + 3]),
-                row[of + 4], row[of + 5], row[of + 6],          row[of + 7]};
+                row[of],     row[of + 1], rows,        rows - CountIn(row[of + 3]),
+                row[of + 4], row[of + 5], row[of + 4], row[of + 5]};
         }
         return extents.size() <= most;
     });
-    return isAnswered && extents.size() <= most;
+    const bool haveGaps = std::any_of(extents.begin(), extents.end(), [&](const auto& curve) {
+        return HasGaps(curve.second, isLogarithmic);
+    });
+    if (!isAnswered || extents.size() > most || !haveGaps) {
+        return isAnswered && extents.size() <= most;
+    }
+    for (auto& [series, extent] : extents) {
+        extent.Gaps = extent.Rows; // of a curve that has nothing else, there is no row
+        extent.Least = extent.Greatest = SqlValue();
+    }
+    return session.Ask(sql.ValueExtents(), [&](std::span<const SqlValue> row) {
+        const auto found = extents.find(of == 0 ? SqlValue() : row[0]);
+        if (found != extents.end()) {
+            PointExtent& extent = found->second;
+            extent.Gaps -= std::min(extent.Gaps, CountIn(row[of + 2]));
+            extent.Least = row[of + 4];
+            extent.Greatest = row[of + 5];
+        }
+        return true;
+    });
 }
 
 } // namespace millichart::documents

@@ -25,8 +25,10 @@ struct PointExtent {
 /// By their series, in its order; one without a series where there is none.
 using PointExtents = std::map<SqlValue, PointExtent>;
 
-/// Asks for them. False where the session fails, or where there are more curves than `most`.
-bool AskExtents(SqlSession& session, const PointsSql& sql, std::size_t most, PointExtents& extents);
+/// Asks for them, and once more where there are gaps. False where the session fails, or where there are more
+/// curves than `most`.
+bool AskExtents(SqlSession& session, const PointsSql& sql, bool isLogarithmic, std::size_t most,
+                PointExtents& extents);
 
 /// A number that an answer holds, if it is one.
 std::optional<double> NumberIn(const SqlValue& value);

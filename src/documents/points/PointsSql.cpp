@@ -29,12 +29,30 @@ std::string QuotedPath(const SqlSession& session, const std::string& path) {
     return quoted;
 }
 
+/// A constant array, which only PostgreSQL has.
+template <class Numbers> std::string List(const Numbers& numbers, const char* type) {
+    std::string list = "'{";
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        list += (i == 0 ? "" : ",") + penlode::Digits(numbers[i]);
+    }
+    return list + "}'::" + type + "[]";
+}
+
+/// Each number of both once.
+template <class Numbers> Numbers Together(Numbers numbers, const Numbers& others) {
+    numbers.insert(numbers.end(), others.begin(), others.end());
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
+}
+
 } // namespace
 
 PointsSql::PointsSql(const SqlSession& session, const PointsTable& table,
                      std::vector<RowCondition> conditions, bool isLogarithmic)
-    : m_dialect(session.Dialect()), m_table(QuotedPath(session, table.Name)),
-      m_time(session.Quoted(table.Time)), m_value(session.Quoted(table.Value)) {
+    : m_dialect(session.Dialect()), m_hasBuckets(session.HasFastLists()),
+      m_table(QuotedPath(session, table.Name)), m_time(session.Quoted(table.Time)),
+      m_value(session.Quoted(table.Value)) {
     m_where = m_time + " IS NOT NULL";
     if (!table.Series.empty()) {
         m_series = session.Quoted(table.Series);
@@ -81,11 +99,17 @@ std::string PointsSql::Floor(const std::string& number) const {
 }
 
 SqlQuestion PointsSql::Extents() const {
+    return ExtentsOf(Of::All);
+}
+
+SqlQuestion PointsSql::ValueExtents() const {
+    return ExtentsOf(Of::Values);
+}
+
+SqlQuestion PointsSql::ExtentsOf(Of rows) const {
     const std::string series = HasSeries() ? m_series + ", " : "";
-    const std::string value = "CASE WHEN " + m_isValue + " THEN " + m_value + " END";
-    return Asked("SELECT " + series + "MIN(" + m_time + "), MAX(" + m_time +
-                     "), COUNT(*), COUNT(*) - COUNT(" + value + "), MIN(" + m_value + "), MAX(" + m_value +
-                     "), MIN(" + value + "), MAX(" + value + ")" + From(Of::All) +
+    return Asked("SELECT " + series + "MIN(" + m_time + "), MAX(" + m_time + "), COUNT(*), COUNT(" + m_value +
+                     "), MIN(" + m_value + "), MAX(" + m_value + ")" + From(rows) +
                      (HasSeries() ? " GROUP BY " + m_series : ""),
                  1);
 }
@@ -121,12 +145,31 @@ std::string PointsSql::ByTime() const {
            ") a";
 }
 
-SqlQuestion PointsSql::Summaries(const CellSteps& steps, std::int64_t first) const {
-    return Asked("SELECT " +
-                     SeriesThen("(MIN(ARRAY[t, v]))[1], (MIN(ARRAY[t, v]))[2], (MIN(ARRAY[v, t]))[2], "
-                                "(MIN(ARRAY[v, t]))[1], (MAX(ARRAY[v, -t]))[2], (MAX(ARRAY[v, -t]))[1], "
-                                "(MAX(ARRAY[t, v]))[1], (MAX(ARRAY[t, v]))[2], COUNT(*)") +
-                     " FROM " + Stepped(Of::Values, steps, first) + " b GROUP BY " + SeriesThen("k"),
+/// Rows with the number k of their cell. The data base does not see what k is made of, as above.
+std::string PointsSql::Bucketed(std::span<const std::int32_t> starts, const std::string& more) const {
+    return " FROM (SELECT " + m_time + " AS t, " + Double(m_value) + " AS v, WIDTH_BUCKET(" + Double(m_time) +
+           ", " + List(starts, "float8") + ") AS k" + From(Of::Values, more) + " OFFSET '0') b";
+}
+
+SqlQuestion PointsSql::Cells(std::span<const std::int32_t> starts) const {
+    return Asked("SELECT k, MIN(t), MAX(t), MIN(v), MAX(v), COUNT(*)" + Bucketed(starts, "") + " GROUP BY k",
+                 1);
+}
+
+/// Most rows have neither such a time nor such a value, of whatever cell, which is found out faster than a
+/// row's cell.
+SqlQuestion PointsSql::RowsOfCells(std::span<const std::int32_t> starts, const CellBounds& bounds) const {
+    const std::string times = m_time + " = ANY(" + List(Together(bounds.First, bounds.Last), "int4") + ")";
+    const std::string values =
+        Double(m_value) + " = ANY(" + List(Together(bounds.Lowest, bounds.Highest), "float8") + ")";
+    const auto isBound = [](const char* cell, const std::string& list) {
+        return std::string(cell) + " = (" + list + ")[k + 1]";
+    };
+    return Asked("SELECT k, MIN(t), MAX(t), v" + Bucketed(starts, " AND (" + values + " OR " + times + ")") +
+                     " WHERE " + isBound("v", List(bounds.Lowest, "float8")) + " OR " +
+                     isBound("v", List(bounds.Highest, "float8")) + " OR " +
+                     isBound("t", List(bounds.First, "int4")) + " OR " +
+                     isBound("t", List(bounds.Last, "int4")) + " GROUP BY k, v",
                  1);
 }
 

@@ -13,6 +13,14 @@
 
 namespace millichart::documents {
 
+/// Of each cell by its number, where its rows end. All are as many as cells.
+struct CellBounds {
+    std::vector<std::int32_t> First;
+    std::vector<std::int32_t> Last;
+    std::vector<double> Lowest;
+    std::vector<double> Highest;
+};
+
 /// What a data base is asked of a table of points. Rows without a time or, where there are series, without
 /// one count for nothing.
 ///
@@ -22,20 +30,27 @@ public:
     PointsSql(const SqlSession& session, const PointsTable& table, std::vector<RowCondition> conditions,
               bool isLogarithmic);
 
-    /// A row a curve: its series, if there are any; its first and last time, rows, gaps, the least and the
-    /// greatest number under its values, and those of what is no gap.
+    /// A row a curve: its series, if there are any; its first and last time, rows, those with any value, and
+    /// the least and the greatest of these.
     SqlQuestion Extents() const;
+
+    /// The same of the rows that are no gaps.
+    SqlQuestion ValueExtents() const;
 
     /// One row: how many times are no whole numbers.
     SqlQuestion Fractions() const;
 
-    /// Rows of times from `first` on, summed up by steps, gaps left out: series, if there are any; time and
-    /// value of the first; of the lowest; of the highest, its time with the other sign; of the last; how
-    /// many. Only where `HasArrays`.
-    SqlQuestion Summaries(const CellSteps& steps, std::int64_t first) const;
+    /// A row a cell, where there are no series: its number; first and last time, least and greatest value,
+    /// rows. Only where `HasBuckets`.
+    SqlQuestion Cells(std::span<const std::int32_t> starts) const;
 
-    /// For any other data base, rows that may show: series, if there are any; two times, and the value of a
-    /// row of each; the first time of all the rows that were summed up with these, and how many they are.
+    /// For what `Cells` answered: rows of these times and values, a row a cell and value: the cell's number;
+    /// first and last time, value.
+    SqlQuestion RowsOfCells(std::span<const std::int32_t> starts, const CellBounds& bounds) const;
+
+    /// For any data base, rows that may show, with times from `first` on: series, if there are any; two
+    /// times, and the value of a row of each; the first time of all the rows that were summed up with these,
+    /// and how many they are.
     SqlQuestion Extremes(const CellSteps& steps, std::int64_t first) const;
 
     /// Gaps by steps: series, if there are any; a time and how many.
@@ -50,12 +65,13 @@ public:
 
     bool HasSeries() const { return !m_series.empty(); }
 
-    /// Can a data base compare lists of numbers, so that it finds the value of the first time in one look?
-    bool HasArrays() const { return m_dialect == SqlDialect::Postgres; }
+    /// Does the data base find a number among sorted ones, or any, at once?
+    bool HasBuckets() const { return m_hasBuckets; }
 
 private:
     enum class Of { All, Values, Gaps };
 
+    SqlQuestion ExtentsOf(Of rows) const;
     std::string From(Of rows, const std::string& more = {}) const;
     std::string Stepped(Of rows, const CellSteps& steps, std::int64_t first) const;
     std::string Grouped(const CellSteps& steps, std::int64_t first) const;
@@ -64,7 +80,10 @@ private:
     std::string SeriesThen(const std::string& columns, const std::string& of = {}) const;
     SqlQuestion Asked(std::string text, int sources) const;
 
+    std::string Bucketed(std::span<const std::int32_t> starts, const std::string& more) const;
+
     SqlDialect m_dialect;
+    bool m_hasBuckets;
     std::string m_table;
     std::string m_time;
     std::string m_value;

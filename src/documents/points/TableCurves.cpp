@@ -103,7 +103,7 @@ private:
     }
 
     bool AskForExtents() {
-        if (!AskExtents(*m_session, *m_sql, kMostCurves, m_extents)) {
+        if (!AskExtents(*m_session, *m_sql, m_rules.IsLogarithmic, kMostCurves, m_extents)) {
             return m_extents.size() <= kMostCurves ||
                    Refuse("the column \"" + Names().Series + "\" has more than " +
                           std::to_string(kMostCurves) + " series, expected at most as many curves");
@@ -182,8 +182,9 @@ private:
         }
         const auto [first, last] = Times();
         const CellSteps steps = StepsOf(m_starts, first, last);
-        const bool isTaken = m_sql->HasArrays() && !steps.AreTimesAlone ? TakeSummaries(steps, first)
-                                                                        : TakeExtremes(steps, first);
+        const bool isTaken = m_sql->HasBuckets() && !m_sql->HasSeries() && !steps.AreTimesAlone
+                                 ? TakeCells(m_rows.begin()->second)
+                                 : TakeExtremes(steps, first);
         const bool haveGaps = std::any_of(m_extents.begin(), m_extents.end(),
                                           [](const auto& curve) { return curve.second.Gaps > 0; });
         return isTaken && (!haveGaps || TakeGaps(steps, first));
@@ -233,16 +234,29 @@ private:
 
     bool IsGap(double value) const { return IsCurveNull(value) || (m_rules.IsLogarithmic && value <= 0.0); }
 
-    bool TakeSummaries(const CellSteps& steps, std::int64_t first) {
-        return m_session->Ask(m_sql->Summaries(steps, first), [&](Row row) {
-            if (CellRows* const rows = RowsOf(row)) {
-                const auto at = [&row](std::size_t time) {
-                    return PointRow{TimeIn(row[time]), *NumberIn(row[time + 1])};
-                };
-                PointRow highest = at(4);
-                highest.Time = static_cast<std::int32_t>(-*NumberIn(row[4]));
-                rows->Take({at(0), at(2), highest, at(6), static_cast<std::uint64_t>(*NumberIn(row[8]))});
-            }
+    /// In two looks: where the rows of each cell end, and which rows are there.
+    bool TakeCells(CellRows& rows) {
+        CellBounds bounds;
+        std::vector<std::uint64_t> counts(m_starts.size() + 1);
+        bounds.First.resize(counts.size());
+        bounds.Last.resize(counts.size());
+        bounds.Lowest.resize(counts.size());
+        bounds.Highest.resize(counts.size());
+        const bool isAnswered = m_session->Ask(m_sql->Cells(m_starts), [&](Row row) {
+            const auto cell = static_cast<std::size_t>(*NumberIn(row[0]));
+            bounds.First[cell] = TimeIn(row[1]);
+            bounds.Last[cell] = TimeIn(row[2]);
+            bounds.Lowest[cell] = *NumberIn(row[3]);
+            bounds.Highest[cell] = *NumberIn(row[4]);
+            counts[cell] = static_cast<std::uint64_t>(*NumberIn(row[5]));
+            return true;
+        });
+        return isAnswered && m_session->Ask(m_sql->RowsOfCells(m_starts, bounds), [&](Row row) {
+            std::uint64_t& count = counts[static_cast<std::size_t>(*NumberIn(row[0]))];
+            const double value = *NumberIn(row[3]);
+            CellSummary summary = CellSummary::Of({TimeIn(row[1]), value}, std::exchange(count, 0));
+            summary.Join(CellSummary::Of({TimeIn(row[2]), value}, 0));
+            rows.Take(summary);
             return true;
         });
     }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstdlib>
 #include <mutex>
 
 namespace millichart::documents {
@@ -67,6 +68,11 @@ public:
         return name == "postgresql"         ? SqlDialect::Postgres
                : name.starts_with("sqlite") ? SqlDialect::Sqlite
                                             : SqlDialect::Standard;
+    }
+
+    bool HasFastLists() const override {
+        constexpr int kFirst = 14;
+        return Dialect() == SqlDialect::Postgres && std::atoi(m_link.Told(SQL_DBMS_VER).c_str()) >= kFirst;
     }
 
     /// A data base that quotes no names tells a blank. SQLite takes an unknown name in double quotes for a

@@ -60,6 +60,9 @@ public:
     /// Does the data base work in this program, so that a row costs little?
     virtual bool IsInProcess() const { return false; }
 
+    /// Is it PostgreSQL of a version, 14 or later, that looks a number up in a list at once?
+    virtual bool HasFastLists() const { return false; }
+
     /// A name as the data base quotes it, so that nothing in it is taken for more than a name.
     virtual std::string Quoted(std::string_view name) const = 0;
 
