@@ -64,16 +64,19 @@ bool ParseLegend(const std::string& text, std::string& place) {
 
 /// Of a data base's table whose rows are too many to be read.
 void AddPointsOptions(CLI::App& command, millichart::PointsTable& points) {
-    command.add_option("--table", points.Name,
-                       "a line of all rows of a data base's table, however many: the data base finds what "
-                       "shows of them; its name, with a schema as in lab.points; goes with --time and --value");
+    command.add_option(
+        "--table", points.Name,
+        "a line of all rows of a data base's table, however many: the data base finds what "
+        "shows of them; its name, with a schema as in lab.points; goes with --time and --value");
     command.add_option("--time", points.Time, "the column of the table's times, which are whole numbers");
     command.add_option("--value", points.Value, "the column of the table's values");
-    command.add_option("--by", points.Series, "a column of the table whose every value is a curve, up to 100");
+    command.add_option("--by", points.Series,
+                       "a column of the table whose every value is a curve, up to 100");
     command
-        .add_option("--where", points.Where,
-                    "the table's rows for which this holds: a column, one of = <> < <= > >= and a value, as in "
-                    "\"site = 3\"; may be given several times")
+        .add_option(
+            "--where", points.Where,
+            "the table's rows for which this holds: a column, one of = <> < <= > >= and a value, as in "
+            "\"site = 3\"; may be given several times")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }

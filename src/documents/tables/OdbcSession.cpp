@@ -11,7 +11,8 @@
 namespace millichart::documents {
 namespace {
 
-/// A question's values as the driver takes them when the statement is carried out: where they lie, until then.
+/// A question's values as the driver takes them when the statement is carried out: where they lie, until
+/// then.
 class BoundValues {
 public:
     explicit BoundValues(const std::vector<SqlValue>& values)
