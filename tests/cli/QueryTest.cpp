@@ -67,8 +67,8 @@ TEST_F(QueryCommand, DrawsALineOfATableAsOneOfAllItsRows) {
     Write("p.csv", rows.Csv());
     Carry("p.db", rows.Sql("double"));
     const std::string table = "--table points --time t --value v";
-    for (const std::string& look :
-         {" --size 120x60", " --dpi 300 --log", " --format svg", " --size A5 --format pdf"}) {
+    for (const std::string look : {" --size 120x60 --format png", " --dpi 300 --log --format png",
+                                   " --format svg", " --size A5 --format pdf"}) {
         EXPECT_EQ(Run("millichart draw --kind line p.csv -o a" + look +
                       " && millichart draw --kind line "
                       "sqlite:p.db " +

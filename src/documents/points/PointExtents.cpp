@@ -18,6 +18,53 @@ bool HasGaps(const PointExtent& extent, bool isLogarithmic) {
     return extent.Gaps > 0 || (lowest && (IsCurveNull(*lowest) || (isLogarithmic && *lowest <= 0.0)));
 }
 
+/// As SQLite orders values: each text comes behind all numbers.
+bool IsLess(const SqlValue& a, const SqlValue& b) {
+    const std::optional<double> first = NumberIn(a);
+    const std::optional<double> second = NumberIn(b);
+    return first && (!second || *first < *second);
+}
+
+void Widen(SqlValue& least, SqlValue& greatest, const SqlValue& value) {
+    const bool isFirst = std::holds_alternative<std::monostate>(least);
+    if (isFirst || IsLess(value, least)) {
+        least = value;
+    }
+    if (isFirst || IsLess(greatest, value)) {
+        greatest = value;
+    }
+}
+
+void Take(PointExtent& extent, const SqlValue& time, const SqlValue& value, bool isLogarithmic) {
+    Widen(extent.First, extent.Last, time);
+    ++extent.Rows;
+    const std::optional<double> number = NumberIn(value);
+    const bool isGap = std::holds_alternative<std::monostate>(value) ||
+                       (number && (IsCurveNull(*number) || (isLogarithmic && *number <= 0.0)));
+    if (!std::holds_alternative<std::monostate>(value)) {
+        Widen(extent.Lowest, extent.Highest, value);
+    }
+    if (isGap) {
+        ++extent.Gaps;
+    } else {
+        Widen(extent.Least, extent.Greatest, value);
+    }
+}
+
+/// By all rows, of which nothing is sorted.
+bool ScanExtents(SqlSession& session, const PointsSql& sql, bool isLogarithmic, std::size_t most,
+                 PointExtents& extents) {
+    auto latest = extents.end();
+    const bool isAnswered = session.Ask(sql.Rows(), [&](std::span<const SqlValue> row) {
+        if (latest == extents.end() || latest->first != row[0]) {
+            latest = extents.try_emplace(row[0]).first;
+        }
+        Take(latest->second, row[1], row[2], isLogarithmic);
+        return extents.size() <= most;
+    });
+    return isAnswered && extents.size() <= most;
+}
+
 } // namespace
 
 std::optional<double> NumberIn(const SqlValue& value) {
@@ -41,6 +88,9 @@ std::string TextOf(const SqlValue& value) {
 
 bool AskExtents(SqlSession& session, const PointsSql& sql, bool isLogarithmic, std::size_t most,
                 PointExtents& extents) {
+    if (session.IsInProcess() && sql.HasSeries()) {
+        return ScanExtents(session, sql, isLogarithmic, most, extents);
+    }
     const std::size_t of = sql.HasSeries() ? 1 : 0;
     const bool isAnswered = session.Ask(sql.Extents(), [&](std::span<const SqlValue> row) {
         const std::uint64_t rows = CountIn(row[of + 2]);

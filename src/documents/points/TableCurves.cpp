@@ -40,7 +40,8 @@ std::int32_t TimeIn(const SqlValue& value) {
 
 class TableCurves final : public LargeCurves {
 public:
-    TableCurves(const TableInput& input, const LineRules& rules) : m_input(input), m_rules(rules) {}
+    TableCurves(const TableInput& input, const LineRules& rules, bool mayReadRows)
+        : m_input(input), m_rules(rules), m_mayReadRows(mayReadRows) {}
 
     CurveData Extent(Diagnostics& diagnostics) override {
         m_extents.clear();
@@ -104,7 +105,7 @@ private:
 
     bool AskForExtents() {
         if (!AskExtents(*m_session, *m_sql, m_rules.IsLogarithmic, kMostCurves, m_extents)) {
-            return m_extents.size() <= kMostCurves ||
+            return m_extents.size() > kMostCurves &&
                    Refuse("the column \"" + Names().Series + "\" has more than " +
                           std::to_string(kMostCurves) + " series, expected at most as many curves");
         }
@@ -177,7 +178,7 @@ private:
     }
 
     bool TakeRows() {
-        if (m_session->IsInProcess()) {
+        if (m_mayReadRows && m_session->IsInProcess()) {
             return TakeEachRow();
         }
         const auto [first, last] = Times();
@@ -331,6 +332,7 @@ private:
 
     const TableInput m_input;
     const LineRules m_rules;
+    const bool m_mayReadRows;
     std::unique_ptr<SqlSession> m_session;
     std::unique_ptr<PointsSql> m_sql;
     PointExtents m_extents;
@@ -341,9 +343,10 @@ private:
 
 } // namespace
 
-std::shared_ptr<LargeCurves> OpenTableCurves(const TableInput& input, const LineRules& rules) {
+std::shared_ptr<LargeCurves> OpenTableCurves(const TableInput& input, const LineRules& rules,
+                                             bool mayReadRows) {
     const bool isOfTable = !input.Source.empty() && !input.Options.Points.Name.empty();
-    return isOfTable ? std::make_shared<TableCurves>(input, rules) : nullptr;
+    return isOfTable ? std::make_shared<TableCurves>(input, rules, mayReadRows) : nullptr;
 }
 
 } // namespace millichart::documents

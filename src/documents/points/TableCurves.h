@@ -13,7 +13,8 @@ namespace millichart::documents {
 /// would sort them.
 ///
 /// Rows come in the order of their times, and of equal times in that of their values. Null for an input
-/// without such a table.
-std::shared_ptr<LargeCurves> OpenTableCurves(const TableInput& input, const LineRules& rules);
+/// without such a table. Where rows may not be read, SQLite does the sums, too.
+std::shared_ptr<LargeCurves> OpenTableCurves(const TableInput& input, const LineRules& rules,
+                                             bool mayReadRows = true);
 
 } // namespace millichart::documents
