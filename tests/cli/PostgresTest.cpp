@@ -161,7 +161,7 @@ TEST_F(Postgres, DrawsALineOfATableAsOneOfAllItsRows) {
                              "--by site --where \"site = 'even'\" -o f.png; cmp e.png f.png");
     EXPECT_EQ(even.Output + even.Errors, "");
     Ask("create table days (t date, v float8); insert into days values ('2024-03-15', 1)");
-    const Outcome days = Run(command + source + " --table days --time t --value v");
+    const Outcome days = Run(command + source + " --table days --time t --value v -o d.png");
     EXPECT_NE(days.Errors.find("found 2024-03-15, expected whole numbers"), std::string::npos) << days.Errors;
 }
 

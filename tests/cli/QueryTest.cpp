@@ -78,7 +78,7 @@ TEST_F(QueryCommand, DrawsALineOfATableAsOneOfAllItsRows) {
             << look;
     }
     const Outcome made =
-        Run("millichart new --kind line --data sqlite:p.db " + table +
+        Run("millichart new line --data sqlite:p.db " + table +
             " --where 't >= -60000' -o d.json && millichart draw d.json -o c.png && "
             "grep -c points d.json; (head -n 1 p.csv; tail -n +2 p.csv | awk -F, '$1 >= -60000') "
             ">q.csv; millichart draw --kind line q.csv -o q.png; cmp c.png q.png");
@@ -100,7 +100,7 @@ TEST_F(QueryCommand, RefusesATableOfPointsThatCannotBeDrawn) {
     EXPECT_EQ(
         Run("millichart draw p.json").Errors,
         "millichart: p.db: found a table of points, which a line chart alone draws, expected a query\n");
-    EXPECT_EQ(Run("millichart draw --kind line --value w " + from).Errors,
+    EXPECT_EQ(Run("millichart draw --kind line -o w.png --value w " + from).Errors,
               "millichart: p.db: cannot be read: no such column: w\n");
 }
 

@@ -89,10 +89,13 @@ protected:
                                GetParam());
     }
 
-    /// Why there is no extent.
+    /// Why there are no rows.
     std::string Fault(const PointsTable& points) const {
         std::vector<penlode::Diagnostic> told;
-        EXPECT_TRUE(Opened(points)->Extent(told).Values.empty());
+        const auto curves = Opened(points);
+        if (!curves->Extent(told).Values.empty()) {
+            EXPECT_TRUE(curves->Thinned(std::vector<std::int32_t>{2, 5}, told).Values.empty());
+        }
         return told.empty() ? "" : told.front().Text;
     }
 
@@ -138,7 +141,9 @@ TEST_P(TableCurvesTest, ALineLooksAsOneOfAllRows) {
     std::mt19937 random(5);
     for (const Shape& shape : kShapes) {
         SCOPED_TRACE(shape.Name);
-        const std::map<std::string, Line> sites = Fill(shape, random);
+        Shape less = shape;
+        less.Rows /= GetParam() ? 1 : 8; // a join of SQLite's takes long
+        const std::map<std::string, Line> sites = Fill(less, random);
         Line all;
         for (const auto& [site, rows] : sites) {
             all.insert(all.end(), rows.begin(), rows.end());
@@ -190,14 +195,15 @@ TEST_P(TableCurvesTest, SeriesAreCurvesAndConditionsHold) {
 
 TEST_P(TableCurvesTest, OnALogarithmicAxisWhatIsNotAboveZeroIsAGap) {
     std::mt19937 random(8);
-    Carry("create table few (t integer, v real)");
     Line rows;
+    std::string statements = "create table few (t integer, v real); begin;";
     for (std::int32_t time = 0; time < 900; ++time) {
         const bool isGap = random() % 150 == 0;
         rows.emplace_back(time, isGap ? -static_cast<double>(random() % 2) : 1.0 + time % 71);
-        Carry("insert into few values (" + std::to_string(time) + "," + std::to_string(rows.back().second) +
-              ")");
+        statements += "insert into few values (" + std::to_string(time) + "," +
+                      std::to_string(rows.back().second) + ");";
     }
+    Carry(statements + "commit");
     const auto curves = Opened({"few", "t", "v"}, {.IsLogarithmic = true, .NullsAreZero = {}, .Names = 0});
     std::vector<penlode::Diagnostic> told;
     curves->Extent(told);
@@ -214,7 +220,7 @@ TEST_P(TableCurvesTest, TellsWhatCannotBeDrawn) {
     EXPECT_EQ(Fault({"t", "a", "c"}),
               "the column \"a\": found 4294967296, expected whole numbers within 32 bits");
     EXPECT_EQ(Fault({"t", "a", "c", "", {"c < 5"}}),
-              "the column \"a\": found decimals, expected whole numbers within 32 bits");
+              "the column \"a\": found 2.5, expected whole numbers within 32 bits");
     EXPECT_EQ(Fault({"t", "c", "b"}), "the column \"b\": found b, expected numbers");
     EXPECT_EQ(Fault({"t", "b", "a"}), "the column \"b\": found b, expected whole numbers within 32 bits");
     EXPECT_EQ(Fault({"many", "t", "v", "s"}),

@@ -115,7 +115,7 @@ SqlQuestion PointsSql::ExtentsOf(Of rows) const {
 }
 
 SqlQuestion PointsSql::Fractions() const {
-    return Asked("SELECT COUNT(*)" + From(Of::All, " AND " + m_time + " <> " + Floor(m_time)), 1);
+    return Asked("SELECT MIN(" + m_time + ")" + From(Of::All, " AND " + m_time + " <> " + Floor(m_time)), 1);
 }
 
 /// Rows with a key k, which is their time where times count one by one, and else less than all times. Not

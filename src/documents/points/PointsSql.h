@@ -37,7 +37,7 @@ public:
     /// The same of the rows that are no gaps.
     SqlQuestion ValueExtents() const;
 
-    /// One row: how many times are no whole numbers.
+    /// One row: the first time that is no whole number, if any is none.
     SqlQuestion Fractions() const;
 
     /// A row a cell, where there are no series: its number; first and last time, least and greatest value,

@@ -113,7 +113,8 @@ private:
     }
 
     bool CheckExtents() {
-        bool areFractions = false;
+        // In SQLite a column may hold anything.
+        bool areFractions = m_session->Dialect() == SqlDialect::Sqlite && !ReadsRows();
         for (const auto& [series, extent] : m_extents) {
             for (const SqlValue* time : {&extent.First, &extent.Last}) {
                 if (!IsTime(*time)) {
@@ -132,13 +133,16 @@ private:
     }
 
     bool CheckFractions() {
-        double fractions = 0.0;
+        SqlValue fraction;
         const bool isAnswered = m_session->Ask(m_sql->Fractions(), [&](Row row) {
-            fractions = NumberIn(row[0]).value_or(0.0);
+            fraction = row[0];
             return true;
         });
-        return isAnswered && (fractions == 0.0 || RefuseCell(Names().Time, "decimals", kTimesForm));
+        const bool isNone = std::holds_alternative<std::monostate>(fraction);
+        return isAnswered && (isNone || RefuseCell(Names().Time, fraction, kTimesForm));
     }
+
+    bool ReadsRows() const { return m_mayReadRows && m_session->IsInProcess(); }
 
     /// Times where the curve begins and ends, and all of its values that a layout depends on.
     void PutExtent(const PointExtent& extent, CurveData& data) const {
@@ -178,7 +182,7 @@ private:
     }
 
     bool TakeRows() {
-        if (m_mayReadRows && m_session->IsInProcess()) {
+        if (ReadsRows()) {
             return TakeEachRow();
         }
         const auto [first, last] = Times();
