@@ -48,7 +48,7 @@ _millichart() {
   esac
   if [[ $current == -* && $previous != -o && $previous != --output && $previous != --data ]]; then
     local options="--help"
-    [ "$command" = edit ] || options+=" --data --query --sheet --columns --header --no-header --transpose --sort --top --decimal"
+    [ "$command" = edit ] || options+=" --data --query --table --time --value --by --where --sheet --columns --header --no-header --transpose --sort --top --decimal"
     [ "$command" = edit ] || options+=" --title --x-title --y-title --log --stacked --3d --legend --size --set"
     case $command in
       draw)

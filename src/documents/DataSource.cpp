@@ -81,10 +81,10 @@ std::optional<Table> LoadTable(ChartStream& stream, const char* key, const DataS
     if (named.empty()) {
         return std::nullopt;
     }
-    const std::optional<TableInput> input = OpenNamed(
+    std::optional<TableInput> input = OpenNamed(
         penlode::CStringUtil::AnsiToUtf8(named),
         stream.PlaceOf(stream.Has(csvKey) ? csvKey : TableKeys(csvKey)[1]), std::move(options), source);
-    return input ? std::optional(ReadTable(*input, form, *source.Diagnostics)) : std::nullopt;
+    return input ? std::optional(ReadOrStream(*input, form, source)) : std::nullopt;
 }
 
 std::optional<Table> LoadList(ChartStream& stream, const DataSource& source, const ListForm& form,

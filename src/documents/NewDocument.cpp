@@ -79,16 +79,25 @@ void SaveText(CJsonSerializeStream& json, const char* key, const std::string& te
     }
 }
 
+void SaveTexts(CJsonSerializeStream& json, const char* key, const std::vector<std::string>& texts) {
+    if (!texts.empty()) {
+        std::vector<std::string> narrow;
+        for (const std::string& text : texts) {
+            narrow.push_back(CStringUtil::Utf8ToAnsi(text));
+        }
+        json.Ser(key, narrow, {});
+    }
+}
+
 void SaveOptions(CJsonSerializeStream& json, const TableOptions& options) {
     SaveText(json, "query", options.Query);
+    SaveText(json, "table", options.Points.Name);
+    SaveText(json, "time", options.Points.Time);
+    SaveText(json, "value", options.Points.Value);
+    SaveText(json, "by", options.Points.Series);
+    SaveTexts(json, "where", options.Points.Where);
     SaveText(json, "sheet", options.Sheet);
-    if (!options.Columns.empty()) {
-        std::vector<std::string> columns;
-        for (const std::string& column : options.Columns) {
-            columns.push_back(CStringUtil::Utf8ToAnsi(column));
-        }
-        json.Ser("columns", columns, {});
-    }
+    SaveTexts(json, "columns", options.Columns);
     if (options.HasHeading) {
         json.Set("data/heading", *options.HasHeading ? "true" : "false");
     }

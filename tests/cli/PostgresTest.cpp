@@ -1,5 +1,6 @@
 #include "AnsweredPie.h"
 #include "CommandTest.h"
+#include "PlotRows.h"
 #include "documents/tables/Query.h"
 #include "documents/tables/QuerySource.h"
 
@@ -7,6 +8,7 @@
 #include <cstdlib>
 
 using cli_test::AnsweredPie;
+using cli_test::PlotRows;
 
 namespace {
 
@@ -133,6 +135,34 @@ TEST_F(Postgres, AnswersInItsOwnWordsAndIsNotChanged) {
         Run("millichart inspect b.json | grep labelTexts; millichart draw b.json && ls *.png");
     EXPECT_EQ(outcome.Output, "    \"labelTexts\": [\"South;3.0\",\"北;12.5\"],\nb.png\n");
     EXPECT_EQ(outcome.Errors, "");
+}
+
+TEST_F(Postgres, DrawsALineOfATableAsOneOfAllItsRows) {
+    PlotRows rows(100000, 4);
+    Write("p.csv", rows.Csv());
+    Ask(rows.Sql("float8") + "create schema \"lab; 1\"; create table \"lab; 1\".\"select\" as select t as "
+                             "\"order\", v, case when t % 2 = 0 then 'even' else 'odd' end as site from "
+                             "points; insert into \"lab; "
+                             "1\".\"select\" select generate_series(1, 3000), null, 'none'");
+    const std::string command = "millichart draw --kind line --size 130x70 ";
+    const std::string source = "\"" + Source() + "\"";
+    EXPECT_EQ(Run(command + "p.csv -o a.png && " + command + source +
+                  " --table points --time t --value v -o b.png && cmp a.png b.png")
+                  .Output,
+              "");
+    EXPECT_EQ(Run(command + source +
+                  " --table 'lab; 1.select' --time order --value v --where 'v >= -1e9' -o c.png; "
+                  "cmp a.png c.png")
+                  .Output,
+              "");
+    const Outcome even = Run("awk -F, 'NR == 1 || $1 % 2 == 0' p.csv | sed 's/,v/,even/' | " + command +
+                             "- -o e.png; " + command + source +
+                             " --table 'lab; 1.select' --time order --value v "
+                             "--by site --where \"site = 'even'\" -o f.png; cmp e.png f.png");
+    EXPECT_EQ(even.Output + even.Errors, "");
+    Ask("create table days (t date, v float8); insert into days values ('2024-03-15', 1)");
+    const Outcome days = Run(command + source + " --table days --time t --value v -o d.png");
+    EXPECT_NE(days.Errors.find("found 2024-03-15, expected whole numbers"), std::string::npos) << days.Errors;
 }
 
 TEST_F(Postgres, APasswordComesFromItsFileAndIsNeverTold) {

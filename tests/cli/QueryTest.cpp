@@ -1,7 +1,11 @@
 #include "AnsweredPie.h"
 #include "CommandTest.h"
+#include "PlotRows.h"
+
+#include <sqlite3.h>
 
 using cli_test::AnsweredPie;
+using cli_test::PlotRows;
 
 namespace {
 
@@ -9,6 +13,14 @@ namespace {
 class QueryCommand : public cli_test::CommandTest {
 protected:
     QueryCommand() { Write("e.db", ""); }
+
+    void Carry(const std::string& file, const std::string& statements) const {
+        sqlite3* database = nullptr;
+        sqlite3_open(File(file).c_str(), &database);
+        EXPECT_EQ(sqlite3_exec(database, statements.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(database);
+        sqlite3_close(database);
+    }
 };
 
 const std::string kSales =
@@ -48,6 +60,48 @@ TEST_F(QueryCommand, TellsWhatIsWrongWithSourceAndAnswer) {
         EXPECT_EQ(Run("millichart check d.json; millichart check --json d.json").Output.find("s3cret"),
                   std::string::npos);
     }
+}
+
+TEST_F(QueryCommand, DrawsALineOfATableAsOneOfAllItsRows) {
+    PlotRows rows(100000, 3);
+    Write("p.csv", rows.Csv());
+    Carry("p.db", rows.Sql("double"));
+    const std::string table = "--table points --time t --value v";
+    for (const std::string look : {" --size 120x60 --format png", " --dpi 300 --log --format png",
+                                   " --format svg", " --size A5 --format pdf"}) {
+        EXPECT_EQ(Run("millichart draw --kind line p.csv -o a" + look +
+                      " && millichart draw --kind line "
+                      "sqlite:p.db " +
+                      table + " -o b" + look + " && cmp a b")
+                      .Output,
+                  "")
+            << look;
+    }
+    const Outcome made =
+        Run("millichart new line --data sqlite:p.db " + table +
+            " --where 't >= -60000' -o d.json && millichart draw d.json -o c.png && "
+            "grep -c points d.json; (head -n 1 p.csv; tail -n +2 p.csv | awk -F, '$1 >= -60000') "
+            ">q.csv; millichart draw --kind line q.csv -o q.png; cmp c.png q.png");
+    EXPECT_EQ(made.Output, "1\n");
+    EXPECT_EQ(made.Errors, "");
+}
+
+TEST_F(QueryCommand, RefusesATableOfPointsThatCannotBeDrawn) {
+    Carry("p.db", "create table points (t, v)");
+    const std::string from = "sqlite:p.db --table points --time t";
+    EXPECT_NE(Run("millichart draw --kind line " + from).Errors.find("--table: expected --time and --value"),
+              std::string::npos);
+    EXPECT_NE(
+        Run("millichart draw --kind pie --value v " + from).Errors.find("--table: expected --kind line"),
+        std::string::npos);
+    Write(
+        "p.json",
+        R"({"kind": "pie", "data": {"source": "sqlite:p.db", "table": "points", "time": "t", "value": "v"}})");
+    EXPECT_EQ(
+        Run("millichart draw p.json").Errors,
+        "millichart: p.db: found a table of points, which a line chart alone draws, expected a query\n");
+    EXPECT_EQ(Run("millichart draw --kind line -o w.png --value w " + from).Errors,
+              "millichart: p.db: cannot be read: no such column: w\n");
 }
 
 TEST_F(QueryCommand, AnInterruptStopsAQueryAndThenTheProgram) {

@@ -67,7 +67,11 @@ TEST_F(Schema, EveryExampleAndEveryNewDocumentKeepsToIt) {
     Write("both.json", R"({"kind": "half-pie-histogram", "data": {"values": [1], "groupsCsv": "d.csv"}})");
     Write("table.json", R"({"kind": "curve", "data": {"source": "d.ods", "sheet": "S", "columns": [1, "b"],
         "heading": false, "transpose": 1, "order": "name", "top": "3", "decimal": ","}})");
-    EXPECT_EQ(Validate("short.json csv.json bars.json halves.json both.json table.json").Output, "");
+    Write("points.json",
+          R"({"kind": "curve", "data": {"source": "sqlite:d.db", "table": "points", "time": "t",
+        "value": "v", "by": "site", "where": ["t > 3"]}})");
+    EXPECT_EQ(Validate("short.json csv.json bars.json halves.json both.json table.json points.json").Output,
+              "");
 }
 
 /// What the schema refuses, `check` refuses or warns of too.

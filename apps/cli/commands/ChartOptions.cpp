@@ -62,6 +62,42 @@ bool ParseLegend(const std::string& text, std::string& place) {
     return known.has_value();
 }
 
+/// Of a data base's table whose rows are too many to be read.
+void AddPointsOptions(CLI::App& command, millichart::PointsTable& points) {
+    command.add_option(
+        "--table", points.Name,
+        "a line of all rows of a data base's table, however many: the data base finds what "
+        "shows of them; its name, with a schema as in lab.points; goes with --time and --value");
+    command.add_option("--time", points.Time, "the column of the table's times, which are whole numbers");
+    command.add_option("--value", points.Value, "the column of the table's values");
+    command.add_option("--by", points.Series,
+                       "a column of the table whose every value is a curve, up to 100");
+    command
+        .add_option(
+            "--where", points.Where,
+            "the table's rows for which this holds: a column, one of = <> < <= > >= and a value, as in "
+            "\"site = 3\"; may be given several times")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+/// Whether a table of points is named as a whole, and for what it can be.
+void CheckPoints(const ChartSource& source) {
+    const millichart::PointsTable& points = source.Table.Points;
+    if (points == millichart::PointsTable()) {
+        return;
+    }
+    if (points.Name.empty() || points.Time.empty() || points.Value.empty()) {
+        throw UsageError("--table: expected --time and --value with it, and --by and --where with no other");
+    }
+    if (!source.Table.Query.empty()) {
+        throw UsageError("--table: expected no --query with it");
+    }
+    if (source.Kind != nullptr && source.Kind->Name != std::string_view("curve")) {
+        throw UsageError("--table: expected --kind line");
+    }
+}
+
 } // namespace
 
 void AddTableOptions(CLI::App& command, ChartSource& source) {
@@ -71,6 +107,7 @@ void AddTableOptions(CLI::App& command, ChartSource& source) {
         "a table that replaces the document's data: a CSV or spreadsheet file, or a data base, "
         "sqlite:FILE or odbc:SOURCE");
     command.add_option("--query", table.Query, "what to ask of a data base, in SQL");
+    AddPointsOptions(command, table.Points);
     command.add_option("--sheet", table.Sheet, "of a spreadsheet file; without it the first");
     AddParsed<std::vector<std::string>>(
         command, "--columns", table.Columns, ParseColumns, "names or numbers with commas between them",
@@ -152,9 +189,10 @@ void CheckTable(const ChartSource& source, bool hasTable) {
     TableOptions options = source.Table;
     if (!hasTable && options != TableOptions()) {
         throw UsageError(
-            "--sheet, --query, --columns and what else tells how a table is read: expected --data "
+            "--sheet, --query, --table, --columns and what else tells how a table is read: expected --data "
             "with it, or --kind");
     }
+    CheckPoints(source);
     if (source.Kind != nullptr) {
         static_cast<void>(SettingsOf(source.Look, *source.Kind));
         if (hasTable && source.Kind->Name == std::string_view("half-pie-histogram")) {

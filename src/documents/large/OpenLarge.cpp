@@ -2,6 +2,7 @@
 
 #include "documents/large/ByteSource.h"
 #include "documents/large/CsvCurves.h"
+#include "documents/points/TableCurves.h"
 
 #include <utility>
 
@@ -34,7 +35,7 @@ std::shared_ptr<LargeCurves> OpenLarge(const TableInput& input, const TableForm&
     if (input.Stream != nullptr && input.Input.Fault.empty()) {
         return OpenCsvCurves(input, form, rules, diagnostics, reason);
     }
-    return nullptr;
+    return OpenTableCurves(input, rules);
 }
 
 void Hold(TableInput& input, const penlode::Diagnostic& reason,

@@ -15,10 +15,14 @@ namespace {
 
 constexpr const char* kNoQuery =
     "no query, expected one such as \"select region, sum(value) from sales group by region\"";
+constexpr const char* kNoLine = "found a table of points, which a line chart alone draws, expected a query";
 
 } // namespace
 
 std::unique_ptr<RowReader> OpenQuery(const TableInput& input) {
+    if (!input.Options.Points.Name.empty()) {
+        return std::make_unique<NoRows>(kNoLine);
+    }
     if (input.Options.Query.find_first_not_of(" \t\r\n") == std::string::npos) {
         return std::make_unique<NoRows>(kNoQuery);
     }

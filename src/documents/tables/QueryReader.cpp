@@ -41,6 +41,10 @@ void MakeUtf8(std::string& text) {
 
 } // namespace
 
+std::unique_ptr<QueryWatch> NewQueryWatch(const std::string& name) {
+    return g_watchMaker ? g_watchMaker(name) : nullptr;
+}
+
 WatchedQuery::WatchedQuery(std::unique_ptr<QueryWatch> watch, std::function<void()> cancel)
     : m_watch(std::move(watch)), m_cancel(std::move(cancel)) {
     try {
@@ -125,7 +129,7 @@ bool QueryReader::Fail(std::string reason) {
 }
 
 void QueryReader::Watch(std::function<void()> cancel) {
-    std::unique_ptr<QueryWatch> watch = g_watchMaker ? g_watchMaker(m_name) : nullptr;
+    std::unique_ptr<QueryWatch> watch = NewQueryWatch(m_name);
     if (watch != nullptr) {
         m_watched.emplace(std::move(watch), std::move(cancel));
     }

@@ -16,6 +16,9 @@
 
 namespace millichart::documents {
 
+/// Of the watch maker that holds now; null where nobody watches. `name` is what messages call the data base.
+std::unique_ptr<QueryWatch> NewQueryWatch(const std::string& name);
+
 /// Asks a query's watch whether it may go on, and has it cancelled if not, again and again until it rests.
 class WatchedQuery {
 public:

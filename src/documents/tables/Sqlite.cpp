@@ -1,53 +1,13 @@
 #include "documents/tables/Sqlite.h"
 
-#include "documents/Files.h"
 #include "documents/tables/QueryReader.h"
-#include "documents/tables/QuerySource.h"
+#include "documents/tables/SqliteFile.h"
 #include "penlode/text/Digits.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <sqlite3.h>
 
 namespace millichart::documents {
 namespace {
-
-namespace fs = std::filesystem;
-
-struct CloseDatabase {
-    void operator()(sqlite3* database) const { sqlite3_close(database); }
-};
-
-struct EndStatement {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-
-using Statement = std::unique_ptr<sqlite3_stmt, EndStatement>;
-
-/// Lets a statement read and nothing else: what attaches files, sets anything or loads code is refused.
-int AllowReading(void* isRefused, int action, const char* /*first*/, const char* function,
-                 const char* /*database*/, const char* /*trigger*/) {
-    const bool isReading = action == SQLITE_SELECT || action == SQLITE_READ || action == SQLITE_RECURSIVE;
-    const bool isHarmless = action == SQLITE_FUNCTION && sqlite3_stricmp(function, "load_extension") != 0;
-    if (isReading || isHarmless) {
-        return SQLITE_OK;
-    }
-    *static_cast<bool*>(isRefused) = true;
-    return SQLITE_DENY;
-}
-
-/// SQLite tells of all alike that it cannot open them, and a pipe would keep it waiting.
-std::string FaultOfFile(const fs::path& file) {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
-    if (fs::exists(status) && !fs::is_regular_file(status)) {
-        return "it is no file";
-    }
-    return std::ifstream(file, std::ios::binary) ? "" : std::strerror(errno);
-}
 
 class SqliteReader final : public QueryReader {
 public:
@@ -59,21 +19,24 @@ public:
 
 private:
     bool Open(std::vector<std::string>& names) override {
-        if (!OpenFile() || !Prepare()) {
+        if (const std::string fault = m_file.Open(Source()); !fault.empty()) {
+            return Fail(fault);
+        }
+        if (!Prepare()) {
             return false;
         }
         for (int column = 0; column < sqlite3_column_count(m_statement.get()); ++column) {
             const char* const name = sqlite3_column_name(m_statement.get(), column);
             names.emplace_back(name == nullptr ? "" : name);
         }
-        Watch([this] { sqlite3_interrupt(m_database.get()); });
+        Watch([this] { m_file.Interrupt(); });
         return true;
     }
 
     bool Fetch(std::vector<std::string>& cells) override {
         const int status = sqlite3_step(m_statement.get());
         if (status != SQLITE_ROW) {
-            return status != SQLITE_DONE && FailBySqlite();
+            return status != SQLITE_DONE && Fail(m_file.Words());
         }
         for (std::size_t column = 0; column < cells.size(); ++column) {
             TakeCell(static_cast<int>(column), cells[column]);
@@ -81,53 +44,21 @@ private:
         return true;
     }
 
-    /// The name in full is no address and no data base in memory, as some short ones are.
-    bool OpenFile() {
-        const fs::path file = PathFromUtf8(FileOfQuerySource(Source()));
-        if (const std::string fault = FaultOfFile(file); !fault.empty()) {
-            return Fail(fault);
-        }
-        constexpr int kPatience = 5000; // ms, while another program writes
-        sqlite3* database = nullptr;
-        std::error_code error;
-        const int status = sqlite3_open_v2(Utf8FromPath(fs::absolute(file, error)).c_str(), &database,
-                                           SQLITE_OPEN_READONLY, nullptr);
-        m_database.reset(database);
-        if (status != SQLITE_OK) {
-            return FailBySqlite();
-        }
-        sqlite3_busy_timeout(database, kPatience);
-        // Who made the file may be nobody to trust.
-        sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-        sqlite3_db_config(database, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-        sqlite3_set_authorizer(database, AllowReading, &m_isRefused);
-        return true;
-    }
-
     bool Prepare() {
         const char* rest = Query().c_str();
-        if (!PrepareOne(rest, m_statement)) {
-            return false;
+        if (!m_file.Prepare(rest, m_statement)) {
+            return Fail(m_file.Words());
         }
-        Statement second;
-        if (m_statement == nullptr || (PrepareOne(rest, second) && second != nullptr)) {
+        SqliteStatement second;
+        if (m_statement != nullptr && !m_file.Prepare(rest, second)) {
+            return Fail(m_file.Words());
+        }
+        if (m_statement == nullptr || second != nullptr) {
             return Fail("found " +
                         std::string(m_statement == nullptr ? "no statement" : "several statements") +
                         ", expected one that reads");
         }
-        return Fault().empty();
-    }
-
-    bool PrepareOne(const char*& text, Statement& statement) {
-        sqlite3_stmt* prepared = nullptr;
-        const int status = sqlite3_prepare_v2(m_database.get(), text, -1, &prepared, &text);
-        statement.reset(prepared);
-        return status == SQLITE_OK || FailBySqlite();
-    }
-
-    bool FailBySqlite() {
-        const std::string words = sqlite3_errmsg(m_database.get());
-        return Fail(m_isRefused ? words + ", expected a statement that reads" : words);
+        return true;
     }
 
     void TakeCell(int column, std::string& cell) {
@@ -156,9 +87,8 @@ private:
         }
     }
 
-    std::unique_ptr<sqlite3, CloseDatabase> m_database;
-    Statement m_statement;
-    bool m_isRefused = false;
+    SqliteFile m_file;
+    SqliteStatement m_statement;
 };
 
 } // namespace

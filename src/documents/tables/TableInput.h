@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/Files.h"
+#include "documents/tables/PointsTable.h"
 
 #include <cstddef>
 #include <memory>
@@ -17,8 +18,9 @@ enum class TableOrder { AsItStands, Ascending, Descending, ByName };
 
 /// How a table is to be read, where it does not tell by itself.
 struct TableOptions {
-    std::string Sheet{}; ///< of a spreadsheet file, UTF-8; the first one if empty
-    std::string Query{}; ///< of a data base, UTF-8
+    std::string Sheet{};  ///< of a spreadsheet file, UTF-8; the first one if empty
+    std::string Query{};  ///< of a data base, UTF-8
+    PointsTable Points{}; ///< of a data base, in place of a query
     /// The first is that of the names or times. Each by its heading (UTF-8) or its number from 1; all if
     /// empty.
     std::vector<std::string> Columns{};

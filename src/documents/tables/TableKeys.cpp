@@ -16,8 +16,9 @@ namespace {
 using penlode::CStringUtil;
 
 constexpr const char* kSource = "source";
-constexpr std::array<const char*, 9> kKeysBeside = {kSource,     "query", "sheet", "columns", "heading",
-                                                    "transpose", "order", "top",   "decimal"};
+constexpr std::array<const char*, 14> kKeysBeside = {kSource,     "query", "table", "time",    "value",
+                                                     "by",        "where", "sheet", "columns", "heading",
+                                                     "transpose", "order", "top",   "decimal"};
 constexpr std::array<std::pair<const char*, TableOrder>, 3> kOrders = {
     {{"ascending", TableOrder::Ascending},
      {"descending", TableOrder::Descending},
@@ -132,6 +133,8 @@ TableOptions LoadTableOptions(ChartStream& stream, const std::string& csvKey) {
     OptionsLoad load(stream, csvKey);
     TableOptions options;
     options.Query = load.Utf8("query");
+    options.Points = {load.Utf8("table"), load.Utf8("time"), load.Utf8("value"), load.Utf8("by"),
+                      load.Utf8List("where")};
     options.Sheet = load.Utf8("sheet");
     options.Columns = load.Utf8List("columns");
     options.HasHeading = load.Flag("heading");
@@ -149,6 +152,7 @@ TableOptions Merged(TableOptions first, const TableOptions& second) {
     const TableOptions unset;
     take(first.Sheet, second.Sheet, unset.Sheet);
     take(first.Query, second.Query, unset.Query);
+    take(first.Points, second.Points, unset.Points);
     take(first.Columns, second.Columns, unset.Columns);
     take(first.HasHeading, second.HasHeading, unset.HasHeading);
     take(first.IsTransposed, second.IsTransposed, unset.IsTransposed);

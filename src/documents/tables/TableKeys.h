@@ -12,6 +12,8 @@
 ///     "csv": "sales.xlsx", "sheet": "2024", "columns": ["Region", "Sales"], "heading": true,
 ///     "transpose": false, "order": "descending", "top": 5, "decimal": ","
 ///     "source": "sqlite:sales.db", "query": "select region, sum(value) from sales group by region"
+///     "source": "odbc:plant", "table": "lab.points", "time": "t", "value": "v", "by": "site",
+///     "where": ["t >= 1000"]
 ///
 /// Of a second table, whose name stands under "groupsCsv", they are "groupsSheet" and so on.
 namespace millichart::documents {
