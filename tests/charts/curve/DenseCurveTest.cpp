@@ -60,12 +60,12 @@ struct Data {
 /// Data of many kinds: walks and noise, few values or many to a column, times that repeat or go back, gaps
 /// here and there or all over, values without a place.
 Data AnyData(std::mt19937& random) {
-    const auto chance = [&random](unsigned of) { return random() % of == 0; };
+    const auto chance = [&random](std::uint32_t of) { return random() % of == 0; };
     const std::size_t count = chance(4) ? random() % 200 : random() % 20000;
     const bool walks = chance(2);
     const bool goesBack = chance(4);
-    const unsigned step = 1 + random() % 3;
-    const unsigned gaps = chance(3) ? 3 + random() % 2000 : 0;
+    const std::uint32_t step = 1 + static_cast<std::uint32_t>(random() % 3);
+    const std::uint32_t gaps = chance(3) ? 3 + static_cast<std::uint32_t>(random() % 2000) : 0;
     Data data;
     double value = 0.0;
     std::int32_t time = static_cast<std::int32_t>(random() % 2000) - 1000;
