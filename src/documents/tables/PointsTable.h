@@ -5,8 +5,8 @@
 
 namespace millichart {
 
-/// A table of a data base each of whose rows is a point of a line, drawn by what shows of it however many rows
-/// it has. All texts are UTF-8; names are those of columns.
+/// A table of a data base each of whose rows is a point of a line, drawn by what shows of it however many
+/// rows it has. All texts are UTF-8; names are those of columns.
 struct PointsTable {
     std::string Name{};   ///< of the table, with its schema before a point if it needs one; empty: none
     std::string Time{};   ///< of whole numbers or dates
