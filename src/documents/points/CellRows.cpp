@@ -3,6 +3,7 @@
 #include "penlode/engine/LineThinning.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <optional>
 #include <tuple>
@@ -57,28 +58,30 @@ public:
     /// The line that has all rows is thinned, so this one must be. A row that comes again within its column
     /// is left out.
     void End() {
-        if (m_thinned) {
+        if (m_thinned != kNone) {
             constexpr std::size_t kEnough = penlode::kMinDataLinePoints + 1;
             const std::size_t rows = m_times.size() - m_begin;
             const std::size_t more = std::max<std::size_t>(kEnough - std::min(kEnough, rows), 1);
             Repeat(m_times, more);
             Repeat(m_values, more);
         }
-        m_thinned.reset();
+        m_thinned = kNone;
         m_begin = m_times.size();
     }
 
 private:
+    static constexpr std::size_t kNone = SIZE_MAX;
+
     template <class Number> void Repeat(std::vector<Number>& numbers, std::size_t more) const {
-        const auto at = static_cast<std::ptrdiff_t>(*m_thinned);
-        const Number number = numbers[*m_thinned];
+        const auto at = static_cast<std::ptrdiff_t>(m_thinned);
+        const Number number = numbers[m_thinned];
         numbers.insert(numbers.begin() + at, more, number);
     }
 
     std::vector<std::int32_t>& m_times;
     std::vector<double>& m_values;
     std::size_t m_begin;
-    std::optional<std::size_t> m_thinned; ///< the first row of the last cell of which rows were left out
+    std::size_t m_thinned = kNone; ///< the first row of the last cell of which rows were left out
 };
 
 } // namespace
