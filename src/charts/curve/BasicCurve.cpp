@@ -47,9 +47,14 @@ void CBasicCurve::SetCurveData(std::vector<std::vector<double>> values,
 }
 
 void CBasicCurve::SetCurveDataView(std::vector<CurveDataView> curves) {
-    m_lists = std::make_shared<const Lists>();
+    m_lists.reset();
     m_data = std::move(curves);
     CalcTimeSpan();
+}
+
+const CBasicCurve::Lists& CBasicCurve::HandedOver() const {
+    static const Lists none;
+    return m_lists == nullptr ? none : *m_lists;
 }
 
 void CBasicCurve::CalcTimeSpan() {

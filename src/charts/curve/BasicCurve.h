@@ -78,10 +78,10 @@ public:
     void SetCurveDataView(std::vector<CurveDataView> curves);
 
     /// One list a curve, as handed over, whether or not they have been laid out since.
-    const std::vector<std::vector<double>>& GetCurveValue() const { return m_lists->Values; }
+    const std::vector<std::vector<double>>& GetCurveValue() const { return HandedOver().Values; }
 
     /// One list a curve, as handed over; the lists need not be as long as those of the values.
-    const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return m_lists->Times; }
+    const std::vector<std::vector<std::int32_t>>& GetCurveTime() const { return HandedOver().Times; }
 
     /// The curves as set, whoever keeps their lists; good until other ones are.
     const std::vector<CurveDataView>& GetCurveDataView() const { return m_data; }
@@ -178,6 +178,7 @@ private:
         std::vector<std::vector<std::int32_t>> Times;
     };
 
+    const Lists& HandedOver() const;
     void ListParts(PartSink& sink) const;
     void AddCurves(PartSink& sink) const;
     /// The fewest labels that can be spread from edge to edge.
@@ -204,8 +205,8 @@ private:
     void DrawSample(penlode::IGraphicsEngine& engine, std::size_t index, const penlode::RectF& item) const;
 
     CurveProp m_prop;
-    std::shared_ptr<const Lists> m_lists = std::make_shared<const Lists>();
-    std::vector<CurveDataView> m_data; ///< of those lists, or of the caller's
+    std::shared_ptr<const Lists> m_lists; ///< null without any
+    std::vector<CurveDataView> m_data;    ///< of those lists, or of the caller's
     std::vector<std::string> m_labels;
     std::vector<std::int32_t> m_labelTimes;
     CurveLayout m_layout;
