@@ -3,6 +3,7 @@
 #include "charts/cartesian/Coordinate.h"
 #include "charts/curve/CurveDataView.h"
 #include "charts/curve/CurveStyle.h"
+#include "foundation/Export.h"
 #include "penlode/DataLine.h"
 #include "penlode/Geometry.h"
 
@@ -17,7 +18,7 @@
 namespace millichart {
 
 /// The first and the last time of a chart. Whole ones are known in full beside those that are rounded.
-struct TimeSpan {
+struct MILLICHART_API TimeSpan {
     double Min = 0.0;
     double Max = 0.0;
     std::int64_t WholeMin = 0;
