@@ -63,8 +63,9 @@ protected:
         for (std::size_t i = 0; i < shape.Rows; ++i) {
             const std::int32_t time =
                 shape.First + static_cast<std::int32_t>(random() % static_cast<unsigned>(shape.Times));
-            const double value = shape.Values == 0 ? static_cast<double>(random()) / 1e6 - 2000.0
-                                                   : static_cast<double>(random() % shape.Values) / 4.0;
+            const double value =
+                shape.Values == 0 ? static_cast<double>(random()) / 1e6 - 2000.0
+                                  : static_cast<double>(random() % static_cast<unsigned>(shape.Values)) / 4.0;
             const bool isGap = static_cast<int>(random() % 1000) < shape.Gaps;
             const std::string site = i % 50 == 7 ? "it's; 2" : i % 3 == 0 ? "10" : "9";
             sites[site].emplace_back(time, isGap ? kCurveNull : value);
