@@ -103,7 +103,8 @@ def measure(programs, rows):
     draw = [f"{programs}/millichart", "draw", "--kind", "line", "--dpi", "200"]
     points = ["--table", "points", "--time", "t", "--value", "v"]
     make_csv("points.csv", rows)
-    print(f"{rows} rows, {os.path.getsize('points.csv') / 1e6:.0f} MB\n{'':<44} {'clock':>10} {'processor':>10} {'memory':>10}")
+    print(f"{rows} rows, {os.path.getsize('points.csv') / 1e6:.0f} MB")
+    print(f"{'':<44} {'clock':>10} {'processor':>10} {'memory':>10}")
     with open("bare.csv", "w", encoding="ascii") as out:
         subprocess.run(["tail", "-n", "+2", "points.csv"], stdout=out, check=True)
     say("read and parsed by hand", best([f"{programs}/parse-by-hand", "bare.csv"], 2))
