@@ -1,6 +1,7 @@
 #include "penlode/DataLine.h"
 
 #include "penlode/IGraphicsEngine.h"
+#include "penlode/engine/Finite.h"
 
 #include <algorithm>
 #include <array>
@@ -45,8 +46,8 @@ bool BoundsOfBlock(const PointF* points, PointBounds& bounds) {
            std::isfinite(bounds.Low) && std::isfinite(bounds.High);
 }
 
-bool IsPlaced(PointF point) {
-    return std::isfinite(point.X) && std::isfinite(point.Y);
+auto FirstGap(std::span<PointF> points) {
+    return std::find_if_not(points.begin(), points.end(), [](PointF p) { return IsFinite(p); });
 }
 
 /// The points from `first` on, up to the first gap. Where gaps are dense, few points are looked at ahead.
@@ -56,7 +57,7 @@ std::vector<PointF> PointsUpToGap(const DataLine& line, std::size_t first) {
     for (std::size_t count = 4; first < line.Size(); count = std::min(4 * count, kBlock)) {
         const std::span block = std::span(places).first(std::min(count, line.Size() - first));
         line.Place(first, block);
-        const auto gap = std::find_if_not(block.begin(), block.end(), IsPlaced);
+        const auto gap = FirstGap(block);
         points.insert(points.end(), block.begin(), gap);
         if (gap != block.end()) {
             break;
@@ -94,7 +95,7 @@ bool BoundsOf(std::span<const PointF> points, PointBounds& bounds) {
         bounds = {std::min(bounds.Left, p.X), std::max(bounds.Right, p.X), std::min(bounds.Low, p.Y),
                   std::max(bounds.High, p.Y)};
     }
-    return std::all_of(points.begin(), points.end(), IsPlaced);
+    return AreFinite(points);
 }
 
 std::size_t FindGap(const DataLine& line, std::size_t first) {
@@ -107,7 +108,7 @@ std::size_t FindGap(const DataLine& line, std::size_t first) {
         std::array<PointF, kBlock> points;
         const std::span block = std::span(points).first(count);
         line.Place(first, block);
-        const auto gap = std::find_if_not(block.begin(), block.end(), IsPlaced);
+        const auto gap = FirstGap(block);
         if (gap != block.end()) {
             return first + static_cast<std::size_t>(gap - block.begin());
         }

@@ -240,20 +240,10 @@ void CurveTrace::Place(std::size_t first, std::span<PointF> points, bool nullsAr
 
 bool CurveTrace::Bound(std::size_t first, std::size_t count, penlode::PointBounds& bounds) const {
     const CCoordinate* const axis = m_placement.Values.get();
-    if (count == kBlock && axis != nullptr && axis->KeepsOrder()) {
-        return WithLists(m_data, [&](const auto& values, const auto& times) {
-            return BoundBlock(values.data() + first, times.data() + first, m_placement, bounds);
-        });
-    }
-    for (std::size_t i = first; i < first + count; ++i) {
-        if (IsNull(i)) {
-            return false;
-        }
-    }
-    std::array<PointF, kBlock> places;
-    const std::span block = std::span(places).first(std::min(count, kBlock));
-    Place(first, block);
-    return penlode::BoundsOf(block, bounds);
+    return count == kBlock && axis != nullptr && axis->KeepsOrder() &&
+           WithLists(m_data, [&](const auto& values, const auto& times) {
+               return BoundBlock(values.data() + first, times.data() + first, m_placement, bounds);
+           });
 }
 
 } // namespace millichart

@@ -65,7 +65,8 @@ public:
     /// gaps.
     void Place(std::size_t first, std::span<penlode::PointF> points, bool nullsAreGaps = false) const;
 
-    /// The bounds of at most penlode::DataLine::kBlock points; false if a value is null or has no place.
+    /// The bounds of a block of penlode::DataLine::kBlock points, where they are known without placing each:
+    /// false if not, or if a value is null or has no place.
     bool Bound(std::size_t first, std::size_t count, penlode::PointBounds& bounds) const;
 
     /// Calls `visit` with the index and the place of every point.

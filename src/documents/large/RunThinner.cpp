@@ -6,11 +6,8 @@
 #include <array>
 
 namespace millichart::documents {
-namespace {
 
 using penlode::kMinDataLinePoints;
-
-} // namespace
 
 void RunThinner::Add(const CurveRow& row, std::size_t cell) {
     BeginRow(row.Value, row.Value, cell);
